@@ -1,0 +1,11 @@
+# Warnings are errors in our own code; the sanitizers follow every target that links the core.
+add_library(tessara_warnings INTERFACE)
+target_compile_options(tessara_warnings INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+
+add_library(tessara_sanitizers INTERFACE)
+if(TESSARA_SANITIZE)
+  target_compile_options(tessara_sanitizers INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(tessara_sanitizers INTERFACE -fsanitize=address,undefined)
+endif()

@@ -1,0 +1,24 @@
+# The Qt renderer, the freedesktop adapters and the executable.
+find_package(Qt6 6.4 COMPONENTS Core Gui Widgets PrintSupport)
+file(GLOB qtSources CONFIGURE_DEPENDS platform/qt/*.cpp platform/qt/*.h)
+if(Qt6_FOUND AND qtSources)
+  add_library(tessara_qt STATIC ${qtSources})
+  set_target_properties(tessara_qt PROPERTIES AUTOMOC ON)
+  target_link_libraries(tessara_qt PRIVATE tessara_warnings
+    PUBLIC tessara_core Qt6::Core Qt6::Gui Qt6::Widgets Qt6::PrintSupport)
+endif()
+
+file(GLOB freedesktopSources CONFIGURE_DEPENDS platform/freedesktop/*.cpp)
+if(freedesktopSources)
+  add_library(tessara_freedesktop STATIC ${freedesktopSources})
+  target_link_libraries(tessara_freedesktop PRIVATE tessara_warnings PUBLIC tessara_core tessara_posix)
+endif()
+
+if(TARGET tessara_qt AND EXISTS ${CMAKE_SOURCE_DIR}/shell/main.cpp)
+  add_executable(tessara shell/main.cpp)
+  set_target_properties(tessara PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+  target_link_libraries(tessara PRIVATE tessara_warnings tessara_qt tessara_posix)
+  if(TARGET tessara_freedesktop)
+    target_link_libraries(tessara PRIVATE tessara_freedesktop)
+  endif()
+endif()
