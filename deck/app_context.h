@@ -1,0 +1,18 @@
+#pragma once
+
+#include "deck/card_table.h"
+#include "forms/app_frame.h"
+#include "forms/window_system.h"
+#include "platform/machine.h"
+
+namespace tessara {
+
+/// What every window is given: the window system, the machine, the state, the frame.
+struct AppContext {
+  WindowSystem& windows;
+  Machine& machine;
+  ProgramState& state;
+  AppFrame& frame;
+};
+
+}  // namespace tessara

@@ -1,0 +1,93 @@
+#pragma once
+
+#include "deck/app_context.h"
+#include "deck/card_face.h"
+#include "deck/file_number.h"
+#include "forms/controls.h"
+#include "forms/form.h"
+#include "forms/window.h"
+
+namespace tessara {
+
+class frmInfo;
+
+/// The two arrow buttons of a window that shows cards.
+using MoveButtons = ControlArray<Button, 2>;
+
+/// The deck window as the life of a deck knows it: its menus, the buttons and labels that hang
+/// on the deck's state, and the commands from new to close. What it looks like and how cards are
+/// taken is told by the window that derives from it.
+class DeckWindow : public Form {
+ public:
+  DeckWindow(AppContext& app, FileNumber& fileNumber, Window<frmInfo> info);
+
+  MoveButtons cmdMove;
+  ControlArray<Button, 3> Command3;
+  Label Label2;
+
+  MenuEntry mnuFile, mnuNCD, mnuOCD, mnuDelete, mnu4, mnuSave, mnuSaveAs, mnuACTTD, mnuPrint, mnu1,
+      mnuExit;
+  MenuEntry mnuMode, mnuStudy, mnuQuiz, mnuTest;
+  MenuEntry mnuUtility, mnuGTP, mnu2, mnuCDI;
+  MenuEntry mnuHelp, mnuHelpTopic, mnuAbout, mnuSC;
+
+  /// The large card.
+  virtual CardFace& Card() = 0;
+
+  // Commands of the life of a deck.
+  void mnuNCD_Click();
+  void mnuOCD_Click();
+  void mnuSave_Click();
+  void mnuSaveAs_Click();
+  void mnuExit_Click();
+
+  /// Offers to save unsaved changes; the caller goes on whatever the answer.
+  void ChkSave();
+  /// Empties the deck and the window. Asks nothing.
+  void NewTessara();
+  /// Enables or disables the delete command.
+  void MenuOp(bool xState);
+  /// The first text unless it is empty, else the second.
+  [[nodiscard]] static Text SaveThisorThat(const Text& xStr1, const Text& xStr2);
+  /// Writes the table to the file, tells the user, sets the caption. Errors on the way skip what
+  /// failed and are not reported.
+  void SaveTessaraToFile(const Text& xFilename);
+  /// Brings the two arrows in line with the place in the deck.
+  void UpdateMoveButtons();
+  /// The go-to command needs more than one card.
+  void SetGoToMenu();
+  /// Brings up the window for the type of card 1 of the deck just loaded; an unknown letter
+  /// leaves everything as it was.
+  void OpenViewOfFirstCard();
+  /// The deck's name, two blanks and the mode in brackets.
+  void ShowTitle(TextView mode);
+
+  /// Unloaded by mnuExit: the question builder.
+  void SetQuestionBuilder(WindowSlot& slot) { questionBuilder_ = &slot; }
+
+  virtual void OpenStandardView() = 0;
+  virtual void OpenExtendedView() = 0;
+  virtual void ShowFirstCard(std::int32_t xType) = 0;
+  virtual void ConfigSaveMenu() = 0;
+  virtual void AutoModeMenu() = 0;
+  virtual void AfterEditShow(std::int32_t Typecard) = 0;
+
+ protected:
+  void Form_Unload(bool& cancel) override;
+
+  [[nodiscard]] AppContext& App() const { return app_; }
+  [[nodiscard]] ProgramState& State() const { return app_.state; }
+  [[nodiscard]] FileNumber& FileNumberOne() const { return fileNumber_; }
+  [[nodiscard]] Window<frmInfo> Info() const { return info_; }
+
+ private:
+  AppContext& app_;
+  FileNumber& fileNumber_;
+  Window<frmInfo> info_;
+  WindowSlot* questionBuilder_ = nullptr;
+};
+
+/// The same for any window that shows cards: with no cards both arrows are off.
+void SetMoveButtons(MoveButtons& owner, const ProgramState& state);
+
+}  // namespace tessara

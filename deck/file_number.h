@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+
+#include "platform/file_system.h"
+#include "platform/text.h"
+
+namespace tessara {
+
+/// File number 1: the one open file of the deck and import code. Opening it while it is open
+/// raises error 55; closing closes whatever it holds, and nothing where it is closed.
+class FileNumber {
+ public:
+  explicit FileNumber(FileSystem& files) : files_(files) {}
+
+  /// Fixed records of that many bytes. Made where it does not exist when `mode` allows writing.
+  void OpenRandom(const Text& path, OpenMode mode, std::size_t recordLength);
+  /// Sequential reading.
+  void OpenInput(const Text& path);
+  [[nodiscard]] bool IsOpen() const { return file_ != nullptr; }
+  void Close() { file_.reset(); }
+
+  /// Reads the next record; a short last one is filled up with zero bytes. False at the end of
+  /// the file. Raises error 52 where nothing is open.
+  bool GetNext(std::span<char> record);
+  /// Writes record number `number`, counted from 1. Raises error 52 where nothing is open.
+  void Put(std::uint64_t number, std::span<const char> record);
+  /// Reads the next bytes, 0 at the end of the file. Raises error 52 where nothing is open.
+  std::size_t ReadNext(std::span<char> buffer);
+
+ private:
+  File& Open();
+
+  FileSystem& files_;
+  std::unique_ptr<File> file_;
+  std::uint64_t position_ = 0;
+  std::size_t recordLength_ = 0;
+};
+
+}  // namespace tessara

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "forms/image_list.h"
+#include "forms/menu.h"
+
+namespace tessara {
+
+/// What the windows ask of the frame that holds them.
+class AppFrame {
+ public:
+  virtual ~AppFrame() = default;
+  /// Outer size and client area in twips.
+  [[nodiscard]] virtual int Width() const = 0;
+  [[nodiscard]] virtual int Height() const = 0;
+  [[nodiscard]] virtual int ScaleWidth() const = 0;
+  [[nodiscard]] virtual int ScaleHeight() const = 0;
+  /// Card skins and the pictures of the print window.
+  [[nodiscard]] virtual const ImageList& imgWallPaper() const = 0;
+  /// The backdrop's tiles.
+  [[nodiscard]] virtual const ImageList& BKG() const = 0;
+  /// The frame's own "File" menu.
+  virtual void EnableFileMenu(bool enabled) = 0;
+  /// Unloads the About box, if it is loaded.
+  virtual void CloseAbout() = 0;
+};
+
+}  // namespace tessara

@@ -1,0 +1,173 @@
+#pragma once
+
+#include <functional>
+#include <initializer_list>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "forms/control.h"
+#include "forms/control_array.h"
+#include "forms/geometry.h"
+#include "forms/menu.h"
+
+namespace tessara {
+
+class WindowSlot;
+class WindowSystem;
+
+enum class FormKind {
+  kFrame,      ///< the one top-level window that holds the children
+  kChild,      ///< inside the frame; its size can't be changed by the user
+  kDialog,     ///< a window of its own, fixed, owned by the frame
+  kSplash,     ///< without a border, in the middle of the screen
+  kOffScreen,  ///< never on screen: a surface to paint on
+};
+
+enum class WindowState { kNormal, kMinimised, kMaximised };
+
+enum class Modality { kModeless, kModal };
+
+/// A window: its controls, its menus, its events. What stands here are the rules that all share;
+/// a window derives from it, lists its controls and menus once, and overrides its events.
+///
+/// Life: made by its WindowSlot, loaded (Form_Load) at the first use, shown, hidden, unloaded.
+/// An unloaded window is gone from the screen at once and destroyed when the outermost event has
+/// ended, so its own handler's later lines still run.
+class Form {
+ public:
+  Form(WindowSystem& system, std::string name, FormKind kind, Text caption);
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+  virtual ~Form();
+
+  [[nodiscard]] const std::string& Name() const { return name_; }
+  [[nodiscard]] FormKind Kind() const { return kind_; }
+  [[nodiscard]] WindowSystem& System() const { return system_; }
+
+  [[nodiscard]] const Text& Caption() const { return caption_; }
+  void SetCaption(const Text& caption);
+
+  /// Outer place and size in twips; a child's place is relative to the frame's client area.
+  /// Assigning a different size runs Form_Resize, shown or not. Moving or sizing a minimised or
+  /// maximised window raises error 384.
+  [[nodiscard]] int Left() const { return bounds_.left; }
+  [[nodiscard]] int Top() const { return bounds_.top; }
+  [[nodiscard]] int Width() const { return bounds_.width; }
+  [[nodiscard]] int Height() const { return bounds_.height; }
+  void SetLeft(int left);
+  void SetTop(int top);
+  void SetWidth(int width);
+  void SetHeight(int height);
+  /// The client area in twips.
+  [[nodiscard]] virtual int ScaleWidth() const { return bounds_.width - kBorderAcross; }
+  [[nodiscard]] virtual int ScaleHeight() const { return bounds_.height - kBorderDown; }
+  [[nodiscard]] WindowState State() const { return state_; }
+  void SetState(WindowState state);
+
+  [[nodiscard]] bool Visible() const { return visible_; }
+  /// True shows without modality.
+  void SetVisible(bool visible);
+  [[nodiscard]] bool Enabled() const { return enabled_; }
+  void SetEnabled(bool enabled);
+  /// Brings the window on screen and makes it the active one. A modal one returns when it has
+  /// been unloaded or hidden.
+  void Show(Modality modality = Modality::kModeless);
+  void Hide() { SetVisible(false); }
+
+  [[nodiscard]] bool Loaded() const { return loaded_; }
+  /// Runs Form_Load where the window is not loaded and not loading.
+  void EnsureLoaded();
+  /// Runs Form_Unload, which may cancel. True where the window is gone.
+  bool Unload();
+
+  [[nodiscard]] const std::vector<Control*>& Controls() const { return controls_; }
+  /// The control of that name, "Command3(1)" for an array's member; null where there is none.
+  [[nodiscard]] Control* FindControl(const std::string& name) const;
+  [[nodiscard]] const std::vector<MenuEntry*>& Menus() const { return menus_; }
+  [[nodiscard]] MenuEntry* FindMenu(const std::string& name) const;
+  /// The control that has, or will have, the focus; null where none.
+  [[nodiscard]] Control* FocusedControl() const { return focused_; }
+
+  /// Pictures painted on the form, in order; Cls drops them.
+  [[nodiscard]] const std::vector<PaintedPicture>& Painted() const { return painted_; }
+  void PaintPicture(const Picture& picture, int x, int y);
+  /// The form's picture: what another form's painting has come to.
+  void SetPicture(std::vector<PaintedPicture> painted);
+
+  /// What the user did. A disabled window takes no input.
+  void UserActivate();
+  void UserClick();
+  void UserMouseMove();
+  void UserClose();
+  void UserFocus(Control& control);
+  /// Presses what carries the accelerator. False where nothing does.
+  bool UserAccelerator(char16_t letter);
+  /// Return and Escape press the default and the cancel button. False where there is none.
+  bool UserReturn();
+  bool UserEscape();
+
+  /// True where the user's input reaches the window.
+  [[nodiscard]] bool TakesInput() const;
+
+  /// True for a window that loading alone brings on screen.
+  [[nodiscard]] virtual bool ShowsOnLoad() const { return false; }
+
+ protected:
+  struct ControlPlace {
+    Control* control;
+    const char* name;
+    int index;           ///< kNoIndex for a control that stands alone
+    Control* container;  ///< null: the form
+    TextView caption;    ///< or the text of a box
+    Bounds bounds;
+    TextView accessibleName;
+  };
+  struct MenuPlace {
+    MenuEntry* entry;
+    const char* name;
+    MenuEntry* parent;  ///< null: a top-level menu
+    TextView caption;
+  };
+  /// The window's controls, in tab order and from back to front. Once, in the constructor.
+  void Place(std::initializer_list<ControlPlace> places);
+  void PlaceMenus(std::initializer_list<MenuPlace> places);
+
+  virtual void Form_Load() {}
+  /// May set `cancel` to keep the window.
+  virtual void Form_Unload(bool& cancel) { (void)cancel; }
+  virtual void Form_Activate() {}
+  virtual void Form_Resize() {}
+  virtual void Form_Click() {}
+  virtual void Form_MouseMove() {}
+  virtual void Form_LostFocus() {}
+
+ private:
+  friend class Control;
+  friend class WindowSlot;
+  friend class WindowSystem;
+
+  void ControlChanged(Control& control, Aspect aspect);
+  void Resize(const Bounds& bounds);
+  void CheckMovable() const;
+  void MoveFocus(Control* control);
+
+  WindowSystem& system_;
+  WindowSlot* slot_ = nullptr;
+  std::string name_;
+  FormKind kind_;
+  Text caption_;
+  Bounds bounds_;
+  WindowState state_ = WindowState::kNormal;
+  bool visible_ = false;
+  bool enabled_ = true;
+  bool loaded_ = false;
+  bool loading_ = false;
+  bool shownBefore_ = false;
+  std::vector<Control*> controls_;
+  std::vector<MenuEntry*> menus_;
+  Control* focused_ = nullptr;
+  std::vector<PaintedPicture> painted_;
+};
+
+}  // namespace tessara

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "platform/text.h"
+
+namespace tessara {
+
+class Form;
+
+/// An entry of a menu bar: a top-level menu, a submenu, a command, or a separator ("-").
+class MenuEntry {
+ public:
+  MenuEntry() = default;
+  MenuEntry(const MenuEntry&) = delete;
+  MenuEntry& operator=(const MenuEntry&) = delete;
+
+  [[nodiscard]] const std::string& Name() const { return name_; }
+  [[nodiscard]] const Text& Caption() const { return caption_; }
+  [[nodiscard]] bool Separator() const { return caption_ == u"-"; }
+  [[nodiscard]] const std::vector<MenuEntry*>& Entries() const { return entries_; }
+  [[nodiscard]] Form& Owner() const { return *owner_; }
+
+  [[nodiscard]] bool Enabled() const { return enabled_; }
+  void SetEnabled(bool enabled);
+  [[nodiscard]] bool Visible() const { return visible_; }
+  void SetVisible(bool visible);
+  [[nodiscard]] bool Checked() const { return checked_; }
+  void SetChecked(bool checked);
+  /// True where the entry and every menu above it are enabled and visible.
+  [[nodiscard]] bool Reachable() const;
+
+  /// Runs the click where the entry is reachable and its form takes input, else nothing.
+  void Press();
+  std::function<void()> onClick;
+
+ private:
+  friend class Form;
+  void Changed();
+
+  std::string name_;
+  Text caption_;
+  Form* owner_ = nullptr;
+  MenuEntry* parent_ = nullptr;
+  std::vector<MenuEntry*> entries_;
+  bool enabled_ = true;
+  bool visible_ = true;
+  bool checked_ = false;
+};
+
+}  // namespace tessara

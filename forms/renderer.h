@@ -1,0 +1,36 @@
+#pragma once
+
+#include "forms/controls.h"
+#include "forms/form.h"
+#include "forms/menu.h"
+
+namespace tessara {
+
+enum class FormAspect { kCaption, kBounds, kVisible, kEnabled, kState, kPicture };
+
+/// Whoever shows forms. It follows what the forms tell, asks nothing of the user's behalf, and
+/// reports what the user did through the User... operations of forms, controls and menus.
+class Renderer {
+ public:
+  virtual ~Renderer() = default;
+  /// The form has its controls and menus; Form_Load has not run yet.
+  virtual void FormLoading(Form& form) = 0;
+  virtual void FormUnloaded(Form& form) = 0;
+  virtual void FormChanged(Form& form, FormAspect aspect) = 0;
+  virtual void ControlChanged(Control& control, Aspect aspect) = 0;
+  virtual void MenuChanged(MenuEntry& entry) = 0;
+  /// The active window is another, or none (null): its menu bar and focus come to the front.
+  virtual void ActiveFormChanged(Form* form) = 0;
+  virtual void FocusChanged(Form& form) = 0;
+  /// Returns when the form has been unloaded or hidden, or the program has ended.
+  virtual void RunModal(Form& form) = 0;
+  /// Display lines of the box's text, wrapped at its designed width in its font.
+  virtual int LineCount(const TextBox& box) = 0;
+  /// Client area of the frame in twips.
+  virtual int FrameScaleWidth() = 0;
+  virtual int FrameScaleHeight() = 0;
+  /// The last window is gone, or an error has ended the program.
+  virtual void ProgramHasEnded(int exitStatus) = 0;
+};
+
+}  // namespace tessara

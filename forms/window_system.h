@@ -1,0 +1,76 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "forms/form.h"
+#include "forms/renderer.h"
+
+namespace tessara {
+
+class CodePage;
+class MessageBoxes;
+class RunTimeError;
+
+/// The rules of the window system: which windows are loaded, which is the active one, what runs
+/// inside what. One for the program; the renderer is set once, before the first window loads.
+class WindowSystem {
+ public:
+  WindowSystem(MessageBoxes& messages, const CodePage& codePage);
+  WindowSystem(const WindowSystem&) = delete;
+  WindowSystem& operator=(const WindowSystem&) = delete;
+  ~WindowSystem();
+
+  void SetRenderer(Renderer& renderer) { renderer_ = &renderer; }
+  [[nodiscard]] Renderer& Shown() const { return *renderer_; }
+  [[nodiscard]] const CodePage& CodePageOf() const { return codePage_; }
+
+  /// Runs an event. A run-time error that it lets out is shown in the error report box, and then
+  /// the program ends with status 1: ProgramEnded leaves all events but the outermost, which
+  /// tells the renderer. Nothing is ever thrown out of the outermost event.
+  void Run(const std::function<void()>& event);
+  /// The exit status once the program has ended.
+  [[nodiscard]] std::optional<int> ExitStatus() const { return exitStatus_; }
+  /// Leaves the event that waited while the program ended: dialogs call it when they return.
+  void LeaveIfEnded() const;
+  void EndProgram(int exitStatus);
+
+  /// The active window among the program's own; null where none is on screen.
+  [[nodiscard]] Form* ActiveForm() const;
+  /// The window in front of the frame: the one whose menu bar shows; null where none is.
+  [[nodiscard]] Form* ActiveChild() const;
+  [[nodiscard]] Form* ModalForm() const { return modals_.empty() ? nullptr : modals_.back(); }
+  /// Loaded windows in the order of their loading.
+  [[nodiscard]] const std::vector<Form*>& LoadedForms() const { return loaded_; }
+  [[nodiscard]] Form* FrameForm() const;
+
+ private:
+  friend class Form;
+  friend class WindowSlot;
+
+  void Report(const RunTimeError& error);
+  void Leave();
+  void Add(Form& form);
+  void Remove(Form& form);
+  void Bury(std::unique_ptr<Form> form);
+  /// Brings the form to the front and runs what the change of the active window causes.
+  void BringForward(Form& form);
+  void Drop(Form& form);
+  void ActiveMayHaveChanged(Form* before);
+  bool CloseFrame(Form& frame);
+
+  MessageBoxes& messages_;
+  const CodePage& codePage_;
+  Renderer* renderer_ = nullptr;
+  std::vector<Form*> loaded_;
+  std::vector<Form*> order_;  ///< windows on screen, the frame apart; the last is the active one
+  std::vector<Form*> modals_;
+  std::vector<std::unique_ptr<Form>> buried_;
+  int depth_ = 0;
+  bool closingFrame_ = false;
+  std::optional<int> exitStatus_;
+};
+
+}  // namespace tessara

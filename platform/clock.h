@@ -1,0 +1,17 @@
+#pragma once
+
+namespace tessara {
+
+struct Date {
+  int year = 2000;
+  int month = 1;  ///< 1 to 12
+  int day = 1;    ///< 1 to 31
+};
+
+class Clock {
+ public:
+  virtual ~Clock() = default;
+  [[nodiscard]] virtual Date Today() const = 0;
+};
+
+}  // namespace tessara

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tessara {
+
+/// Text inside the program: one character is one UTF-16 unit. A line break is CR LF.
+using Text = std::u16string;
+using TextView = std::u16string_view;
+
+inline constexpr char16_t kCarriageReturn = u'\r';
+inline constexpr char16_t kLineFeed = u'\n';
+inline constexpr TextView kLineBreak = u"\r\n";
+
+/// Removes blanks (U+0020) at both ends, and nothing else.
+[[nodiscard]] TextView Trimmed(TextView text);
+
+/// Upper case of the letters of Latin, Greek and Cyrillic single-byte code pages.
+[[nodiscard]] Text UpperCase(TextView text);
+
+/// The decimal digits of a whole number, with a minus sign where it is negative.
+[[nodiscard]] Text DecimalText(long value);
+
+/// UTF-8 and back, without loss in either direction: a byte that is no UTF-8 becomes the lone
+/// surrogate U+DC80 + (byte - 0x80), and that surrogate becomes the byte again. Paths use it.
+[[nodiscard]] Text FromUtf8(std::string_view bytes);
+[[nodiscard]] std::string ToUtf8(TextView text);
+
+}  // namespace tessara
