@@ -1,0 +1,50 @@
+#!/usr/bin/env bash
+# The one list of the Debian packages that Tessara needs, in groups.
+# usage: scripts/packages.sh GROUP...     installs what is missing of these groups
+set -euo pipefail
+
+declare -A packages=(
+  [build]="g++ cmake ninja-build ccache python3 qt6-base-dev libgl1-mesa-dev"
+  [run]="fonts-dejavu-core fonts-liberation"
+  [wayland]="qt6-wayland"
+  [virtual-display]="xvfb openbox xdotool x11-utils python3-pil"
+  [test]="doctest-dev at-spi2-core"
+  [lint]="clang-format-14 clang-tidy-14"
+  [fuzz]="clang-14 libclang-rt-14-dev"
+)
+
+missing_packages() {
+  local wanted="" group
+  for group; do
+    wanted+=" ${packages[$group]:?there is no package group $group}"
+  done
+  # shellcheck disable=SC2086 # names without blanks
+  dpkg-query -W -f '${Package} ${db:Status-Status}\n' $wanted 2>/dev/null |
+    awk -v wanted="$wanted" '
+      $2 == "installed" { present[$1] = 1 }
+      END { n = split(wanted, names); for (i = 1; i <= n; i++) if (!present[names[i]]) print names[i] }'
+}
+
+as_root() {
+  if [ "$(id -u)" = 0 ]; then
+    "$@"
+  elif command -v sudo >/dev/null; then
+    sudo "$@"
+  else
+    echo "Install them as root, then try again:  apt-get install $missing" >&2
+    return 1
+  fi
+}
+
+missing=$(missing_packages "$@" | xargs)
+[ -n "$missing" ] || exit 0
+
+echo "Installing Debian packages: $missing" >&2
+# One shell for both steps: the password is asked for once. A package list that cannot be refreshed
+# may still hold what is wanted.
+# shellcheck disable=SC2016,SC2086 # expanded by the inner shell; names without blanks
+as_root sh -c '
+  export DEBIAN_FRONTEND=noninteractive
+  apt-get -qq update || true
+  apt-get -qq -o DPkg::Lock::Timeout=300 install --yes --no-install-recommends "$@" >/dev/null
+' sh $missing

@@ -1,0 +1,45 @@
+#!/usr/bin/env bash
+# Runs a command on a virtual display of its own, with a window manager, and ends both after it.
+# usage: scripts/with_display.sh COMMAND...     exits with the status of the command
+set -euo pipefail
+
+work=$(mktemp -d)
+started=()
+end_display() {
+  kill "${started[@]}" 2>/dev/null || true
+  wait 2>/dev/null || true
+  rm -rf "$work"
+}
+trap end_display EXIT
+
+# The server picks a free display and writes its number once it takes connections; should it die
+# instead, the pipe ends and the read fails.
+mkfifo "$work/number"
+Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$work/number" >"$work/log" 2>&1 &
+started+=($!)
+if ! read -r number <"$work/number"; then
+  echo "The virtual display did not start:" >&2
+  cat "$work/log" >&2
+  exit 1
+fi
+unset WAYLAND_DISPLAY
+export DISPLAY=":$number" QT_QPA_PLATFORM=xcb
+if [ -z "${XDG_RUNTIME_DIR:-}" ]; then
+  mkdir -m 700 "$work/runtime"
+  export XDG_RUNTIME_DIR="$work/runtime"
+fi
+
+openbox --sm-disable >"$work/log" 2>&1 &
+started+=($!)
+deadline=$((SECONDS + 30))
+# A desktop count is there as soon as the window manager manages.
+until xdotool get_num_desktops >/dev/null 2>&1; do
+  if [ $SECONDS -ge $deadline ] || ! kill -0 "${started[-1]}" 2>/dev/null; then
+    echo "The window manager did not start:" >&2
+    cat "$work/log" >&2
+    exit 1
+  fi
+  sleep 0.02
+done
+
+"$@"
