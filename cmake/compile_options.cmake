@@ -9,3 +9,7 @@ if(TESSARA_SANITIZE)
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(tessara_sanitizers INTERFACE -fsanitize=address,undefined)
 endif()
+if(TESSARA_FUZZ)
+  target_compile_options(tessara_sanitizers INTERFACE
+    -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
+endif()

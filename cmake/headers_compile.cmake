@@ -1,0 +1,33 @@
+# Target headers_compile: each header is compiled alone, with what its folder may use and nothing more.
+add_custom_target(headers_compile)
+
+# headers_compile_alone(NAME LIBRARIES GLOB...): the headers that match, against the libraries.
+function(headers_compile_alone name libraries)
+  file(GLOB headers CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR} ${ARGN})
+  if(NOT headers)
+    return()
+  endif()
+  foreach(header ${headers})
+    set(source ${CMAKE_BINARY_DIR}/headers_compile/${header}.cpp)
+    file(CONFIGURE OUTPUT ${source} CONTENT "#include \"${header}\"\n")
+    list(APPEND sources ${source})
+  endforeach()
+  add_library(headers_compile_${name} OBJECT EXCLUDE_FROM_ALL ${sources})
+  target_compile_options(headers_compile_${name} PRIVATE -O0 -g0)
+  target_link_libraries(headers_compile_${name} PRIVATE tessara_warnings ${libraries})
+  add_dependencies(headers_compile headers_compile_${name})
+endfunction()
+
+set(coreHeaders platform/*.h viewer/notelet/*.h)
+foreach(folder ${coreFolders})
+  list(APPEND coreHeaders ${folder}/*.h)
+endforeach()
+headers_compile_alone(core tessara_core ${coreHeaders})
+headers_compile_alone(tests tessara_core tests/support/*.h tests/unit/*.h tests/unit/*/*.h)
+foreach(adapter posix qt libreoffice freedesktop)
+  if(TARGET tessara_${adapter})
+    # A loadable module cannot be linked; its headers need its include folders all the same.
+    get_target_property(adapterLibraries tessara_${adapter} LINK_LIBRARIES)
+    headers_compile_alone(${adapter} "${adapterLibraries}" platform/${adapter}/*.h)
+  endif()
+endforeach()
