@@ -22,6 +22,8 @@ class AppFrame {
   virtual void EnableFileMenu(bool enabled) = 0;
   /// Unloads the About box, if it is loaded.
   virtual void CloseAbout() = 0;
+  /// Unloads the start-up picture, if it is loaded.
+  virtual void CloseSplash() = 0;
 };
 
 }  // namespace tessara
