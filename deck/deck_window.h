@@ -31,6 +31,8 @@ class DeckWindow : public Form {
   MenuEntry mnuUtility, mnuGTP, mnu2, mnuCDI;
   MenuEntry mnuHelp, mnuHelpTopic, mnuAbout, mnuSC;
 
+  [[nodiscard]] bool ClosesFirst() const override { return true; }
+
   /// The large card.
   virtual CardFace& Card() = 0;
 

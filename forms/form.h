@@ -112,6 +112,8 @@ class Form {
 
   /// True for a window that loading alone brings on screen.
   [[nodiscard]] virtual bool ShowsOnLoad() const { return false; }
+  /// True for the window that may refuse to go: a closing frame asks it before all others.
+  [[nodiscard]] virtual bool ClosesFirst() const { return false; }
 
  protected:
   struct ControlPlace {

@@ -1,0 +1,44 @@
+#include "forms/menu.h"
+
+#include "forms/form.h"
+#include "forms/renderer.h"
+#include "forms/window_system.h"
+
+namespace tessara {
+
+void MenuEntry::SetEnabled(bool enabled) {
+  if (enabled_ == enabled) return;
+  enabled_ = enabled;
+  Changed();
+}
+
+void MenuEntry::SetVisible(bool visible) {
+  if (visible_ == visible) return;
+  visible_ = visible;
+  Changed();
+}
+
+void MenuEntry::SetChecked(bool checked) {
+  if (checked_ == checked) return;
+  checked_ = checked;
+  Changed();
+}
+
+bool MenuEntry::Reachable() const {
+  for (const MenuEntry* entry = this; entry != nullptr; entry = entry->parent_) {
+    if (!entry->enabled_ || !entry->visible_) return false;
+  }
+  return true;
+}
+
+void MenuEntry::Press() {
+  const bool inert = !Reachable() || !entries_.empty() || owner_ == nullptr;
+  if (inert || !owner_->TakesInput() || !onClick) return;
+  owner_->System().Run(onClick);
+}
+
+void MenuEntry::Changed() {
+  if (owner_ != nullptr && owner_->Loaded()) owner_->System().Shown().MenuChanged(*this);
+}
+
+}  // namespace tessara

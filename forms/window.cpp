@@ -1,0 +1,32 @@
+#include "forms/window.h"
+
+#include <utility>
+
+#include "forms/window_system.h"
+
+namespace tessara {
+
+WindowSlot::WindowSlot(WindowSystem& system, Maker maker)
+    : system_(system), maker_(std::move(maker)) {}
+
+WindowSlot::~WindowSlot() {
+  if (form_ != nullptr && form_->loaded_) {
+    form_->loaded_ = false;
+    form_->visible_ = false;
+    system_.Remove(*form_);
+  }
+}
+
+Form& WindowSlot::Instance() {
+  if (form_ == nullptr) {
+    form_ = maker_();
+    form_->slot_ = this;
+  }
+  return *form_;
+}
+
+bool WindowSlot::Unload() {
+  return form_ == nullptr || form_->Unload();
+}
+
+}  // namespace tessara

@@ -1,0 +1,130 @@
+#include "forms/window_system.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "platform/message_box.h"
+#include "platform/run_time_error.h"
+
+namespace tessara {
+
+WindowSystem::WindowSystem(MessageBoxes& messages, const CodePage& codePage)
+    : messages_(messages), codePage_(codePage) {}
+
+WindowSystem::~WindowSystem() = default;
+
+void WindowSystem::Run(const std::function<void()>& event) {
+  if (exitStatus_ && depth_ == 0) return;
+  ++depth_;
+  try {
+    event();
+  } catch (const RunTimeError& error) {
+    Report(error);
+    Leave();
+    if (depth_ > 0) throw ProgramEnded(*exitStatus_);
+    return;
+  } catch (const ProgramEnded&) {
+    Leave();
+    if (depth_ > 0) throw;
+    return;
+  } catch (...) {
+    Leave();
+    throw;
+  }
+  Leave();
+}
+
+void WindowSystem::Report(const RunTimeError& error) {
+  // Shown while the event still counts as running, so that nothing is destroyed behind the box.
+  messages_.Show(u"Run-time error '" + DecimalText(static_cast<long>(error.Number())) + u"':" +
+                     Text(kLineBreak) + Text(kLineBreak) + error.Description(),
+                 kStopIcon, Text(kProgramName));
+  EndProgram(1);
+}
+
+void WindowSystem::Leave() {
+  if (--depth_ > 0) return;
+  while (!buried_.empty()) {
+    auto last = std::move(buried_.back());
+    buried_.pop_back();
+  }
+}
+
+void WindowSystem::LeaveIfEnded() const {
+  if (exitStatus_ && *exitStatus_ != 0) throw ProgramEnded(*exitStatus_);
+}
+
+void WindowSystem::EndProgram(int exitStatus) {
+  if (exitStatus_) return;
+  exitStatus_ = exitStatus;
+  if (renderer_ != nullptr) renderer_->ProgramHasEnded(exitStatus);
+}
+
+Form* WindowSystem::ActiveForm() const {
+  return order_.empty() ? nullptr : order_.back();
+}
+
+Form* WindowSystem::ActiveChild() const {
+  const auto found = std::find_if(order_.rbegin(), order_.rend(),
+                                  [](const Form* f) { return f->Kind() == FormKind::kChild; });
+  return found == order_.rend() ? nullptr : *found;
+}
+
+Form* WindowSystem::FrameForm() const {
+  const auto found = std::find_if(loaded_.begin(), loaded_.end(),
+                                  [](const Form* f) { return f->Kind() == FormKind::kFrame; });
+  return found == loaded_.end() ? nullptr : *found;
+}
+
+void WindowSystem::Add(Form& form) {
+  loaded_.push_back(&form);
+}
+
+void WindowSystem::Remove(Form& form) {
+  std::erase(loaded_, &form);
+  Drop(form);
+  if (form.Kind() == FormKind::kFrame) EndProgram(0);
+}
+
+void WindowSystem::Bury(std::unique_ptr<Form> form) {
+  if (form != nullptr) buried_.push_back(std::move(form));
+}
+
+void WindowSystem::BringForward(Form& form) {
+  if (form.Kind() == FormKind::kFrame) return;
+  Form* before = ActiveForm();
+  std::erase(order_, &form);
+  order_.push_back(&form);
+  ActiveMayHaveChanged(before);
+}
+
+void WindowSystem::Drop(Form& form) {
+  Form* before = ActiveForm();
+  std::erase(order_, &form);
+  ActiveMayHaveChanged(before);
+}
+
+void WindowSystem::ActiveMayHaveChanged(Form* before) {
+  Form* now = ActiveForm();
+  if (before == now) return;
+  if (renderer_ != nullptr) renderer_->ActiveFormChanged(now);
+  const bool beforeStands = std::find(order_.begin(), order_.end(), before) != order_.end();
+  if (beforeStands) Run([before] { before->Form_LostFocus(); });
+  if (now != nullptr && ActiveForm() == now && !closingFrame_) Run([now] { now->Form_Activate(); });
+}
+
+/// The order is that of the windows' loading, but for the one that may refuse.
+bool WindowSystem::CloseFrame(Form& frame) {
+  const std::vector<Form*> others(loaded_);
+  const auto first = std::find_if(others.begin(), others.end(),
+                                  [](const Form* form) { return form->ClosesFirst(); });
+  if (first != others.end() && !(*first)->Unload()) return false;
+  closingFrame_ = true;
+  for (Form* form : others) {
+    const bool stands = std::find(loaded_.begin(), loaded_.end(), form) != loaded_.end();
+    if (form != &frame && stands) form->Unload();
+  }
+  return true;
+}
+
+}  // namespace tessara

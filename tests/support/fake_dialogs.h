@@ -1,0 +1,53 @@
+#pragma once
+
+#include <deque>
+#include <stdexcept>
+#include <vector>
+
+#include "platform/dialogs.h"
+#include "platform/run_time_error.h"
+
+namespace tessara::test {
+
+/// Dialogs that are answered beforehand; an empty answer of the file dialog is a cancel.
+class FakeDialogs : public Dialogs {
+ public:
+  struct TextRequest {
+    Text prompt;
+    Text title;
+    Text defaultText;
+  };
+
+  std::deque<Text> files;
+  std::deque<std::optional<Text>> texts;
+  /// Nothing is a cancel.
+  std::deque<std::optional<PrinterChoice>> printers;
+  std::vector<FileDialogRequest> fileRequests;
+  std::vector<TextRequest> textRequests;
+
+  Text AskFile(const FileDialogRequest& request) override {
+    fileRequests.push_back(request);
+    return Next(files, "file");
+  }
+  std::optional<Text> AskText(const Text& prompt, const Text& title,
+                              const Text& defaultText) override {
+    textRequests.push_back({prompt, title, defaultText});
+    return Next(texts, "text");
+  }
+  PrinterChoice AskPrinter() override {
+    const auto choice = Next(printers, "printer");
+    if (!choice) throw RunTimeError(ErrorNumber::kDialogCancelled);
+    return *choice;
+  }
+
+ private:
+  template <class T>
+  static T Next(std::deque<T>& answers, const char* kind) {
+    if (answers.empty()) throw std::logic_error(std::string("no answer for a dialog: ") + kind);
+    T answer = answers.front();
+    answers.pop_front();
+    return answer;
+  }
+};
+
+}  // namespace tessara::test

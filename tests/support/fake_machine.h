@@ -1,0 +1,144 @@
+#pragma once
+
+#include <map>
+#include <tuple>
+#include <vector>
+
+#include "platform/class_registry.h"
+#include "platform/clock.h"
+#include "platform/code_page.h"
+#include "platform/desktop.h"
+#include "platform/machine.h"
+#include "platform/print_surface.h"
+#include "platform/run_time_error.h"
+#include "platform/settings_store.h"
+#include "platform/spreadsheet.h"
+#include "tests/support/fake_dialogs.h"
+#include "tests/support/fake_messages.h"
+#include "tests/support/memory_files.h"
+
+namespace tessara::test {
+
+class FakeSettings : public SettingsStore {
+ public:
+  std::map<Text, Text> values;
+  mutable std::vector<Text> readKeys;  ///< in the order of their reading
+  std::vector<std::pair<Text, Text>> writes;
+
+  [[nodiscard]] Text Read(const Text& key, const Text& defaultValue) const override {
+    readKeys.push_back(key);
+    const auto found = values.find(key);
+    return found == values.end() ? defaultValue : found->second;
+  }
+  void Write(const Text& key, const Text& value) override {
+    writes.emplace_back(key, value);
+    values[key] = value;
+  }
+};
+
+class FakeClock : public Clock {
+ public:
+  Date today{2026, 1, 5};
+  [[nodiscard]] Date Today() const override { return today; }
+};
+
+class FakeDesktop : public Desktop {
+ public:
+  bool previousInstance = false;
+  int openResult = kOpenSucceeded;
+  int screenWidth = 1024;
+  int screenHeight = 768;
+  int yields = 0;
+  std::vector<std::tuple<Text, Text, ShowState>> opened;
+  std::vector<Text> helpShown;
+  std::vector<MousePointer> pointers;
+
+  bool PreviousInstance() override { return previousInstance; }
+  int Open(const Text& target, const Text& folder, ShowState state) override {
+    opened.emplace_back(target, folder, state);
+    return openResult;
+  }
+  void ShowHelp(const Text& path) override { helpShown.push_back(path); }
+  void SetMousePointer(MousePointer pointer) override { pointers.push_back(pointer); }
+  void Yield() override { ++yields; }
+  [[nodiscard]] int ScreenWidth() const override { return screenWidth; }
+  [[nodiscard]] int ScreenHeight() const override { return screenHeight; }
+};
+
+class FakeRegistry : public ClassRegistry {
+ public:
+  std::vector<Text> created;
+  std::vector<std::tuple<Text, Text, Text>> strings;
+  int result = 0;
+  int published = 0;
+
+  int CreateKey(const Text& key) override {
+    created.push_back(key);
+    return result;
+  }
+  int SetString(const Text& key, const Text& valueName, const Text& value) override {
+    strings.emplace_back(key, valueName, value);
+    return result;
+  }
+  int SetNumber(const Text&, const Text&, std::uint32_t) override { return result; }
+  void Publish() override { ++published; }
+};
+
+/// A machine without a spreadsheet server.
+class NoSpreadsheet : public SpreadsheetServer {
+ public:
+  void Probe(const Text&) override { throw RunTimeError(ErrorNumber::kAutomationClassNotFound); }
+  std::shared_ptr<Workbook> Bind(const Text&) override {
+    throw RunTimeError(ErrorNumber::kAutomationClassNotFound);
+  }
+  void SetDestination(const PrintDestination&) override {}
+  void FinishDestination() override {}
+};
+
+/// A machine without a printer.
+class NoPrinter : public PrintSurface {
+ public:
+  void SetDestination(const PrintDestination&) override {}
+  void SetCopies(int) override { Fail(); }
+  void SetFontName(const Text&) override { Fail(); }
+  void SetFontSize(double) override { Fail(); }
+  void SetBold(bool) override { Fail(); }
+  void SetItalic(bool) override { Fail(); }
+  void PrintLine(const Text&) override { Fail(); }
+  void DrawLine(double, double, double, double) override { Fail(); }
+  [[nodiscard]] double CurrentY() const override { return 0; }
+  [[nodiscard]] double PageWidth() const override { return 0; }
+  [[nodiscard]] double PageHeight() const override { return 0; }
+  [[nodiscard]] double TextWidth(const Text&) const override { return 0; }
+  [[nodiscard]] double TextHeight(const Text&) const override { return 0; }
+  void NewPage() override { Fail(); }
+  void EndDocument() override { Fail(); }
+  void DropDocument() override {}
+
+ private:
+  static void Fail() { throw RunTimeError(ErrorNumber::kPrinterError); }
+};
+
+/// A whole machine of fakes. A test replaces what it is about, for example the spreadsheet
+/// server, by making a Machine of its own from these parts.
+struct FakeMachine {
+  FakeMessages messages;
+  FakeDialogs dialogs;
+  FakeSettings settings;
+  MemoryFiles files;
+  FakeClock clock;
+  FakeDesktop desktop;
+  FakeRegistry classes;
+  NoSpreadsheet noSpreadsheet;
+  NoPrinter noPrinter;
+  SpreadsheetServer* spreadsheet = &noSpreadsheet;
+  PrintSurface* printer = &noPrinter;
+
+  [[nodiscard]] Machine Get() {
+    return {messages,       dialogs, settings,     files,    clock,
+            desktop,        classes, *spreadsheet, *printer, CodePage::Western(),
+            u"/opt/tessara"};
+  }
+};
+
+}  // namespace tessara::test

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "deck/app_context.h"
+#include "deck/file_number.h"
+#include "forms/window_system.h"
+#include "tests/support/fake_machine.h"
+#include "tests/support/headless_renderer.h"
+#include "tests/support/test_frame.h"
+
+namespace tessara::test {
+
+/// Everything that a window is given, made of fakes.
+struct TestDesk {
+  FakeMachine fakes;
+  Machine machine = fakes.Get();
+  WindowSystem windows{fakes.messages, machine.codePage};
+  HeadlessRenderer renderer;
+  ProgramState state;
+  TestFrame frame;
+  FileNumber fileNumber{fakes.files};
+  AppContext app{windows, machine, state, frame};
+
+  TestDesk() { windows.SetRenderer(renderer); }
+};
+
+}  // namespace tessara::test
