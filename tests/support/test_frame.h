@@ -11,6 +11,7 @@ class TestFrame : public AppFrame {
   int height = 9390;
   bool fileMenuEnabled = true;
   int aboutClosed = 0;
+  int splashClosed = 0;
   ImageList wallPaper{{{u"White Flat", {"skins/white_flat.png", 323, 90}},
                        {u"White 3D", {"skins/white_3d.png", 327, 93}},
                        {u"Yellow Flat", {"skins/yellow_flat.png", 323, 90}},
@@ -30,6 +31,7 @@ class TestFrame : public AppFrame {
   [[nodiscard]] const ImageList& BKG() const override { return tiles; }
   void EnableFileMenu(bool enabled) override { fileMenuEnabled = enabled; }
   void CloseAbout() override { ++aboutClosed; }
+  void CloseSplash() override { ++splashClosed; }
 };
 
 }  // namespace tessara::test
