@@ -83,13 +83,14 @@ def torn(patch, view, start, end, seed):
     return points
 
 
-CORNERS = {"top": ((0, 0), (1, 0)), "right": ((1, 0), (1, 1)), "bottom": ((1, 1), (0, 1)), "left": ((0, 1), (0, 0))}
+SIDES = {"top": ((0, 0), (1, 0)), "right": ((1, 0), (1, 1)),
+         "bottom": ((1, 1), (0, 1)), "left": ((0, 1), (0, 0))}
 
 
 def rim(patch, view, torn_sides, seed):
     """The outline of the patch, with the named sides torn."""
     points = []
-    for side, (start, end) in CORNERS.items():
+    for side, (start, end) in SIDES.items():
         points += torn(patch, view, start, end, seed + len(side)) if side in torn_sides else \
             [view(*patch.at(*start)), view(*patch.at(*end))]
     return points

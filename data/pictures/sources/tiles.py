@@ -17,25 +17,19 @@ def repeating(width, height, ground, body, defs=""):
 
 
 def mosaic():
-    """Small glazed stones in ink blue, a few of them warm: the program's own pattern."""
-    stone, gap = 16, 1.6
+    """Glazed stones in ink blue, told apart by little more than their joints: the program's own pattern."""
+    stone, count, gap = 24, 4, 1.6
     body = ""
-    for row in range(6):
-        for column in range(6):
-            tone = noise.value(column, row, 6, 6, 7)
-            fill = mix(rgb("#7189ab"), rgb("#8097b6"), tone)
-            if (column, row) in ((1, 1), (4, 3), (2, 5)):
-                fill = rgb("#98a2a6")
-            turn = (noise.value(column, row, 6, 6, 9) - 0.5) * 3
+    for row in range(count):
+        for column in range(count):
             x, y, side = column * stone + gap / 2, row * stone + gap / 2, stone - gap
-            spin = f"rotate({turn:.2f} {x + side / 2:.2f} {y + side / 2:.2f})"
-            body += group(
-                rect(x + 0.5, y + 0.8, side, side, 2.4, fill="#566c8e", fill_opacity=0.5)
-                + rect(x, y, side, side, 2.4, fill=hexed(fill))
-                + path(f"M{x + 2:.2f} {y + 0.9:.2f}H{x + side - 2:.2f}", stroke="#ffffff",
-                       stroke_opacity=0.16, stroke_width=0.9, stroke_linecap="round"),
-                transform=spin)
-    return repeating(96, 96, "#6a81a3", body)
+            cool = mix(rgb("#7389a8"), rgb("#7d93b2"), noise.value(column, row, count, count, 7))
+            fill = mix(cool, rgb("#8f9aa8"), 0.45 * noise.value(column, row, count, count, 19))
+            body += rect(x + 0.3, y + 0.7, side, side, 3, fill="#5f7697", fill_opacity=0.6)
+            body += rect(x, y, side, side, 3, fill=hexed(fill))
+            body += path(f"M{x + 3:.2f} {y + 0.7:.2f}H{x + side - 3:.2f}", stroke="#ffffff", stroke_width=0.9,
+                         stroke_opacity=0.13, stroke_linecap="round")
+    return repeating(96, 96, "#6c83a4", body)
 
 
 def digital():
@@ -46,9 +40,9 @@ def digital():
     more = ("M64 12H58", "M12 0V6", "M40 64V58L36 54", "M0 48H4", "M52 0V6", "M32 0V4")
     pads = ((20, 30), (12, 36), (44, 50), (28, 56), (56, 34), (56, 40), (50, 36), (34, 8), (58, 12),
             (12, 6), (36, 54), (4, 48), (52, 6), (32, 4))
-    body = group("".join(path(d) for d in traces + more), fill="none", stroke="#6f97a0",
+    body = group("".join(path(d) for d in traces + more), fill="none", stroke="#678f99",
                  stroke_width=1.4, stroke_linejoin="round")
-    body += "".join(circle(x, y, 2, fill="#557d87", stroke="#86abb1", stroke_width=1.1)
+    body += "".join(circle(x, y, 2, fill="#557d87", stroke="#789fa7", stroke_width=1.1)
                     for x, y in pads)
     return repeating(64, 64, "#557d87", body)
 
@@ -91,8 +85,8 @@ def network():
     body = ""
     for first, second, dx, dy in links:
         (x1, y1), (x2, y2) = nodes[first], nodes[second]
-        body += line(x1, y1, x2 + dx, y2 + dy, stroke="#9fb0c4", stroke_width=1)
-    body += "".join(circle(x, y, 2.8, fill="#b9c6d6", stroke="#7a8fab", stroke_width=1) for x, y in nodes)
+        body += line(x1, y1, x2 + dx, y2 + dy, stroke="#98a9bf", stroke_width=1)
+    body += "".join(circle(x, y, 2.8, fill="#aebccf", stroke="#7f94b0", stroke_width=1) for x, y in nodes)
     return repeating(64, 64, "#8599b3", body)
 
 
@@ -119,7 +113,7 @@ def paper_grid():
     bold = "".join(line(at, -8, at, 72) + line(-8, at, 72, at) for at in (12.5, 44.5))
     return document(64, 64, rect(0, 0, 64, 64, fill="#f2ede0")
                     + group(fine, stroke="#c9d3df", stroke_width=1, transform="translate(0.5 0.5)")
-                    + group(bold, stroke="#a9b8cc", stroke_width=1))
+                    + group(bold, stroke="#b7c3d3", stroke_width=1))
 
 
 def stripes():
