@@ -2,6 +2,7 @@
 # The one list of the Debian packages that Tessara needs, in groups.
 # usage: scripts/packages.sh GROUP...     installs what is missing of these groups
 set -euo pipefail
+scripts=$(dirname "${BASH_SOURCE[0]}")
 
 declare -A packages=(
   [build]="g++ cmake ninja-build ccache python3 qt6-base-dev libgl1-mesa-dev"
@@ -44,8 +45,8 @@ echo "Installing Debian packages: $missing" >&2
 # One shell for both steps: the password is asked for once. A package list that cannot be refreshed
 # may still hold what is wanted.
 # shellcheck disable=SC2016,SC2086 # expanded by the inner shell; names without blanks
-as_root sh -c '
+as_root "$scripts/quietly.sh" sh -c '
   export DEBIAN_FRONTEND=noninteractive
   apt-get -qq update || true
-  apt-get -qq -o DPkg::Lock::Timeout=300 install --yes --no-install-recommends "$@" >/dev/null
+  apt-get -qq -o DPkg::Lock::Timeout=300 install --yes --no-install-recommends "$@"
 ' sh $missing
