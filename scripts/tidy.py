@@ -39,8 +39,8 @@ def own_commands(build):
     tracked = set(subprocess.run(["git", "-C", ROOT, "ls-files", "*.cpp"], capture_output=True, text=True,
                                  check=True).stdout.splitlines())
     commands = json.loads((build / "compile_commands.json").read_text())
-    own = [c for c in commands if os.path.relpath(c["file"], ROOT) in tracked]
-    return sorted(own, key=lambda c: ("qt6" in c["command"], c["file"]))
+    own = {c["file"]: c for c in commands if os.path.relpath(c["file"], ROOT) in tracked}
+    return sorted(own.values(), key=lambda c: ("qt6" in c["command"], c["file"]))
 
 
 class States:
@@ -54,8 +54,11 @@ class States:
         self._rules = version + (ROOT / ".clang-tidy").read_bytes()
 
     def of(self, command):
+        made_from = self._dependencies[self._object_of(command)]
+        if not made_from:
+            sys.exit(f"{command['file']} has not been built in {self._build}")
         whole = hashlib.sha256(self._rules + command["command"].encode())
-        for path in sorted({command["file"], *self._dependencies[self._object_of(command)]}):
+        for path in sorted({command["file"], *made_from}):
             whole.update(self._hash(path))
         return whole.hexdigest()
 
