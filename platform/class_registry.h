@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstdint>
-
 #include "platform/text.h"
 
 namespace tessara {
@@ -11,10 +9,9 @@ class ClassRegistry {
  public:
   virtual ~ClassRegistry() = default;
   /// Makes the key and its parents. 0 on success.
-  virtual int CreateKey(const Text& key) = 0;
+  virtual int CreateClassKey(const Text& key) = 0;
   /// Sets a string value of an existing key; an empty name is the default value. 0 on success.
-  virtual int SetString(const Text& key, const Text& valueName, const Text& value) = 0;
-  virtual int SetNumber(const Text& key, const Text& valueName, std::uint32_t value) = 0;
+  virtual int SetClassValue(const Text& key, const Text& valueName, const Text& value) = 0;
   /// All values have been set: time to make them known to the desktop.
   virtual void Publish() = 0;
 };

@@ -72,15 +72,14 @@ class FakeRegistry : public ClassRegistry {
   int result = 0;
   int published = 0;
 
-  int CreateKey(const Text& key) override {
+  int CreateClassKey(const Text& key) override {
     created.push_back(key);
     return result;
   }
-  int SetString(const Text& key, const Text& valueName, const Text& value) override {
+  int SetClassValue(const Text& key, const Text& valueName, const Text& value) override {
     strings.emplace_back(key, valueName, value);
     return result;
   }
-  int SetNumber(const Text&, const Text&, std::uint32_t) override { return result; }
   void Publish() override { ++published; }
 };
 

@@ -1,0 +1,30 @@
+#include "shell/documents.h"
+
+#include "platform/message_box.h"
+#include "platform/program_file.h"
+
+namespace tessara {
+
+int OpenWithShell(const Text& path, const Machine& machine) {
+  const int result = machine.desktop.Open(path, u"C:\\", ShowState::kMaximised);
+  if (result == kOpenFileNotFound) {
+    machine.messages.Show(path + u" was not found in the Tessara program directory.", kOkOnly,
+                          u"File Not Found");
+  }
+  return result;
+}
+
+int OpenTearingSheet(const Machine& machine) {
+  return OpenWithShell(ProgramFile(machine, u"Tearing Sheet.bmp"), machine);
+}
+
+int OpenQuickStart(const Machine& machine) {
+  return OpenWithShell(ProgramFile(machine, u"QuickStartDocument.wri"), machine);
+}
+
+void SendMailTo(const Form& /*form*/, const Text& address, ShowState showCommand,
+                const Machine& machine) {
+  machine.desktop.Open(address, u"", showCommand);
+}
+
+}  // namespace tessara

@@ -1,0 +1,45 @@
+#include "shell/picture_lists.h"
+
+namespace tessara {
+
+namespace {
+
+struct Tile {
+  const char* key;
+  const char* extension;
+  int width;
+  int height;
+};
+
+constexpr Tile kTiles[] = {
+    {"DEFAULT", "jpg", 64, 64},  {"DIGITAL", "jpg", 64, 64},  {"DESERT", "gif", 160, 120},
+    {"STUCCO", "gif", 100, 100}, {"BARS", "gif", 64, 64},     {"BLUESPH", "gif", 64, 64},
+    {"CCURTIAN", "gif", 64, 64}, {"CH_LINK", "gif", 64, 64},  {"GRANITE", "gif", 64, 64},
+    {"NEONGRID", "gif", 64, 64}, {"NETWORK", "gif", 64, 64},  {"OHIOSTAR", "gif", 64, 64},
+    {"OLDBLUE", "gif", 64, 64},  {"P_GRID", "gif", 16, 16},   {"REDBRICK", "gif", 64, 64},
+    {"S_NOISE", "gif", 64, 64},  {"STRIPES", "gif", 64, 64},  {"THREADS", "gif", 64, 64},
+    {"WD_FLOOR", "gif", 64, 64}, {"SOFTGRID", "gif", 64, 64},
+};
+
+}  // namespace
+
+ImageList BackdropTiles() {
+  std::vector<ImageList::Image> images;
+  for (const Tile& tile : kTiles) {
+    const std::string file = std::string("backdrops/") + tile.key + "." + tile.extension;
+    images.push_back({FromUtf8(tile.key), {file, tile.width, tile.height}});
+  }
+  return ImageList(std::move(images));
+}
+
+ImageList CardPictures() {
+  return ImageList({{u"White Flat", {"skins/white_flat.png", 323, 90}},
+                    {u"White 3D", {"skins/white_3d.png", 327, 93}},
+                    {u"Yellow Flat", {"skins/yellow_flat.png", 323, 90}},
+                    {u"Yellow 3D", {"skins/yellow_3d.png", 327, 93}},
+                    {u"Flip", {"print/flip.png", 117, 37}},
+                    {u"NonFlip", {"print/nonflip.png", 117, 37}},
+                    {u"FlipDisabled", {"print/flip_disabled.png", 117, 37}}});
+}
+
+}  // namespace tessara
