@@ -1,0 +1,179 @@
+#include <doctest/doctest.h>
+
+#include "forms/image_list.h"
+#include "platform/run_time_error.h"
+#include "tests/unit/forms/test_windows.h"
+
+namespace tessara::test {
+
+namespace {
+
+template <class Action>
+int ErrorOf(Action action) {
+  try {
+    action();
+  } catch (const RunTimeError& error) {
+    return static_cast<int>(error.Number());
+  }
+  return 0;
+}
+
+}  // namespace
+
+TEST_CASE("controls carry their names, array members with their index") {
+  RulesDesk desk;
+  CHECK(desk.first->Option1[1].Name() == "Option1(1)");
+  CHECK(desk.first->Text1.Name() == "Text1");
+  CHECK(desk.first->FindControl("Option1(1)") == &desk.first->Option1[1]);
+  CHECK(desk.first->FindControl("Option1(2)") == nullptr);
+  CHECK(desk.first->FindMenu("mnuOpen") == &desk.first->mnuOpen);
+}
+
+TEST_CASE("an index that a control array does not have is error 340") {
+  RulesDesk desk;
+  for (const int index : {-1, 2, 99}) {
+    CHECK(ErrorOf([&] { static_cast<void>(desk.first->Option1[index]); }) == 340);
+  }
+}
+
+TEST_CASE("assigning a different text runs the change before the assignment returns") {
+  RulesDesk desk;
+  int changes = 0;
+  desk.first->Text1.onChange = [&] { ++changes; };
+  desk.first->Text1.SetText(u"a");
+  CHECK(changes == 1);
+  desk.first->Text1.SetText(u"a");
+  CHECK(changes == 1);
+}
+
+TEST_CASE("selecting an option clears its group without an event and runs its click") {
+  RulesDesk desk;
+  std::vector<int> clicks;
+  desk.first->Option1.Wire(&OptionButton::onClick, [&](int index) { clicks.push_back(index); });
+  desk.first->Option2.SetSelected(true);
+  desk.first->Option1[0].SetSelected(true);
+  desk.first->Option1[1].SetSelected(true);
+  CHECK_FALSE(desk.first->Option1[0].Selected());
+  CHECK(desk.first->Option2.Selected());
+  desk.first->Option1[1].SetSelected(true);
+  desk.first->Option1[1].SetSelected(false);
+  CHECK(clicks == std::vector{0, 1});
+}
+
+TEST_CASE("the user's click on a selected option runs its click once more") {
+  RulesDesk desk;
+  desk.first->Show();
+  int clicks = 0;
+  desk.first->Option2.onClick = [&] { ++clicks; };
+  desk.first->Option2.Press();
+  desk.first->Option2.Press();
+  CHECK(clicks == 2);
+}
+
+TEST_CASE("a check box runs its click for a different value only") {
+  RulesDesk desk;
+  int clicks = 0;
+  desk.first->Check1.onClick = [&] { ++clicks; };
+  desk.first->Check1.SetValue(1);
+  desk.first->Check1.SetValue(1);
+  desk.first->Check1.SetValue(0);
+  CHECK(clicks == 2);
+  CHECK(ErrorOf([&] { desk.first->Check1.SetValue(3); }) == 380);
+}
+
+TEST_CASE("what a disabled or hidden container holds can't be pressed") {
+  RulesDesk desk;
+  desk.first->Show();
+  int clicks = 0;
+  desk.first->Option1[0].onClick = [&] { ++clicks; };
+  desk.first->Frame1.SetEnabled(false);
+  desk.first->Option1[0].Press();
+  desk.first->Frame1.SetEnabled(true);
+  desk.first->Frame1.SetVisible(false);
+  desk.first->Option1[0].Press();
+  CHECK(clicks == 0);
+  desk.first->Frame1.SetVisible(true);
+  desk.first->Option1[0].Press();
+  CHECK(clicks == 1);
+}
+
+TEST_CASE("an accelerator presses what carries it, in either case") {
+  RulesDesk desk;
+  desk.first->Show();
+  int clicks = 0;
+  desk.first->Command1.onClick = [&] { ++clicks; };
+  CHECK(desk.first->UserAccelerator(u'c'));
+  CHECK(desk.first->UserAccelerator(u'C'));
+  CHECK_FALSE(desk.first->UserAccelerator(u'x'));
+  CHECK(desk.first->UserAccelerator(u't'));
+  CHECK(desk.first->Option1[1].Selected());
+  CHECK(clicks == 2);
+}
+
+TEST_CASE("accelerators and plain captions are read from marks") {
+  struct Case {
+    TextView caption;
+    char16_t accelerator;
+    TextView plain;
+  };
+  const Case cases[] = {
+      {u"&Close", u'C', u"Close"},
+      {u"E&xtended", u'X', u"Extended"},
+      {u"Bread && butter", 0, u"Bread & butter"},
+      {u"&&&a", u'A', u"&a"},
+      {u"plain", 0, u"plain"},
+      {u"end&", 0, u"end"},
+      {u"", 0, u""},
+  };
+  for (const Case& c : cases) {
+    CHECK(AcceleratorOf(c.caption) == c.accelerator);
+    CHECK(PlainCaption(c.caption) == c.plain);
+  }
+}
+
+TEST_CASE("the focus can't go where the user can't reach: error 5") {
+  RulesDesk desk;
+  CHECK(ErrorOf([&] { desk.first->Text1.SetFocus(); }) == 5);
+  desk.first->Show();
+  desk.first->Text1.SetEnabled(false);
+  CHECK(ErrorOf([&] { desk.first->Text1.SetFocus(); }) == 5);
+  desk.first->Text1.SetEnabled(true);
+  desk.first->Text1.SetFocus();
+  CHECK(desk.first->FocusedControl() == &desk.first->Text1);
+}
+
+TEST_CASE("the focus leaves one control before it enters the next") {
+  RulesDesk desk;
+  desk.first->Show();
+  Events events;
+  desk.first->Text1.onGotFocus = [&] { events.push_back("text got"); };
+  desk.first->Text1.onLostFocus = [&] { events.push_back("text lost"); };
+  desk.first->Command1.onGotFocus = [&] { events.push_back("button got"); };
+  desk.first->Text1.SetFocus();
+  desk.first->UserFocus(desk.first->Command1);
+  CHECK(events == Events{"text got", "text lost", "button got"});
+}
+
+TEST_CASE("image lists know their pictures by key and by index from 1") {
+  const ImageList list({{u"a", {"a.png", 1, 1}}, {u"b", {"b.png", 1, 1}}});
+  CHECK(list.At(2).key == u"b");
+  CHECK(list.At(u"a").picture.file == "a.png");
+  for (const int index : {0, 3, 12}) CHECK(ErrorOf([&] { list.At(index); }) == 35600);
+  CHECK(ErrorOf([&] { list.At(u"A"); }) == 35601);
+}
+
+TEST_CASE("a menu entry runs only where it and all above it are enabled and visible") {
+  RulesDesk desk;
+  desk.first->Show();
+  int clicks = 0;
+  desk.first->mnuOpen.onClick = [&] { ++clicks; };
+  desk.first->mnuOpen.Press();
+  desk.first->mnuFile.SetEnabled(false);
+  desk.first->mnuOpen.Press();
+  desk.first->mnuFile.SetEnabled(true);
+  desk.first->mnuOpen.SetVisible(false);
+  desk.first->mnuOpen.Press();
+  CHECK(clicks == 1);
+}
+
+}  // namespace tessara::test

@@ -1,0 +1,81 @@
+#include <doctest/doctest.h>
+
+#include "platform/run_time_error.h"
+#include "tests/unit/forms/test_windows.h"
+
+namespace tessara::test {
+
+namespace {
+
+[[noreturn]] void RaiseSubscript() {
+  throw RunTimeError(ErrorNumber::kSubscriptOutOfRange);
+}
+
+const FakeMessages::Shown kReport{u"Run-time error '9':\r\n\r\nSubscript out of range", kStopIcon,
+                                  u"Tessara"};
+
+}  // namespace
+
+TEST_CASE("an error that a handler lets out is reported and ends the program") {
+  RulesDesk desk;
+  desk.first->Show();
+  desk.first->Command1.onClick = RaiseSubscript;
+  desk.first->Command1.Press();
+  CHECK(desk.fakes.messages.shown == std::vector{kReport});
+  CHECK(desk.windows.ExitStatus() == 1);
+  CHECK(desk.renderer.exitStatus == 1);
+}
+
+TEST_CASE("an error inside Form_Load ends the program even where the loader swallows errors") {
+  RulesDesk desk;
+  bool swallowed = false;
+  bool wentOn = false;
+  desk.prepare = [](RulesForm& form) { form.onLoad = RaiseSubscript; };
+  desk.windows.Run([&] {
+    try {
+      desk.first.Loaded();
+    } catch (const RunTimeError&) {
+      swallowed = true;
+    }
+    wentOn = true;
+  });
+  CHECK_FALSE(swallowed);
+  CHECK_FALSE(wentOn);
+  CHECK(desk.fakes.messages.shown == std::vector{kReport});
+}
+
+TEST_CASE("nothing runs after the program has ended") {
+  RulesDesk desk;
+  desk.first->Show();
+  desk.windows.EndProgram(1);
+  int clicks = 0;
+  desk.first->Command1.onClick = [&] { ++clicks; };
+  desk.first->Command1.Press();
+  CHECK(clicks == 0);
+}
+
+TEST_CASE("an error that the routine handles by number goes no further") {
+  RulesDesk desk;
+  desk.windows.Run([] {
+    try {
+      RaiseSubscript();
+    } catch (const RunTimeError& error) {
+      CHECK(error.Number() == ErrorNumber::kSubscriptOutOfRange);
+    }
+  });
+  CHECK(desk.fakes.messages.shown.empty());
+  CHECK_FALSE(desk.windows.ExitStatus());
+}
+
+TEST_CASE("an event that waited while the program ended is left") {
+  RulesDesk desk;
+  bool wentOn = false;
+  desk.windows.Run([&] {
+    desk.windows.EndProgram(1);
+    desk.windows.LeaveIfEnded();
+    wentOn = true;
+  });
+  CHECK_FALSE(wentOn);
+}
+
+}  // namespace tessara::test

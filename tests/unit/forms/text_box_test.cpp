@@ -1,0 +1,77 @@
+#include <doctest/doctest.h>
+
+#include "tests/unit/forms/test_windows.h"
+
+namespace tessara::test {
+
+namespace {
+
+struct EditCase {
+  const char* what;
+  bool multiLine;
+  int limit;
+  Text before;
+  TextEdit edit;
+  Text after;
+};
+
+}  // namespace
+
+TEST_CASE("what the user types comes into the text by the box's rules") {
+  const EditCase cases[] = {
+      {"a character at the end", false, 0, u"ab", {2, 0, u"c"}, u"abc"},
+      {"a replaced selection", false, 0, u"abcd", {1, 2, u"X"}, u"aXd"},
+      {"a deleted selection", false, 0, u"abcd", {1, 2, u""}, u"ad"},
+      {"a place beyond the end", false, 0, u"ab", {9, 9, u"c"}, u"abc"},
+      {"Return in a multi-line box", true, 0, u"ab", {1, 0, u"\n"}, u"a\r\nb"},
+      {"a pasted line break stays one", true, 0, u"", {0, 0, u"a\r\nb"}, u"a\r\nb"},
+      {"lone carriage returns become line breaks", true, 0, u"", {0, 0, u"a\rb"}, u"a\r\nb"},
+      {"several lines into a single-line box", false, 0, u"", {0, 0, u"a\r\nb"}, u"a"},
+      {"a character that the code page lacks", true, 0, u"", {0, 0, u"\u4e2d"}, u"?"},
+      {"up to the limit", false, 3, u"ab", {2, 0, u"cd"}, u"abc"},
+      {"nothing over the limit", false, 3, u"abc", {1, 0, u"x"}, u"abc"},
+      {"a longer text can shrink", false, 3, u"abcdef", {5, 1, u""}, u"abcde"},
+      {"a longer text takes nothing more", false, 3, u"abcdef", {0, 1, u"x"}, u"bcdef"},
+      {"a line break is not cut in two", true, 3, u"ab", {2, 0, u"\r\n"}, u"ab"},
+  };
+  for (const EditCase& c : cases) {
+    CAPTURE(c.what);
+    RulesDesk desk;
+    desk.first->Show();
+    TextBox& box = desk.first->Text1;
+    box.SetMultiLine(c.multiLine);
+    box.SetText(c.before);
+    box.SetMaxLength(c.limit);
+    box.UserEdit(c.edit);
+    CHECK(ToUtf8(box.TextOf()) == ToUtf8(c.after));
+  }
+}
+
+TEST_CASE("a lowered limit does not cut the text that is there") {
+  RulesDesk desk;
+  desk.first->Text1.SetText(u"forty-one");
+  desk.first->Text1.SetMaxLength(4);
+  CHECK(desk.first->Text1.TextOf() == u"forty-one");
+}
+
+TEST_CASE("a locked or unreachable box takes no edit") {
+  RulesDesk desk;
+  desk.first->Show();
+  TextBox& box = desk.first->Text1;
+  box.SetLocked(true);
+  box.UserEdit({0, 0, u"x"});
+  box.SetLocked(false);
+  box.SetEnabled(false);
+  box.UserEdit({0, 0, u"x"});
+  CHECK(box.TextOf().empty());
+}
+
+TEST_CASE("the program's own texts are taken as they are") {
+  RulesDesk desk;
+  const Text raw = {u'\0', u'\r', u'\n', u'\n', u'\u4e2d', u'\u00a0'};
+  desk.first->Text1.SetMaxLength(2);
+  desk.first->Text1.SetText(raw);
+  CHECK(desk.first->Text1.TextOf() == raw);
+}
+
+}  // namespace tessara::test
