@@ -158,8 +158,9 @@ TEST_CASE("image lists know their pictures by key and by index from 1") {
   const ImageList list({{u"a", {"a.png", 1, 1}}, {u"b", {"b.png", 1, 1}}});
   CHECK(list.At(2).key == u"b");
   CHECK(list.At(u"a").picture.file == "a.png");
-  for (const int index : {0, 3, 12}) CHECK(ErrorOf([&] { list.At(index); }) == 35600);
-  CHECK(ErrorOf([&] { list.At(u"A"); }) == 35601);
+  for (const int index : {0, 3, 12})
+    CHECK(ErrorOf([&] { static_cast<void>(list.At(index)); }) == 35600);
+  CHECK(ErrorOf([&] { static_cast<void>(list.At(u"A")); }) == 35601);
 }
 
 TEST_CASE("a menu entry runs only where it and all above it are enabled and visible") {
