@@ -8,12 +8,6 @@ if(Qt6_FOUND AND qtSources)
     PUBLIC tessara_core Qt6::Core Qt6::Gui Qt6::Widgets Qt6::PrintSupport)
 endif()
 
-file(GLOB freedesktopSources CONFIGURE_DEPENDS platform/freedesktop/*.cpp)
-if(freedesktopSources)
-  add_library(tessara_freedesktop STATIC ${freedesktopSources})
-  target_link_libraries(tessara_freedesktop PRIVATE tessara_warnings PUBLIC tessara_core tessara_posix)
-endif()
-
 if(TARGET tessara_qt AND EXISTS ${CMAKE_SOURCE_DIR}/shell/main.cpp)
   add_executable(tessara shell/main.cpp)
   set_target_properties(tessara PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})

@@ -1,0 +1,75 @@
+#include "platform/freedesktop/document_registry.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <system_error>
+
+#include "platform/freedesktop/document_files.h"
+
+namespace tessara {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int kDone = 0;
+constexpr int kNoSuchKey = 2;
+
+void WriteFile(const fs::path& path, const std::string& content) {
+  std::error_code ignored;
+  fs::create_directories(path.parent_path(), ignored);
+  std::ofstream(path, std::ios::binary | std::ios::trunc) << content;
+}
+
+}  // namespace
+
+fs::path UserDataFolder() {
+  const char* data = std::getenv("XDG_DATA_HOME");
+  if (data != nullptr && fs::path(data).is_absolute()) return data;
+  const char* home = std::getenv("HOME");
+  return home != nullptr && *home != '\0' ? fs::path(home) / ".local" / "share" : fs::path();
+}
+
+int DocumentRegistry::CreateClassKey(const Text& key) {
+  // A key brings its parents into being.
+  for (auto end = key.find(u'\\'); end != Text::npos; end = key.find(u'\\', end + 1)) {
+    defaults_.try_emplace(key.substr(0, end));
+  }
+  defaults_.try_emplace(key);
+  return kDone;
+}
+
+int DocumentRegistry::SetClassValue(const Text& key, const Text& valueName, const Text& value) {
+  const auto found = defaults_.find(key);
+  if (found == defaults_.end()) return kNoSuchKey;
+  if (valueName.empty()) found->second = value;
+  return kDone;
+}
+
+std::string DocumentRegistry::DefaultValue(const Text& key) const {
+  const auto found = defaults_.find(key);
+  return found == defaults_.end() ? std::string() : ToUtf8(found->second);
+}
+
+void DocumentRegistry::WriteFiles() const {
+  const DocumentType type{"*.tsr", DefaultValue(u"Tessara.Document"),
+                          (folders_.program / folders_.executable).string()};
+  WriteFile(folders_.userData / "mime" / "packages" / "tessara.xml", MimePackage(type));
+  WriteFile(folders_.userData / "applications" / kDesktopEntryName, DesktopEntry(type));
+  fs::create_directories(folders_.userData / "icons");
+  fs::copy(folders_.program / "icons" / "hicolor", folders_.userData / "icons" / "hicolor",
+           fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+}
+
+void DocumentRegistry::Publish() {
+  if (folders_.userData.empty()) return;
+  try {
+    WriteFiles();
+  } catch (const std::exception&) {
+    // What could not be written stays undeclared: the association is a convenience, never a
+    // reason to bother the user.
+  }
+  tools_(folders_.userData);
+}
+
+}  // namespace tessara

@@ -1,0 +1,92 @@
+#include "platform/freedesktop/document_registry.h"
+
+#include <cstdlib>
+#include <doctest/doctest.h>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "platform/freedesktop/document_files.h"
+
+namespace tessara::test {
+
+namespace {
+
+const DocumentRegistry::Tools kNoTools = [](const std::filesystem::path&) {};
+
+std::string ReadAll(const std::filesystem::path& path) {
+  std::ostringstream content;
+  content << std::ifstream(path).rdbuf();
+  return content.str();
+}
+
+/// A folder of the test's own, gone with it.
+struct ScratchFolder {
+  std::filesystem::path path;
+  ScratchFolder() {
+    std::string name = (std::filesystem::temp_directory_path() / "tessara-test-XXXXXX").string();
+    path = mkdtemp(name.data());
+  }
+  ScratchFolder(const ScratchFolder&) = delete;
+  ScratchFolder& operator=(const ScratchFolder&) = delete;
+  ~ScratchFolder() { std::filesystem::remove_all(path); }
+};
+
+}  // namespace
+
+TEST_CASE("a path in a desktop entry is quoted by its rules") {
+  CHECK(QuotedForExec("/opt/tessara/tessara") == R"("/opt/tessara/tessara")");
+  CHECK(QuotedForExec("/my decks/t") == R"("/my decks/t")");
+  CHECK(QuotedForExec("/100%/t") == R"("/100%%/t")");
+  CHECK(QuotedForExec("/a$b/t") == R"("/a\\$b/t")");
+  CHECK(QuotedForExec("/a\"b`c/t") == R"("/a\\"b\\`c/t")");
+  CHECK(QuotedForExec("/a\\b/t") == R"("/a\\\\b/t")");
+}
+
+TEST_CASE("the desktop entry opens one file and names the deck type") {
+  const std::string entry = DesktopEntry({"*.tsr", "Tessara File", "/opt/tessara/tessara"});
+  CHECK(entry.find("Exec=\"/opt/tessara/tessara\" %f\n") != std::string::npos);
+  CHECK(entry.find("MimeType=application/x-tessara-deck;\n") != std::string::npos);
+  CHECK(entry.find("Icon=tessara\n") != std::string::npos);
+}
+
+TEST_CASE("the MIME package escapes what it is told") {
+  const std::string package = MimePackage({"*.t&r", "A <b> \"deck\"", "/t"});
+  CHECK(package.find("<comment>A &lt;b> &quot;deck&quot;</comment>") != std::string::npos);
+  CHECK(package.find("pattern=\"*.t&amp;r\"") != std::string::npos);
+}
+
+TEST_CASE("a value of a key that was not made is refused") {
+  DocumentRegistry registry({"", "/opt/tessara", "tessara"}, kNoTools);
+  CHECK(registry.SetClassValue(u".tsr", u"", u"x") != 0);
+  CHECK(registry.CreateClassKey(u"Tessara.Document\\DefaultIcon") == 0);
+  CHECK(registry.SetClassValue(u"Tessara.Document", u"", u"Tessara File") == 0);
+}
+
+TEST_CASE("publishing writes package, entry and icons below the user's data folder") {
+  const ScratchFolder scratch;
+  const auto icon = scratch.path / "program/icons/hicolor/16x16/apps/tessara.png";
+  std::filesystem::create_directories(icon.parent_path());
+  std::ofstream(icon) << "icon";
+  std::filesystem::path told;
+  DocumentRegistry registry({scratch.path / "data", scratch.path / "program", "tessara"},
+                            [&](const std::filesystem::path& folder) { told = folder; });
+  registry.CreateClassKey(u"Tessara.Document");
+  registry.SetClassValue(u"Tessara.Document", u"", u"Tessara File");
+  registry.Publish();
+  CHECK(ReadAll(scratch.path / "data/mime/packages/tessara.xml").find("Tessara File") !=
+        std::string::npos);
+  CHECK(ReadAll(scratch.path / "data/applications/tessara.desktop")
+            .find((scratch.path / "program/tessara").string()) != std::string::npos);
+  CHECK(ReadAll(scratch.path / "data/icons/hicolor/16x16/apps/tessara.png") == "icon");
+  CHECK(told == scratch.path / "data");
+}
+
+TEST_CASE("publishing where nothing can be written is silent") {
+  DocumentRegistry nowhere({"/proc/nowhere", "/nowhere", "tessara"}, kNoTools);
+  CHECK_NOTHROW(nowhere.Publish());
+  DocumentRegistry homeless({"", "/nowhere", "tessara"}, kNoTools);
+  CHECK_NOTHROW(homeless.Publish());
+}
+
+}  // namespace tessara::test
