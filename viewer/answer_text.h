@@ -1,0 +1,15 @@
+#pragma once
+
+#include "deck/card_table.h"
+
+namespace tessara {
+
+/// What the user reads for an answer key: the choice's text for "A" to "D", "TRUE" or "FALSE" for
+/// "T" and "F", nothing for any other key. Exact and case-sensitive. Raises error 9 for a row
+/// outside the table.
+[[nodiscard]] Text AnswerText(TextView xAns, int xRec, const ProgramState& state);
+
+/// The place of an answer key among the choices, 0 to 3; 0 for a key that is none.
+[[nodiscard]] int AnswerIndex(TextView xAns);
+
+}  // namespace tessara
