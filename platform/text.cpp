@@ -1,133 +1,159 @@
 #include "platform/text.h"
 
-#include <algorithm>
 #include <cstdint>
+#include <optional>
 
 namespace tessara {
 
 namespace {
 
-constexpr char16_t kByteSurrogate = 0xDC80;
-constexpr unsigned kFirstHighByte = 0x80;
-
-bool IsHighSurrogate(char16_t unit) {
-  return unit >= 0xD800 && unit < 0xDC00;
-}
-bool IsLowSurrogate(char16_t unit) {
-  return unit >= 0xDC00 && unit < 0xE000;
-}
-bool IsByteSurrogate(char16_t unit) {
-  return unit >= kByteSurrogate && unit < kByteSurrogate + 0x80;
-}
-
-/// Shape of a UTF-8 sequence by its first byte: length, payload of the first byte, least value.
-struct Sequence {
-  std::size_t length;
-  std::uint32_t payload;
-  std::uint32_t least;
+/// A run of lower-case letters and what leads to their upper-case ones.
+struct CaseRange {
+  char16_t first;
+  char16_t last;
+  char16_t step;  ///< 2 where lower and upper case take turns
+  int toUpper;
 };
 
-Sequence SequenceOf(unsigned char first) {
-  if (first < 0x80) return {1, first, 0};
-  if ((first & 0xE0U) == 0xC0) return {2, first & 0x1FU, 0x80};
-  if ((first & 0xF0U) == 0xE0) return {3, first & 0x0FU, 0x800};
-  if ((first & 0xF8U) == 0xF0) return {4, first & 0x07U, 0x10000};
-  return {0, 0, 0};
-}
+constexpr CaseRange kCaseRanges[] = {
+    {u'a', u'z', 1, -32},           {u'\u00E0', u'\u00F6', 1, -32},
+    {u'\u00F8', u'\u00FE', 1, -32}, {u'\u00FF', u'\u00FF', 1, 0x79},
+    {u'\u0101', u'\u012F', 2, -1},  {u'\u0131', u'\u0131', 1, u'I' - 0x131},
+    {u'\u0133', u'\u0137', 2, -1},  {u'\u013A', u'\u0148', 2, -1},
+    {u'\u014B', u'\u0177', 2, -1},  {u'\u017A', u'\u017E', 2, -1},
+    {u'\u01A1', u'\u01A1', 1, -1},  {u'\u01B0', u'\u01B0', 1, -1},
+    {u'\u03AC', u'\u03AC', 1, -38}, {u'\u03AD', u'\u03AF', 1, -37},
+    {u'\u03B1', u'\u03C1', 1, -32}, {u'\u03C2', u'\u03C2', 1, -31},
+    {u'\u03C3', u'\u03CB', 1, -32}, {u'\u03CC', u'\u03CC', 1, -64},
+    {u'\u03CD', u'\u03CE', 1, -63}, {u'\u0430', u'\u044F', 1, -32},
+    {u'\u0450', u'\u045F', 1, -80}, {u'\u0491', u'\u0491', 1, -1},
+};
 
-/// The code point at the head of the bytes and its length; length 0 where it is no UTF-8.
-std::pair<std::uint32_t, std::size_t> CodePointOf(std::string_view bytes) {
-  const Sequence sequence = SequenceOf(static_cast<unsigned char>(bytes.front()));
-  if (sequence.length == 0 || sequence.length > bytes.size()) return {0, 0};
-  std::uint32_t value = sequence.payload;
-  for (std::size_t at = 1; at < sequence.length; ++at) {
-    const auto next = static_cast<unsigned char>(bytes[at]);
-    if ((next & 0xC0U) != 0x80) return {0, 0};
-    value = (value << 6U) | (next & 0x3FU);
+char16_t UpperCase(char16_t character) {
+  for (const CaseRange& range : kCaseRanges) {
+    const bool within = character >= range.first && character <= range.last;
+    if (within && (character - range.first) % range.step == 0) {
+      return static_cast<char16_t>(character + range.toUpper);
+    }
   }
-  const bool surrogate = value >= 0xD800 && value < 0xE000;
-  if (value < sequence.least || value > 0x10FFFF || surrogate) return {0, 0};
-  return {value, sequence.length};
+  return character;
 }
 
-void AppendUtf16(Text& text, std::uint32_t codePoint) {
-  if (codePoint < 0x10000) {
-    text += static_cast<char16_t>(codePoint);
+constexpr char32_t kFirstHighSurrogate = 0xD800;
+constexpr char32_t kFirstLowSurrogate = 0xDC00;
+constexpr char32_t kLastLowSurrogate = 0xDFFF;
+constexpr char32_t kFirstBeyondUnits = 0x10000;
+constexpr char32_t kLastCharacter = 0x10FFFF;
+constexpr char32_t kReplacement = 0xFFFD;
+/// Lone surrogates that stand for the bytes 0x80 to 0xFF.
+constexpr char32_t kFirstRawByte = 0xDC80;
+constexpr char32_t kLastRawByte = 0xDCFF;
+
+bool IsSurrogate(char32_t character) {
+  return character >= kFirstHighSurrogate && character <= kLastLowSurrogate;
+}
+
+bool IsHighSurrogate(char32_t unit) {
+  return unit >= kFirstHighSurrogate && unit < kFirstLowSurrogate;
+}
+
+bool IsLowSurrogate(char32_t unit) {
+  return unit >= kFirstLowSurrogate && unit <= kLastLowSurrogate;
+}
+
+/// Bytes of the sequence that the byte begins; 0 where it begins none.
+std::size_t SequenceLength(unsigned char lead) {
+  if (lead < 0x80) return 1;
+  if (lead >= 0xC2 && lead <= 0xDF) return 2;
+  if (lead >= 0xE0 && lead <= 0xEF) return 3;
+  if (lead >= 0xF0 && lead <= 0xF4) return 4;
+  return 0;
+}
+
+/// The character that the bytes begin with, if they are well-formed and shortest.
+std::optional<char32_t> FirstCharacter(std::string_view bytes) {
+  constexpr unsigned kLeadBits[] = {0x7F, 0x1F, 0x0F, 0x07};
+  constexpr char32_t kSmallest[] = {0, 0x80, 0x800, kFirstBeyondUnits};
+  const auto lead = static_cast<unsigned char>(bytes.front());
+  const std::size_t length = SequenceLength(lead);
+  if (length == 0 || length > bytes.size()) return std::nullopt;
+  char32_t character = lead & kLeadBits[length - 1];
+  for (const char byte : bytes.substr(1, length - 1)) {
+    const auto bits = static_cast<unsigned char>(byte);
+    if ((bits & 0xC0U) != 0x80U) return std::nullopt;
+    character = (character << 6U) | (bits & 0x3FU);
+  }
+  const bool valid =
+      character >= kSmallest[length - 1] && character <= kLastCharacter && !IsSurrogate(character);
+  return valid ? std::optional(character) : std::nullopt;
+}
+
+void AppendUnits(Text& text, char32_t character) {
+  if (character < kFirstBeyondUnits) {
+    text += static_cast<char16_t>(character);
     return;
   }
-  const std::uint32_t offset = codePoint - 0x10000;
-  text += static_cast<char16_t>(0xD800 + (offset >> 10U));
-  text += static_cast<char16_t>(0xDC00 + (offset & 0x3FFU));
+  const char32_t offset = character - kFirstBeyondUnits;
+  text += static_cast<char16_t>(kFirstHighSurrogate + (offset >> 10U));
+  text += static_cast<char16_t>(kFirstLowSurrogate + (offset & 0x3FFU));
 }
 
-void AppendUtf8(std::string& bytes, std::uint32_t codePoint) {
-  const auto tail = [&bytes, codePoint](unsigned shift) {
-    bytes += static_cast<char>(0x80U | ((codePoint >> shift) & 0x3FU));
-  };
-  if (codePoint < 0x80) {
-    bytes += static_cast<char>(codePoint);
-  } else if (codePoint < 0x800) {
-    bytes += static_cast<char>(0xC0U | (codePoint >> 6U));
-    tail(0);
-  } else if (codePoint < 0x10000) {
-    bytes += static_cast<char>(0xE0U | (codePoint >> 12U));
-    tail(6);
-    tail(0);
+/// The character that the text begins with: a pair of surrogates is one.
+char32_t FirstCharacter(TextView text) {
+  const char32_t unit = text.front();
+  const bool pair = IsHighSurrogate(unit) && text.size() > 1 && IsLowSurrogate(text[1]);
+  if (!pair) return unit;
+  return kFirstBeyondUnits + ((unit - kFirstHighSurrogate) << 10U) + (text[1] - kFirstLowSurrogate);
+}
+
+void AppendContinuations(std::string& bytes, char32_t character, unsigned count) {
+  while (count-- > 0) {
+    bytes += static_cast<char>(0x80U | ((character >> (6U * count)) & 0x3FU));
+  }
+}
+
+void AppendBytes(std::string& bytes, char32_t character) {
+  if (character < 0x80) {
+    bytes += static_cast<char>(character);
+  } else if (character < 0x800) {
+    bytes += static_cast<char>(0xC0U | (character >> 6U));
+    AppendContinuations(bytes, character, 1);
+  } else if (character < kFirstBeyondUnits) {
+    bytes += static_cast<char>(0xE0U | (character >> 12U));
+    AppendContinuations(bytes, character, 2);
   } else {
-    bytes += static_cast<char>(0xF0U | (codePoint >> 18U));
-    tail(12);
-    tail(6);
-    tail(0);
+    bytes += static_cast<char>(0xF0U | (character >> 18U));
+    AppendContinuations(bytes, character, 3);
   }
-}
-
-/// Upper case of one character; those without a single counterpart in 16 bits stay.
-char16_t UpperCase(char16_t c) {
-  if ((c >= u'a' && c <= u'z') || (c >= u'à' && c <= u'þ' && c != u'÷')) {
-    return static_cast<char16_t>(c - 0x20);
-  }
-  if (c == u'ÿ') return u'Ÿ';
-  const bool pairedLatin = (c >= 0x100 && c <= 0x137) || (c >= 0x14A && c <= 0x177);
-  const bool oddLowerLatin = (c >= 0x139 && c <= 0x148) || (c >= 0x179 && c <= 0x17E);
-  if (pairedLatin && c != 0x131) return static_cast<char16_t>(c & ~1U);
-  if (oddLowerLatin) return static_cast<char16_t>(c % 2 == 0 ? c - 1 : c);
-  if (c >= 0x3B1 && c <= 0x3CB && c != 0x3C2) return static_cast<char16_t>(c - 0x20);
-  if (c >= 0x430 && c <= 0x44F) return static_cast<char16_t>(c - 0x20);
-  if (c >= 0x450 && c <= 0x45F) return static_cast<char16_t>(c - 0x50);
-  return c;
 }
 
 }  // namespace
 
 TextView Trimmed(TextView text) {
-  const auto first = text.find_first_not_of(u' ');
+  const std::size_t first = text.find_first_not_of(u' ');
   if (first == TextView::npos) return {};
   return text.substr(first, text.find_last_not_of(u' ') - first + 1);
 }
 
 Text UpperCase(TextView text) {
-  Text upper(text);
-  std::transform(upper.begin(), upper.end(), upper.begin(),
-                 [](char16_t c) { return UpperCase(c); });
-  return upper;
+  Text result(text);
+  for (char16_t& character : result) character = UpperCase(character);
+  return result;
 }
 
 Text DecimalText(long value) {
-  return FromUtf8(std::to_string(value));
+  const std::string digits = std::to_string(value);
+  return {digits.begin(), digits.end()};
 }
 
 Text FromUtf8(std::string_view bytes) {
   Text text;
   text.reserve(bytes.size());
   while (!bytes.empty()) {
-    const auto [codePoint, length] = CodePointOf(bytes);
-    if (length > 0) {
-      AppendUtf16(text, codePoint);
-    } else {
-      const unsigned byte = static_cast<unsigned char>(bytes.front());
-      text += static_cast<char16_t>(kByteSurrogate + byte - kFirstHighByte);
-    }
-    bytes.remove_prefix(std::max<std::size_t>(length, 1));
+    const auto lead = static_cast<unsigned char>(bytes.front());
+    const std::optional<char32_t> character = FirstCharacter(bytes);
+    AppendUnits(text, character.value_or(kFirstRawByte + (lead - 0x80U)));
+    bytes.remove_prefix(character ? SequenceLength(lead) : 1);
   }
   return text;
 }
@@ -135,17 +161,14 @@ Text FromUtf8(std::string_view bytes) {
 std::string ToUtf8(TextView text) {
   std::string bytes;
   bytes.reserve(text.size());
-  for (std::size_t at = 0; at < text.size(); ++at) {
-    const char16_t unit = text[at];
-    const bool pair = IsHighSurrogate(unit) && at + 1 < text.size() && IsLowSurrogate(text[at + 1]);
-    if (pair) {
-      const std::uint32_t high = unit - 0xD800U;
-      AppendUtf8(bytes, 0x10000U + (high << 10U) + (text[++at] - 0xDC00U));
-    } else if (IsByteSurrogate(unit)) {
-      bytes += static_cast<char>(unit - kByteSurrogate + kFirstHighByte);
+  while (!text.empty()) {
+    const char32_t character = FirstCharacter(text);
+    if (character >= kFirstRawByte && character <= kLastRawByte) {
+      bytes += static_cast<char>(character - kFirstRawByte + 0x80U);
     } else {
-      AppendUtf8(bytes, unit);
+      AppendBytes(bytes, IsSurrogate(character) ? kReplacement : character);
     }
+    text.remove_prefix(character < kFirstBeyondUnits ? 1 : 2);
   }
   return bytes;
 }

@@ -1,58 +1,100 @@
 #include "platform/text.h"
 
 #include <doctest/doctest.h>
-#include <string>
-
-#include "platform/code_page.h"
-#include "platform/run_time_error.h"
+#include <random>
 
 namespace tessara::test {
 
 TEST_CASE("trimming removes blanks at both ends and nothing else") {
-  CHECK(Trimmed(u"  a b  ") == u"a b");
-  CHECK(Trimmed(u"\ta\r\n") == u"\ta\r\n");
-  CHECK(Trimmed(u"\u00a0a\u00a0") == u"\u00a0a\u00a0");
-  CHECK(Trimmed(u"    ").empty());
-  CHECK(Trimmed(u"").empty());
+  struct Case {
+    TextView text;
+    TextView trimmed;
+  };
+  const Case cases[] = {
+      {u"", u""},           {u"   ", u""},        {u"  a b  ", u"a b"},
+      {u"\ta\t", u"\ta\t"}, {u" \r\n ", u"\r\n"}, {u" \u00A0 ", u"\u00A0"},
+  };
+  for (const Case& c : cases) CHECK(Trimmed(c.text) == c.trimmed);
 }
 
-TEST_CASE("upper case knows the letters of the code pages") {
-  CHECK(UpperCase(u"ext*>f") == u"EXT*>F");
-  CHECK(UpperCase(u"äöüéñþÿ÷ß") == u"ÄÖÜÉÑÞŸ÷ß");
-  CHECK(UpperCase(u"ąčžő") == u"ĄČŽŐ");
-  CHECK(UpperCase(u"жяё") == u"ЖЯЁ");
-  CHECK(UpperCase(u"αω") == u"ΑΩ");
+TEST_CASE("upper case knows the letters of the single-byte code pages") {
+  struct Case {
+    TextView text;
+    TextView upper;
+  };
+  const Case cases[] = {
+      {u"", u""},
+      {u"Std 1!", u"STD 1!"},
+      {u"@[`{", u"@[`{"},
+      {u"\u00E0\u00F6\u00F8\u00FE\u00FF", u"\u00C0\u00D6\u00D8\u00DE\u0178"},
+      {u"\u00F7\u00DF\u00D7", u"\u00F7\u00DF\u00D7"},
+      {u"\u0105\u0142\u015B\u017C", u"\u0104\u0141\u015A\u017B"},
+      {u"\u0100\u0139\u0141", u"\u0100\u0139\u0141"},
+      {u"\u0131i", u"II"},
+      {u"\u03B1\u03C2\u03C9\u03AC\u03CC\u03CE", u"\u0391\u03A3\u03A9\u0386\u038C\u038F"},
+      {u"\u0430\u044F\u0451\u0491", u"\u0410\u042F\u0401\u0490"},
+  };
+  for (const Case& c : cases) CHECK(UpperCase(c.text) == c.upper);
 }
 
-TEST_CASE("UTF-8 goes both ways without loss, broken bytes included") {
-  const std::string samples[] = {
-      "plain",     "caf\xC3\xA9",  "\xF0\x9F\x82\xA1 card", "\xFF\xFE", "\xC3",
-      "a\xE2\x82", "\xED\xA0\x80", std::string("\0x", 2),   "\xC0\x80"};
-  for (const std::string& bytes : samples) CHECK(ToUtf8(FromUtf8(bytes)) == bytes);
-  CHECK(FromUtf8("\xF0\x9F\x82\xA1").size() == 2);
-  CHECK(FromUtf8("\xFF") == Text{0xDCFF});
+TEST_CASE("a whole number is written in decimal digits") {
+  CHECK(DecimalText(0) == u"0");
+  CHECK(DecimalText(200) == u"200");
+  CHECK(DecimalText(-7) == u"-7");
 }
 
-TEST_CASE("every byte of the code page comes back as it was") {
-  std::string all;
-  for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
-  const CodePage& western = CodePage::Western();
-  CHECK(western.Encode(western.Decode(all)) == all);
-  CHECK(western.Decode("\x80\x81\xE9") == u"\u20ac\u0081\u00e9");
+TEST_CASE("UTF-8 is read into units and written again") {
+  struct Case {
+    std::string_view bytes;
+    TextView text;
+  };
+  const Case cases[] = {
+      {"", u""},
+      {"plain", u"plain"},
+      {"\xC3\xA9", u"\u00E9"},
+      {"\xE2\x82\xAC", u"\u20AC"},
+      {"\xF0\x9F\x98\x80", u"\xD83D\xDE00"},
+  };
+  for (const Case& c : cases) {
+    CHECK(FromUtf8(c.bytes) == c.text);
+    CHECK(ToUtf8(c.text) == c.bytes);
+  }
 }
 
-TEST_CASE("a character that the code page lacks becomes a question mark") {
-  const CodePage& western = CodePage::Western();
-  CHECK(western.Encode(u"a\u4e2d\u03b1b") == "a??b");
-  CHECK(western.Representable(u"\u20ac\u4e2d") == u"\u20ac?");
-  CHECK(western.Holds(u'\u20ac'));
-  CHECK_FALSE(western.Holds(u'\u4e2d'));
+TEST_CASE("a byte that is no UTF-8 becomes a surrogate of its own") {
+  struct Case {
+    std::string_view bytes;
+    Text text;
+  };
+  const Case cases[] = {
+      {"a\x80", {u'a', 0xDC80}},
+      {"\xFF", {0xDCFF}},
+      {"\xC3", {0xDCC3}},
+      {"\xC0\xAF", {0xDCC0, 0xDCAF}},
+      {"\xED\xA0\x80", {0xDCED, 0xDCA0, 0xDC80}},
+      {"\xF4\x90\x80\x80", {0xDCF4, 0xDC90, 0xDC80, 0xDC80}},
+      {"\xE2\x82"
+       "a",
+       {0xDCE2, 0xDC82, u'a'}},
+  };
+  for (const Case& c : cases) {
+    CHECK(FromUtf8(c.bytes) == c.text);
+    CHECK(ToUtf8(c.text) == c.bytes);
+  }
 }
 
-TEST_CASE("run-time errors carry their classic descriptions") {
-  CHECK(RunTimeError(ErrorNumber::kSubscriptOutOfRange).Description() == u"Subscript out of range");
-  CHECK(RunTimeError(ErrorNumber::kFileAlreadyOpen).Description() == u"File already open");
-  CHECK(RunTimeError(ErrorNumber::kInputPastEnd).Description() == u"Input past end of file");
+TEST_CASE("any bytes come back as they were on the way through text") {
+  std::mt19937 random(1);
+  for (int round = 0; round < 2000; ++round) {
+    std::string bytes(random() % 12, '\0');
+    for (char& byte : bytes) byte = static_cast<char>(random());
+    CHECK(ToUtf8(FromUtf8(bytes)) == bytes);
+  }
+}
+
+TEST_CASE("a lone surrogate that stands for no byte becomes the replacement character") {
+  CHECK(ToUtf8(Text{0xD800}) == "\xEF\xBF\xBD");
+  CHECK(ToUtf8(Text{u'a', 0xDE00}) == "a\xEF\xBF\xBD");
 }
 
 }  // namespace tessara::test
