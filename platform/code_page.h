@@ -10,7 +10,8 @@
 namespace tessara {
 
 /// A single-byte code page: a total map between bytes and characters. Every byte, NUL and the
-/// unassigned ones included (they are the characters U+0080 to U+009F), comes back as it was.
+/// unassigned ones included (they are control characters, or characters of private use), comes
+/// back as it was.
 class CodePage {
  public:
   /// The characters of the bytes 0x80 to 0xFF; 0 marks an unassigned byte. Below lies ASCII.
@@ -29,7 +30,7 @@ class CodePage {
   [[nodiscard]] bool Holds(char16_t character) const;
 
  private:
-  std::array<char16_t, 256> characters_;
+  std::array<char16_t, 256> characters_{};
   std::unordered_map<char16_t, char> bytes_;
 };
 
