@@ -38,6 +38,9 @@ class Canvas {
   virtual void FillRoundedRect(const Rect& rect, double radius, const Color& fill,
                                const Color& border) = 0;
   virtual void DrawLine(Point from, Point to, double width, const Color& color) = 0;
+  /// Until Unclip nothing is drawn outside the rectangle.
+  virtual void Clip(const Rect& rect) = 0;
+  virtual void Unclip() = 0;
   /// Draws literally, cut off at the rectangle; line breaks are line breaks.
   virtual void DrawText(const Rect& rect, const Text& text, const TextStyle& style) = 0;
   /// Height of the text, wrapped at the width where the style says so.

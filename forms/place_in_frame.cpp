@@ -22,14 +22,17 @@ void Step(Form& form, const std::function<void()>& step) {
 }  // namespace
 
 void PlaceInFrame(WindowSlot& xForm, int xHeight, int xWidth, const AppFrame& frame) {
+  PlaceInFrame(xForm.Instance(), xHeight, xWidth, frame);
+}
+
+void PlaceInFrame(Form& xForm, int xHeight, int xWidth, const AppFrame& frame) {
   try {
-    Form& form = xForm.Instance();
-    form.EnsureLoaded();
-    Step(form, [&] { form.SetHeight(xHeight); });
-    Step(form, [&] { form.SetWidth(xWidth); });
-    Step(form, [&] { form.SetTop((frame.ScaleHeight() - form.Height()) / 2); });
-    Step(form, [&] { form.SetLeft((frame.ScaleWidth() - form.Width()) / 2); });
-    Step(form, [&] { form.Show(); });
+    xForm.EnsureLoaded();
+    Step(xForm, [&] { xForm.SetHeight(xHeight); });
+    Step(xForm, [&] { xForm.SetWidth(xWidth); });
+    Step(xForm, [&] { xForm.SetTop((frame.ScaleHeight() - xForm.Height()) / 2); });
+    Step(xForm, [&] { xForm.SetLeft((frame.ScaleWidth() - xForm.Width()) / 2); });
+    Step(xForm, [&] { xForm.Show(); });
   } catch (const RunTimeError&) {
     // A window that can't be placed stays as it is; what it was to show it still can.
   }
