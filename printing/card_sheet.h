@@ -1,0 +1,59 @@
+#pragma once
+
+#include <cstdint>
+
+#include "forms/controls.h"
+#include "platform/spreadsheet.h"
+#include "platform/text.h"
+
+namespace tessara {
+
+/// The two sides of a card.
+inline constexpr TextView kFront = u"Front";
+inline constexpr TextView kBack = u"Back";
+
+/// The slots of a sheet in card order: eight cards.
+inline constexpr std::int16_t kFirstSlot = 2;
+inline constexpr std::int16_t kLastSlot = 9;
+
+/// The cells of the sheet that the cards are printed on. A slot has one cell on the front and,
+/// for each way of turning the sheet, the cell on the back that lies behind it. A position that
+/// is no slot sets the fonts and writes nothing. All operations raise the server's errors.
+class CardSheet {
+ public:
+  /// `Check2` is read at each placement: ticked, the sheet is turned over its top edge.
+  CardSheet(Worksheet& sheet, const CheckBox& Check2) : sheet_(sheet), Check2_(Check2) {}
+
+  /// Sets the fonts of the side and writes the text; a side of another name does nothing.
+  void PlaceCardText(const Text& text, std::int16_t position, const Text& side);
+  void PlaceFrontText(const Text& text, std::int16_t position);
+  void PlaceBackText(const Text& text, std::int16_t position);
+  /// For a sheet turned over its side edge: the columns change places.
+  void PlaceBackMirrored(const Text& text, std::int16_t position);
+  /// For a sheet turned over its top edge: the rows change places.
+  void PlaceBackFlipped(const Text& text, std::int16_t position);
+
+  /// Empties the card cells; the page line stays.
+  void ClearCardCells();
+  /// `mark` tells how the sheet is to be turned; empty on a back.
+  void WritePageLine(std::int16_t page, const Text& side, const Text& mark);
+
+ private:
+  struct Cell {
+    std::int16_t row;
+    std::int16_t column;
+  };
+  struct Slot {
+    Cell front;
+    Cell mirrored;
+    Cell flipped;
+  };
+  static const Slot* SlotAt(std::int16_t position);
+  void SetFonts(TextView name, std::int16_t points);
+  void Place(const Text& text, std::int16_t position, Cell Slot::*cell);
+
+  Worksheet& sheet_;
+  const CheckBox& Check2_;
+};
+
+}  // namespace tessara

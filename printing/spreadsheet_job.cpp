@@ -1,0 +1,28 @@
+#include "printing/spreadsheet_job.h"
+
+#include "platform/program_file.h"
+#include "platform/run_time_error.h"
+
+namespace tessara {
+
+bool SpreadsheetJob::TestSpreadsheetServer() const {
+  try {
+    machine_.spreadsheet.Probe(ProgramFile(machine_, kTemplateName));
+    return true;
+  } catch (const RunTimeError&) {
+    return false;
+  }
+}
+
+void SpreadsheetJob::Open() {
+  jobWorkbook_ = machine_.spreadsheet.Bind(ProgramFile(machine_, kTemplateName));
+  jobSheet_ = jobWorkbook_->ActiveSheet();
+  jobWorkbook_->SetDisplayAlerts(false);
+}
+
+void SpreadsheetJob::Close() {
+  jobWorkbook_->Close();
+  jobWorkbook_.reset();
+}
+
+}  // namespace tessara

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/spreadsheet.h"
+#include "tests/support/call_record.h"
+
+namespace tessara::test {
+
+/// A spreadsheet server that keeps every call, and what each printed sheet held.
+class RecordingSpreadsheet : public SpreadsheetServer {
+ public:
+  /// Texts by cell name; empty cells are left out.
+  using Cells = std::map<std::string, Text>;
+
+  CallRecord record;
+  Cells cells;
+  std::vector<Cells> sheets;
+
+  void Probe(const Text& templatePath) override { record.Add("Probe " + ToUtf8(templatePath)); }
+  std::shared_ptr<Workbook> Bind(const Text& templatePath) override {
+    record.Add("Bind " + ToUtf8(templatePath));
+    cells.clear();
+    return std::make_shared<Book>(*this);
+  }
+  void SetDestination(const PrintDestination& destination) override {
+    record.Add("Destination " + DestinationName(destination));
+  }
+  void FinishDestination() override { record.Add("Finish"); }
+
+ private:
+  class Sheet : public Worksheet {
+   public:
+    explicit Sheet(RecordingSpreadsheet& server) : server_(server) {}
+    void SetFontName(const Text& range, const Text& name) override {
+      server_.record.Add("Font " + ToUtf8(range) + " " + ToUtf8(name));
+    }
+    void SetFontSize(const Text& range, std::int16_t points) override {
+      server_.record.Add("Size " + ToUtf8(range) + " " + std::to_string(points));
+    }
+    void SetCell(std::int16_t row, std::int16_t column, const Text& value) override {
+      const std::string name = static_cast<char>('A' + column - 1) + std::to_string(row);
+      server_.record.Add(name + " = " + ToUtf8(value));
+      server_.cells[name] = value;
+      if (value.empty()) server_.cells.erase(name);
+    }
+    void PrintOut() override {
+      server_.record.Add("Print");
+      server_.sheets.push_back(server_.cells);
+    }
+
+   private:
+    RecordingSpreadsheet& server_;
+  };
+
+  class Book : public Workbook {
+   public:
+    explicit Book(RecordingSpreadsheet& server) : server_(server) {}
+    std::shared_ptr<Worksheet> ActiveSheet() override {
+      server_.record.Add("ActiveSheet");
+      return std::make_shared<Sheet>(server_);
+    }
+    void SetDisplayAlerts(bool show) override {
+      server_.record.Add(show ? "Alerts on" : "Alerts off");
+    }
+    void Close() override { server_.record.Add("Close"); }
+
+   private:
+    RecordingSpreadsheet& server_;
+  };
+};
+
+}  // namespace tessara::test
