@@ -1,0 +1,84 @@
+#pragma once
+
+#include <algorithm>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "platform/print_surface.h"
+#include "tests/support/call_record.h"
+
+namespace tessara::test {
+
+/// A print surface that keeps every call but the questions. All characters are equally wide and
+/// all lines equally high, whatever the font.
+class RecordingPrintSurface : public PrintSurface {
+ public:
+  static constexpr double kCharacterWidth = 100;
+  static constexpr double kLineHeight = 200;
+
+  CallRecord record;
+  double pageWidth = 4000;
+  double pageHeight = 15000;
+  double y = 0;
+
+  void SetDestination(const PrintDestination& destination) override {
+    record.Add("Destination " + DestinationName(destination));
+  }
+  void SetCopies(int copies) override { record.Add("Copies " + Number(copies)); }
+  void SetFontName(const Text& name) override { record.Add("Font " + ToUtf8(name)); }
+  void SetFontSize(double points) override { record.Add("Size " + Number(points)); }
+  void SetBold(bool bold) override { record.Add(bold ? "Bold on" : "Bold off"); }
+  void SetItalic(bool italic) override { record.Add(italic ? "Italic on" : "Italic off"); }
+  void PrintLine(const Text& text) override {
+    record.Add("Line " + ToUtf8(text));
+    y += TextHeight(text);
+    if (y > pageHeight) y = TextHeight(text);
+  }
+  void DrawLine(double x1, double y1, double x2, double y2) override {
+    record.Add("Rule " + Number(x1) + " " + Number(y1) + " " + Number(x2) + " " + Number(y2));
+  }
+  [[nodiscard]] double CurrentY() const override { return y; }
+  [[nodiscard]] double PageWidth() const override { return pageWidth; }
+  [[nodiscard]] double PageHeight() const override { return pageHeight; }
+  [[nodiscard]] double TextWidth(const Text& text) const override {
+    std::size_t widest = 0;
+    for (const Text& line : Lines(text)) widest = std::max(widest, line.size());
+    return kCharacterWidth * static_cast<double>(widest);
+  }
+  [[nodiscard]] double TextHeight(const Text& text) const override {
+    return kLineHeight * static_cast<double>(Lines(text).size());
+  }
+  void NewPage() override {
+    record.Add("New page");
+    y = 0;
+  }
+  void EndDocument() override {
+    record.Add("End");
+    y = 0;
+  }
+  void DropDocument() override {
+    record.Add("Drop");
+    y = 0;
+  }
+
+ private:
+  static std::string Number(double value) {
+    std::ostringstream stream;
+    stream << value;
+    return stream.str();
+  }
+  static std::vector<Text> Lines(const Text& text) {
+    std::vector<Text> lines;
+    std::size_t start = 0;
+    for (std::size_t end = text.find(kLineBreak); end != Text::npos;
+         end = text.find(kLineBreak, start)) {
+      lines.push_back(text.substr(start, end - start));
+      start = end + kLineBreak.size();
+    }
+    lines.push_back(text.substr(start));
+    return lines;
+  }
+};
+
+}  // namespace tessara::test
