@@ -20,6 +20,8 @@ class FileNumber {
   /// Sequential reading.
   void OpenInput(const Text& path);
   [[nodiscard]] bool IsOpen() const { return file_ != nullptr; }
+  /// Sequential reading starts over at the first byte.
+  void Rewind() { position_ = 0; }
   void Close() { file_.reset(); }
 
   /// Reads the next record; a short last one is filled up with zero bytes. False at the end of
