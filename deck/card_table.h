@@ -128,6 +128,8 @@ struct ProgramState {
 void ClearAllCards(ProgramState& state);
 /// Empties the information row and the five deck strings.
 void ClearDeckInfo(ProgramState& state);
+/// Empties a card's row, its stray column apart, and marks it absent. Raises error 9.
+void EmptyCardRow(ProgramState& state, int row);
 /// Closes the first gap in rows 1 to 200 and renumbers what moves up.
 void CompactCards(ProgramState& state);
 

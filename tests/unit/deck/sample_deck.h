@@ -1,0 +1,72 @@
+#pragma once
+
+#include "deck/deck_file.h"
+#include "tests/support/memory_files.h"
+
+namespace tessara::test {
+
+/// The number of the run-time error that the action raises; 0 where it raises none.
+template <class Action>
+int ErrorOf(const Action& action) {
+  try {
+    action();
+  } catch (const RunTimeError& error) {
+    return static_cast<int>(error.Number());
+  }
+  return 0;
+}
+
+/// Puts a text card into the row, as a builder does.
+inline void PutCard(ProgramState& state, int row, const Text& front, const Text& back) {
+  state.CardGrid.Set(row, kCardType, u"E");
+  state.CardGrid.Set(row, kCardText, front);
+  state.CardGrid.Set(row, kRowNumber, DecimalText(row));
+  state.CardGrid.Set(row, kBackText, back);
+  state.CardPresent.Set(row, 1);
+}
+
+/// Cards "front 1", "back 1" and so on, behind an information row.
+inline void FillDeck(ProgramState& state, int cards) {
+  state.CardGrid.Set(kInfoRow, kCardType, u"I");
+  state.CardGrid.Set(kInfoRow, kRowNumber, u"0");
+  state.CardGrid.Set(kInfoRow, kInfoTitle, u"A title");
+  state.CardPresent.Set(kInfoRow, 1);
+  for (int row = 1; row <= cards; ++row) {
+    PutCard(state, row, u"front " + DecimalText(row), u"back " + DecimalText(row));
+  }
+  state.CardCount = static_cast<std::int16_t>(cards);
+}
+
+inline const Text kSamplePath = u"/decks/sample.tsr";
+
+/// A disk with one folder, /decks, and the one open file of the program.
+struct DeckDisk {
+  MemoryFiles files;
+  FileNumber file{files};
+
+  DeckDisk() { files.folders.insert(u"/decks"); }
+
+  /// The file's bytes after the real writer has written the table to it.
+  std::string Write(const ProgramState& state) {
+    file.OpenRandom(kSamplePath, OpenMode::kReadAndWrite, kRecordSize);
+    WriteRecords(state, file, CodePage::Western());
+    file.Close();
+    return files.Bytes(kSamplePath);
+  }
+
+  void Load(ProgramState& state) {
+    LoadDeckFromFile(kSamplePath, state, file, CodePage::Western());
+  }
+};
+
+/// One record's bytes: its letter, its text, its row.
+inline std::string RecordBytesOf(const Text& type, const Text& text, int number) {
+  DeckRecord record;
+  record.cardType = type;
+  record.text = text;
+  record.number = static_cast<std::int16_t>(number);
+  const RecordBytes bytes = EncodeRecord(record, CodePage::Western());
+  return {bytes.data(), bytes.size()};
+}
+
+}  // namespace tessara::test
