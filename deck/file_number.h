@@ -24,16 +24,17 @@ class FileNumber {
   void Rewind() { position_ = 0; }
   void Close() { file_.reset(); }
 
-  /// Reads the next record; a short last one is filled up with zero bytes. False at the end of
-  /// the file. Raises error 52 where nothing is open.
-  bool GetNext(std::span<char> record);
+  /// Reads the next record into the front of `record`: its bytes, which are fewer for a short
+  /// last one and 0 at the end of the file. Raises error 52 where nothing is open.
+  std::size_t GetNext(std::span<char> record);
   /// Writes record number `number`, counted from 1. Raises error 52 where nothing is open.
   void Put(std::uint64_t number, std::span<const char> record);
   /// Reads the next bytes, 0 at the end of the file. Raises error 52 where nothing is open.
   std::size_t ReadNext(std::span<char> buffer);
 
  private:
-  File& Open();
+  void OpenFile(const Text& path, OpenMode mode);
+  File& OpenedFile();
 
   FileSystem& files_;
   std::unique_ptr<File> file_;
