@@ -12,7 +12,7 @@ namespace tessara {
 /// Bytes of a record of the deck file; docs/deck-format.md has the fields.
 inline constexpr std::size_t kRecordSize = 1192;
 
-/// One row of the table as the file holds it: texts without the blanks that fill their fields.
+/// One row of the table as the file holds it, field by field.
 struct DeckRecord {
   Text cardType;
   Text text;
@@ -32,6 +32,10 @@ using RecordBytes = std::array<char, kRecordSize>;
 
 /// The record of a row; the row behind the last card gives the terminator.
 [[nodiscard]] DeckRecord RecordOfRow(const ProgramState& state, int row);
+
+/// Writes a record for each row down to the first absent one, whose record is the terminator.
+/// A record that can't be written is skipped; no error is raised.
+void WriteRecords(const ProgramState& state, FileNumber& file, const CodePage& codePage);
 
 /// Reads the file into the table, the card count, the deck strings, and sets the current card
 /// to 1. Rows that the file does not name stay: the caller has emptied the table. Raises error 9

@@ -1,0 +1,414 @@
+#include "deck/deck_file.h"
+
+#include <algorithm>
+#include <doctest/doctest.h>
+#include <random>
+
+#include "tests/unit/deck/sample_deck.h"
+
+namespace tessara::test {
+
+namespace {
+
+const CodePage& kWestern = CodePage::Western();
+
+/// What a deck with these bytes loads as, into an emptied table.
+ProgramState Loaded(const std::string& bytes) {
+  DeckDisk disk;
+  disk.files.Put(kSamplePath, bytes);
+  ProgramState state;
+  disk.Load(state);
+  return state;
+}
+
+ProgramState SampleDeck(int cards) {
+  ProgramState state;
+  FillDeck(state, cards);
+  return state;
+}
+
+}  // namespace
+
+TEST_CASE("a record has each field at its place, filled up with blanks") {
+  DeckRecord record;
+  record.cardType = u"M";
+  record.text = u"front";
+  record.number = 0x1234;
+  record.shortFields = {u"a", u"b", u"c", u"d"};
+  record.answer = u"C";
+  record.longText = u"back";
+  const RecordBytes bytes = EncodeRecord(record, kWestern);
+  const std::string all(bytes.data(), bytes.size());
+  CHECK(all.size() == 1192);
+  CHECK(all.substr(0, 7) == "Mfront ");
+  CHECK(all.substr(444, 3) == " \x34\x12");
+  CHECK(all.substr(447, 2) == "a ");
+  CHECK(all.substr(521, 3) == " b ");
+  CHECK(all.substr(596, 3) == " c ");
+  CHECK(all.substr(671, 3) == " d ");
+  CHECK(all.substr(746, 7) == " Cback ");
+  CHECK(all.back() == ' ');
+}
+
+TEST_CASE("the number of a record is signed and little-endian") {
+  for (const int number : {0, 1, 200, 255, 256, 32767, -1, -32768}) {
+    DeckRecord record;
+    record.number = static_cast<std::int16_t>(number);
+    CHECK(DecodeRecord(EncodeRecord(record, kWestern), kWestern).number == number);
+  }
+}
+
+TEST_CASE("a text longer than its field is cut without a word") {
+  DeckRecord record;
+  record.cardType = u"Mx";
+  record.text = Text(444, u't') + u"!";
+  record.shortFields = {Text(75, u'a') + u"!", u"b", u"c", Text(200, u'd')};
+  record.answer = u"A!";
+  record.longText = Text(444, u'l') + u"!";
+  const DeckRecord read = DecodeRecord(EncodeRecord(record, kWestern), kWestern);
+  CHECK(read.cardType == u"M");
+  CHECK(read.text == Text(444, u't'));
+  CHECK(read.shortFields[0] == Text(75, u'a'));
+  CHECK(read.shortFields[1] == u"b" + Text(74, u' '));
+  CHECK(read.shortFields[3] == Text(75, u'd'));
+  CHECK(read.answer == u"A");
+  CHECK(read.longText == Text(444, u'l'));
+}
+
+TEST_CASE("all 256 bytes of a text survive a load and a save") {
+  std::string every;
+  for (int byte = 0; byte < 256; ++byte) every += static_cast<char>(byte);
+  ProgramState state = SampleDeck(1);
+  state.CardGrid.Set(1, kCardText, u"|" + kWestern.Decode(every) + u"|");
+  DeckDisk disk;
+  const std::string bytes = disk.Write(state);
+  CHECK(bytes.find("|" + every + "|") == kRecordSize + 1);
+  ProgramState loaded;
+  disk.Load(loaded);
+  CHECK(loaded.Cell(1, kCardText) == state.Cell(1, kCardText));
+  CHECK(disk.Write(loaded) == bytes);
+}
+
+TEST_CASE("a deck is written as information, cards and terminator") {
+  struct Case {
+    int cards;
+    std::size_t records;
+  };
+  for (const Case& c : {Case{1, 3}, Case{10, 12}, Case{200, 202}}) {
+    DeckDisk disk;
+    const std::string bytes = disk.Write(SampleDeck(c.cards));
+    REQUIRE(bytes.size() == c.records * kRecordSize);
+    CHECK(bytes[0] == 'I');
+    CHECK(bytes[kRecordSize] == 'E');
+    const std::string last = bytes.substr(bytes.size() - kRecordSize);
+    CHECK(last == RecordBytesOf(u"X", u"", 0));
+  }
+}
+
+TEST_CASE("a table without an absent row is written down to row 202 and has no terminator") {
+  ProgramState state = SampleDeck(202);
+  DeckDisk disk;
+  const std::string bytes = disk.Write(state);
+  CHECK(bytes.size() == 203 * kRecordSize);
+  CHECK(bytes[202 * kRecordSize] == 'E');
+}
+
+TEST_CASE("a row counts as present for the writer when its flag is not 0") {
+  ProgramState state = SampleDeck(1);
+  state.CardPresent.Set(1, -1);
+  DeckDisk disk;
+  CHECK(disk.Write(state)[kRecordSize] == 'E');
+}
+
+TEST_CASE("an absent row gives a terminator with what its cells hold") {
+  ProgramState state = SampleDeck(0);
+  state.CardGrid.Set(1, kCardText, u"left over");
+  state.CardGrid.Set(1, kRowNumber, u"1");
+  const DeckRecord record = RecordOfRow(state, 1);
+  CHECK(record.cardType == u"X");
+  CHECK(record.number == 0);
+  CHECK(record.text == u"left over");
+}
+
+TEST_CASE("a row without a number is written as row 0") {
+  ProgramState state = SampleDeck(1);
+  state.CardGrid.Set(1, kRowNumber, u"");
+  CHECK(RecordOfRow(state, 1).number == 0);
+}
+
+TEST_CASE("records behind the terminator of a shorter deck stay in the file and are not read") {
+  DeckDisk disk;
+  (void)disk.Write(SampleDeck(10));
+  CHECK(disk.Write(SampleDeck(3)).size() == 12 * kRecordSize);
+  ProgramState state;
+  disk.Load(state);
+  CHECK(state.CardCount == 3);
+  CHECK(state.Cell(4, kCardText).empty());
+}
+
+TEST_CASE("a record that can't be written is skipped and the others are written") {
+  DeckDisk disk;
+  int writes = 0;
+  disk.files.fault = [&writes](MemoryFiles::Operation operation, const Text&) {
+    const bool fails = operation == MemoryFiles::Operation::kWrite && ++writes == 2;
+    return fails ? std::optional(ErrorNumber::kDiskFull) : std::nullopt;
+  };
+  const std::string bytes = disk.Write(SampleDeck(2));
+  CHECK(writes == 4);
+  CHECK(bytes.size() == 4 * kRecordSize);
+  CHECK(bytes[kRecordSize] == '\0');
+  CHECK(bytes[2 * kRecordSize] == 'E');
+}
+
+TEST_CASE("a deck loads with its cards, its count and its strings, at card 1") {
+  ProgramState saved = SampleDeck(3);
+  saved.CardGrid.Set(kInfoRow, kInfoDate, u" 1/5/2026");
+  saved.CardGrid.Set(kInfoRow, kInfoType, u" Standard");
+  saved.CardGrid.Set(kInfoRow, kInfoTitle, u" Capitals");
+  saved.CardGrid.Set(kInfoRow, kInfoAuthor, u" Me");
+  saved.CardGrid.Set(kInfoRow, kInfoDescription, u" All of them");
+  DeckDisk disk;
+  (void)disk.Write(saved);
+  ProgramState state;
+  disk.Load(state);
+  CHECK(state.CardCount == 3);
+  CHECK(state.CurrentCard == 1);
+  CHECK(state.Cell(2, kCardType) == u"E");
+  CHECK(state.Cell(2, kCardText) == u"front 2");
+  CHECK(state.Cell(2, kRowNumber) == u"2");
+  CHECK(state.Cell(2, kBackText) == u"back 2");
+  CHECK(state.CardPresent.At(2) == 1);
+  CHECK(state.CardPresent.At(4) == 0);
+  CHECK(state.DeckDate == u"1/5/2026");
+  CHECK(state.DeckTypeName == u"Standard");
+  CHECK(state.DeckTitle == u"Capitals");
+  CHECK(state.DeckAuthor == u"Me");
+  CHECK(state.DeckDescription == u"All of them");
+  CHECK_FALSE(disk.file.IsOpen());
+}
+
+TEST_CASE("the fields of a question land in their columns") {
+  DeckRecord record;
+  record.cardType = u"M";
+  record.text = u"question";
+  record.number = 1;
+  record.shortFields = {u"a", u"b", u"c", u"d"};
+  record.answer = u"B";
+  const RecordBytes bytes = EncodeRecord(record, kWestern);
+  const ProgramState state = Loaded({bytes.data(), bytes.size()});
+  CHECK(state.Cell(1, kChoiceA) == u"a");
+  CHECK(state.Cell(1, kChoiceB) == u"b");
+  CHECK(state.Cell(1, kChoiceC) == u"c");
+  CHECK(state.Cell(1, kChoiceD) == u"d");
+  CHECK(state.Cell(1, kAnswer) == u"B");
+}
+
+TEST_CASE("a load removes the blanks at both ends and nothing else") {
+  struct Case {
+    Text saved;
+    Text loaded;
+  };
+  const Case cases[] = {
+      {u"  both  ", u"both"},
+      {u"ends in a break\r\n", u"ends in a break\r\n"},
+      {u"\r\nbegins with one", u"\r\nbegins with one"},
+      {u"\ttabs\t", u"\ttabs\t"},
+      {Text(443, u'x') + u" ", Text(443, u'x')},
+      {Text(445, u'x'), Text(444, u'x')},
+      {u"   ", u""},
+  };
+  for (const Case& c : cases) {
+    ProgramState state = SampleDeck(1);
+    state.CardGrid.Set(1, kCardText, c.saved);
+    DeckDisk disk;
+    (void)disk.Write(state);
+    CHECK(state.Cell(1, kCardText) == c.saved);
+    ProgramState loaded;
+    disk.Load(loaded);
+    CHECK(loaded.Cell(1, kCardText) == c.loaded);
+  }
+}
+
+TEST_CASE("a file with 201 cards loads the first 200") {
+  std::string bytes = RecordBytesOf(u"I", u"", 0);
+  for (int row = 1; row <= 201; ++row) bytes += RecordBytesOf(u"E", u"x", row);
+  const ProgramState state = Loaded(bytes);
+  CHECK(state.CardCount == 200);
+  CHECK(state.Cell(200, kCardText) == u"x");
+  CHECK(state.Cell(201, kCardText).empty());
+}
+
+TEST_CASE("information behind the 200th card is not read any more") {
+  std::string bytes;
+  for (int row = 1; row <= 200; ++row) bytes += RecordBytesOf(u"E", u"x", row);
+  const ProgramState state = Loaded(bytes + RecordBytesOf(u"I", u"late", 0));
+  CHECK(state.CardCount == 200);
+  CHECK(state.CardPresent.At(kInfoRow) == 0);
+}
+
+TEST_CASE("a card lands in the row of its number wherever it stands in the file") {
+  const ProgramState state =
+      Loaded(RecordBytesOf(u"E", u"seven", 7) + RecordBytesOf(u"E", u"one", 1));
+  CHECK(state.Cell(7, kCardText) == u"seven");
+  CHECK(state.Cell(7, kRowNumber) == u"7");
+  CHECK(state.Cell(1, kCardText) == u"one");
+  CHECK(state.CardCount == 2);
+}
+
+TEST_CASE("a row that the file names twice counts twice and holds the later one") {
+  const ProgramState state =
+      Loaded(RecordBytesOf(u"E", u"first", 1) + RecordBytesOf(u"E", u"second", 1));
+  CHECK(state.Cell(1, kCardText) == u"second");
+  CHECK(state.CardCount == 2);
+}
+
+TEST_CASE("a file that begins with the terminator loads as no cards at card 1") {
+  const ProgramState state = Loaded(RecordBytesOf(u"X", u"", 0) + RecordBytesOf(u"E", u"x", 1));
+  CHECK(state.CardCount == 0);
+  CHECK(state.CurrentCard == 1);
+  CHECK_FALSE(state.HasCards());
+}
+
+TEST_CASE("only a capital X ends a deck; any other letter is a card") {
+  for (const char16_t letter : {u'x', u'Q', u' ', u'\0', u'\u00D7'}) {
+    const ProgramState state = Loaded(RecordBytesOf(Text(1, letter), u"odd", 1));
+    CHECK(state.CardCount == 1);
+    CHECK(state.Cell(1, kCardText) == u"odd");
+  }
+}
+
+TEST_CASE("a deck without an information record has empty strings") {
+  DeckDisk disk;
+  disk.files.Put(kSamplePath, RecordBytesOf(u"E", u"x", 1));
+  ProgramState state;
+  state.DeckTitle = u"the deck before";
+  disk.Load(state);
+  CHECK(state.DeckTitle.empty());
+  CHECK(state.CardCount == 1);
+}
+
+TEST_CASE("a load leaves rows alone that the file does not name") {
+  DeckDisk disk;
+  disk.files.Put(kSamplePath, RecordBytesOf(u"E", u"x", 1));
+  ProgramState state = SampleDeck(2);
+  disk.Load(state);
+  CHECK(state.CardCount == 1);
+  CHECK(state.Cell(2, kCardText) == u"front 2");
+}
+
+TEST_CASE("a file without a terminator ends with its last record") {
+  CHECK(Loaded("").CardCount == 0);
+  CHECK(Loaded(RecordBytesOf(u"E", u"x", 1)).CardCount == 1);
+}
+
+TEST_CASE("a record that is cut off counts from its number on, with blanks for the rest") {
+  const std::string card = RecordBytesOf(u"E", u"front", 1);
+  CHECK(Loaded(card.substr(0, 446)).CardCount == 0);
+  for (const std::size_t length : {447, 448, 747, 1191}) {
+    const ProgramState state = Loaded(card.substr(0, length));
+    CHECK(state.CardCount == 1);
+    CHECK(state.Cell(1, kCardText) == u"front");
+    CHECK(state.Cell(1, kBackText).empty());
+  }
+}
+
+TEST_CASE("a number outside the table is a subscript error") {
+  for (const int number : {-32768, -1, 203, 32767}) {
+    CHECK(ErrorOf([&] { (void)Loaded(RecordBytesOf(u"E", u"x", number)); }) == 9);
+  }
+  CHECK(Loaded(RecordBytesOf(u"E", u"x", 202)).Cell(202, kCardText) == u"x");
+}
+
+TEST_CASE("the errors of the file reach the caller of a load") {
+  DeckDisk disk;
+  ProgramState state;
+  CHECK(ErrorOf([&] { disk.Load(state); }) == 53);
+  CHECK(ErrorOf([&] { LoadDeckFromFile(u"", state, disk.file, kWestern); }) == 75);
+  disk.files.Put(kSamplePath, RecordBytesOf(u"E", u"x", 1));
+  disk.files.fault = [](MemoryFiles::Operation operation, const Text&) {
+    const bool reads = operation == MemoryFiles::Operation::kRead;
+    return reads ? std::optional(ErrorNumber::kDeviceIo) : std::nullopt;
+  };
+  CHECK(ErrorOf([&] { disk.Load(state); }) == 57);
+}
+
+// Damage: whatever becomes of a deck that the program wrote, it loads or raises a run-time error,
+// and what has been loaded can be written and loaded again.
+
+namespace {
+
+void CheckDamaged(const std::string& bytes) {
+  ProgramState state;
+  try {
+    state = Loaded(bytes);
+  } catch (const RunTimeError& error) {
+    CHECK(error.Number() == ErrorNumber::kSubscriptOutOfRange);
+    return;
+  }
+  CHECK(state.CardCount >= 0);
+  CHECK(state.CardCount <= kMostCards);
+  CHECK(state.CurrentCard == 1);
+  DeckDisk disk;
+  const std::string rewritten = disk.Write(state);
+  CHECK(rewritten.size() % kRecordSize == 0);
+  ProgramState again;
+  disk.Load(again);
+  CHECK(again.CardCount <= state.CardCount);
+}
+
+std::string WrittenDeck(int cards) {
+  DeckDisk disk;
+  return disk.Write(SampleDeck(cards));
+}
+
+}  // namespace
+
+TEST_CASE("a deck with one flipped byte loads or raises a subscript error") {
+  const std::string deck = WrittenDeck(2);
+  for (std::size_t at = 0; at < deck.size(); ++at) {
+    std::string damaged = deck;
+    damaged[at] = static_cast<char>(~damaged[at]);
+    CheckDamaged(damaged);
+  }
+}
+
+TEST_CASE("a deck cut off anywhere loads what stands before the cut") {
+  const std::string deck = WrittenDeck(2);
+  for (std::size_t length = 0; length <= deck.size(); ++length) {
+    const ProgramState state = Loaded(deck.substr(0, length));
+    const std::size_t numberEnd = 447;
+    const bool first = length >= kRecordSize + numberEnd;
+    const bool second = length >= 2 * kRecordSize + numberEnd;
+    CHECK(state.CardCount == (first ? 1 : 0) + (second ? 1 : 0));
+  }
+}
+
+TEST_CASE("a deck with bytes lost or added in the middle loads or raises a subscript error") {
+  const std::string deck = WrittenDeck(3);
+  for (std::size_t at = 0; at < deck.size(); at += 97) {
+    std::string shorter = deck;
+    CheckDamaged(shorter.erase(at, 1 + at % 5));
+    std::string longer = deck;
+    CheckDamaged(longer.insert(at, 1 + at % 5, '\xFF'));
+  }
+}
+
+TEST_CASE("a deck with stretches of other bytes loads or raises a subscript error") {
+  const std::string deck = WrittenDeck(5);
+  std::mt19937 random(7);
+  for (int round = 0; round < 500; ++round) {
+    std::string damaged = deck;
+    const std::size_t at = random() % damaged.size();
+    const std::size_t length = std::min<std::size_t>(random() % 300, damaged.size() - at);
+    for (std::size_t i = 0; i < length; ++i) damaged[at + i] = static_cast<char>(random());
+    CheckDamaged(damaged);
+  }
+}
+
+TEST_CASE("a file of other bytes altogether loads or raises a subscript error") {
+  for (const char byte : {'\0', ' ', 'E', '\x7F', '\xFF'}) {
+    CheckDamaged(std::string(5 * kRecordSize + 500, byte));
+  }
+}
+
+}  // namespace tessara::test
