@@ -1,0 +1,33 @@
+#include "deck/long_path_of.h"
+
+#include <algorithm>
+
+namespace tessara {
+
+namespace {
+
+constexpr TextView kSeparators = u"/\\";
+
+/// "C:", or nothing.
+Text DriveOf(const Text& path) {
+  const bool drive = path.size() > 1 && path[1] == u':';
+  return drive ? path.substr(0, 2) : Text();
+}
+
+}  // namespace
+
+Text LongPathOf(const Text& xPath, FileSystem& files) {
+  Text longPath = DriveOf(xPath);
+  std::size_t done = longPath.size();
+  for (;;) {
+    const std::size_t name = xPath.find_first_not_of(kSeparators, done);
+    if (name == Text::npos) return longPath;
+    const std::size_t end = std::min(xPath.find_first_of(kSeparators, name), xPath.size());
+    const auto entry = files.EntryName(xPath.substr(0, end));
+    if (!entry) return {};
+    longPath += xPath.substr(done, name - done) + *entry;
+    done = end;
+  }
+}
+
+}  // namespace tessara
