@@ -3,6 +3,7 @@
 #include "deck/app_context.h"
 #include "deck/card_face.h"
 #include "deck/file_number.h"
+#include "deck/move_buttons.h"
 #include "forms/controls.h"
 #include "forms/form.h"
 #include "forms/window.h"
@@ -10,9 +11,6 @@
 namespace tessara {
 
 class frmInfo;
-
-/// The two arrow buttons of a window that shows cards.
-using MoveButtons = ControlArray<Button, 2>;
 
 /// The deck window as the life of a deck knows it: its menus, the buttons and labels that hang
 /// on the deck's state, and the commands from new to close. What it looks like and how cards are
@@ -88,8 +86,5 @@ class DeckWindow : public Form {
   Window<frmInfo> info_;
   WindowSlot* questionBuilder_ = nullptr;
 };
-
-/// The same for any window that shows cards: with no cards both arrows are off.
-void SetMoveButtons(MoveButtons& owner, const ProgramState& state);
 
 }  // namespace tessara

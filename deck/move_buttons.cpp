@@ -1,0 +1,11 @@
+#include "deck/move_buttons.h"
+
+namespace tessara {
+
+void SetMoveButtons(MoveButtons& owner, const ProgramState& state) {
+  const bool hasCards = state.CardCount != 0;
+  owner[0].SetEnabled(hasCards && state.CurrentCard != 1);
+  owner[1].SetEnabled(hasCards && state.CurrentCard < state.CardCount);
+}
+
+}  // namespace tessara

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "deck/card_table.h"
+#include "forms/control_array.h"
+#include "forms/controls.h"
+
+namespace tessara {
+
+/// The two arrow buttons of a window that shows cards: back, and on.
+using MoveButtons = ControlArray<Button, 2>;
+
+/// Brings the arrows of a builder in line with the place in the deck; with no cards both are off.
+void SetMoveButtons(MoveButtons& owner, const ProgramState& state);
+
+}  // namespace tessara

@@ -1,0 +1,32 @@
+#include "deck/move_buttons.h"
+
+#include <doctest/doctest.h>
+
+namespace tessara::test {
+
+TEST_CASE("the arrows are on where there is a card to go to") {
+  struct Case {
+    std::int16_t current;
+    std::int16_t count;
+    bool back;
+    bool on;
+  };
+  const Case cases[] = {
+      {0, 0, false, false}, {1, 0, false, false}, {5, 0, false, false},
+      {1, 1, false, false}, {1, 2, false, true},  {2, 2, true, false},
+      {2, 3, true, true},   {0, 2, true, true},   {4, 3, true, false},
+  };
+  for (const Case& c : cases) {
+    CAPTURE(c.current);
+    CAPTURE(c.count);
+    ProgramState state;
+    state.CurrentCard = c.current;
+    state.CardCount = c.count;
+    MoveButtons arrows;
+    SetMoveButtons(arrows, state);
+    CHECK(arrows[0].Enabled() == c.back);
+    CHECK(arrows[1].Enabled() == c.on);
+  }
+}
+
+}  // namespace tessara::test
