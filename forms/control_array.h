@@ -19,10 +19,10 @@ class ControlArray {
   C& operator[](int index) { return controls_[Offset(index)]; }
   const C& operator[](int index) const { return controls_[Offset(index)]; }
 
-  auto begin() { return controls_.begin(); }
-  auto end() { return controls_.end(); }
-  auto begin() const { return controls_.begin(); }
-  auto end() const { return controls_.end(); }
+  [[nodiscard]] auto begin() { return controls_.begin(); }
+  [[nodiscard]] auto end() { return controls_.end(); }
+  [[nodiscard]] auto begin() const { return controls_.begin(); }
+  [[nodiscard]] auto end() const { return controls_.end(); }
 
   /// One handler for all: it gets the index. Example: Wire(&Button::onClick, handler).
   template <class Slot>
