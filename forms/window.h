@@ -46,12 +46,12 @@ class Window {
 
   /// The loaded window: its first use loads it.
   F* operator->() const { return &Loaded(); }
-  F& Loaded() const {
+  [[nodiscard]] F& Loaded() const {
     Instance().EnsureLoaded();
     return Instance();
   }
   /// The window without loading it: for its routines that may not need its controls.
-  F& Instance() const { return static_cast<F&>(slot_->Instance()); }
+  [[nodiscard]] F& Instance() const { return static_cast<F&>(slot_->Instance()); }
   [[nodiscard]] bool IsLoaded() const { return slot_->IsLoaded(); }
   bool Unload() const { return slot_->Unload(); }  // NOLINT(modernize-use-nodiscard)
   [[nodiscard]] WindowSlot& Slot() const { return *slot_; }
