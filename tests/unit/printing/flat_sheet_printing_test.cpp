@@ -1,0 +1,176 @@
+#include <doctest/doctest.h>
+
+#include "platform/run_time_error.h"
+#include "printing/PrintCard.h"
+#include "tests/unit/printing/print_desk.h"
+
+namespace tessara {
+namespace {
+
+using test::PrintDesk;
+using Calls = std::vector<std::string>;
+using Shown = test::FakeMessages::Shown;
+
+/// A print window in flat mode.
+PrintCard& OpenFlat(PrintDesk& desk, int ticked) {
+  PrintCard& window = desk.OpenTicked(ticked);
+  window.Check1.SetTicked(true);
+  return window;
+}
+
+Calls PrintFlat(PrintDesk& desk, int ticked) {
+  PrintCard& window = OpenFlat(desk, ticked);
+  desk.ChoosePrinter();
+  window.Command1[1].Press();
+  return desk.surface.record.Take();
+}
+
+void DescribeDeck(ProgramState& state) {
+  state.DeckTitle = u"Capitals";
+  state.DeckAuthor = u"Ada";
+  state.DeckDate = u"1/5/2026";
+  state.DeckDescription = u"of Europe";
+  state.DeckTypeName = u"Standard";
+}
+
+const Calls kHeader{"Destination /home/me/cards.pdf",
+                    "Copies 1",
+                    "Copies 1",
+                    "Font Arial",
+                    "Size 9",
+                    "Line TITLE: Capitals",
+                    "Line CREATED BY: Ada",
+                    "Line DATE: 1/5/2026",
+                    "Line DESCRIPTION: of Europe\r\nDECK TYPE: Standard",
+                    "Line ",
+                    "Line Total Cards: 3",
+                    "Line "};
+
+TEST_CASE("a flat document lists the ticked cards below a header, texts one row too far") {
+  PrintDesk desk;
+  DescribeDeck(desk.state);
+  Calls expected = kHeader;
+  const Calls body{"Font Arial", "Size 10",      "Bold on",     "Rule 0 1600 4000 1600",
+                   "Line ",      "Line Card #1", "Bold off",    "Line front 2",
+                   "Line ",      "Italic on",    "Line back 2", "Line ",
+                   "Italic off", "Italic off",   "Italic off",  "End",
+                   "Box PRINT"};
+  expected.insert(expected.end(), body.begin(), body.end());
+  CHECK(PrintFlat(desk, 1) == expected);
+  CHECK(desk.server.record.calls == Calls{"Box PRINT"});
+}
+
+TEST_CASE("the block of the last card is empty and the texts of card 1 are never printed") {
+  PrintDesk desk;
+  const Calls calls = PrintFlat(desk, 3);
+  const auto has = [&calls](const char* line) {
+    return std::find(calls.begin(), calls.end(), line) != calls.end();
+  };
+  CHECK_FALSE(has("Line front 1"));
+  CHECK_FALSE(has("Line back 1"));
+  const auto last = std::find(calls.begin(), calls.end(), "Line Card #3");
+  REQUIRE(last != calls.end());
+  CHECK(Calls(last + 1, calls.end()) == Calls{"Bold off", "Line ", "Line ", "Italic on", "Line ",
+                                              "Line ", "Italic off", "End", "Box PRINT"});
+}
+
+TEST_CASE("the header counts all cards of the deck") {
+  PrintDesk desk(5);
+  desk.Open();
+  const Calls calls = PrintFlat(desk, 1);
+  CHECK(std::find(calls.begin(), calls.end(), "Line Total Cards: 5") != calls.end());
+}
+
+TEST_CASE("an extended deck has its answers for backs") {
+  PrintDesk desk;
+  desk.state.DeckType = kExtendedDeck;
+  desk.state.CardGrid.Set(2, kAnswer, u"T");
+  const Calls calls = PrintFlat(desk, 1);
+  const auto italic = std::find(calls.begin(), calls.end(), "Italic on");
+  REQUIRE(italic != calls.end());
+  CHECK(*(italic + 1) == "Line TRUE");
+}
+
+TEST_CASE("a document leaves the number of the last ticked card and no position behind") {
+  PrintDesk desk(4);
+  desk.state.FlatLastY = 77;
+  PrintFlat(desk, 2);
+  CHECK(desk.state.CurrentCard == 2);
+  CHECK(desk.state.FlatLastY == 0);
+}
+
+TEST_CASE("each further flat copy is asked for and is a whole document") {
+  for (const bool wanted : {true, false}) {
+    CAPTURE(wanted);
+    PrintDesk desk;
+    PrintCard& window = OpenFlat(desk, 1);
+    desk.ChoosePrinter(2);
+    desk.fakes.messages.answers = {wanted ? MessageAnswer::kYes : MessageAnswer::kNo};
+    window.Command1[1].Press();
+    const auto& shown = desk.fakes.messages.shown;
+    REQUIRE(shown.size() == 2);
+    constexpr int kFlags = 36;
+    CHECK(shown[0] ==
+          Shown{u"Perparing to print copy # 2 of 2, do want to continue?", kFlags, u"Print Cards"});
+    CHECK(shown[1].title == u"PRINT");
+    CHECK(desk.surface.record.Count("End") == (wanted ? 2 : 1));
+    CHECK(desk.surface.record.Count("Copies 1") == (wanted ? 3 : 2));
+    CHECK_FALSE(desk.state.PrintCancelled);
+  }
+}
+
+TEST_CASE("a word wider than the page drops the document, and the next one starts afresh") {
+  PrintDesk desk;
+  desk.state.CardGrid.Set(2, kCardText, Text(41, u'x'));
+  PrintCard& window = OpenFlat(desk, 1);
+  desk.ChoosePrinter();
+  bool flagBehindTheBox = true;
+  desk.fakes.messages.whileShown = [&](const Shown&) {
+    flagBehindTheBox = desk.state.PrintCancelled;
+  };
+  window.Command1[1].Press();
+  CHECK(desk.fakes.messages.Take() ==
+        std::vector<Shown>{{u"Printing was cancelled", kOkOnly, u"Cancel Printing"}});
+  CHECK_FALSE(flagBehindTheBox);
+  CHECK(desk.state.PrintCancelled);
+  CHECK(desk.surface.record.Count("End") == 0);
+  CHECK(desk.surface.record.calls.back() == "Drop");
+  CHECK(desk.state.FlatLastY == 1000);
+
+  desk.state.CardGrid.Set(2, kCardText, u"short");
+  desk.ChoosePrinter();
+  window.Command1[1].Press();
+  CHECK(desk.surface.record.Count("End") == 1);
+  CHECK(desk.state.FlatLastY == 0);
+}
+
+TEST_CASE("an error of any operation of the surface cancels the flat job") {
+  const char* failures[] = {"Destination", "Copies",      "Font",       "Size",
+                            "Line TITLE",  "Rule",        "Bold on",    "Line front 2",
+                            "Italic on",   "Line back 2", "Italic off", "End"};
+  for (const char* failing : failures) {
+    CAPTURE(failing);
+    PrintDesk desk;
+    PrintCard& window = OpenFlat(desk, 1);
+    desk.ChoosePrinter();
+    desk.surface.record.FailAt(failing, ErrorNumber::kPrinterError);
+    window.Command1[1].Press();
+    CHECK(desk.fakes.messages.shown ==
+          std::vector<Shown>{{u"Printing was cancelled", kOkOnly, u"Cancel Printing"}});
+    CHECK(desk.surface.record.Count("Drop") == 1);
+    CHECK(desk.state.PrintCancelled);
+  }
+}
+
+TEST_CASE("flat sheets need no spreadsheet server") {
+  PrintDesk desk;
+  desk.state.CanPrintCards = false;
+  PrintCard& window = desk.OpenTicked(1);
+  desk.ChoosePrinter();
+  window.Command1[1].Press();
+  CHECK(desk.surface.record.Count("End") == 1);
+  CHECK(desk.server.record.calls == Calls{"Box PRINT"});
+}
+
+}  // namespace
+}  // namespace tessara

@@ -1,0 +1,83 @@
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "deck/app_context.h"
+#include "forms/window.h"
+#include "printing/PrintCard.h"
+#include "printing/spreadsheet_job.h"
+#include "tests/support/fake_machine.h"
+#include "tests/support/headless_renderer.h"
+#include "tests/support/recording_print_surface.h"
+#include "tests/support/recording_spreadsheet.h"
+#include "tests/support/test_frame.h"
+
+namespace tessara::test {
+
+/// A print window on a recording spreadsheet server and a recording print surface. The record of
+/// each also has the message boxes, as "Box TITLE".
+class PrintDesk {
+ public:
+  FakeMachine fakes;
+  RecordingSpreadsheet server;
+  RecordingPrintSurface surface;
+  Machine machine = WithRecorders();
+  WindowSystem windows{fakes.messages, machine.codePage};
+  HeadlessRenderer renderer;
+  ProgramState state;
+  TestFrame frame;
+  AppContext app{windows, machine, state, frame};
+  SpreadsheetJob job{machine};
+  WindowSlot deckSlot{windows, [this] {
+                        return std::make_unique<Form>(windows, "frmMain", FormKind::kChild, u"");
+                      }};
+  WindowSlot slot{windows,
+                  [this] { return std::make_unique<PrintCard>(app, job, Window<Form>(deckSlot)); }};
+  Window<PrintCard> window{slot};
+
+  explicit PrintDesk(int cards = 3) {
+    windows.SetRenderer(renderer);
+    state.CanPrintCards = true;
+    FillDeck(cards);
+    deckSlot.Instance().Show();
+    fakes.messages.whileShown = [this](const FakeMessages::Shown& box) {
+      const std::string line = "Box " + ToUtf8(box.title);
+      server.record.calls.push_back(line);
+      surface.record.calls.push_back(line);
+    };
+  }
+
+  /// The window, loaded.
+  PrintCard& Open() const { return window.Loaded(); }
+  /// The window with its first items ticked.
+  PrintCard& OpenTicked(int ticked) {
+    PrintCard& opened = Open();
+    for (int item = 1; item <= ticked; ++item) Tick(item);
+    return opened;
+  }
+  void Tick(int item) const { Open().ListView1.UserClick(item, ListView::HitPart::kCheckBox); }
+  /// What the next printer dialog answers: a PDF file.
+  void ChoosePrinter(int copies = 1) {
+    fakes.dialogs.printers.emplace_back(PrinterChoice{{u"", u"/home/me/cards.pdf"}, copies});
+  }
+  void CancelPrinter() { fakes.dialogs.printers.emplace_back(std::nullopt); }
+
+ private:
+  Machine WithRecorders() {
+    fakes.spreadsheet = &server;
+    fakes.printer = &surface;
+    return fakes.Get();
+  }
+  void FillDeck(int cards) {
+    state.CardCount = static_cast<std::int16_t>(cards);
+    for (int row = 1; row <= cards; ++row) {
+      state.CardGrid.Set(row, kCardType, u"E");
+      state.CardGrid.Set(row, kCardText, u"front " + DecimalText(row));
+      state.CardGrid.Set(row, kBackText, u"back " + DecimalText(row));
+    }
+    state.DeckFilePath = u"/home/me/capitals.tsr";
+  }
+};
+
+}  // namespace tessara::test
