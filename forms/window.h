@@ -46,12 +46,14 @@ class Window {
 
   /// The loaded window: its first use loads it.
   F* operator->() const { return &Loaded(); }
-  [[nodiscard]] F& Loaded() const {
+  F& Loaded() const {  // NOLINT(modernize-use-nodiscard)
     Instance().EnsureLoaded();
     return Instance();
   }
   /// The window without loading it: for its routines that may not need its controls.
-  [[nodiscard]] F& Instance() const { return static_cast<F&>(slot_->Instance()); }
+  F& Instance() const {  // NOLINT(modernize-use-nodiscard)
+    return static_cast<F&>(slot_->Instance());
+  }
   [[nodiscard]] bool IsLoaded() const { return slot_->IsLoaded(); }
   bool Unload() const { return slot_->Unload(); }  // NOLINT(modernize-use-nodiscard)
   [[nodiscard]] WindowSlot& Slot() const { return *slot_; }
