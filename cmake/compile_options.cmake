@@ -2,6 +2,10 @@
 add_library(tessara_warnings INTERFACE)
 target_compile_options(tessara_warnings INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual -Werror)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  # A false alarm of this compiler about the sum of a literal and a string.
+  target_compile_options(tessara_warnings INTERFACE -Wno-restrict)
+endif()
 
 add_library(tessara_sanitizers INTERFACE)
 if(TESSARA_SANITIZE)
