@@ -52,6 +52,8 @@ class DeckWindow : public Form {
   /// Writes the table to the file, tells the user, sets the caption. Errors on the way skip what
   /// failed and are not reported.
   void SaveTessaraToFile(const Text& xFilename);
+  /// Reads the deck file into the table, which the caller has emptied.
+  void LoadDeck(const Text& xFilename);
   /// Brings the two arrows in line with the place in the deck.
   void UpdateMoveButtons();
   /// The go-to command needs more than one card.
@@ -77,10 +79,14 @@ class DeckWindow : public Form {
 
   [[nodiscard]] AppContext& App() const { return app_; }
   [[nodiscard]] ProgramState& State() const { return app_.state; }
-  [[nodiscard]] FileNumber& FileNumberOne() const { return fileNumber_; }
   [[nodiscard]] Window<frmInfo> Info() const { return info_; }
 
  private:
+  /// Steps of opening a deck once it is in the table.
+  void ShowOpenedDeck();
+  /// True where a save was not given a name; says so.
+  bool RefusedAnswer(const Text& path);
+
   AppContext& app_;
   FileNumber& fileNumber_;
   Window<frmInfo> info_;

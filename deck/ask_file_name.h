@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/dialogs.h"
+#include "platform/machine.h"
+
+namespace tessara {
+
+/// The filter of every dialog for deck files.
+inline constexpr TextView kDeckFilter = u"Study Cards|*.tsr";
+
+/// Asks for a path, starting in the program's folder. Empty on a cancel. Sets the mouse pointer
+/// back to the default.
+[[nodiscard]] Text AskFileName(FileDialogMode mode, TextView filter, const Machine& machine);
+
+/// True where a dialog for deck files gave no answer: empty text or the bare pattern.
+[[nodiscard]] bool NoAnswer(TextView path);
+
+}  // namespace tessara

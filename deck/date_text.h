@@ -1,0 +1,11 @@
+#pragma once
+
+#include "platform/clock.h"
+#include "platform/text.h"
+
+namespace tessara {
+
+/// The date in the format "m/d/yyyy": month and day without leading zeros.
+[[nodiscard]] Text DateText(const Date& date);
+
+}  // namespace tessara
