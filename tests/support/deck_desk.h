@@ -1,0 +1,95 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "deck/frmInfo.h"
+#include "forms/window.h"
+#include "tests/support/test_desk.h"
+#include "viewer/frmMain.h"
+
+namespace tessara::test {
+
+/// A desk with the deck window and the information window.
+struct DeckDesk : TestDesk {
+  WindowSlot deckSlot{
+      windows,
+      [this] { return std::make_unique<frmMain>(app, fileNumber, Window<frmInfo>(infoSlot)); }};
+  WindowSlot infoSlot{windows,
+                      [this] { return std::make_unique<frmInfo>(app, Window<frmMain>(deckSlot)); }};
+  Window<frmMain> deck{deckSlot};
+  Window<frmInfo> info{infoSlot};
+
+  DeckDesk() {
+    state.LargeCardColor = u"0";
+    state.LargeCard3D = u"1";
+    state.SmallCardColor = u"0";
+    state.SmallCard3D = u"1";
+  }
+
+  /// A text card in the row behind the last one.
+  void AddTextCard(const Text& front, const Text& back) {
+    const int row = NewRow(u"E");
+    state.CardGrid.Set(row, kCardText, front);
+    state.CardGrid.Set(row, kBackText, back);
+  }
+  void AddTrueFalse(const Text& question, const Text& key) {
+    const int row = NewRow(u"T");
+    state.CardGrid.Set(row, kCardText, question);
+    state.CardGrid.Set(row, kAnswer, key);
+  }
+  void AddChoice(const Text& question, const std::vector<Text>& choices, const Text& key) {
+    const int row = NewRow(u"M");
+    state.CardGrid.Set(row, kCardText, question);
+    for (std::size_t at = 0; at < choices.size(); ++at) {
+      state.CardGrid.Set(row, kChoiceA + static_cast<int>(at), choices[at]);
+    }
+    state.CardGrid.Set(row, kAnswer, key);
+  }
+
+  /// Cards "front 1", "back 1" and on, on show in study mode.
+  void OpenStandardDeck(int cards) {
+    for (int card = 1; card <= cards; ++card) {
+      AddTextCard(u"front " + DecimalText(card), u"back " + DecimalText(card));
+    }
+    Open(kStandardDeck);
+  }
+  /// Cards "question 1" and on, true/false and multiple choice in turn; every key is "T" or "B".
+  void OpenExtendedDeck(int cards) {
+    for (int card = 1; card <= cards; ++card) {
+      const Text question = u"question " + DecimalText(card);
+      if (card % 2 == 1) {
+        AddTrueFalse(question, u"T");
+      } else {
+        AddChoice(question, {u"one", u"two", u"three", u"four"}, u"B");
+      }
+    }
+    Open(kExtendedDeck);
+  }
+  /// Brings the table's deck up as the commands that load one do.
+  void Open(DeckKind kind) {
+    state.CurrentCard = 1;
+    if (kind == kExtendedDeck) {
+      deck->OpenExtendedView();
+      deck->ShowFirstCard(kExtendedDeck);
+      deck->Command3[1].SetCaption(u"&Hide Answer");
+    } else {
+      deck->OpenStandardView();
+      deck->ShowFirstCard(kStandardDeck);
+    }
+    deck->UpdateMoveButtons();
+    deck->AutoModeMenu();
+    deck->AfterEditShow(kind);
+  }
+
+ private:
+  int NewRow(const Text& type) {
+    const int row = ++state.CardCount;
+    state.CardGrid.Set(row, kCardType, type);
+    state.CardGrid.Set(row, kRowNumber, DecimalText(row));
+    state.CardPresent.Set(row, 1);
+    return row;
+  }
+};
+
+}  // namespace tessara::test

@@ -1,0 +1,171 @@
+// Test: forward only, with points. A standard card is graded by the user, a question by its key.
+
+#include "platform/conversion.h"
+#include "platform/message_box.h"
+#include "viewer/answer_text.h"
+#include "viewer/frmMain.h"
+
+namespace tessara {
+
+namespace {
+
+/// The head of the score line is what keeps the last card from being graded twice.
+constexpr TextView kComplete = u"Complete";
+constexpr double kFullCredit = 1.0;
+constexpr double kPartialCredit = 0.5;
+constexpr Color kRightChoiceBlue = FixedColor(0, 0, 255);
+
+}  // namespace
+
+void frmMain::mnuTest_Click() {
+  ProgramState& state = State();
+  ChkModeMenu(kTestMode);
+  OpDefaultForeColor();
+  state.CurrentCard = 1;
+  NoteletCtl1.SetCardNumber(u"1");
+  ShowCardText(state.CurrentCard, kCardText);
+  ClrAnsOptions();
+  if (state.DeckType == kStandardDeck) {
+    ConfigureStandardCard(kTestMode);
+    Frame1.SetEnabled(false);
+    Command3[0].SetCaption(u"");
+    SetFlipCaption(u"&Show Back");
+    cmdMove[1].SetEnabled(false);
+    cmdMove[0].SetEnabled(false);
+    ShowCardBack(false);
+  } else if (state.DeckType == kExtendedDeck) {
+    ConfigureExtendedCard(kTestMode);
+    Frame2.SetEnabled(true);
+    Command3[0].SetCaption(u"Next Question");
+  }
+  FillChoices(state.CurrentCard);
+  state.CardMode = kTestMode;
+  ShowTitle(u"[TEST]");
+  state.TestPoints = 0;
+  NoteletCtl1.SetCardBanner(u"");
+  mnuFile.SetEnabled(false);
+  mnuUtility.SetEnabled(false);
+  OfferNext(Command3[1]);
+  OfferNext(Option1[0]);
+}
+
+void frmMain::OpDefaultForeColor() {
+  for (OptionButton& option : Option1) {
+    option.SetForeColor({});  // black, or what a dark desktop has in its place
+    option.SetBold(false);
+  }
+}
+
+void frmMain::ClrAnsOptions() {
+  for (OptionButton& option : Option1) option.SetSelected(false);
+}
+
+void frmMain::FillChoices(int xRec) {
+  const Text& cardType = State().Cell(xRec, kCardType);
+  for (OptionButton& option : Option1) option.SetCaption(u"");
+  if (cardType == u"M") {
+    for (int choice = 0; choice < 4; ++choice) {
+      Option1[choice].SetCaption(State().Cell(xRec, kChoiceA + choice));
+    }
+  } else if (cardType == u"T") {
+    Option1[0].SetCaption(u"TRUE");
+    Option1[1].SetCaption(u"FALSE");
+  }
+  for (OptionButton& option : Option1) option.SetVisible(!option.Caption().empty());
+}
+
+void frmMain::TestModeFlip() {
+  if (State().CardMode != kTestMode) return;
+  if (NoteletCtl1.CardBanner().starts_with(kComplete)) return;
+  Frame1.SetEnabled(true);
+  OfferNext(Command1[1]);
+}
+
+void frmMain::Command1_Click(int Index) {
+  ProgramState& state = State();
+  if (Index == 1) state.TestPoints += kFullCredit;
+  if (Index == 2) state.TestPoints += kPartialCredit;
+  Frame1.SetEnabled(false);
+  if (state.CurrentCard >= state.CardCount) {
+    EndStandardTest();
+  } else {
+    NextStandardTestCard();
+  }
+}
+
+void frmMain::EndStandardTest() {
+  App().machine.messages.Show(
+      u"You have completed this test. After viewing your score at the top of the last card, "
+      u"please return to STUDY mode.",
+      kOkOnly, u"Test Complete");
+  NoteletCtl1.SetCardBanner(u"Complete: You scored " + PointsText(State().TestPoints) +
+                            u" points out of a possible " + DecimalText(State().CardCount));
+}
+
+void frmMain::NextStandardTestCard() {
+  ++State().CurrentCard;
+  ShowCardBack(false);
+  SetFlipCaption(u"&Show Back");
+  ShowCardText(State().CurrentCard, kCardText);
+  ShowCardNumber();
+  OfferNext(Command3[1]);
+}
+
+Text frmMain::ChosenKey(int Index) const {
+  if (Index == 2) return u"C";
+  if (Index == 3) return u"D";
+  const Text& cardType = State().Cell(State().CurrentCard, kCardType);
+  if (cardType == u"M") return Index == 0 ? u"A" : u"B";
+  if (cardType == u"T") return Index == 0 ? u"T" : u"F";
+  return {};
+}
+
+void frmMain::Option1_Click(int Index) {
+  ProgramState& state = State();
+  if (state.CardMode != kTestMode) return;
+  const TextView key = Trimmed(state.Cell(state.CurrentCard, kAnswer));
+  const bool right = ChosenKey(Index) == key;
+  if (state.CardCount > 0) {
+    NoteletCtl1.SetCardBanner(right ? u"CORRECT" : u"WRONG");
+    Frame2.SetEnabled(false);
+    if (right) {
+      state.TestPoints += kFullCredit;
+    } else {
+      Option1[AnswerIndex(key)].SetForeColor(kRightChoiceBlue);
+    }
+  }
+  Command3[0].SetEnabled(true);
+  if (state.CurrentCard == state.CardCount) Command3[0].SetCaption(u"Show Score");
+  OfferNext(Command3[0]);
+}
+
+void frmMain::NextQuestionOrScore() {
+  OpDefaultForeColor();
+  if (State().CurrentCard != State().CardCount || State().CardCount < 1) {
+    NextQuestion();
+  } else {
+    ShowPercentage();
+  }
+}
+
+void frmMain::NextQuestion() {
+  ++State().CurrentCard;
+  Command3[0].SetEnabled(false);
+  ShowCardText(State().CurrentCard, kCardText);
+  ShowCardNumber();
+  FillChoices(State().CurrentCard);
+  ClrAnsOptions();
+  NoteletCtl1.SetCardBanner(u"");
+  Frame2.SetEnabled(true);
+  OfferNext(Option1[0]);
+}
+
+void frmMain::ShowPercentage() {
+  const Text score = WholeNumberText(State().TestPoints / State().CardCount * 100);
+  App().machine.messages.Show(u" Your score is " + score + u"% please return to STUDY mode.",
+                              kOkOnly, u"Test Complete");
+  Command3[0].SetEnabled(false);
+  NoteletCtl1.SetCardBanner(u"SCORE: " + score + u"% ... RETURN TO STUDY MODE");
+}
+
+}  // namespace tessara
