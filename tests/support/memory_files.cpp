@@ -77,7 +77,7 @@ std::unique_ptr<File> MemoryFiles::Open(const Text& path, OpenMode mode) {
 
 void MemoryFiles::Delete(const Text& path) {
   MayFail(Operation::kDelete, path);
-  if (folders.contains(path)) throw RunTimeError(ErrorNumber::kPathFileAccess);
+  if (path.empty() || folders.contains(path)) throw RunTimeError(ErrorNumber::kPathFileAccess);
   if (withoutPermission.contains(path)) throw RunTimeError(ErrorNumber::kPermissionDenied);
   if (files.erase(path) == 0) throw RunTimeError(ErrorNumber::kFileNotFound);
 }
