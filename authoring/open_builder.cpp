@@ -1,0 +1,18 @@
+#include "authoring/open_builder.h"
+
+#include "forms/place_in_frame.h"
+
+namespace tessara {
+
+void OpenBuilder(AppContext& app, Window<frmMain> deck, Window<frmEssay> textBuilder,
+                 Window<frmQuestion> questionBuilder) {
+  app.state.CardChanged = true;
+  if (app.state.DeckType == kExtendedDeck) {
+    PlaceInFrame(questionBuilder.Slot(), 6000, 5535, app.frame);
+  } else if (app.state.DeckType == kStandardDeck) {
+    PlaceInFrame(textBuilder.Slot(), 5730, 5565, app.frame);
+  }
+  deck->Hide();
+}
+
+}  // namespace tessara
