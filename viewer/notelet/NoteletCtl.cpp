@@ -1,9 +1,5 @@
 #include "viewer/notelet/NoteletCtl.h"
 
-#include <algorithm>
-
-#include "viewer/notelet/card_layout.h"
-
 namespace tessara {
 
 namespace {
@@ -20,10 +16,15 @@ constexpr Color kYellowPaper = FixedColor(248, 234, 180);
 constexpr Color kYellowEdge = FixedColor(211, 189, 118);
 constexpr Color kHeadingRule = FixedColor(214, 140, 118);
 constexpr Color kRuledLine = FixedColor(205, 217, 233);
-constexpr Color kRuledLineOnYellow = FixedColor(216, 211, 190);
+constexpr Color kRuledLineOnYellow = FixedColor(199, 203, 190);
 constexpr Color kInk = FixedColor(29, 49, 82);
 constexpr Color kPaleInk = FixedColor(86, 88, 96);
 constexpr Color kBannerInk = FixedColor(158, 42, 28);
+
+/// A line from edge to edge of the card.
+void DrawAcross(Canvas& canvas, const Rect& card, double y, const Color& color) {
+  canvas.DrawLine({card.left + 1, y}, {card.Right() - 1, y}, 1, color);
+}
 
 }  // namespace
 
@@ -61,54 +62,41 @@ Text NoteletCtl::DisplayedText() const {
 }
 
 Text NoteletCtl::NumberLine() const {
-  const bool none = cardNumber_.empty() || cardTotal_.empty() || cardTotal_ == u"0";
-  return none ? Text() : cardNumber_ + u" of " + cardTotal_;
+  if (cardTotal_.empty()) return cardNumber_;
+  if (cardNumber_.empty() || cardTotal_ == u"0") return cardTotal_ + u" cards";
+  return cardNumber_ + u" of " + cardTotal_;
 }
 
 void NoteletCtl::Paint(Canvas& canvas, const Rect& size, double scroll) const {
+  const CardLayout card = LayoutOf(size);
+  const BodyLayout body = LayoutBody(canvas, DisplayedText(), card.body);
   PaintPaper(canvas, size);
-  PaintDecorations(canvas, size);
-  PaintBanner(canvas, size);
-  PaintNumber(canvas, size);
-  PaintBody(canvas, size, scroll);
-}
-
-void NoteletCtl::PaintPaper(Canvas& canvas, const Rect& size) const {
-  const bool yellow = cardColor_ == u"A";
-  canvas.FillRoundedRect(size, kCornerRadius, yellow ? kYellowPaper : kWhitePaper,
-                         yellow ? kYellowEdge : kWhiteEdge);
-}
-
-void NoteletCtl::PaintDecorations(Canvas& canvas, const Rect& size) const {
-  const CardLayout layout = LayoutOf(size);
-  const auto line = [&](double y, double width, const Color& color) {
-    canvas.DrawLine({size.left + 1, y}, {size.Right() - 1, y}, width, color);
-  };
   if (frontLines_) {
-    // The lines run under the lines of the text, so that it stands on them at every size.
-    const Text text = DisplayedText();
-    const TextStyle style = BodyStyleFor(canvas, text, layout.body);
-    const double pitch = std::max(canvas.LineHeight(style), 4.0);
-    const double first = BodyTextPlace(canvas, text, style, layout.body).top;
-    const double above = static_cast<int>((first - layout.body.top) / pitch) * pitch;
-    for (double y = first - above + pitch - 1; y < layout.body.Bottom() + 1; y += pitch) {
-      line(y, 1, cardColor_ == u"A" ? kRuledLineOnYellow : kRuledLine);
+    for (const double y : RuledLines(body, card.body, scroll)) {
+      DrawAcross(canvas, size, y, Yellow() ? kRuledLineOnYellow : kRuledLine);
     }
   }
   if (frontRule_) {
-    line(layout.headingRule - kRuleSpacing, 1, kHeadingRule);
-    line(layout.headingRule, 1, kHeadingRule);
+    DrawAcross(canvas, size, card.headingRule - kRuleSpacing, kHeadingRule);
+    DrawAcross(canvas, size, card.headingRule, kHeadingRule);
   }
+  PaintBanner(canvas, card.banner);
+  PaintNumber(canvas, card.number);
+  PaintBody(canvas, card.body, body, scroll);
 }
 
-void NoteletCtl::PaintBanner(Canvas& canvas, const Rect& size) const {
+void NoteletCtl::PaintPaper(Canvas& canvas, const Rect& size) const {
+  canvas.FillRoundedRect(size, kCornerRadius, Yellow() ? kYellowPaper : kWhitePaper,
+                         Yellow() ? kYellowEdge : kWhiteEdge);
+}
+
+void NoteletCtl::PaintBanner(Canvas& canvas, const Rect& place) const {
   if (cardBanner_.empty()) return;
   TextStyle style;
   style.points = kBannerPoints;
   style.bold = true;
   style.color = kBannerInk;
   style.alignment = Alignment::kCenter;
-  const Rect place = LayoutOf(size).banner;
   // One line, however long: a banner that is too wide gets smaller.
   while (style.points > kSmallestBody && canvas.TextWidth(cardBanner_, style) > place.width) {
     style.points -= 1;
@@ -116,31 +104,27 @@ void NoteletCtl::PaintBanner(Canvas& canvas, const Rect& size) const {
   canvas.DrawText(place, cardBanner_, style);
 }
 
-void NoteletCtl::PaintNumber(Canvas& canvas, const Rect& size) const {
+void NoteletCtl::PaintNumber(Canvas& canvas, const Rect& place) const {
   TextStyle style;
   style.points = kNumberPoints;
   style.color = kPaleInk;
   style.alignment = Alignment::kRight;
-  canvas.DrawText(LayoutOf(size).number, NumberLine(), style);
+  canvas.DrawText(place, NumberLine(), style);
 }
 
-void NoteletCtl::PaintBody(Canvas& canvas, const Rect& size, double scroll) const {
-  const Rect body = LayoutOf(size).body;
-  const Text text = DisplayedText();
-  TextStyle style = BodyStyleFor(canvas, text, body);
-  Rect place = BodyTextPlace(canvas, text, style, body);
+void NoteletCtl::PaintBody(Canvas& canvas, const Rect& window, const BodyLayout& body,
+                           double scroll) const {
+  TextStyle style = body.style;
   style.color = kInk;
+  Rect place = body.place;
   place.top -= scroll;
-  canvas.Clip(body);
-  canvas.DrawText(place, text, style);
+  canvas.Clip(window);
+  canvas.DrawText(place, DisplayedText(), style);
   canvas.Unclip();
 }
 
 double NoteletCtl::ScrollRange(Canvas& canvas, const Rect& size) const {
-  const Rect body = LayoutOf(size).body;
-  const Text text = DisplayedText();
-  const TextStyle style = BodyStyleFor(canvas, text, body);
-  return std::max(0.0, canvas.TextHeight(text, body.width, style) - body.height);
+  return LayoutBody(canvas, DisplayedText(), LayoutOf(size).body).scrollRange;
 }
 
 Rect NoteletCtl::ScrollArea(const Rect& size) const {
@@ -149,9 +133,9 @@ Rect NoteletCtl::ScrollArea(const Rect& size) const {
 
 Text NoteletCtl::Description() const {
   Text description = frontLines_ ? u"Front" : u"Back";
-  if (!NumberLine().empty()) description += u" of card " + NumberLine();
-  if (!cardBanner_.empty()) description += u". " + cardBanner_;
-  if (!cardText_.empty()) description += u". " + DisplayedText();
+  for (const Text& part : {NumberLine(), cardBanner_, DisplayedText()}) {
+    if (!part.empty()) description += u". " + part;
+  }
   return description;
 }
 

@@ -2,6 +2,7 @@
 
 #include "deck/card_face.h"
 #include "forms/painted_control.h"
+#include "viewer/notelet/card_layout.h"
 
 namespace tessara {
 
@@ -39,10 +40,10 @@ class NoteletCtl : public PaintedControl, public CardFace {
   template <class T>
   void Assign(T& member, const T& value);
   void PaintPaper(Canvas& canvas, const Rect& size) const;
-  void PaintDecorations(Canvas& canvas, const Rect& size) const;
-  void PaintBanner(Canvas& canvas, const Rect& size) const;
-  void PaintNumber(Canvas& canvas, const Rect& size) const;
-  void PaintBody(Canvas& canvas, const Rect& size, double scroll) const;
+  void PaintBanner(Canvas& canvas, const Rect& place) const;
+  void PaintNumber(Canvas& canvas, const Rect& place) const;
+  void PaintBody(Canvas& canvas, const Rect& window, const BodyLayout& body, double scroll) const;
+  [[nodiscard]] bool Yellow() const { return cardColor_ == u"A"; }
   [[nodiscard]] Text NumberLine() const;
 
   Text cardBanner_;

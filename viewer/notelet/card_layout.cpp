@@ -1,7 +1,10 @@
 #include "viewer/notelet/card_layout.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
+
+#include "platform/text.h"
 
 namespace tessara {
 
@@ -13,9 +16,19 @@ constexpr double kBannerHeight = 24;
 constexpr double kRuleGap = 6;
 constexpr double kNumberHeight = 24;
 constexpr double kNumberWidth = 130;
+constexpr double kNumberBottom = 4;
 
 /// Largest first.
-constexpr double kBodySizes[] = {kLargestBody, 22, 19, 16, 14, 12, 10.5, 9, kSmallestBody};
+constexpr double kBodySizes[] = {kLargestBody, 22, 19,           16, 14, kSmallestWithWholeWords,
+                                 10.5,         9,  kSmallestBody};
+
+/// The ruling is as wide as on paper: a line of text is halved or doubled until it is.
+constexpr double kNarrowRuling = 15;
+constexpr double kWideRuling = 31;
+/// Where a rule runs in a line of text, as a share of its height: just below the letters' feet.
+constexpr double kFeet = 0.86;
+
+constexpr TextView kBetweenWords = u" \r\n";
 
 TextStyle BodyStyle(double points) {
   TextStyle style;
@@ -23,6 +36,34 @@ TextStyle BodyStyle(double points) {
   style.alignment = Alignment::kCenter;
   style.wrap = true;
   return style;
+}
+
+bool HasWordWiderThan(double width, Canvas& canvas, TextView text, const TextStyle& style) {
+  std::size_t start = text.find_first_not_of(kBetweenWords);
+  while (start != TextView::npos) {
+    const std::size_t end = std::min(text.find_first_of(kBetweenWords, start), text.size());
+    if (canvas.TextWidth(Text(text.substr(start, end - start)), style) > width) return true;
+    start = text.find_first_not_of(kBetweenWords, end);
+  }
+  return false;
+}
+
+TextStyle StyleThatFits(Canvas& canvas, const Text& text, const Rect& body) {
+  const auto tooLarge = [&](double points) {
+    const TextStyle style = BodyStyle(points);
+    if (canvas.TextHeight(text, body.width, style) > body.height) return true;
+    return points > kSmallestWithWholeWords && HasWordWiderThan(body.width, canvas, text, style);
+  };
+  const auto* const found =
+      std::partition_point(std::begin(kBodySizes), std::end(kBodySizes), tooLarge);
+  return BodyStyle(found == std::end(kBodySizes) ? kSmallestBody : *found);
+}
+
+double RulingFor(double lineHeight) {
+  double ruling = std::max(lineHeight, 1.0);
+  while (ruling > kWideRuling) ruling /= 2;
+  while (ruling < kNarrowRuling) ruling *= 2;
+  return ruling;
 }
 
 }  // namespace
@@ -33,26 +74,33 @@ CardLayout LayoutOf(const Rect& card) {
   CardLayout layout;
   layout.banner = {left, card.top + kBannerTop, inner, kBannerHeight};
   layout.headingRule = layout.banner.Bottom() + kRuleGap;
-  layout.number = {card.Right() - kMargin - kNumberWidth, card.Bottom() - kNumberHeight - 4,
-                   kNumberWidth, kNumberHeight};
+  layout.number = {card.Right() - kMargin - kNumberWidth,
+                   card.Bottom() - kNumberHeight - kNumberBottom, kNumberWidth, kNumberHeight};
   const double bodyTop = layout.headingRule + kRuleGap;
   layout.body = {left, bodyTop, inner, layout.number.top - 2 - bodyTop};
   return layout;
 }
 
-TextStyle BodyStyleFor(Canvas& canvas, const Text& text, const Rect& body) {
-  const auto tooLarge = [&](double points) {
-    return canvas.TextHeight(text, body.width, BodyStyle(points)) > body.height;
-  };
-  const auto* const found =
-      std::partition_point(std::begin(kBodySizes), std::end(kBodySizes), tooLarge);
-  return BodyStyle(found == std::end(kBodySizes) ? kSmallestBody : *found);
+BodyLayout LayoutBody(Canvas& canvas, const Text& text, const Rect& body) {
+  BodyLayout layout;
+  layout.style = StyleThatFits(canvas, text, body);
+  layout.lineHeight = canvas.LineHeight(layout.style);
+  const double height = canvas.TextHeight(text, body.width, layout.style);
+  layout.place = {body.left, body.top + std::max(0.0, (body.height - height) / 2), body.width,
+                  height};
+  layout.scrollRange = std::max(0.0, height - body.height);
+  return layout;
 }
 
-Rect BodyTextPlace(Canvas& canvas, const Text& text, const TextStyle& style, const Rect& body) {
-  const double height = canvas.TextHeight(text, body.width, style);
-  const double top = body.top + std::max(0.0, (body.height - height) / 2);
-  return {body.left, top, body.width, std::max(height, 1.0)};
+std::vector<double> RuledLines(const BodyLayout& layout, const Rect& body, double scroll) {
+  const double ruling = RulingFor(layout.lineHeight);
+  const double underText = layout.place.top - scroll + kFeet * layout.lineHeight;
+  // The first one leaves half a space below the heading.
+  const double highest = body.top + ruling / 2;
+  const double first = underText + std::ceil((highest - underText) / ruling) * ruling;
+  std::vector<double> lines;
+  for (int at = 0; first + at * ruling <= body.Bottom(); ++at) lines.push_back(first + at * ruling);
+  return lines;
 }
 
 }  // namespace tessara

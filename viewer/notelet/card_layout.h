@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "forms/canvas.h"
 
 namespace tessara {
@@ -17,14 +19,27 @@ struct CardLayout {
 /// Sizes of the body's text, in points, from a single word down to the smallest that reads well.
 inline constexpr double kLargestBody = 26;
 inline constexpr double kSmallestBody = 8;
+/// Down to this size no word is broken: a text with a long word gets smaller instead.
+inline constexpr double kSmallestWithWholeWords = 12;
 
-/// The style with the largest size at which all of the text stands in the body; the smallest
-/// size where none does.
-[[nodiscard]] TextStyle BodyStyleFor(Canvas& canvas, const Text& text, const Rect& body);
+/// How a text is set in the body.
+struct BodyLayout {
+  TextStyle style;
+  double lineHeight = 0;
+  /// Of the whole text before scrolling: in the middle of the body where it fits, else from the
+  /// body's top and higher than the body.
+  Rect place;
+  double scrollRange = 0;  ///< 0 where all of the text stands in the body
+};
 
-/// The place of the text in the body: in the middle where it fits, else from the top and higher
-/// than the body.
-[[nodiscard]] Rect BodyTextPlace(Canvas& canvas, const Text& text, const TextStyle& style,
-                                 const Rect& body);
+/// Takes the largest size at which all of the text stands in the body; the smallest where none
+/// does.
+[[nodiscard]] BodyLayout LayoutBody(Canvas& canvas, const Text& text, const Rect& body);
+
+/// Heights of the ruled lines inside the body, from its top. The text stands on them, whatever
+/// its size and however far it is scrolled: a large text on every second line, a small one with
+/// two lines between each pair.
+[[nodiscard]] std::vector<double> RuledLines(const BodyLayout& layout, const Rect& body,
+                                             double scroll);
 
 }  // namespace tessara
