@@ -32,6 +32,7 @@ void frmMain::mnuDelete_Click() {
   }
   mnuPrint.SetEnabled(state.CardCount >= 1);
   if (state.DeckType == kExtendedDeck) Command3[1].SetEnabled(state.CardMode != kStudyMode);
+  KeepFocusInReach();
 }
 
 void frmMain::CardDel_Std() {
@@ -75,6 +76,7 @@ void frmMain::GoToCard(const Text& answer) {
     UpdateMoveButtons();
     NoteletCtl1.SetCardTotal(DecimalText(state.CardCount));
     ShowCardNumber();
+    KeepFocusInReach();
   } else {
     messages.Show(answer + u" is not a valid card number.", kStopIcon, u"Invalid Entry");
   }

@@ -50,6 +50,7 @@ void frmMain::OpenStandardView() {
   State().DeckType = kStandardDeck;
   SetFlipCaption(u"&Show Back");
   ChkModeMenu(kStudyMode);
+  OfferNext({&Command3[1]});
 }
 
 void frmMain::OpenExtendedView() {
@@ -58,6 +59,7 @@ void frmMain::OpenExtendedView() {
   State().DeckType = kExtendedDeck;
   SetFlipCaption(u"&Show Answer");
   ChkModeMenu(kStudyMode);
+  OfferNext({&cmdMove[1]});
 }
 
 void frmMain::ShowFirstCard(std::int32_t xType) {

@@ -1,5 +1,7 @@
 #include "viewer/frmMain.h"
 
+#include <algorithm>
+
 #include "deck/double_amps.h"
 #include "deck/frmInfo.h"
 #include "deck/long_path_of.h"
@@ -14,6 +16,8 @@ constexpr int kWindowHeight = 6315;
 constexpr int kWindowWidth = 7230;
 constexpr int kInfoHeight = 4650;
 constexpr int kInfoWidth = 6270;
+/// Both captions that the button takes in a test; it starts without one.
+constexpr TextView kNextOrScore = u"Next Question, Show Score";
 constexpr Bounds kUnderTheCard = {120, 3855, 4860, 1635};
 
 }  // namespace
@@ -30,12 +34,12 @@ frmMain::frmMain(AppContext& app, FileNumber& fileNumber, Window<frmInfo> info)
 
 void frmMain::PlaceControls() {
   Place({
-      {&Shape1, "Shape1", kNoIndex, nullptr, u"", {210, 240, 6840, 3570}, u""},
+      {&Shape1, "Shape1", kNoIndex, nullptr, u"", {210, 240, 6840, 3570}, u"Shadow of the card"},
       {&NoteletCtl1, "NoteletCtl1", kNoIndex, nullptr, u"", {120, 120, 6855, 3615}, u"Card"},
       {&Frame3, "Frame3", kNoIndex, nullptr, u"", {5085, 3840, 1905, 1965}, u"Buttons"},
       {&cmdMove[0], "cmdMove", 0, &Frame3, u"<<", {135, 240, 780, 390}, u"Previous card"},
       {&cmdMove[1], "cmdMove", 1, &Frame3, u">>", {975, 240, 780, 390}, u"Next card"},
-      {&Command3[0], "Command3", 0, &Frame3, u"", {135, 720, 1620, 375}, u"Next step of the test"},
+      {&Command3[0], "Command3", 0, &Frame3, u"", {135, 720, 1620, 375}, kNextOrScore},
       {&Command3[1], "Command3", 1, &Frame3, u"&Show Answer", {135, 1080, 1620, 375}, u""},
       {&Command3[2], "Command3", 2, &Frame3, u"&Close Deck", {135, 1440, 1620, 375}, u""},
       {&Picture1, "Picture1", kNoIndex, nullptr, u"", {120, 3855, 4950, 1740}, u"Answer card"},
@@ -167,8 +171,15 @@ void frmMain::ShowCardNumber() {
   NoteletCtl1.SetCardNumber(DecimalText(State().CurrentCard));
 }
 
-void frmMain::OfferNext(Control& control) {
-  if (control.Reachable()) control.SetFocus();
+void frmMain::OfferNext(std::initializer_list<Control*> controls) {
+  const auto* const found =
+      std::find_if(controls.begin(), controls.end(), [](Control* c) { return c->Reachable(); });
+  if (found != controls.end()) (*found)->SetFocus();
+}
+
+void frmMain::KeepFocusInReach() {
+  const Control* focused = FocusedControl();
+  if (focused == nullptr || !focused->Reachable()) OfferNext({&cmdMove[1], &cmdMove[0]});
 }
 
 }  // namespace tessara

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <initializer_list>
+
 #include "deck/deck_window.h"
 #include "viewer/notelet/NoteletCtl.h"
 
@@ -115,8 +117,11 @@ class frmMain : public DeckWindow {
   [[nodiscard]] Text ChosenKey(int Index) const;
   void GoToCard(const Text& answer);
 
-  /// Moves the focus to a button that the next step needs, where the user can reach it.
-  void OfferNext(Control& control);
+  /// The focus goes to the first of these that the user can reach: what the next step needs.
+  void OfferNext(std::initializer_list<Control*> controls);
+  void OfferChoices();
+  /// Where what had the focus has gone off, an arrow that still works gets it.
+  void KeepFocusInReach();
 };
 
 }  // namespace tessara

@@ -26,7 +26,7 @@ void frmMain::mnuQuiz_Click() {
   mnuFile.SetEnabled(false);
   mnuUtility.SetEnabled(false);
   NoteletCtl1.SetCardBanner(u"");
-  OfferNext(Command3[1]);
+  OfferNext({&Command3[1]});
 }
 
 void frmMain::QuizModeScroll() {
@@ -56,12 +56,12 @@ void frmMain::QuizNextCard() {
   ShowCardText(state.CurrentCard, kCardText);
   ShowCardNumber();
   cmdMove[1].SetEnabled(state.CurrentCard < state.CardCount);
-  OfferNext(Command3[1]);
+  OfferNext({&Command3[1]});
 }
 
 void frmMain::NoteEndOfQuiz(TextView banner) {
   if (State().CurrentCard != State().CardCount) {
-    OfferNext(cmdMove[1]);
+    OfferNext({&cmdMove[1]});
     return;
   }
   cmdMove[1].SetEnabled(false);

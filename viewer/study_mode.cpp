@@ -38,7 +38,7 @@ void frmMain::StudyModeScroll(int Index) {
   UpdateMoveButtons();
   ShowCardNumber();
   // At an end of the deck the arrow just pressed goes off: the other one is the next step.
-  OfferNext(cmdMove[Index].Enabled() ? cmdMove[Index] : cmdMove[1 - Index]);
+  OfferNext({&cmdMove[Index], &cmdMove[1 - Index]});
 }
 
 void frmMain::SelectCardOp_Mode(std::int16_t ThisRecord) {
@@ -115,6 +115,7 @@ void frmMain::mnuStudy_Click() {
   NoteletCtl1.SetCardBanner(u"");
   // Undoubled: until the next move an ampersand in a choice marks an accelerator.
   Label2.SetCaption(AnswerText(state.Cell(state.CurrentCard, kAnswer), state.CurrentCard, state));
+  KeepFocusInReach();
 }
 
 }  // namespace tessara

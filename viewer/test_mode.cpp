@@ -45,8 +45,12 @@ void frmMain::mnuTest_Click() {
   NoteletCtl1.SetCardBanner(u"");
   mnuFile.SetEnabled(false);
   mnuUtility.SetEnabled(false);
-  OfferNext(Command3[1]);
-  OfferNext(Option1[0]);
+  OfferNext({&Command3[1]});
+  OfferChoices();
+}
+
+void frmMain::OfferChoices() {
+  OfferNext({&Option1[0], &Option1[1], &Option1[2], &Option1[3]});
 }
 
 void frmMain::OpDefaultForeColor() {
@@ -78,7 +82,7 @@ void frmMain::TestModeFlip() {
   if (State().CardMode != kTestMode) return;
   if (NoteletCtl1.CardBanner().starts_with(kComplete)) return;
   Frame1.SetEnabled(true);
-  OfferNext(Command1[1]);
+  OfferNext({&Command1[1]});
 }
 
 void frmMain::Command1_Click(int Index) {
@@ -100,6 +104,7 @@ void frmMain::EndStandardTest() {
       kOkOnly, u"Test Complete");
   NoteletCtl1.SetCardBanner(u"Complete: You scored " + PointsText(State().TestPoints) +
                             u" points out of a possible " + DecimalText(State().CardCount));
+  OfferNext({&Command3[1]});
 }
 
 void frmMain::NextStandardTestCard() {
@@ -108,7 +113,7 @@ void frmMain::NextStandardTestCard() {
   SetFlipCaption(u"&Show Back");
   ShowCardText(State().CurrentCard, kCardText);
   ShowCardNumber();
-  OfferNext(Command3[1]);
+  OfferNext({&Command3[1]});
 }
 
 Text frmMain::ChosenKey(int Index) const {
@@ -136,7 +141,7 @@ void frmMain::Option1_Click(int Index) {
   }
   Command3[0].SetEnabled(true);
   if (state.CurrentCard == state.CardCount) Command3[0].SetCaption(u"Show Score");
-  OfferNext(Command3[0]);
+  OfferNext({&Command3[0]});
 }
 
 void frmMain::NextQuestionOrScore() {
@@ -157,7 +162,7 @@ void frmMain::NextQuestion() {
   ClrAnsOptions();
   NoteletCtl1.SetCardBanner(u"");
   Frame2.SetEnabled(true);
-  OfferNext(Option1[0]);
+  OfferChoices();
 }
 
 void frmMain::ShowPercentage() {
@@ -166,6 +171,7 @@ void frmMain::ShowPercentage() {
                               kOkOnly, u"Test Complete");
   Command3[0].SetEnabled(false);
   NoteletCtl1.SetCardBanner(u"SCORE: " + score + u"% ... RETURN TO STUDY MODE");
+  OfferNext({&NoteletCtl1});  // to be read
 }
 
 }  // namespace tessara
