@@ -52,6 +52,29 @@ TEST_CASE("reading and writing without an open file is an error") {
   CHECK(ErrorOf([&] { (void)disk.file.GetNext(record); }) == 52);
 }
 
+TEST_CASE("a file that is read in sequence has no records") {
+  DeckDisk disk;
+  disk.files.Put(u"/decks/a", "text");
+  disk.file.OpenInput(u"/decks/a");
+  std::array<char, kLength> record{};
+  CHECK(ErrorOf([&] { disk.file.Put(1, record); }) == 54);
+  CHECK(ErrorOf([&] { (void)disk.file.GetNext(record); }) == 54);
+  CHECK(disk.files.Bytes(u"/decks/a") == "text");
+}
+
+TEST_CASE("sequential reading goes on where it stopped and can start over") {
+  DeckDisk disk;
+  disk.files.Put(u"/decks/a", "abcdef");
+  disk.file.OpenInput(u"/decks/a");
+  std::array<char, 4> buffer{};
+  CHECK(disk.file.ReadNext(buffer) == 4);
+  CHECK(disk.file.ReadNext(buffer) == 2);
+  CHECK(disk.file.ReadNext(buffer) == 0);
+  disk.file.Rewind();
+  CHECK(disk.file.ReadNext(buffer) == 4);
+  CHECK(buffer[0] == 'a');
+}
+
 TEST_CASE("records are read one after the other, a short last one included") {
   DeckDisk disk;
   disk.files.Put(u"/decks/a", "aaaabbbbcc");
