@@ -1,0 +1,228 @@
+#include "deck/frmInfo.h"
+
+#include <doctest/doctest.h>
+
+#include "tests/support/life_desk.h"
+
+namespace tessara::test {
+
+namespace {
+
+const FakeMessages::Shown kReturnBox = {
+    u"The information in this form has changed, do you want to return to the form and save it", 4,
+    u"Deck Information"};
+
+/// The deck window with one card, and the information window in front of it.
+struct InfoDesk : LifeDesk {
+  InfoDesk() {
+    BuildDeck(1);
+    state.DeckChanged = false;
+  }
+  void OpenInfo() {
+    Run([this] { deck->mnuCDI_Click(); });
+  }
+  void Type(int box, const Text& text) {
+    TextBox& edited = info->Text1[box];
+    edited.UserEdit({0, edited.TextOf().size(), text});
+  }
+  void Close() { info->Command1[0].Press(); }
+  void Save() { info->Command1[1].Press(); }
+};
+
+}  // namespace
+
+TEST_CASE("the information window has its captions, limits and size") {
+  InfoDesk desk;
+  desk.OpenInfo();
+  CHECK(desk.info->Caption() == u"Tessara Information");
+  const TextView captions[] = {u"Title", u"Created By", u"Description", u"Date Created:",
+                               u"Deck Type:"};
+  for (int index = 0; index < 5; ++index) {
+    CHECK(desk.info->Label1[index].Caption() == captions[index]);
+  }
+  CHECK(desk.info->Command1[0].Caption() == u"&Close");
+  CHECK(desk.info->Command1[1].Caption() == u"&Save");
+  CHECK_FALSE(desk.info->Command1[1].Enabled());
+  const int limits[] = {75, 75, 400};
+  for (int index = 0; index < 3; ++index) {
+    CHECK(desk.info->Text1[index].MaxLength() == limits[index]);
+    CHECK(desk.info->Text1[index].MultiLine() == (index == 2));
+  }
+  CHECK(desk.info->Height() == 4650);
+  CHECK(desk.info->Width() == 6270);
+}
+
+TEST_CASE("every control stands inside the window, and every box has a name to be read out") {
+  InfoDesk desk;
+  desk.OpenInfo();
+  for (const Control* control : desk.info->Controls()) {
+    CAPTURE(control->Name());
+    const Bounds& place = control->Place();
+    CHECK(place.left >= 0);
+    CHECK(place.top >= 0);
+    CHECK(place.left + place.width <= desk.info->ScaleWidth());
+    CHECK(place.top + place.height <= desk.info->ScaleHeight());
+    const bool box = control->Kind() == ControlKind::kTextBox;
+    CHECK(control->AccessibleName().empty() != box);
+  }
+}
+
+TEST_CASE("a deck without information shows the defaults as they stand") {
+  InfoDesk desk;
+  desk.OpenInfo();
+  CHECK(desk.info->Label2[0].Caption() == u"1/5/2026");
+  CHECK(desk.info->Label2[1].Caption() == u" Standard");
+  CHECK(desk.info->Label3.Caption() == u"Number of cards:  1");
+  CHECK(desk.info->Text1[0].TextOf() == u"Enter Title Here");
+  CHECK(desk.info->Text1[1].TextOf() == u"Your Name Here");
+  CHECK(desk.info->Text1[2].TextOf() == u"Deck Description Here");
+  CHECK_FALSE(desk.state.DeckChanged);
+}
+
+TEST_CASE("what the deck has is shown behind a blank") {
+  InfoDesk desk;
+  desk.state.DeckDate = u"2/3/1999";
+  desk.state.DeckTitle = u"Enter Title Here";
+  desk.state.DeckAuthor = u" Me";
+  desk.state.DeckDescription = u"All";
+  desk.state.DeckType = kExtendedDeck;
+  desk.state.CardCount = 0;
+  desk.OpenInfo();
+  CHECK(desk.info->Label2[0].Caption() == u" 2/3/1999");
+  CHECK(desk.info->Label2[1].Caption() == u" Extended");
+  CHECK(desk.info->Label3.Caption() == u"Number of cards:  0");
+  CHECK(desk.info->Text1[0].TextOf() == u" Enter Title Here");
+  CHECK(desk.info->Text1[1].TextOf() == u"  Me");
+  CHECK(desk.info->Text1[2].TextOf() == u" All");
+}
+
+TEST_CASE("a value gets a blank before it, a default does not, and 0 is a value") {
+  CHECK(InfoValueOrDefault(u"", u"default") == u"default");
+  CHECK(InfoValueOrDefault(u"value", u"default") == u" value");
+  CHECK(InfoValueOrDefault(u"0", u"default") == u" 0");
+  CHECK(InfoValueOrDefault(u" ", u"default") == u"  ");
+}
+
+TEST_CASE("the deck window takes no input while the information window is open") {
+  InfoDesk desk;
+  desk.OpenInfo();
+  CHECK_FALSE(desk.deck->Enabled());
+  CHECK(desk.windows.ActiveForm() == &desk.info.Loaded());
+  desk.Close();
+  CHECK(desk.deck->Enabled());
+  CHECK_FALSE(desk.info.IsLoaded());
+  CHECK(desk.TakeBoxes().empty());
+}
+
+TEST_CASE("typing marks the deck as changed and offers to save") {
+  for (const int box : {0, 1, 2}) {
+    InfoDesk desk;
+    desk.OpenInfo();
+    desk.Type(box, u"typed");
+    CHECK(desk.state.DeckChanged);
+    CHECK(desk.info->Command1[1].Enabled());
+  }
+}
+
+TEST_CASE("saving the information fills row 0 and the strings, and leaves the deck changed") {
+  InfoDesk desk;
+  desk.state.DeckDate = u"2/3/1999";
+  desk.state.DeckTypeName = u"kept";
+  desk.OpenInfo();
+  desk.Type(0, u"Capitals");
+  desk.Type(1, u"Me");
+  desk.Type(2, u"All\r\nof them");
+  desk.Save();
+  CHECK_FALSE(desk.info->Command1[1].Enabled());
+  CHECK(desk.state.DeckChanged);
+  const TextView row[] = {u"",          u"I",        u"",   u"0", u" 2/3/1999",
+                          u" Standard", u"Capitals", u"Me", u"",  u"All\r\nof them"};
+  for (int column = 0; column < kColumns; ++column) {
+    CHECK(desk.state.Cell(kInfoRow, column) == row[column]);
+  }
+  CHECK(desk.state.CardPresent.At(kInfoRow) == 1);
+  CHECK(desk.state.DeckTitle == u"Capitals");
+  CHECK(desk.state.DeckAuthor == u"Me");
+  CHECK(desk.state.DeckDescription == u"All\r\nof them");
+  CHECK(desk.state.DeckDate == u"2/3/1999");
+  CHECK(desk.state.DeckTypeName == u"kept");
+  CHECK(desk.fakes.files.files.empty());
+}
+
+TEST_CASE("closing with edits asks; Yes stays, No drops them and leaves the deck changed") {
+  InfoDesk desk;
+  desk.OpenInfo();
+  desk.Type(0, u"Capitals");
+  desk.Answer(MessageAnswer::kYes);
+  desk.Close();
+  CHECK(desk.info.IsLoaded());
+  CHECK(desk.info->Text1[0].TextOf() == u"Capitals");
+  desk.Answer(MessageAnswer::kNo);
+  desk.Close();
+  CHECK_FALSE(desk.info.IsLoaded());
+  CHECK(desk.TakeBoxes() == Boxes{kReturnBox, kReturnBox});
+  CHECK(desk.state.DeckChanged);
+  CHECK(desk.state.DeckTitle.empty());
+  CHECK(desk.state.Cell(kInfoRow, kInfoTitle).empty());
+}
+
+TEST_CASE("closing the window by its frame asks nothing and enables the deck window") {
+  InfoDesk desk;
+  desk.OpenInfo();
+  desk.Type(0, u"Capitals");
+  desk.info->UserClose();
+  CHECK_FALSE(desk.info.IsLoaded());
+  CHECK(desk.TakeBoxes().empty());
+  CHECK(desk.deck->Enabled());
+}
+
+TEST_CASE("a box that was emptied is stored empty and shows its default the next time") {
+  InfoDesk desk;
+  desk.state.DeckTitle = u"Capitals";
+  desk.OpenInfo();
+  desk.Type(0, u"");
+  desk.Save();
+  CHECK(desk.state.Cell(kInfoRow, kInfoTitle).empty());
+  desk.Close();
+  desk.OpenInfo();
+  CHECK(desk.info->Text1[0].TextOf() == u"Enter Title Here");
+}
+
+TEST_CASE("each opening and saving of the window adds a blank") {
+  InfoDesk desk;
+  for (const TextView title : {u"Enter Title Here", u" Enter Title Here", u"  Enter Title Here"}) {
+    desk.OpenInfo();
+    CHECK(desk.info->Text1[0].TextOf() == title);
+    CollectDeckInfo(desk.state, desk.info.Loaded());
+    desk.Close();
+  }
+}
+
+TEST_CASE("the number of cards is that of the moment when the window was loaded") {
+  InfoDesk desk;
+  desk.OpenInfo();
+  desk.BuildCard(u"second", u"");
+  desk.OpenInfo();
+  CHECK(desk.info->Label3.Caption() == u"Number of cards:  1");
+}
+
+TEST_CASE("a click on the window closes the About box") {
+  InfoDesk desk;
+  desk.OpenInfo();
+  desk.info->UserClick();
+  CHECK(desk.frame.aboutClosed == 1);
+}
+
+TEST_CASE("the window comes on screen when a save loads it") {
+  InfoDesk desk;
+  desk.Choose(u"/decks/a.tsr");
+  desk.Run([&] { desk.deck->mnuSave_Click(); });
+  CHECK(desk.info.IsLoaded());
+  CHECK(desk.info->Visible());
+  CHECK(desk.windows.ActiveForm() == &desk.info.Loaded());
+  CHECK(desk.deck->Enabled());
+  desk.Type(0, u"typed");
+  CHECK(desk.state.DeckChanged);
+}
+
+}  // namespace tessara::test
