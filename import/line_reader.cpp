@@ -1,0 +1,70 @@
+#include "import/line_reader.h"
+
+#include <algorithm>
+#include <string>
+
+#include "platform/run_time_error.h"
+
+namespace tessara {
+
+namespace {
+
+bool IsHighSurrogate(char16_t unit) {
+  return unit >= 0xD800 && unit <= 0xDBFF;
+}
+
+/// The text with one "?" for each character that the code page lacks: two units can be one.
+Text WithinCodePage(TextView text, const CodePage& codePage) {
+  Text result;
+  result.reserve(text.size());
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    result += codePage.Holds(text[at]) ? text[at] : u'?';
+    if (IsHighSurrogate(text[at])) ++at;
+  }
+  return result;
+}
+
+}  // namespace
+
+LineReader::LineReader(FileNumber& file, const CodePage& codePage)
+    : file_(file), codePage_(codePage), traits_(LookThrough(file)), block_(kTextBlockSize) {
+  // Somebody may have cut the file since.
+  if (traits_.hasByteOrderMark && Refill())
+    rest_.remove_prefix(std::min(rest_.size(), kByteOrderMark.size()));
+}
+
+bool LineReader::Refill() {
+  rest_ = {block_.data(), file_.ReadNext(block_)};
+  return !rest_.empty();
+}
+
+bool LineReader::AtEnd() {
+  return rest_.empty() && !Refill();
+}
+
+Text LineReader::ReadLine() {
+  if (AtEnd()) throw RunTimeError(ErrorNumber::kInputPastEnd);
+  const char lineEnd = traits_.hasCarriageReturn ? '\r' : '\n';
+  std::string line;
+  do {
+    const std::size_t end = rest_.find(lineEnd);
+    line += rest_.substr(0, end);
+    if (end != rest_.npos) {
+      rest_.remove_prefix(end + 1);
+      if (traits_.hasCarriageReturn) SkipLineFeed();
+      break;
+    }
+  } while (Refill());
+  return Decode(line);
+}
+
+void LineReader::SkipLineFeed() {
+  if (!AtEnd() && rest_.front() == '\n') rest_.remove_prefix(1);
+}
+
+Text LineReader::Decode(std::string_view bytes) const {
+  if (!traits_.isUtf8) return codePage_.Decode(bytes);
+  return WithinCodePage(FromUtf8(bytes), codePage_);
+}
+
+}  // namespace tessara

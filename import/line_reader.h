@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+#include "deck/file_number.h"
+#include "import/text_traits.h"
+#include "platform/code_page.h"
+#include "platform/text.h"
+
+namespace tessara {
+
+/// The lines of a text file, in characters of the code page.
+///
+/// A line ends at CR or CR LF; in a file without any CR at LF. The end is no part of the line, and
+/// a file that ends with one has no empty line behind it. UTF-8 is recognised; a character that
+/// the code page lacks becomes "?". Takes the memory of the longest line read.
+class LineReader {
+ public:
+  /// The file is open for sequential reading and not read yet. Raises the errors of reading.
+  LineReader(FileNumber& file, const CodePage& codePage);
+
+  [[nodiscard]] bool AtEnd();
+  /// The next line. Raises error 62 at the end of the file.
+  Text ReadLine();
+
+ private:
+  bool Refill();
+  void SkipLineFeed();
+  [[nodiscard]] Text Decode(std::string_view bytes) const;
+
+  FileNumber& file_;
+  const CodePage& codePage_;
+  TextTraits traits_;
+  std::vector<char> block_;
+  std::string_view rest_;  ///< what of `block_` has not been read yet
+};
+
+}  // namespace tessara
