@@ -1,0 +1,59 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+
+#include "deck/card_table.h"
+#include "deck/file_number.h"
+#include "import/line_reader.h"
+#include "platform/clock.h"
+#include "platform/code_page.h"
+#include "platform/message_box.h"
+#include "platform/run_time_error.h"
+#include "platform/text.h"
+
+namespace tessara {
+
+/// What an import fills and what it asks for. Windows are none of its business.
+struct ImportContext {
+  ProgramState& state;
+  FileNumber& fileNumber;
+  MessageBoxes& messages;
+  const CodePage& codePage;
+  Date today;
+  /// Shows the number of cards, each time it has grown.
+  std::function<void(std::int16_t)> setCardTotal;
+  /// Brings up the deck that has been read, at its first card.
+  std::function<void(DeckKind)> showDeck;
+};
+
+/// Reads lines to the end of the cards. False where the file has an error, which has been told.
+/// Raises run-time errors for what it does not foresee.
+using CardsReader = bool (*)(LineReader& lines, const ImportContext& context);
+
+/// Opens the file, reads its cards, closes it; tells where there are none, and abandons the import
+/// where the file has an error. True where the import is to end well, be it with an empty table.
+[[nodiscard]] bool ReadImportFile(const Text& xFilename, const ImportContext& context,
+                                  CardsReader readCards);
+
+/// Shows the deck that has been read, at card 1.
+void ShowImportedDeck(DeckKind kind, const ImportContext& context);
+/// Marks the deck as a new one, never saved, with the information that a new one has.
+void MarkAsImported(const Text& xType, const ImportContext& context);
+/// Fills the information row; `xType` is the word for the type of the deck.
+void SetImportedDeckInfo(const Text& xType, const Date& today, ProgramState& state);
+
+/// The clean-up of a failed import. The card count and the standard reader's numbers stay.
+void AbandonImport(ProgramState& state);
+
+/// Tells an error that the reader did not foresee, and abandons the import.
+void ImportErrorBox(const RunTimeError& error, const ImportContext& context);
+
+/// Tells an error in the file.
+void ShowErrorInFile(const Text& text, MessageBoxes& messages);
+
+/// True where the card may follow the last finished one, else tells that it may not.
+[[nodiscard]] bool CheckCardSequence(std::int16_t xCard, std::int16_t xPrev,
+                                     MessageBoxes& messages);
+
+}  // namespace tessara
