@@ -1,0 +1,61 @@
+#include "import/import_text_file.h"
+
+#include "deck/ask_file_name.h"
+#include "import/TextImport.h"
+#include "import/TextImport2.h"
+#include "import/import_common.h"
+#include "import/line_kinds.h"
+#include "import/line_reader.h"
+
+namespace tessara {
+
+namespace {
+
+Text FirstLine(const Text& path, FileNumber& fileNumber, const CodePage& codePage) {
+  fileNumber.OpenInput(path);
+  Text line = LineReader(fileNumber, codePage).ReadLine();
+  fileNumber.Close();
+  return line;
+}
+
+void ShowDeck(DeckKind kind, DeckWindow& deck) {
+  if (kind == kExtendedDeck) {
+    deck.OpenExtendedView();
+  } else {
+    deck.OpenStandardView();
+  }
+  deck.ShowFirstCard(kind);
+}
+
+ImportContext ContextOf(AppContext& app, FileNumber& fileNumber, Window<DeckWindow> deck) {
+  Machine& machine = app.machine;
+  return {app.state,
+          fileNumber,
+          machine.messages,
+          machine.codePage,
+          machine.clock.Today(),
+          [deck](std::int16_t cards) { deck->Card().SetCardTotal(DecimalText(cards)); },
+          [deck](DeckKind kind) { ShowDeck(kind, deck.Loaded()); }};
+}
+
+}  // namespace
+
+void ImportTextFile(AppContext& app, FileNumber& fileNumber, Window<DeckWindow> deck) {
+  const Text path = AskFileName(FileDialogMode::kOpen, u"Text File|*.txt", app.machine);
+  if (path.empty()) return;
+  const Text format = FirstLine(path, fileNumber, app.machine.codePage);
+  const bool extended = IsWord(format, kExtendedWord);
+  if (!extended && !IsWord(format, kStandardWord)) {
+    ShowErrorInFile(
+        u"EXT or STD was not indicated as a file type at the top of the import file. Import has "
+        u"been aborted.",
+        app.machine.messages);
+    return;
+  }
+  const auto importDeck = extended ? ImportExtended : ImportStandard;
+  importDeck(path, ContextOf(app, fileNumber, deck));
+  // Whether or not it has worked.
+  app.state.SaveOffered = true;
+}
+
+}  // namespace tessara

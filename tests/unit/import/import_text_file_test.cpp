@@ -1,0 +1,217 @@
+#include "import/import_text_file.h"
+
+#include <doctest/doctest.h>
+#include <string>
+
+#include "deck/deck_file.h"
+#include "tests/support/deck_desk.h"
+#include "tests/unit/import/import_desk.h"
+
+namespace tessara::test {
+
+namespace {
+
+const FakeMessages::Shown kUnknownFormat{
+    u"EXT or STD was not indicated as a file type at the top of the import file. Import has been "
+    u"aborted.",
+    kStopIcon, u"Error In Import File"};
+
+const std::string kStandardText = "STD\r\n1.\r\n*>F\r\nfront\r\n*>B\r\nback\r\n";
+const std::string kExtendedText = "EXT\r\n1.question\r\n=F\r\n";
+
+/// The command as the frame runs it, in an event.
+struct CommandDesk : DeckDesk {
+  void Import(std::string bytes) {
+    fakes.files.Put(kTextPath, std::move(bytes));
+    ImportPath(kTextPath);
+  }
+  void ImportPath(const Text& path) {
+    fakes.dialogs.files.push_back(path);
+    windows.Run([this] { ImportTextFile(app, fileNumber, deck); });
+  }
+  Boxes Told() { return fakes.messages.Take(); }
+};
+
+FakeMessages::Shown ErrorReport(const Text& number, const Text& description) {
+  return {u"Run-time error '" + number + u"':\r\n\r\n" + description, kStopIcon, u"Tessara"};
+}
+
+}  // namespace
+
+TEST_CASE("the command asks for a text file and does nothing where none is chosen") {
+  CommandDesk desk;
+  desk.ImportPath(u"");
+  REQUIRE(desk.fakes.dialogs.fileRequests.size() == 1);
+  CHECK(desk.fakes.dialogs.fileRequests[0].mode == FileDialogMode::kOpen);
+  CHECK(desk.fakes.dialogs.fileRequests[0].filter == u"Text File|*.txt");
+  CHECK(desk.Told().empty());
+  CHECK_FALSE(desk.state.SaveOffered);
+  CHECK_FALSE(desk.deck.IsLoaded());
+}
+
+TEST_CASE("a standard text comes up as a new deck in study mode") {
+  CommandDesk desk;
+  desk.Import(kStandardText);
+  CHECK(desk.Told().empty());
+  CHECK(desk.deck->Visible());
+  CHECK(desk.deck->Caption() == u"New Deck");
+  CHECK(desk.deck->Command3[1].Caption() == u"&Show Back");
+  CHECK(desk.state.DeckType == kStandardDeck);
+  CHECK(desk.state.CurrentCard == 1);
+  CHECK(desk.state.CardCount == 1);
+  CHECK(desk.state.DeckChanged);
+  CHECK(desk.state.SaveOffered);
+  CHECK(desk.state.DeckFilePath.empty());
+  CHECK_FALSE(desk.fileNumber.IsOpen());
+}
+
+TEST_CASE("an extended text comes up with the answer of its first card") {
+  CommandDesk desk;
+  desk.Import(kExtendedText);
+  CHECK(desk.deck->Visible());
+  CHECK(desk.deck->Caption() == u"New Deck");
+  CHECK(desk.state.DeckType == kExtendedDeck);
+  CHECK(desk.state.SaveOffered);
+}
+
+TEST_CASE("the first line names the format in any case, with blanks, and with nothing else") {
+  struct Case {
+    std::string line;
+    bool known;
+  };
+  const Case cases[] = {{"EXT", true},    {"  ext ", true},     {"Std", true},   {"std  ", true},
+                        {"", false},      {"EXTRA", false},     {"EXT.", false}, {"STD 1", false},
+                        {"\tSTD", false}, {"1.Question", false}};
+  for (const Case& c : cases) {
+    CAPTURE(c.line);
+    CommandDesk desk;
+    desk.Import(c.line + "\r\n*END*\r\n");
+    CHECK((desk.Told().front() == kUnknownFormat) != c.known);
+    CHECK(desk.state.SaveOffered == c.known);
+    CHECK(desk.deck.IsLoaded() == (c.known && desk.state.DeckChanged));
+    CHECK_FALSE(desk.fileNumber.IsOpen());
+  }
+}
+
+TEST_CASE("a first line of ext selects the extended reader") {
+  CommandDesk desk;
+  desk.Import(" ext \r\n1.question\r\n=T\r\n");
+  CHECK(desk.state.DeckType == kExtendedDeck);
+  CHECK(desk.state.Cell(1, kCardType) == u"T");
+}
+
+TEST_CASE("texts of this platform are read: LF, UTF-8, a byte order mark") {
+  CommandDesk desk;
+  desk.Import("\xEF\xBB\xBFSTD\n1.\n*>F\nna\xC3\xAFve\n*>B\nb\n");
+  CHECK(desk.Told().empty());
+  CHECK(desk.state.Cell(1, kCardText) == u"na\u00EFve");
+}
+
+TEST_CASE("the type line alone tells that there are no cards and shows an empty window") {
+  CommandDesk desk;
+  desk.Import("STD");
+  CHECK(desk.Told() == Boxes{kNoCards});
+  CHECK(desk.deck->Visible());
+  CHECK_FALSE(desk.state.HasCards());
+}
+
+TEST_CASE("a failed import brings up no window but leaves the offer to save") {
+  CommandDesk desk;
+  desk.Import("EXT\r\n1.Q\r\n=x\r\n");
+  CHECK(desk.Told().empty());
+  CHECK_FALSE(desk.deck->Visible());
+  CHECK(desk.state.SaveOffered);
+  CHECK_FALSE(desk.state.HasCards());
+}
+
+TEST_CASE("an error on the very first card shows two boxes") {
+  CommandDesk desk;
+  desk.Import("STD\r\n2.\r\n");
+  CHECK(desk.Told() == Boxes{kBadFirstCard, kNoCards});
+}
+
+TEST_CASE("an empty, missing or barred file ends the program with the error's report") {
+  CommandDesk empty;
+  empty.Import("");
+  CHECK(empty.Told() == Boxes{ErrorReport(u"62", u"Input past end of file")});
+  CHECK(empty.windows.ExitStatus() == 1);
+  CommandDesk missing;
+  missing.fakes.files.folders.insert(u"/texts");
+  missing.ImportPath(kTextPath);
+  CHECK(missing.Told() == Boxes{ErrorReport(u"53", u"File not found")});
+  CommandDesk folder;
+  folder.fakes.files.folders.insert(u"/texts");
+  folder.ImportPath(u"/texts");
+  CHECK(folder.Told() == Boxes{ErrorReport(u"75", u"Path/File access error")});
+  CommandDesk barred;
+  barred.fakes.files.withoutPermission.insert(kTextPath);
+  barred.Import(kStandardText);
+  CHECK(barred.Told() == Boxes{ErrorReport(u"70", u"Permission denied")});
+}
+
+TEST_CASE("after an unforeseen error the next import ends the program") {
+  CommandDesk desk;
+  desk.Import("EXT\r\n1\r\n");
+  CHECK(desk.Told() == Boxes{UnforeseenError(u"Type mismatch")});
+  CHECK(desk.state.SaveOffered);
+  CHECK_FALSE(desk.windows.ExitStatus());
+  desk.Import(kStandardText);
+  CHECK(desk.Told() == Boxes{ErrorReport(u"55", u"File already open")});
+  CHECK(desk.windows.ExitStatus() == 1);
+}
+
+TEST_CASE("after an unforeseen error a load fails") {
+  CommandDesk desk;
+  desk.Import("EXT\r\n1\r\n");
+  CHECK(ErrorOf([&] {
+          LoadDeckFromFile(u"/texts/deck.tsr", desk.state, desk.fileNumber, CodePage::Western());
+        }) == 55);
+}
+
+TEST_CASE("after an unforeseen error a save writes nothing, says it did, and frees the file") {
+  CommandDesk desk;
+  desk.Import("EXT\r\n1\r\n");
+  desk.Told();
+  desk.AddTextCard(u"front", u"back");
+  desk.deck->SaveTessaraToFile(u"/texts/deck.tsr");
+  CHECK(desk.Told() == Boxes{{u"This file has been saved to ", kOkOnly, u"Save"}});
+  CHECK_FALSE(desk.fakes.files.Has(u"/texts/deck.tsr"));
+  CHECK(desk.fakes.files.Bytes(kTextPath) == "EXT\r\n1\r\n");
+  CHECK_FALSE(desk.fileNumber.IsOpen());
+  desk.Import(kExtendedText);
+  CHECK(desk.Told().empty());
+}
+
+TEST_CASE("the first save after an import asks for a name and stores the type of the window") {
+  struct Case {
+    std::string bytes;
+    Text type;
+  };
+  for (const Case& c : {Case{kStandardText, u" Standard"}, Case{kExtendedText, u" Extended"}}) {
+    CommandDesk desk;
+    desk.Import(c.bytes);
+    desk.fakes.dialogs.files.emplace_back(u"/texts/deck.tsr");
+    desk.deck->mnuSave_Click();
+    CHECK(desk.fakes.dialogs.fileRequests.back().mode == FileDialogMode::kSave);
+    CHECK(desk.state.Cell(kInfoRow, kInfoType) == c.type);
+    CHECK(desk.fakes.files.Bytes(u"/texts/deck.tsr").find(ToUtf8(c.type)) != std::string::npos);
+    CHECK_FALSE(desk.state.SaveOffered);
+  }
+}
+
+TEST_CASE("a deck of 202 cards is saved whole and loaded back as 200") {
+  std::string bytes = "EXT\r\n";
+  for (int card = 1; card <= 202; ++card) bytes += std::to_string(card) + ".Q\r\n=T\r\n\r\n";
+  CommandDesk desk;
+  desk.Import(bytes);
+  desk.fakes.dialogs.files.emplace_back(u"/texts/deck.tsr");
+  desk.deck->mnuSave_Click();
+  constexpr std::size_t kInfoAndTerminator = 2;
+  CHECK(desk.fakes.files.Bytes(u"/texts/deck.tsr").size() >=
+        (200 + kInfoAndTerminator) * kRecordSize);
+  ProgramState loaded;
+  LoadDeckFromFile(u"/texts/deck.tsr", loaded, desk.fileNumber, CodePage::Western());
+  CHECK(loaded.CardCount == 200);
+}
+
+}  // namespace tessara::test
