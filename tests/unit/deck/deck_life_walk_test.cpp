@@ -1,0 +1,283 @@
+#include <algorithm>
+#include <doctest/doctest.h>
+#include <random>
+
+#include "tests/unit/deck/deck_life_model.h"
+
+// Long random lives of decks, each step compared with a model of its own.
+
+namespace tessara::test {
+
+namespace {
+
+const Text kNames[] = {u"/decks/a.tsr",
+                       u"/decks/b.tsr",
+                       u"/decks/New.tsr",
+                       u"/decks/c.d.tsr",
+                       u"/nowhere/x.tsr",
+                       u"/decks/plain",
+                       u"",
+                       u"*.tsr"};
+
+/// One life: the program and the model, led by the same dice.
+class Walk {
+ public:
+  explicit Walk(unsigned seed) : dice_(seed) {
+    PutFile(u"/decks/a.tsr", DeckBytes(2, {.title = u"a title"}));
+    PutFile(u"/decks/b.tsr", DeckBytes(5, {.date = u" 2/3/1999", .author = u"Me"}));
+    PutFile(u"/decks/none.tsr", DeckBytes(0));
+    PutFile(u"/decks/blank.tsr",
+            InfoBytes({}) + CardBytes(1, u"", u"back") + CardBytes(2, u"front", u"") + EndBytes());
+    desk_.NewDeck();
+  }
+
+  /// What the step did, for the message of a failure.
+  std::string Step() {
+    PrepareAnswers();
+    const std::string done = Command();
+    desk_.fakes.dialogs.files.clear();
+    desk_.fakes.messages.answers.clear();
+    return done;
+  }
+
+  /// What of the program is not as the model has it; empty where all is.
+  std::string Differences() {
+    const ProgramState& state = desk_.state;
+    differences_.clear();
+    Expect(desk_.TakeBoxes() == std::exchange(model_.boxes, {}), "boxes");
+    Expect(state.DeckFilePath == model_.path, "path");
+    Expect(state.DeckChanged == model_.changed, "changed");
+    Expect(state.SaveOffered == model_.offered, "save offered");
+    Expect(state.DeckOnFile == model_.onFile, "on file");
+    Expect(state.CardCount == model_.count, "count");
+    Expect(state.CurrentCard == model_.current, "card on show");
+    Expect(desk_.deck.IsLoaded() == model_.window, "deck window");
+    Expect(desk_.info.IsLoaded() == model_.info.has_value(), "information window");
+    Expect(!model_.window || desk_.deck->Caption() == model_.title, "caption");
+    CompareStrings();
+    CompareCards();
+    CompareDisk();
+    return differences_;
+  }
+
+ private:
+  void PutFile(const Text& path, const std::string& bytes) {
+    desk_.fakes.files.Put(path, bytes);
+    model_.disk[path] = bytes;
+  }
+
+  unsigned Roll(std::size_t sides) { return static_cast<unsigned>(dice_() % sides); }
+
+  Text AnyName() { return kNames[Roll(std::size(kNames))]; }
+
+  Text NameToOpen() {
+    if (Roll(4) == 0) return Text(Roll(2) == 0 ? u"*.tsr" : u"/decks/a.TSR");
+    if (Roll(6) == 0) return u"";
+    auto file = model_.disk.begin();
+    std::advance(file, Roll(model_.disk.size()));
+    return file->first;
+  }
+
+  Text AnyText() {
+    const Text texts[] = {u"front",        u"salt & pepper",       u"  blanks around  ",
+                          u"two\r\nlines", u"ends in a break\r\n", Text(450, u'x')};
+    return texts[Roll(std::size(texts))];
+  }
+
+  void PrepareAnswers() {
+    model_.answers.clear();
+    model_.dialogs.clear();
+    for (int i = 0; i < 3; ++i) {
+      model_.answers.push_back(Roll(2) == 0 ? MessageAnswer::kYes : MessageAnswer::kNo);
+      model_.dialogs.push_back(AnyName());
+    }
+  }
+
+  /// The user has made up his mind: the program is told the same as the model.
+  void Tell() {
+    desk_.fakes.messages.answers = model_.answers;
+    desk_.fakes.dialogs.files = model_.dialogs;
+  }
+
+  std::string Command() {
+    if (!model_.window) return Reopen();
+    if (model_.quiz) return InQuiz();
+    switch (Roll(12)) {
+      case 0:
+      case 1:
+      case 2:
+        return Build();
+      case 3:
+        return Delete();
+      case 4:
+        return Clear();
+      case 5:
+        return Open();
+      case 6:
+        return Save();
+      case 7:
+        return SaveAs();
+      case 8:
+        return Leave();
+      case 9:
+        return Quiz();
+      case 10:
+        return EditTitle();
+      default:
+        return CloseInfo();
+    }
+  }
+
+  std::string Reopen() {
+    model_.Reopen();
+    desk_.NewDeck();
+    return "reopen";
+  }
+
+  std::string InQuiz() {
+    if (Roll(2) == 0) return Leave();
+    model_.Study();
+    desk_.Run([this] { desk_.deck->mnuStudy_Click(); });
+    return "study";
+  }
+
+  std::string Build() {
+    constexpr int kEnough = 6;
+    if (!model_.Consistent() || model_.count == kEnough) return "nothing";
+    const DeckLifeModel::Card card = {AnyText(), AnyText()};
+    model_.Build(card);
+    desk_.BuildCard(card.front, card.back);
+    return "build";
+  }
+
+  std::string Delete() {
+    const bool onCard = model_.current >= 1 && model_.current <= model_.count;
+    if (!model_.Consistent() || !onCard) return "nothing";
+    Tell();
+    model_.Delete();
+    desk_.Run([this] { desk_.deck->mnuDelete_Click(); });
+    return "delete";
+  }
+
+  std::string Clear() {
+    Tell();
+    model_.Clear();
+    desk_.Run([this] { desk_.deck->mnuNCD_Click(); });
+    return "clear";
+  }
+
+  std::string Open() {
+    model_.dialogs.push_front(NameToOpen());
+    Tell();
+    model_.Open();
+    desk_.Run([this] { desk_.deck->mnuOCD_Click(); });
+    return "open";
+  }
+
+  std::string Save() {
+    Tell();
+    model_.Save();
+    desk_.Run([this] { desk_.deck->mnuSave_Click(); });
+    return "save";
+  }
+
+  std::string SaveAs() {
+    Tell();
+    model_.SaveAs();
+    desk_.Run([this] { desk_.deck->mnuSaveAs_Click(); });
+    return "save as";
+  }
+
+  std::string Leave() {
+    Tell();
+    if (Roll(2) == 0) {
+      model_.Exit();
+      desk_.Run([this] { desk_.deck->mnuExit_Click(); });
+      return "exit";
+    }
+    model_.Close();
+    desk_.Run([this] { desk_.deck->Command3_Click(2); });
+    return "close";
+  }
+
+  std::string Quiz() {
+    if (!model_.HasCards()) return "nothing";
+    model_.Quiz();
+    desk_.Run([this] { desk_.deck->mnuQuiz_Click(); });
+    return "quiz";
+  }
+
+  std::string EditTitle() {
+    const Text typed = Roll(3) == 0 ? u"" : u"title " + DecimalText(Roll(100));
+    if (model_.info && model_.info->title == typed) return "nothing";
+    model_.EditTitle(typed);
+    desk_.Run([this] { desk_.deck->mnuCDI_Click(); });
+    TextBox& box = desk_.info->Text1[0];
+    box.UserEdit({0, box.TextOf().size(), typed});
+    desk_.info->Command1[1].Press();
+    desk_.info->Command1[0].Press();
+    return "edit title";
+  }
+
+  std::string CloseInfo() {
+    if (!model_.info) return "nothing";
+    model_.CloseInfo();
+    desk_.info->Command1[0].Press();
+    return "close information";
+  }
+
+  void Expect(bool holds, const std::string& what) {
+    if (!holds) differences_ += what + "; ";
+  }
+
+  void CompareStrings() {
+    const ProgramState& state = desk_.state;
+    Expect(state.DeckDate == model_.strings.date, "date");
+    Expect(state.DeckTitle == model_.strings.title, "title");
+    Expect(state.DeckAuthor == model_.strings.author, "author");
+    Expect(state.DeckDescription == model_.strings.description, "description");
+  }
+
+  void CompareCards() {
+    for (int row = 1; row <= kMostCards; ++row) {
+      const auto at = static_cast<std::size_t>(row) - 1;
+      const bool there = at < model_.cards.size();
+      const auto card = there ? model_.cards[at] : DeckLifeModel::Card{};
+      Expect(desk_.state.Cell(row, kCardText) == card.front &&
+                 desk_.state.Cell(row, kBackText) == card.back &&
+                 (desk_.state.CardPresent.At(row) != 0) == there,
+             "row " + std::to_string(row));
+    }
+  }
+
+  void CompareDisk() {
+    Expect(desk_.fakes.files.files.size() == model_.disk.size(), "number of files");
+    for (const auto& [path, bytes] : model_.disk) {
+      Expect(desk_.File(path) == bytes, ToUtf8(path));
+    }
+  }
+
+  std::string differences_;
+  std::mt19937 dice_;
+  LifeDesk desk_;
+  DeckLifeModel model_;
+};
+
+}  // namespace
+
+TEST_CASE("a deck lives as its model says, whatever the user does in whatever order") {
+  constexpr unsigned kLives = 40;
+  constexpr int kSteps = 150;
+  for (unsigned seed = 1; seed <= kLives; ++seed) {
+    Walk walk(seed);
+    std::string steps;
+    for (int step = 0; step < kSteps; ++step) {
+      steps += walk.Step() + ", ";
+      CAPTURE(seed);
+      CAPTURE(steps);
+      REQUIRE(walk.Differences() == "");
+    }
+  }
+}
+
+}  // namespace tessara::test
