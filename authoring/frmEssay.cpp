@@ -14,8 +14,8 @@ constexpr int kFront = 0;
 constexpr int kBack = 1;
 /// Lines of a back from which on the user is told that a card shows no more.
 constexpr int kMostLines = 10;
-constexpr Color kBlue = FixedColor(0, 0, 192);
-constexpr Color kRed = FixedColor(192, 0, 0);
+constexpr Color kBlue = FixedColor(0, 0, 255);
+constexpr Color kRed = FixedColor(255, 0, 0);
 const Text kTextCard = u"E";
 
 }  // namespace
@@ -32,7 +32,7 @@ void frmEssay::PlaceControls() {
   Place({
       {&Label1, "Label1", kNoIndex, nullptr, u"Card Builder:", {120, 120, 2970, 375}, u""},
       {&Label2[0], "Label2", 0, nullptr, u"FRONT", {120, 480, 1095, 255}, u""},
-      {&Label2[2], "Label2", 2, nullptr, u"", {1440, 420, 1785, 240}, u"Card number"},
+      {&Label2[2], "Label2", 2, nullptr, u"", {1440, 420, 1785, 240}, u""},
       {&Text1[kFront], "Text1", kFront, nullptr, u"", {120, 720, 5175, 1695}, u"Front"},
       {&Label2[1], "Label2", 1, nullptr, u"BACK", {120, 2520, 975, 255}, u""},
       {&Text1[kBack], "Text1", kBack, nullptr, u"", {120, 2760, 5175, 1695}, u"Back"},

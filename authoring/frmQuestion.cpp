@@ -12,7 +12,7 @@ namespace {
 constexpr int kWindowHeight = 6000;
 constexpr int kWindowWidth = 5535;
 constexpr int kChoiceLayout = 0;
-constexpr Color kBlue = FixedColor(0, 0, 192);
+constexpr Color kBlue = FixedColor(0, 0, 255);
 constexpr Color kDarkRed = FixedColor(128, 0, 0);
 
 }  // namespace
@@ -31,7 +31,7 @@ void frmQuestion::PlaceControls() {
   Place({
       {&Label1, "Label1", kNoIndex, nullptr, u"Card Builder:", {120, 120, 2655, 375}, u""},
       {&Label2[0], "Label2", 0, nullptr, u"QUESTION", {120, 720, 1095, 255}, u""},
-      {&Label2[1], "Label2", 1, nullptr, u"Card:", {3600, 120, 1695, 255}, u"Card number"},
+      {&Label2[1], "Label2", 1, nullptr, u"Card:", {3600, 120, 1695, 255}, u""},
       {&Option3[0], "Option3", 0, nullptr, u"Multiple Choice", {1560, 600, 1095, 375}, u""},
       {&Option3[1], "Option3", 1, nullptr, u"True/False", {2520, 600, 735, 375}, u""},
       {&Text2, "Text2", kNoIndex, nullptr, u"", {120, 1080, 5175, 1575}, u"Question"},
