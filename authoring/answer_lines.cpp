@@ -12,8 +12,6 @@ namespace {
 constexpr Color kOpenColor = {Color::Role::kWindow};
 constexpr Color kClosedColor = {Color::Role::kButtonFace};
 constexpr int kLastLine = 3;
-constexpr TextView kPlaceholder = u"[TEXT MISSING HERE]";
-
 /// The fifth capital letter of the run shortens the line that it is typed on.
 constexpr int kShorteningCapital = 5;
 constexpr int kShortLine = 40;

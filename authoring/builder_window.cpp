@@ -1,5 +1,6 @@
 #include "authoring/builder_window.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "deck/delete_card_row.h"
@@ -17,17 +18,49 @@ void BuilderWindow::Form_Unload(bool& /*cancel*/) {
   deck_->Show();
 }
 
+template <class Command>
+void BuilderWindow::KeepFocus(const Button& pressed, const Command& command,
+                              std::initializer_list<Button*> others) {
+  const bool hadFocus = FocusedControl() == &pressed;
+  command();
+  const bool lost = hadFocus && !pressed.Enabled();
+  // The command itself may have gone to a box.
+  if (!lost || FocusedControl()->Kind() == ControlKind::kTextBox) return;
+  const auto* next = std::find_if(others.begin(), others.end(),
+                                  [](const Button* other) { return other->Reachable(); });
+  if (next != others.end()) (*next)->SetFocus();
+}
+
 void BuilderWindow::cmdMove_Click(int Index) {
   ProgramState& state = State();
-  UnderGuard([&] {
+  const auto move = [&] {
     AskSaveChanged();
     state.CurrentCard = static_cast<std::int16_t>(state.CurrentCard + (Index == 1 ? 1 : -1));
     ShowBuilderCard(state.CurrentCard);
     SetMoveButtons(cmdMove, state);
-  });
+  };
+  KeepFocus(cmdMove[Index], [&] { UnderGuard(move); }, {&cmdMove[1 - Index]});
 }
 
-void BuilderWindow::ShowState(BuilderState xState) {
+void BuilderWindow::Button_Click(int Index) {
+  Buttons& buttons = ButtonsOf();
+  switch (Index) {
+    case kNewButton:
+      StartNewCard();
+      break;
+    case kAddButton:
+      KeepFocus(buttons[kAddButton], [this] { AddOrChange(); },
+                {&buttons[kNewButton], &buttons[kCloseButton]});
+      break;
+    case kCancelButton:
+      CancelOrDelete();
+      break;
+    default:
+      Close();
+  }
+}
+
+void BuilderWindow::SetBuilderState(BuilderState xState) {
   Buttons& buttons = ButtonsOf();
   buttons[kAddButton].SetEnabled(false);
   if (xState == BuilderState::kNew) {
@@ -44,6 +77,54 @@ void BuilderWindow::ShowState(BuilderState xState) {
   }
 }
 
+void BuilderWindow::PrepareNewCard() {
+  ButtonsOf()[kNewButton].SetEnabled(false);
+  ButtonsOf()[kAddButton].SetCaption(u"&Add to deck");
+  ClearForm();
+  FirstBox().SetFocus();
+  ShowNextNumber();
+  State().CardChanged = false;
+}
+
+void BuilderWindow::StartNewCard() {
+  State().CardChanged = true;
+  AskSaveChanged();
+  PrepareNewCard();
+  SetBuilderState(BuilderState::kNew);
+  ButtonsOf()[kCancelButton].SetEnabled(true);
+  State().CurrentCard = static_cast<std::int16_t>(State().CardCount + 1);
+}
+
+void BuilderWindow::CancelOrDelete() {
+  if (Cancelling()) {
+    Cancel();
+  } else {
+    Delete();
+  }
+  ButtonsOf()[kAddButton].SetEnabled(false);
+}
+
+void BuilderWindow::Delete() {
+  ProgramState& state = State();
+  DeleteCardRow(state.CurrentCard, cmdMove, deck_->NoteletCtl1, state, app_.machine.messages);
+  UnderGuard([this] { ClearForm(); });
+  // Also where the user said no.
+  state.DeckChanged = true;
+  if (state.CardCount != 0) {
+    UnderGuard([&] { ShowBuilderCard(state.CurrentCard); });
+    SetBuilderState(BuilderState::kOld);
+  } else {
+    WaitForFirstCard();
+  }
+  deck_->SetGoToMenu();
+}
+
+void BuilderWindow::WaitForFirstCard() {
+  SetBuilderState(BuilderState::kNew);
+  ButtonsOf()[kCancelButton].SetEnabled(false);
+  FirstBox().SetFocus();
+}
+
 bool BuilderWindow::AskYesNo(const Text& question, int flags, const Text& title) {
   return app_.machine.messages.Show(question, flags + kYesNo, title) == MessageAnswer::kYes;
 }
@@ -55,10 +136,6 @@ bool BuilderWindow::AskAboutChangedCard() {
 
 void BuilderWindow::EnsureCurrentCard() {
   if (State().CurrentCard == 0) State().CurrentCard = 1;
-}
-
-void BuilderWindow::DeleteCurrentCard() {
-  DeleteCardRow(State().CurrentCard, cmdMove, deck_->NoteletCtl1, State(), app_.machine.messages);
 }
 
 }  // namespace tessara

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <initializer_list>
+#include <string>
+
 #include "deck/app_context.h"
 #include "deck/move_buttons.h"
 #include "forms/controls.h"
@@ -37,20 +40,35 @@ class BuilderWindow : public Form {
   [[nodiscard]] AppContext& App() const { return app_; }
   [[nodiscard]] Window<frmMain> Deck() const { return deck_; }
 
-  /// The four buttons and the label of the card's number, as each builder names them.
+  // Where each builder is its own.
   virtual Buttons& ButtonsOf() = 0;
   virtual Label& NumberLabel() = 0;
+  /// The box that a new card starts with.
+  virtual TextBox& FirstBox() = 0;
+  virtual void ClearForm() = 0;
   virtual void ShowBuilderCard(int xRec) = 0;
   virtual void AskSaveChanged() = 0;
+  virtual void AddOrChange() = 0;
+  virtual void Cancel() = 0;
+  virtual void Close() = 0;
 
+  // What is the same in both; the question builder adds to it.
   /// Captions and enabled state of the buttons and the arrows by state; the cancel button of a
-  /// new card is left as it is.
-  void ShowState(BuilderState xState);
+  /// new card is left on or off.
+  virtual void SetBuilderState(BuilderState xState);
+  /// An empty form with the number behind the last card's; the guard is off then.
+  virtual void PrepareNewCard();
+  virtual void StartNewCard();
+
+  void Button_Click(int Index);
+  void Delete();
+  /// A new card in a deck without cards: nothing to cancel yet.
+  void WaitForFirstCard();
+
   void ShowNumber(const Text& number) { NumberLabel().SetCaption(u"Card: " + number); }
   void ShowNextNumber() { ShowNumber(DecimalText(State().CardCount + 1)); }
   [[nodiscard]] bool Adding() { return ButtonsOf()[kAddButton].Caption() == u"&Add to deck"; }
-  [[nodiscard]] bool Cancelling() { return ButtonsOf()[kCancelButton].Caption() == u"&Cancel"; }
-  /// Asks about a changed card. True for Yes.
+  /// Asks with Yes and No. True for Yes.
   bool AskYesNo(const Text& question, int flags, const Text& title);
   bool AskAboutChangedCard();
   /// Runs writes to the boxes that are not to count as edits.
@@ -62,12 +80,18 @@ class BuilderWindow : public Form {
   }
   /// Makes card 1 the current one where there is none yet.
   void EnsureCurrentCard();
-  /// Deletes the card on show, if the user says so.
-  void DeleteCurrentCard();
   /// Where the deck's printing stands by the number of cards.
   void EnablePrinting() { deck_->mnuPrint.SetEnabled(State().CardCount >= 1); }
 
  private:
+  [[nodiscard]] bool Cancelling() { return ButtonsOf()[kCancelButton].Caption() == u"&Cancel"; }
+  void CancelOrDelete();
+  /// Runs the command of a button. Where the button goes off by it with the focus on it, the
+  /// focus goes to the first of the others that is on, and not to where the desktop throws it.
+  template <class Command>
+  void KeepFocus(const Button& pressed, const Command& command,
+                 std::initializer_list<Button*> others);
+
   AppContext& app_;
   Window<frmMain> deck_;
 };

@@ -8,8 +8,6 @@ namespace tessara {
 
 namespace {
 
-constexpr int kWindowHeight = 5730;
-constexpr int kWindowWidth = 5565;
 constexpr int kFront = 0;
 constexpr int kBack = 1;
 /// Lines of a back from which on the user is told that a card shows no more.
@@ -21,8 +19,8 @@ const Text kTextCard = u"E";
 }  // namespace
 
 frmEssay::frmEssay(AppContext& app, Window<frmMain> deck) : BuilderWindow(app, "frmEssay", deck) {
-  SetHeight(kWindowHeight);
-  SetWidth(kWindowWidth);
+  SetHeight(kHeight);
+  SetWidth(kWidth);
   PlaceControls();
   Text1.Wire(&TextBox::onChange, [this](int Index) { Text1_Change(Index); });
   Command1.Wire(&Button::onClick, [this](int Index) { Command1_Click(Index); });
@@ -109,15 +107,6 @@ void frmEssay::AskSaveChanged() {
   Command1[kAddButton].SetEnabled(false);
 }
 
-void frmEssay::PrepareNewCard() {
-  Command1[kNewButton].SetEnabled(false);
-  Command1[kAddButton].SetCaption(u"&Add to deck");
-  ClrFrm();
-  Text1[kFront].SetFocus();
-  ShowNextNumber();
-  State().CardChanged = false;
-}
-
 void frmEssay::Text1_Change(int Index) {
   if (Index == kBack) SkipErrors([this] { WarnAboutLines(); });
   if (!State().CardChanged) EnableCardButtons();
@@ -129,33 +118,6 @@ void frmEssay::WarnAboutLines() {
       u"You have reached the maximum number of lines that a card will show. Any further lines "
       u"which are added will not be seen.",
       kInformationIcon, u"Maximum Lines Reached!");
-}
-
-void frmEssay::Command1_Click(int Index) {
-  switch (Index) {
-    case kNewButton:
-      StartNewCard();
-      break;
-    case kAddButton:
-      AddOrChange();
-      break;
-    case kCancelButton:
-      CancelOrDelete();
-      break;
-    default:
-      Close();
-  }
-}
-
-void frmEssay::StartNewCard() {
-  State().CardChanged = true;
-  AskSaveChanged();
-  PrepareNewCard();
-  SetBuilderState(BuilderState::kNew);
-  Command1[kCancelButton].SetEnabled(true);
-  State().CurrentCard = static_cast<std::int16_t>(State().CardCount + 1);
-  State().CardChanged = false;
-  ShowNumber(DecimalText(State().CurrentCard));
 }
 
 void frmEssay::AddOrChange() {
@@ -174,46 +136,19 @@ void frmEssay::AddOrChange() {
   State().SaveOffered = true;
 }
 
-void frmEssay::CancelOrDelete() {
-  if (Cancelling()) {
-    Cancel();
-  } else {
-    Delete();
-  }
-  Command1[kAddButton].SetEnabled(false);
-}
-
 void frmEssay::Cancel() {
   ProgramState& state = State();
   if (state.CardCount < 1) {
     PrepareNewCard();
-    SetBuilderState(BuilderState::kNew);
-    state.CardChanged = false;
-    Command1[kCancelButton].SetEnabled(false);
+    WaitForFirstCard();
     Deck()->mnuGTP.SetEnabled(false);
-    Text1[kFront].SetFocus();
   } else {
+    // Still at the place of the new card: the arrows are set for it.
     ShowBuilderCard(state.CardCount);
     SetBuilderState(BuilderState::kOld);
     Deck()->SetGoToMenu();
   }
   state.CurrentCard = state.CardCount;
-}
-
-void frmEssay::Delete() {
-  ProgramState& state = State();
-  DeleteCurrentCard();
-  UnderGuard([this] { ClrFrm(); });
-  state.DeckChanged = true;
-  if (state.CardCount != 0) {
-    UnderGuard([&] { ShowBuilderCard(state.CurrentCard); });
-    SetBuilderState(BuilderState::kOld);
-  } else {
-    SetBuilderState(BuilderState::kNew);
-    Command1[kCancelButton].SetEnabled(false);
-    Text1[kFront].SetFocus();
-  }
-  Deck()->SetGoToMenu();
 }
 
 void frmEssay::Close() {

@@ -8,6 +8,10 @@ namespace tessara {
 /// or changed.
 class frmEssay : public BuilderWindow {
  public:
+  /// Outer size in twips.
+  static constexpr int kHeight = 5730;
+  static constexpr int kWidth = 5565;
+
   frmEssay(AppContext& app, Window<frmMain> deck);
 
   Label Label1;
@@ -22,27 +26,24 @@ class frmEssay : public BuilderWindow {
   void SaveCard(const Text& xQuestType);
 
   void Text1_Change(int Index);
-  void Command1_Click(int Index);
+  void Command1_Click(int Index) { Button_Click(Index); }
 
  protected:
   void Form_Load() override;
   Buttons& ButtonsOf() override { return Command1; }
   Label& NumberLabel() override { return Label2[2]; }
+  TextBox& FirstBox() override { return Text1[0]; }
+  void ClearForm() override { ClrFrm(); }
   void ShowBuilderCard(int xRec) override;
   void AskSaveChanged() override;
+  void AddOrChange() override;
+  void Cancel() override;
+  void Close() override;
 
  private:
   void PlaceControls();
   void EnableCardButtons();
-  void SetBuilderState(BuilderState xState) { ShowState(xState); }
-  void PrepareNewCard();
   void WarnAboutLines();
-  void StartNewCard();
-  void AddOrChange();
-  void CancelOrDelete();
-  void Cancel();
-  void Delete();
-  void Close();
   void SaveBeforeClose();
 };
 

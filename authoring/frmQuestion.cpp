@@ -9,8 +9,6 @@ namespace tessara {
 
 namespace {
 
-constexpr int kWindowHeight = 6000;
-constexpr int kWindowWidth = 5535;
 constexpr int kChoiceLayout = 0;
 constexpr Color kBlue = FixedColor(0, 0, 255);
 constexpr Color kDarkRed = FixedColor(128, 0, 0);
@@ -19,9 +17,10 @@ constexpr Color kDarkRed = FixedColor(128, 0, 0);
 
 frmQuestion::frmQuestion(AppContext& app, Window<frmMain> deck)
     : BuilderWindow(app, "frmQuestion", deck) {
-  SetHeight(kWindowHeight);
-  SetWidth(kWindowWidth);
+  SetHeight(kHeight);
+  SetWidth(kWidth);
   PlaceControls();
+  DressControls();
   WireControls();
 }
 
@@ -54,6 +53,9 @@ void frmQuestion::PlaceControls() {
       {&Command2[2], "Command2", 2, nullptr, u"&Delete from deck", {2520, 4920, 1455, 495}, u""},
       {&Command2[3], "Command2", 3, nullptr, u"&Close", {4080, 4920, 1215, 495}, u""},
   });
+}
+
+void frmQuestion::DressControls() {
   Label1.SetFont({u"MS Sans Serif", 9.75});
   Label1.SetForeColor(kBlue);
   Label2[1].SetForeColor(kDarkRed);
@@ -144,7 +146,7 @@ void frmQuestion::ShowBuilderCard(int xRec) {
 
 void frmQuestion::SetBuilderState(BuilderState xState) {
   const bool fresh = xState == BuilderState::kNew;
-  ShowState(xState);
+  BuilderWindow::SetBuilderState(xState);
   if (fresh) Command2[kCancelButton].SetEnabled(true);
   // A card's type can be chosen only while it is new.
   for (OptionButton& option : Option3) option.SetEnabled(fresh);
@@ -157,49 +159,18 @@ void frmQuestion::AskSaveChanged() {
 }
 
 void frmQuestion::PrepareNewCard() {
-  Command2[kNewButton].SetEnabled(false);
-  Command2[kAddButton].SetCaption(u"&Add to deck");
-  ClrForm();
-  Text2.SetFocus();
-  ShowNextNumber();
+  BuilderWindow::PrepareNewCard();
+  // A new card keeps the type of the card before it.
   if (Option3[kChoiceLayout].Selected()) {
     ChoiceForm();
   } else {
     TrueFalseForm();
   }
-  State().CardChanged = false;
-}
-
-void frmQuestion::Command2_Click(int Index) {
-  switch (Index) {
-    case kNewButton:
-      StartNewCard();
-      break;
-    case kAddButton:
-      AddOrChange();
-      break;
-    case kCancelButton:
-      if (Cancelling()) {
-        Cancel();
-      } else {
-        Delete();
-      }
-      Command2[kAddButton].SetEnabled(false);
-      break;
-    default:
-      Close();
-  }
 }
 
 void frmQuestion::StartNewCard() {
-  State().CardChanged = true;
-  AskSaveChanged();
-  PrepareNewCard();
-  SetBuilderState(BuilderState::kNew);
-  Command2[kCancelButton].SetEnabled(true);
+  BuilderWindow::StartNewCard();
   ResetAnswerLines();
-  State().CurrentCard = static_cast<std::int16_t>(State().CardCount + 1);
-  State().CardChanged = false;
 }
 
 void frmQuestion::Cancel() {
@@ -207,10 +178,7 @@ void frmQuestion::Cancel() {
   state.CurrentCard = state.CardCount;
   if (state.CurrentCard < 1) {
     PrepareNewCard();
-    SetBuilderState(BuilderState::kNew);
-    state.CardChanged = false;
-    Command2[kCancelButton].SetEnabled(false);
-    Text2.SetFocus();
+    WaitForFirstCard();
     ResetAnswerLines();
   } else {
     UnderGuard([&] {
@@ -220,22 +188,6 @@ void frmQuestion::Cancel() {
       SyncAnswerLines();
     });
   }
-}
-
-void frmQuestion::Delete() {
-  ProgramState& state = State();
-  DeleteCurrentCard();
-  UnderGuard([this] { ClrForm(); });
-  state.DeckChanged = true;
-  if (state.CardCount != 0) {
-    UnderGuard([&] { ShowBuilderCard(state.CurrentCard); });
-    SetBuilderState(BuilderState::kOld);
-  } else {
-    SetBuilderState(BuilderState::kNew);
-    Command2[kCancelButton].SetEnabled(false);
-    Text2.SetFocus();
-  }
-  Deck()->SetGoToMenu();
 }
 
 void frmQuestion::AddOrChange() {

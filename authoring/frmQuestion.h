@@ -10,6 +10,10 @@ namespace tessara {
 /// the answer lines open and close, question_saving.cpp how a card goes into the table and back.
 class frmQuestion : public BuilderWindow {
  public:
+  /// Outer size in twips.
+  static constexpr int kHeight = 6000;
+  static constexpr int kWidth = 5535;
+
   frmQuestion(AppContext& app, Window<frmMain> deck);
 
   Label Label1;
@@ -51,21 +55,31 @@ class frmQuestion : public BuilderWindow {
   void Text1_GotFocus(int Index);
   void Text1_KeyPress(int Index, char16_t KeyAscii);
   void Text2_Change();
-  void Command2_Click(int Index);
+  void Command2_Click(int Index) { Button_Click(Index); }
 
  protected:
   void Form_Load() override;
   void Form_Resize() override;
   Buttons& ButtonsOf() override { return Command2; }
   Label& NumberLabel() override { return Label2[1]; }
+  TextBox& FirstBox() override { return Text2; }
+  void ClearForm() override { ClrForm(); }
   void ShowBuilderCard(int xRec) override;
   void AskSaveChanged() override;
+  void SetBuilderState(BuilderState xState) override;
+  void PrepareNewCard() override;
+  void StartNewCard() override;
+  void AddOrChange() override;
+  void Cancel() override;
+  void Close() override;
 
  private:
+  /// What stands on a line that is to get its text yet.
+  static constexpr TextView kPlaceholder = u"[TEXT MISSING HERE]";
+
   void PlaceControls();
+  void DressControls();
   void WireControls();
-  void SetBuilderState(BuilderState xState);
-  void PrepareNewCard();
 
   void CanAddCard(bool& result) const;
   void CanCancelCard(bool& result) const;
@@ -76,11 +90,6 @@ class frmQuestion : public BuilderWindow {
   [[nodiscard]] bool TextOnClosedLine();
   [[nodiscard]] bool PlaceholderLeft();
 
-  void StartNewCard();
-  void AddOrChange();
-  void Cancel();
-  void Delete();
-  void Close();
   [[nodiscard]] Text ChosenType() const;
   void WriteCard(int row, const Text& QuestType);
 };

@@ -8,9 +8,9 @@ void OpenBuilder(AppContext& app, Window<frmMain> deck, Window<frmEssay> textBui
                  Window<frmQuestion> questionBuilder) {
   app.state.CardChanged = true;
   if (app.state.DeckType == kExtendedDeck) {
-    PlaceInFrame(questionBuilder.Slot(), 6000, 5535, app.frame);
+    PlaceInFrame(questionBuilder.Slot(), frmQuestion::kHeight, frmQuestion::kWidth, app.frame);
   } else if (app.state.DeckType == kStandardDeck) {
-    PlaceInFrame(textBuilder.Slot(), 5730, 5565, app.frame);
+    PlaceInFrame(textBuilder.Slot(), frmEssay::kHeight, frmEssay::kWidth, app.frame);
   }
   deck->Hide();
 }

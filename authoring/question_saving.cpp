@@ -8,8 +8,6 @@ namespace tessara {
 
 namespace {
 
-constexpr TextView kPlaceholder = u"[TEXT MISSING HERE]";
-
 template <class Options>
 const OptionButton* FirstSelected(const Options& options) {
   for (const OptionButton& option : options) {
