@@ -1,0 +1,320 @@
+#include <array>
+#include <doctest/doctest.h>
+#include <string>
+
+#include "tests/unit/authoring/builder_desk.h"
+
+namespace tessara::test {
+
+namespace {
+
+/// Which lines are open and which marks can be set, A to D, as "1100".
+std::string OpenLines(const frmQuestion& window) {
+  std::string open;
+  for (const TextBox& line : window.Text1) {
+    const Color::Role role = line.Enabled() ? Color::Role::kWindow : Color::Role::kButtonFace;
+    CHECK(line.BackColor() == Color{role});
+    open += line.Enabled() ? '1' : '0';
+  }
+  return open;
+}
+
+std::string ArmedMarks(const frmQuestion& window) {
+  std::string armed;
+  for (const OptionButton& mark : window.Option1) armed += mark.Enabled() ? '1' : '0';
+  return armed;
+}
+
+/// Texts on lines A and on, typed on a new card.
+void Fill(frmQuestion& window, const std::vector<Text>& lines) {
+  for (std::size_t at = 0; at < lines.size(); ++at) {
+    Type(window.Text1[static_cast<int>(at)], lines[at]);
+  }
+}
+
+}  // namespace
+
+TEST_CASE("on a new question only line A is open, and no mark can be set") {
+  BuilderDesk desk;
+  const frmQuestion& window = desk.OpenQuestion();
+  CHECK(OpenLines(window) == "1000");
+  CHECK(ArmedMarks(window) == "0000");
+}
+
+TEST_CASE("text on a line opens the next one and arms the line's own mark") {
+  BuilderDesk desk;
+  frmQuestion& window = desk.OpenQuestion();
+  const std::array<std::string, 4> open = {"1100", "1110", "1111", "1111"};
+  const std::array<std::string, 4> armed = {"1000", "1100", "1110", "1111"};
+  for (int line = 0; line < 4; ++line) {
+    Type(window.Text1[line], u"x");
+    CHECK(OpenLines(window) == open.at(static_cast<std::size_t>(line)));
+    CHECK(ArmedMarks(window) == armed.at(static_cast<std::size_t>(line)));
+  }
+}
+
+TEST_CASE("an emptied line closes the empty one behind it, and clears and disarms its mark") {
+  struct Case {
+    std::vector<Text> lines;
+    int emptied;
+    std::string open, armed;
+  };
+  const Case cases[] = {
+      {{u"a"}, 0, "1000", "0000"},
+      {{u"a", u"b"}, 1, "1100", "1000"},
+      {{u"a", u"b", u"c"}, 2, "1110", "1100"},
+      {{u"a", u"b", u"c", u"d"}, 3, "1110", "1110"},  // line D closes itself
+      {{u"a", u"b", u"c"}, 1, "1111", "1110"},        // a gap: nothing closes
+      {{u"a", u"b", u"c", u"d"}, 0, "1111", "1111"},
+  };
+  for (const Case& c : cases) {
+    BuilderDesk desk;
+    frmQuestion& window = desk.OpenQuestion();
+    Fill(window, c.lines);
+    window.Option1[c.emptied].Press();
+    CHECK(window.Option1[c.emptied].Selected());
+    Replace(window.Text1[c.emptied], u"");
+    CHECK(OpenLines(window) == c.open);
+    CHECK(ArmedMarks(window) == c.armed);
+    CHECK_FALSE(window.Option1[c.emptied].Selected());
+  }
+}
+
+TEST_CASE("only a change of line C opens an emptied line D again") {
+  BuilderDesk desk;
+  frmQuestion& window = desk.OpenQuestion();
+  Fill(window, {u"a", u"b", u"c", u"d"});
+  Replace(window.Text1[3], u"");
+  Type(window.Text1[0], u"x");
+  Type(window.Text1[1], u"x");
+  CHECK(OpenLines(window) == "1110");
+  Type(window.Text1[2], u"x");
+  CHECK(OpenLines(window) == "1111");
+}
+
+TEST_CASE("a loaded question opens its lines and the first empty one") {
+  struct Case {
+    std::vector<Text> choices;
+    std::string open, armed;
+  };
+  const Case cases[] = {
+      {{u"a", u"b", u"c", u"d"}, "1111", "1111"},
+      {{u"a", u"b"}, "1110", "1100"},
+      {{u"a", u"", u"c"}, "1110", "1010"},
+      {{u"", u"", u"", u"d"}, "1001", "0001"},
+      {{}, "1000", "0000"},
+  };
+  for (const Case& c : cases) {
+    BuilderDesk desk;
+    desk.AddChoice(u"question", c.choices, u"A");
+    const frmQuestion& window = desk.OpenQuestionOverTable();
+    CHECK(OpenLines(window) == c.open);
+    CHECK(ArmedMarks(window) == c.armed);
+  }
+}
+
+TEST_CASE("a move leaves the lines as the arriving texts make them") {
+  BuilderDesk desk;
+  desk.AddChoice(u"1", {u"a", u"b", u"c", u"d"}, u"B");
+  desk.AddChoice(u"2", {u"a"}, u"A");
+  desk.AddTrueFalse(u"3", u"T");
+  frmQuestion& window = desk.OpenQuestionOverTable();
+  // The lines empty one by one: B and C still meet the old text behind them, D closes itself.
+  window.cmdMove[1].Press();
+  CHECK(OpenLines(window) == "1110");
+  CHECK(ArmedMarks(window) == "1110");
+  window.cmdMove[1].Press();
+  CHECK(OpenLines(window) == "1010");
+  CHECK(ArmedMarks(window) == "0110");
+}
+
+TEST_CASE("the cancel of a new question sets the lines as a load does") {
+  BuilderDesk desk;
+  desk.AddChoice(u"1", {u"a", u"b"}, u"B");
+  frmQuestion& window = desk.OpenQuestionOverTable();
+  window.Command2[kNewButton].Press();
+  CHECK(OpenLines(window) == "1000");
+  window.Command2[kCancelButton].Press();
+  CHECK(OpenLines(window) == "1110");
+  CHECK(ArmedMarks(window) == "1100");
+}
+
+TEST_CASE("the marks are one group: setting one clears the others") {
+  BuilderDesk desk;
+  frmQuestion& window = desk.OpenQuestion();
+  Fill(window, {u"a", u"b"});
+  window.Option1[0].Press();
+  window.Option1[1].Press();
+  CHECK_FALSE(window.Option1[0].Selected());
+  CHECK(window.Option1[1].Selected());
+}
+
+TEST_CASE("a mark on an empty line can't be set") {
+  BuilderDesk desk;
+  frmQuestion& window = desk.OpenQuestion();
+  Fill(window, {u"a"});
+  window.Option1[1].Press();
+  CHECK_FALSE(window.Option1[1].Selected());
+}
+
+TEST_CASE(
+    "the add button needs a question and a mark, but a line's change asks for the mark only") {
+  BuilderDesk desk;
+  frmQuestion& window = desk.OpenQuestion();
+  const Button& add = window.Command2[kAddButton];
+  Type(window.Text1[0], u"a");
+  CHECK_FALSE(add.Enabled());
+  window.Option1[0].Press();
+  CHECK(add.Enabled());  // line A has text: that is all the click of a mark asks for
+  Type(window.Text2, u"q");
+  CHECK(add.Enabled());
+  Replace(window.Text2, u"");
+  CHECK_FALSE(add.Enabled());
+  Type(window.Text1[0], u"b");
+  CHECK(add.Enabled());  // though the question is empty
+}
+
+TEST_CASE("the click of a mark asks for text on line A only") {
+  BuilderDesk desk;
+  frmQuestion& window = desk.OpenQuestion();
+  Type(window.Text2, u"q");
+  Fill(window, {u"a", u"b"});
+  Replace(window.Text1[0], u"");
+  window.Option1[1].Press();
+  CHECK_FALSE(window.Command2[kAddButton].Enabled());
+}
+
+TEST_CASE("a true or false question needs its text and a mark") {
+  struct Case {
+    TextView question;
+    bool marked, add, cancel;
+  };
+  const Case cases[] = {{u"q", false, false, true},
+                        {u"q", true, true, true},
+                        {u"", true, false, true},
+                        {u"", false, false, false}};
+  for (const Case& c : cases) {
+    BuilderDesk desk;
+    frmQuestion& window = desk.OpenQuestion();
+    window.Option3[1].Press();
+    Type(window.Text2, Text(c.question));
+    if (c.marked) window.Option2[1].Press();
+    CHECK(window.Command2[kAddButton].Enabled() == c.add);
+    CHECK(window.Command2[kCancelButton].Enabled() == c.cancel);
+  }
+}
+
+TEST_CASE("a cancel is offered for a question, text on line A, or a true or false mark") {
+  BuilderDesk desk;
+  frmQuestion& window = desk.OpenQuestion();
+  const Button& cancel = window.Command2[kCancelButton];
+  CHECK_FALSE(cancel.Enabled());
+  Type(window.Text1[0], u"a");
+  CHECK(cancel.Enabled());
+  Type(window.Text1[1], u"b");
+  Replace(window.Text1[0], u"");
+  CHECK_FALSE(cancel.Enabled());  // line B does not count
+  Type(window.Text2, u"q");
+  CHECK(cancel.Enabled());
+}
+
+TEST_CASE("the fifth capital of the run shortens the line that it is typed on") {
+  BuilderDesk desk;
+  frmQuestion& window = desk.OpenQuestion();
+  Type(window.Text1[0], u"aAbBCD");
+  CHECK(window.Text1[0].MaxLength() == 48);
+  Type(window.Text1[1], u"E");
+  CHECK(desk.state.CapitalCount == 5);
+  const std::array<int, 4> expected = {48, 40, 48, 48};
+  for (int line = 0; line < 4; ++line) {
+    CHECK(window.Text1[line].MaxLength() == expected.at(static_cast<std::size_t>(line)));
+  }
+  Type(window.Text1[0], u"F");
+  Type(window.Text1[0], u"g");
+  CHECK(window.Text1[0].MaxLength() == 48);
+  CHECK(window.Text1[1].MaxLength() == 40);
+}
+
+TEST_CASE("while the count stands at five every key shortens its line") {
+  BuilderDesk desk;
+  frmQuestion& window = desk.OpenQuestion();
+  Type(window.Text1[0], u"ABCDE");
+  Type(window.Text1[1], u"x");
+  Type(window.Text1[2], u"1");
+  CHECK(window.Text1[1].MaxLength() == 40);
+  CHECK(window.Text1[2].MaxLength() == 40);
+  CHECK(window.Text1[3].MaxLength() == 48);
+}
+
+TEST_CASE("letters beyond A to Z are no capitals, and the question's keys do not count") {
+  BuilderDesk desk;
+  frmQuestion& window = desk.OpenQuestion();
+  Type(window.Text1[0], u"@[\u00C4\u00D6az09");
+  Type(window.Text2, u"CAPITALS");
+  CHECK(desk.state.CapitalCount == 0);
+  Type(window.Text1[0], u"AZ");
+  CHECK(desk.state.CapitalCount == 2);
+}
+
+TEST_CASE("a shortened line keeps the text that is longer already") {
+  BuilderDesk desk;
+  frmQuestion& window = desk.OpenQuestion();
+  Type(window.Text1[0], Text(48, u'x'));
+  Type(window.Text1[0], u"ABCDE");
+  CHECK(window.Text1[0].TextOf() == Text(48, u'x'));
+  CHECK(window.Text1[0].MaxLength() == 40);
+  window.Text1[0].UserEdit({47, 1, u""});
+  CHECK(window.Text1[0].TextOf() == Text(47, u'x'));
+  Type(window.Text1[0], u"y");
+  CHECK(window.Text1[0].TextOf() == Text(47, u'x'));
+}
+
+TEST_CASE("the count and the shortened line outlive the builder") {
+  BuilderDesk desk;
+  frmQuestion& window = desk.OpenQuestion();
+  Type(window.Text1[0], u"ABCDE");
+  window.UserClose();
+  CHECK_FALSE(desk.question.IsLoaded());
+  desk.OpenBuilder();
+  CHECK(desk.state.CapitalCount == 5);
+  CHECK(desk.question->Text1[0].MaxLength() == 40);
+  CHECK(desk.question->Text1[1].MaxLength() == 48);
+}
+
+TEST_CASE("the count of capitals stays at the most that it can hold") {
+  BuilderDesk desk;
+  frmQuestion& window = desk.OpenQuestion();
+  desk.state.CapitalCount = 32767;
+  Type(window.Text1[0], u"A");
+  CHECK(desk.state.CapitalCount == 32767);
+  CHECK(window.Text1[0].MaxLength() == 48);
+}
+
+TEST_CASE("a visit to a line takes the placeholder away, and nothing else") {
+  struct Case {
+    TextView text, after;
+  };
+  const Case cases[] = {{u"[TEXT MISSING HERE]", u""},
+                        {u"[text missing here]", u"[text missing here]"},
+                        {u"[TEXT MISSING HERE] ", u"[TEXT MISSING HERE] "},
+                        {u"answer", u"answer"}};
+  for (const Case& c : cases) {
+    BuilderDesk desk;
+    frmQuestion& window = desk.OpenQuestion();
+    Type(window.Text1[0], Text(c.text));
+    window.UserFocus(window.Text2);
+    window.UserFocus(window.Text1[0]);
+    CHECK(window.Text1[0].TextOf() == c.after);
+  }
+}
+
+TEST_CASE("an answer line is one line and takes 48 characters") {
+  BuilderDesk desk;
+  frmQuestion& window = desk.OpenQuestion();
+  Replace(window.Text1[0], u"first\r\nsecond");
+  CHECK(window.Text1[0].TextOf() == u"first");
+  Replace(window.Text1[0], Text(60, u'x'));
+  CHECK(window.Text1[0].TextOf() == Text(48, u'x'));
+}
+
+}  // namespace tessara::test
