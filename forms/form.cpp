@@ -90,6 +90,23 @@ void Form::SetVisible(bool visible) {
 
 void Form::Show(Modality modality) {
   EnsureLoaded();
+  if (modality == Modality::kModal) {
+    ShowModal();
+  } else {
+    ComeUp();
+  }
+}
+
+/// The window counts as modal before it comes up: whoever shows it has to know by then.
+void Form::ShowModal() {
+  system_.modals_.push_back(this);
+  ComeUp();
+  if (visible_) system_.Shown().RunModal(*this);
+  std::erase(system_.modals_, this);
+  system_.LeaveIfEnded();
+}
+
+void Form::ComeUp() {
   const bool comesUp = !visible_ && kind_ != FormKind::kOffScreen && !system_.closingFrame_;
   if (comesUp) {
     visible_ = true;
@@ -97,12 +114,6 @@ void Form::Show(Modality modality) {
     if (!std::exchange(shownBefore_, true)) system_.Run([this] { Form_Resize(); });
   }
   if (visible_) system_.BringForward(*this);
-  if (modality == Modality::kModal && visible_) {
-    system_.modals_.push_back(this);
-    system_.Shown().RunModal(*this);
-    std::erase(system_.modals_, this);
-    system_.LeaveIfEnded();
-  }
 }
 
 void Form::EnsureLoaded() {

@@ -100,6 +100,8 @@ class Form {
   void UserClick();
   void UserMouseMove();
   void UserClose();
+  /// The user has moved the window: a later assignment of a place counts from there.
+  void UserMove(int left, int top);
   void UserFocus(Control& control);
   /// Presses what carries the accelerator. False where nothing does.
   bool UserAccelerator(char16_t letter);
@@ -149,6 +151,8 @@ class Form {
   friend class WindowSlot;
   friend class WindowSystem;
 
+  void ComeUp();
+  void ShowModal();
   void ControlChanged(Control& control, Aspect aspect);
   void Resize(const Bounds& bounds);
   void CheckMovable() const;

@@ -66,6 +66,11 @@ void Form::UserClose() {
   if (TakesInput()) system_.Run([this] { Unload(); });
 }
 
+void Form::UserMove(int left, int top) {
+  bounds_.left = left;
+  bounds_.top = top;
+}
+
 void Form::UserFocus(Control& control) {
   if (control.Reachable() && control.TakesFocus() && TakesInput()) {
     system_.Run([this, &control] { MoveFocus(&control); });
