@@ -1,11 +1,10 @@
 # The Qt renderer, the freedesktop adapters and the executable.
-find_package(Qt6 6.4 COMPONENTS Core Gui Widgets PrintSupport)
-file(GLOB qtSources CONFIGURE_DEPENDS platform/qt/*.cpp platform/qt/*.h)
+find_package(Qt6 6.4 COMPONENTS Core Gui Widgets PrintSupport Test)
+file(GLOB qtSources CONFIGURE_DEPENDS platform/qt/*.cpp)
 if(Qt6_FOUND AND qtSources)
   add_library(tessara_qt STATIC ${qtSources})
-  set_target_properties(tessara_qt PROPERTIES AUTOMOC ON)
   target_link_libraries(tessara_qt PRIVATE tessara_warnings
-    PUBLIC tessara_core Qt6::Core Qt6::Gui Qt6::Widgets Qt6::PrintSupport)
+    PUBLIC tessara_core Qt6::Core Qt6::Gui Qt6::Widgets)
 endif()
 
 if(TARGET tessara_qt AND EXISTS ${CMAKE_SOURCE_DIR}/shell/main.cpp)
