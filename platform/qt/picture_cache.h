@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QHash>
+#include <QPixmap>
+#include <QString>
+
+#include "forms/look.h"
+
+namespace tessara {
+
+/// The program's pictures, each read from its file at its first use. On a dense screen the one
+/// drawn for twice the size is read.
+class PictureCache {
+ public:
+  /// `folder` holds the picture files; `density` is device pixels per pixel of the program.
+  PictureCache(QString folder, double density);
+  /// A null pixmap for an empty picture or a missing file.
+  [[nodiscard]] const QPixmap& PixmapOf(const Picture& picture);
+
+ private:
+  [[nodiscard]] QPixmap Read(const QString& file) const;
+
+  QString folder_;
+  double density_;
+  QHash<QString, QPixmap> pixmaps_;
+};
+
+}  // namespace tessara
