@@ -1,0 +1,48 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QStyle>
+
+#include "platform/qt/captioned_widget.h"
+#include "platform/qt/control_view.h"
+#include "platform/qt/qt_text.h"
+
+namespace tessara {
+
+/// Shows the caption of a button of any kind, and takes its clicks.
+template <class ButtonWidget>
+class CaptionView : public ControlView {
+ public:
+  /// `room` is the part of the widget that the caption has.
+  CaptionView(CaptionedControl& control, QWidget& parent, const ViewContext& context,
+              QStyle::SubElement room)
+      : ControlView(control, *new CaptionedWidget<ButtonWidget>(&parent), context), room_(room) {
+    QObject::connect(&Shown(), &QAbstractButton::clicked, this, [this] {
+      if (!Detached()) Press();
+    });
+  }
+
+ protected:
+  virtual void Press() = 0;
+
+  [[nodiscard]] CaptionedWidget<ButtonWidget>& Shown() const {
+    return static_cast<CaptionedWidget<ButtonWidget>&>(Widget());
+  }
+
+  void FollowOwn(Aspect aspect) override {
+    if (aspect == Aspect::kCaption) Shown().setText(ToQString(As<CaptionedControl>().Caption()));
+    if (aspect == Aspect::kCaption || aspect == Aspect::kBounds) FollowFont();
+  }
+
+  void FollowFont() override {
+    QStyleOptionButton option;
+    option.initFrom(&Shown());
+    const QSizeF room = Shown().style()->subElementRect(room_, &option, &Shown()).size();
+    Shown().Fit(Context().scale.ControlFont(As<CaptionedControl>().FontOf()), room);
+  }
+
+ private:
+  QStyle::SubElement room_;
+};
+
+}  // namespace tessara

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QPainter>
+#include <QStyleOptionButton>
+
+#include "platform/qt/caption_fit.h"
+
+namespace tessara {
+
+/// A button of any kind whose caption is fitted to its size. The form decides what a click changes:
+/// by itself the widget never turns its mark over.
+template <class ButtonWidget>
+class CaptionedWidget : public ButtonWidget {
+ public:
+  using ButtonWidget::ButtonWidget;
+
+  /// `font` is the one that the caption has where it fits.
+  void Fit(const QFont& font, QSizeF room) {
+    const FittedCaption fitted = FitCaption(this->text(), font, room);
+    shown_ = fitted.text;
+    if (this->font() != fitted.font) this->setFont(fitted.font);
+    this->update();
+  }
+
+ protected:
+  void initStyleOption(QStyleOptionButton* option) const override {
+    ButtonWidget::initStyleOption(option);
+    option->text = shown_;
+  }
+  void nextCheckState() override {}
+
+ private:
+  QString shown_;
+};
+
+}  // namespace tessara

@@ -1,0 +1,58 @@
+#include "platform/qt/control_palette.h"
+
+#include <QApplication>
+#include <array>
+
+#include "forms/form.h"
+#include "platform/qt/qt_colors.h"
+
+namespace tessara {
+
+namespace {
+
+constexpr std::array kTextRoles = {QPalette::WindowText, QPalette::ButtonText, QPalette::Text};
+constexpr std::array kGroundRoles = {QPalette::Window, QPalette::Base, QPalette::Button};
+
+bool HasColors(const Control& control) {
+  return control.ForeColor() != Color{} || control.BackColor() != Color{};
+}
+
+}  // namespace
+
+bool IsKeptOut(const Control& control) {
+  if (!control.Enabled()) return false;
+  for (const Control* holder = control.Container(); holder != nullptr;
+       holder = holder->Container()) {
+    if (!holder->Enabled()) return true;
+  }
+  return !control.Owner().Enabled();
+}
+
+bool NeedsPalette(const Control& control) {
+  if (IsKeptOut(control) || !control.Owner().Enabled()) return true;
+  for (const Control* at = &control; at != nullptr; at = at->Container()) {
+    if (HasColors(*at) || !at->Enabled()) return true;
+  }
+  return false;
+}
+
+QPalette PaletteOf(const Control& control) {
+  const QPalette desktop = QApplication::palette();
+  const bool keptOut = IsKeptOut(control);
+  QPalette palette = desktop;
+  for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+    const bool greyed = group == QPalette::Disabled && !keptOut;
+    const auto source = group == QPalette::Disabled && keptOut ? QPalette::Active : group;
+    for (const auto role : kTextRoles) {
+      const QColor own = desktop.color(source, role);
+      palette.setColor(group, role, greyed ? own : ColorIn(desktop, control.ForeColor(), own));
+    }
+    for (const auto role : kGroundRoles) {
+      const QColor own = desktop.color(source, role);
+      palette.setColor(group, role, ColorIn(desktop, control.BackColor(), own));
+    }
+  }
+  return palette;
+}
+
+}  // namespace tessara

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "forms/controls.h"
+#include "platform/qt/control_view.h"
+
+namespace tessara {
+
+class LabelView : public ControlView {
+ public:
+  LabelView(Label& label, QWidget& parent, const ViewContext& context);
+
+ protected:
+  void FollowOwn(Aspect aspect) override;
+  void FollowFont() override;
+  void Clicked() override { As<Label>().UserClick(); }
+};
+
+}  // namespace tessara

@@ -1,0 +1,37 @@
+#include "platform/qt/picture_view.h"
+
+#include "platform/qt/picture_widget.h"
+
+namespace tessara {
+
+namespace {
+
+void Show(const Picture& picture, bool stretched, QWidget& widget, const ViewContext& context) {
+  static_cast<PictureWidget&>(widget).Show(context.pictures.PixmapOf(picture),
+                                           context.scale.FromPixels(picture.width, picture.height),
+                                           stretched);
+}
+
+}  // namespace
+
+PictureBoxView::PictureBoxView(PictureBox& box, QWidget& parent, const ViewContext& context)
+    : ControlView(box, *new PictureWidget(&parent), context) {}
+
+void PictureBoxView::FollowOwn(Aspect aspect) {
+  if (aspect == Aspect::kPicture) Show(As<PictureBox>().PictureOf(), false, Widget(), Context());
+  if (aspect == Aspect::kColor)
+    Widget().setAutoFillBackground(As<PictureBox>().BackColor() != Color{});
+}
+
+ImageView::ImageView(Image& image, QWidget& parent, const ViewContext& context)
+    : ControlView(image, *new PictureWidget(&parent), context) {
+  if (image.onClick) Widget().setCursor(Qt::PointingHandCursor);
+}
+
+void ImageView::FollowOwn(Aspect aspect) {
+  if (aspect != Aspect::kPicture) return;
+  const Image& image = As<Image>();
+  Show(image.PictureOf(), image.Stretched(), Widget(), Context());
+}
+
+}  // namespace tessara

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QLabel>
+
+namespace tessara {
+
+/// A picture at its top left corner, or stretched over the whole widget.
+class PictureWidget : public QLabel {
+ public:
+  using QLabel::QLabel;
+
+  /// `size` is the picture's own, in the desktop's pixels.
+  void Show(const QPixmap& picture, QSize size, bool stretched);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QSize size_;
+  bool stretched_ = false;
+};
+
+}  // namespace tessara
