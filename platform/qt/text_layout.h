@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QTextLayout>
+
+#include "forms/canvas.h"
+
+namespace tessara {
+
+/// A text laid out in lines of even height for a canvas, in pixels of the program.
+class LaidOutText {
+ public:
+  LaidOutText(const Text& text, double width, const TextStyle& style);
+
+  [[nodiscard]] double Height() const { return layout_.lineCount() * lineHeight_; }
+  /// Width of the widest line.
+  [[nodiscard]] double Width() const;
+  void Draw(QPainter& painter, const QPointF& topLeft) const;
+
+  [[nodiscard]] static double LineHeight(const TextStyle& style);
+
+ private:
+  void LayOut(double width);
+
+  QTextLayout layout_;
+  double lineHeight_;
+};
+
+}  // namespace tessara
