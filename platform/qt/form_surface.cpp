@@ -1,0 +1,97 @@
+#include "platform/qt/form_surface.h"
+
+#include <QMouseEvent>
+#include <algorithm>
+#include <utility>
+
+#include "platform/qt/make_view.h"
+#include "platform/qt/painted_pictures.h"
+
+namespace tessara {
+
+FormSurface::FormSurface(Form& form, QWidget* parent, const ViewContext& context)
+    : QWidget(parent), form_(&form), context_(context) {
+  setFont(context.scale.ControlFont({}));
+  setAutoFillBackground(true);
+  setMouseTracking(true);
+  FollowForm();
+  MakeViews();
+}
+
+void FormSurface::MakeViews() {
+  for (Control* control : form_->Controls()) {
+    const Control* container = control->Container();
+    QWidget& parent = container == nullptr ? *this : ViewOf(*container).Widget();
+    views_[control] = MakeView(*control, parent, context_);
+  }
+}
+
+ControlView& FormSurface::ViewOf(const Control& control) const {
+  return *views_.at(&control);
+}
+
+void FormSurface::Follow(Control& control, Aspect aspect) {
+  ViewOf(control).Follow(aspect);
+  const bool holds =
+      control.Kind() == ControlKind::kFrame || control.Kind() == ControlKind::kPictureBox;
+  if (aspect == Aspect::kEnabled && holds) FollowColors();
+}
+
+void FormSurface::FollowForm() {
+  setFixedSize(context_.scale.FromTwips(form_->ScaleWidth()),
+               context_.scale.FromTwips(form_->ScaleHeight()));
+  if (isEnabled() == form_->Enabled()) return;
+  FollowColors();
+  setEnabled(form_->Enabled());
+}
+
+/// Whether a container is enabled shows in the colours of what it holds.
+void FormSurface::FollowColors() {
+  for (const auto& [control, view] : views_) view->Follow(Aspect::kColor);
+}
+
+Control* FormSurface::WantedFocus() const {
+  Control* focused = form_->FocusedControl();
+  if (focused != nullptr && focused->Reachable()) return focused;
+  const auto& controls = form_->Controls();
+  const auto first = std::find_if(controls.begin(), controls.end(), [](const Control* control) {
+    return control->TakesFocus() && control->Reachable();
+  });
+  return first == controls.end() ? nullptr : *first;
+}
+
+void FormSurface::TakeFocus() {
+  Control* wanted = WantedFocus();
+  if (wanted != nullptr) ViewOf(*wanted).Widget().setFocus(Qt::OtherFocusReason);
+}
+
+void FormSurface::Detach() {
+  form_ = nullptr;
+  for (const auto& [control, view] : views_) view->Detach();
+  views_.clear();
+}
+
+// Events that a control's widget does not take come here too; they are none of the form's.
+
+void FormSurface::mousePressEvent(QMouseEvent* event) {
+  const bool background = childAt(event->position().toPoint()) == nullptr;
+  pressed_ = background && event->button() == Qt::LeftButton;
+}
+
+void FormSurface::mouseReleaseEvent(QMouseEvent* event) {
+  const bool inside = rect().contains(event->position().toPoint());
+  if (std::exchange(pressed_, false) && inside && form_ != nullptr) form_->UserClick();
+}
+
+void FormSurface::mouseMoveEvent(QMouseEvent* event) {
+  const bool background = childAt(event->position().toPoint()) == nullptr;
+  if (background && form_ != nullptr) form_->UserMouseMove();
+}
+
+void FormSurface::paintEvent(QPaintEvent* event) {
+  if (form_ == nullptr || form_->Painted().empty()) return;
+  QPainter painter(this);
+  PaintPictures(painter, form_->Painted(), event->region(), context_);
+}
+
+}  // namespace tessara

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QMainWindow>
+
+#include "platform/qt/backdrop_area.h"
+#include "platform/qt/form_window.h"
+#include "platform/qt/menu_view.h"
+
+namespace tessara {
+
+/// The window that holds the others. It has one menu bar for its whole life, whose entries change.
+class FrameWindow : public QMainWindow, public FormWindow {
+ public:
+  FrameWindow(Form& form, const ViewContext& context);
+
+  [[nodiscard]] Form* FormOf() const override { return form_; }
+  [[nodiscard]] FormSurface* Surface() const override { return nullptr; }
+  [[nodiscard]] QWidget& Top() override { return *this; }
+  void Follow(FormAspect aspect) override;
+  void ComeForward() override;
+  void Leave() override;
+
+  [[nodiscard]] BackdropArea& Area() const { return *area_; }
+  void ShowMenus(const MenuView& menus);
+  /// Their window is about to go.
+  void ForgetMenus(const MenuView& menus);
+  /// Opens the top-level menu that carries the accelerator. False where none does.
+  bool OpenMenu(char16_t letter);
+
+  /// Size that the client area opens with, in twips.
+  [[nodiscard]] static QSize OpeningSize(const PixelScale& scale);
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  void ClearMenuBar();
+
+  Form* form_;
+  BackdropArea* area_;
+  const MenuView* menus_ = nullptr;
+};
+
+}  // namespace tessara

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "forms/window_system.h"
+
+namespace tessara {
+
+/// The form whose menus the frame shows: the child in front where it has some, else the frame.
+[[nodiscard]] Form* MenuBarForm(const WindowSystem& windows);
+
+}  // namespace tessara
