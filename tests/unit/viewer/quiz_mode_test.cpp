@@ -74,6 +74,80 @@ TEST_CASE("the end of a quiz is noticed by a flip of the last card, worded by de
   }
 }
 
+TEST_CASE("the states of a quiz, step by step") {
+  enum Event { kStart, kFlip, kNext };
+  struct Step {
+    Event event;
+    int card;
+    bool answerOnShow;
+    bool nextEnabled;
+    bool bannerShown;
+  };
+  constexpr Step kWalk[] = {
+      {kStart, 1, false, true, false}, {kFlip, 1, true, true, false},
+      {kFlip, 1, false, true, false},  {kNext, 2, false, true, false},
+      {kFlip, 2, true, true, false},   {kNext, 3, false, false, false},
+      {kNext, 3, false, false, false}, {kFlip, 3, true, false, true},
+      {kFlip, 3, false, false, true},  {kNext, 3, false, false, true},
+      {kStart, 1, false, true, false},
+  };
+  for (const bool extended : {false, true}) {
+    DeckDesk desk;
+    extended ? desk.OpenExtendedDeck(3) : desk.OpenStandardDeck(3);
+    for (const Step& step : kWalk) {
+      if (step.event == kStart) desk.deck->mnuQuiz.Press();
+      if (step.event == kFlip) desk.deck->Command3[1].Press();
+      if (step.event == kNext) desk.deck->cmdMove[1].Press();
+      CAPTURE(&step - kWalk);
+      CHECK(desk.state.CurrentCard == step.card);
+      CHECK(desk.deck->NoteletCtl1.CardNumber() == DecimalText(step.card));
+      const Text caption = desk.deck->Command3[1].Caption();
+      CHECK((caption == u"&Show Front" || caption == u"&Hide Answer") == step.answerOnShow);
+      CHECK(desk.deck->cmdMove[1].Enabled() == step.nextEnabled);
+      CHECK_FALSE(desk.deck->cmdMove[0].Enabled());
+      CHECK(desk.deck->Command3[1].Enabled());
+      CHECK(desk.deck->NoteletCtl1.CardBanner().empty() != step.bannerShown);
+    }
+  }
+}
+
+TEST_CASE("a quiz of a deck whose first card is empty can't be flipped and has no end") {
+  DeckDesk desk;
+  desk.AddTextCard(u"", u"back 1");
+  desk.AddTextCard(u"front 2", u"back 2");
+  desk.Open(kStandardDeck);
+  desk.deck->mnuQuiz_Click();
+  desk.deck->cmdMove[1].Press();
+  desk.deck->Command3[1].Press();
+  CHECK(desk.deck->NoteletCtl1.CardText() == u"front 2");
+  CHECK(desk.deck->NoteletCtl1.CardBanner().empty());
+}
+
+TEST_CASE("an answer is written when it is asked for, not before") {
+  DeckDesk desk;
+  desk.OpenExtendedDeck(2);
+  desk.deck->mnuQuiz.Press();
+  desk.deck->cmdMove[1].Press();
+  CHECK(desk.deck->Label2.Caption() == u"TRUE");
+  desk.deck->Command3[1].Press();
+  CHECK(desk.deck->Label2.Caption() == u"two");
+}
+
+TEST_CASE("the focus follows the steps of a quiz") {
+  for (const bool extended : {false, true}) {
+    DeckDesk desk;
+    extended ? desk.OpenExtendedDeck(2) : desk.OpenStandardDeck(2);
+    desk.deck->mnuQuiz.Press();
+    CHECK(desk.deck->FocusedControl() == &desk.deck->Command3[1]);
+    desk.deck->Command3[1].Press();
+    CHECK(desk.deck->FocusedControl() == &desk.deck->cmdMove[1]);
+    desk.deck->cmdMove[1].Press();
+    CHECK(desk.deck->FocusedControl() == &desk.deck->Command3[1]);
+    desk.deck->Command3[1].Press();
+    CHECK(desk.deck->FocusedControl() == &desk.deck->Command3[1]);
+  }
+}
+
 TEST_CASE("a deck of one card can be walked past its end before a flip") {
   DeckDesk desk;
   desk.OpenStandardDeck(1);

@@ -1,3 +1,4 @@
+#include <array>
 #include <doctest/doctest.h>
 
 #include "tests/support/deck_desk.h"
@@ -191,6 +192,166 @@ TEST_CASE("a standard test makes all choices invisible") {
   desk.OpenStandardDeck(1);
   desk.deck->mnuTest.Press();
   for (const OptionButton& option : desk.deck->Option1) CHECK_FALSE(option.Visible());
+}
+
+TEST_CASE("the states of a standard test, step by step") {
+  enum Event { kStart, kFlip, kGrade };
+  struct Step {
+    Event event;
+    int card;
+    bool backOnShow;
+    bool gradable;
+    double points;
+    bool finished;
+  };
+  constexpr Step kWalk[] = {
+      {kStart, 1, false, false, 0, false}, {kGrade, 1, false, false, 0, false},
+      {kFlip, 1, true, true, 0, false},    {kFlip, 1, false, true, 0, false},
+      {kFlip, 1, true, true, 0, false},    {kGrade, 2, false, false, 1, false},
+      {kFlip, 2, true, true, 1, false},    {kFlip, 2, false, true, 1, false},
+      {kGrade, 2, false, false, 2, true},  {kFlip, 2, true, false, 2, true},
+      {kGrade, 2, true, false, 2, true},   {kStart, 1, false, false, 0, false},
+      {kFlip, 1, true, true, 0, false},
+  };
+  DeckDesk desk;
+  desk.OpenStandardDeck(2);
+  for (const Step& step : kWalk) {
+    if (step.event == kStart) desk.deck->mnuTest.Press();
+    if (step.event == kFlip) desk.deck->Command3[1].Press();
+    if (step.event == kGrade) desk.deck->Command1[kFull].Press();
+    CAPTURE(&step - kWalk);
+    CHECK(desk.state.CurrentCard == step.card);
+    CHECK(desk.deck->NoteletCtl1.CardText() ==
+          (step.backOnShow ? u"back " : u"front ") + DecimalText(step.card));
+    CHECK(desk.deck->Frame1.Visible());
+    CHECK(desk.deck->Frame1.Enabled() == step.gradable);
+    CHECK(desk.state.TestPoints == step.points);
+    CHECK(desk.deck->Command3[1].Enabled());
+    CHECK(desk.deck->NoteletCtl1.CardBanner().empty() != step.finished);
+  }
+  CHECK(desk.fakes.messages.shown.size() == 1);
+}
+
+TEST_CASE("the states of an extended test, step by step") {
+  enum Event { kStart, kRight, kWrong, kNext };
+  struct Step {
+    Event event;
+    int card;
+    bool waiting;
+    bool nextEnabled;
+    TextView next;
+    TextView banner;
+    double points;
+  };
+  constexpr TextView kNextQuestion = u"Next Question";
+  constexpr TextView kShowScore = u"Show Score";
+  constexpr TextView kScore = u"SCORE: 50% ... RETURN TO STUDY MODE";
+  constexpr Step kWalk[] = {
+      {kStart, 1, true, false, kNextQuestion, u"", 0},
+      {kNext, 1, true, false, kNextQuestion, u"", 0},
+      {kRight, 1, false, true, kNextQuestion, u"CORRECT", 1},
+      {kWrong, 1, false, true, kNextQuestion, u"CORRECT", 1},
+      {kNext, 2, true, false, kNextQuestion, u"", 1},
+      {kWrong, 2, false, true, kShowScore, u"WRONG", 1},
+      {kRight, 2, false, true, kShowScore, u"WRONG", 1},
+      {kNext, 2, false, false, kShowScore, kScore, 1},
+      {kNext, 2, false, false, kShowScore, kScore, 1},
+      {kStart, 1, true, false, kNextQuestion, u"", 0},
+  };
+  DeckDesk desk;
+  desk.AddTrueFalse(u"?", u"T");
+  desk.AddTrueFalse(u"?", u"T");
+  desk.Open(kExtendedDeck);
+  for (const Step& step : kWalk) {
+    if (step.event == kStart) desk.deck->mnuTest.Press();
+    if (step.event == kRight) desk.deck->Option1[0].Press();
+    if (step.event == kWrong) desk.deck->Option1[1].Press();
+    if (step.event == kNext) desk.deck->Command3[0].Press();
+    CAPTURE(&step - kWalk);
+    CHECK(desk.state.CurrentCard == step.card);
+    CHECK(desk.deck->Frame2.Visible());
+    CHECK(desk.deck->Frame2.Enabled() == step.waiting);
+    CHECK(desk.deck->Command3[0].Enabled() == step.nextEnabled);
+    CHECK(desk.deck->Command3[0].Caption() == step.next);
+    CHECK(desk.deck->NoteletCtl1.CardBanner() == step.banner);
+    CHECK(desk.state.TestPoints == step.points);
+    const bool chosen = desk.deck->Option1[0].Selected() || desk.deck->Option1[1].Selected();
+    CHECK(chosen != step.waiting);
+  }
+  CHECK(desk.fakes.messages.shown.size() == 1);
+}
+
+TEST_CASE("each choice of each type stands for a key") {
+  struct Case {
+    TextView type;
+    std::array<TextView, 4> keys;
+  };
+  for (const Case& c : {Case{u"M", {u"A", u"B", u"C", u"D"}}, Case{u"T", {u"T", u"F", u"C", u"D"}},
+                        Case{u"Z", {u"", u"", u"C", u"D"}}}) {
+    for (int choice = 0; choice < 4; ++choice) {
+      DeckDesk desk;
+      desk.AddChoice(u"?", {u"one", u"two", u"three", u"four"}, u"A");
+      desk.Open(kExtendedDeck);
+      desk.deck->mnuTest.Press();
+      desk.state.CardGrid.Set(1, kCardType, Text(c.type));
+      desk.state.CardGrid.Set(1, kAnswer,
+                              u" " + Text(c.keys[static_cast<std::size_t>(choice)]) + u" ");
+      desk.deck->Option1_Click(choice);
+      CHECK(desk.deck->NoteletCtl1.CardBanner() == u"CORRECT");
+    }
+  }
+}
+
+TEST_CASE("a grade of the last card counts before the test is said to be over") {
+  DeckDesk desk;
+  desk.OpenStandardDeck(1);
+  desk.deck->mnuTest.Press();
+  desk.fakes.messages.whileShown = [&desk](const FakeMessages::Shown&) {
+    CHECK(desk.state.TestPoints == 0.5);
+    CHECK(desk.deck->NoteletCtl1.CardBanner().empty());
+  };
+  Grade(desk, kPartial);
+  CHECK(desk.fakes.messages.shown.size() == 1);
+}
+
+TEST_CASE("the mark of the right choice stays when a test is left, until the next one") {
+  DeckDesk desk;
+  desk.OpenExtendedDeck(2);
+  desk.deck->mnuTest.Press();
+  desk.deck->Option1[1].Press();
+  desk.deck->mnuStudy.Press();
+  CHECK(desk.deck->Option1[0].ForeColor() == FixedColor(0, 0, 255));
+  CHECK(desk.deck->Option1[1].Selected());
+  desk.deck->mnuTest.Press();
+  CHECK(desk.deck->Option1[0].ForeColor() == Color{});
+  CHECK_FALSE(desk.deck->Option1[1].Selected());
+}
+
+TEST_CASE("the focus of a question is on its first choice that is there") {
+  DeckDesk desk;
+  desk.AddChoice(u"?", {u"", u"two", u"three"}, u"B");
+  desk.Open(kExtendedDeck);
+  desk.deck->mnuTest.Press();
+  CHECK(desk.deck->FocusedControl() == &desk.deck->Option1[1]);
+}
+
+TEST_CASE("after the score the focus is where the score can be read, or on what still works") {
+  DeckDesk extended;
+  extended.OpenExtendedDeck(1);
+  extended.deck->mnuTest.Press();
+  extended.deck->Option1[0].Press();
+  extended.deck->Command3[0].Press();
+  CHECK(extended.deck->FocusedControl() == &extended.deck->NoteletCtl1);
+  DeckDesk standard;
+  standard.OpenStandardDeck(2);
+  standard.deck->mnuTest.Press();
+  Grade(standard, kFull);
+  Grade(standard, kFull);
+  CHECK(standard.deck->FocusedControl() == &standard.deck->Command3[1]);
+  standard.deck->mnuTest.Press();
+  standard.deck->Command3[1].Press();
+  standard.deck->mnuStudy.Press();
+  CHECK(standard.deck->FocusedControl() == &standard.deck->cmdMove[1]);
 }
 
 TEST_CASE("the focus follows the steps of a test") {

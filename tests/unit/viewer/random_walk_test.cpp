@@ -1,0 +1,186 @@
+#include <doctest/doctest.h>
+#include <functional>
+#include <random>
+#include <string>
+#include <vector>
+
+#include "deck/double_amps.h"
+#include "tests/support/deck_desk.h"
+#include "viewer/answer_text.h"
+
+namespace tessara::test {
+
+namespace {
+
+constexpr int kSteps = 5000;
+
+/// Takes a deck by steps at random, as fast fingers would, and holds the window against what must
+/// be true after any of them.
+class Walk {
+ public:
+  Walk(bool extended, int cards, unsigned seed) : random_(seed), cards_(cards) {
+    extended ? desk_.OpenExtendedDeck(cards) : desk_.OpenStandardDeck(cards);
+    desk_.deck->mnuStudy.Press();
+    ListSteps();
+  }
+
+  void TakeStep() {
+    const Step& step = steps_[Random(static_cast<int>(steps_.size()))];
+    trace_ += step.name + " ";
+    if (trace_.size() > 300) trace_.erase(0, trace_.size() - 300);
+    step.action();
+    desk_.fakes.messages.answers.clear();
+    desk_.fakes.messages.shown.clear();
+    desk_.fakes.dialogs.texts.clear();
+    CAPTURE(trace_);
+    CheckAll();
+  }
+
+  [[nodiscard]] bool Over() const { return desk_.state.CardCount == 0; }
+
+ private:
+  struct Step {
+    std::string name;
+    std::function<void()> action;
+  };
+
+  std::size_t Random(int count) { return random_() % static_cast<unsigned>(count); }
+
+  void ListSteps() {
+    frmMain& deck = desk_.deck.Loaded();
+    const auto press = [this](auto& control, int times) {
+      for (int at = 0; at < times; ++at) {
+        steps_.push_back({control.Name(), [&control] { control.Press(); }});
+      }
+    };
+    for (Button& button : deck.cmdMove) press(button, 3);
+    for (Button& button : deck.Command1) press(button, 2);
+    for (OptionButton& option : deck.Option1) press(option, 2);
+    press(deck.Command3[0], 4);
+    press(deck.Command3[1], 6);
+    for (MenuEntry* entry : {&deck.mnuStudy, &deck.mnuQuiz, &deck.mnuTest}) press(*entry, 1);
+    steps_.push_back({"activate", [&deck] {
+                        deck.Hide();
+                        deck.Show();
+                      }});
+    steps_.push_back({"close", [this, &deck] {
+                        desk_.fakes.messages.answers = {MessageAnswer::kNo, MessageAnswer::kNo};
+                        deck.Command3[2].Press();
+                      }});
+    steps_.push_back({"delete", [this] { Delete(); }});
+    steps_.push_back({"go-to", [this, &deck] {
+                        const int number = static_cast<int>(Random(cards_ + 4)) - 2;
+                        desk_.fakes.dialogs.texts = {DecimalText(number)};
+                        deck.mnuGTP.Press();
+                      }});
+  }
+
+  void Delete() {
+    const bool agreed = Random(12) == 0;
+    desk_.fakes.messages.answers = {agreed ? MessageAnswer::kYes : MessageAnswer::kNo};
+    desk_.deck->mnuDelete.Press();
+    frontOnShow_ = frontOnShow_ || !desk_.fakes.messages.shown.empty();
+  }
+
+  void CheckAll() {
+    CheckPanels();
+    CheckSide();
+    CheckPoints();
+    CheckMenus();
+    CheckPlace();
+  }
+
+  void CheckPanels() const {
+    const frmMain& deck = Deck();
+    const bool panels[] = {deck.Frame1.Visible(), deck.Frame2.Visible(), deck.Picture1.Visible()};
+    CHECK(std::count(std::begin(panels), std::end(panels), true) <= 1);
+    CHECK(deck.Frame1.Visible() == (Testing() && !Extended()));
+    CHECK(deck.Frame2.Visible() == (Testing() && Extended()));
+  }
+
+  /// A delete shows the front under either caption, until the card is painted anew.
+  void CheckSide() {
+    const TextView caption = Deck().Command3[1].Caption();
+    const ProgramState& state = desk_.state;
+    const auto shows = [&](int column) {
+      return Deck().NoteletCtl1.CardText() == DoubleAmps(state.Cell(state.CurrentCard, column));
+    };
+    if (Extended()) {
+      CHECK((caption == u"&Hide Answer" || caption == u"&Show Answer"));
+      CHECK(shows(kCardText));
+      CHECK(Deck().NoteletCtl1.FrontLines());
+      if (!Testing()) CHECK(Deck().Picture1.Visible() == (caption == u"&Hide Answer"));
+      if (Deck().Picture1.Visible()) {
+        const Text key = state.Cell(state.CurrentCard, kAnswer);
+        CHECK(Deck().Label2.Caption() == AnswerText(key, state.CurrentCard, state));
+      }
+      return;
+    }
+    const bool back = caption == u"&Show Front";
+    CHECK((back || caption == u"&Show Back"));
+    CHECK(Deck().NoteletCtl1.FrontLines() == (!back || state.CardCount == 0));
+    CHECK(Deck().NoteletCtl1.FrontRule() == Deck().NoteletCtl1.FrontLines());
+    const bool agrees = shows(back ? kBackText : kCardText);
+    CHECK((agrees || (frontOnShow_ && shows(kCardText))));
+    frontOnShow_ = frontOnShow_ && !agrees;
+  }
+
+  void CheckPoints() const {
+    const double points = desk_.state.TestPoints;
+    CHECK(points >= 0);
+    CHECK(points <= desk_.state.CardCount);
+    CHECK(points * 2 == static_cast<int>(points * 2));
+    if (!Testing()) CHECK(points == 0);
+  }
+
+  void CheckMenus() const {
+    const frmMain& deck = Deck();
+    const std::int32_t mode = desk_.state.CardMode;
+    CHECK(deck.mnuStudy.Checked() == (mode == kStudyMode));
+    CHECK(deck.mnuQuiz.Checked() == (mode == kQuizMode));
+    CHECK(deck.mnuTest.Checked() == (mode == kTestMode));
+    CHECK(deck.mnuFile.Enabled() == (mode == kStudyMode));
+    CHECK(deck.mnuUtility.Enabled() == (mode == kStudyMode));
+    CHECK(deck.mnuDelete.Enabled() == (desk_.state.CardCount > 0));
+    constexpr TextView kMarks[] = {u"[STUDY]", u"[QUIZ]", u"[TEST]"};
+    CHECK(deck.Caption() == u"  " + Text(kMarks[mode]));
+    if (!Testing() || !Extended()) CHECK_FALSE(deck.Command3[0].Enabled());
+  }
+
+  void CheckPlace() const {
+    const ProgramState& state = desk_.state;
+    CHECK(Deck().Visible());
+    CHECK(state.CurrentCard >= (state.CardCount == 0 ? 0 : 1));
+    if (state.CardMode != kQuizMode) CHECK(state.CurrentCard <= state.CardCount);
+    CHECK(Deck().NoteletCtl1.CardNumber() == DecimalText(state.CurrentCard));
+    CHECK(Deck().NoteletCtl1.CardTotal() == DecimalText(state.CardCount));
+    CHECK_FALSE(desk_.windows.ExitStatus());
+  }
+
+  [[nodiscard]] const frmMain& Deck() const { return desk_.deck.Instance(); }
+  [[nodiscard]] bool Testing() const { return desk_.state.CardMode == kTestMode; }
+  [[nodiscard]] bool Extended() const { return desk_.state.DeckType == kExtendedDeck; }
+
+  std::mt19937 random_;
+  DeckDesk desk_;
+  int cards_;
+  std::vector<Step> steps_;
+  std::string trace_;
+  bool frontOnShow_ = false;
+};
+
+}  // namespace
+
+TEST_CASE("a walk of thousands of steps at random keeps the window in order") {
+  for (const bool extended : {false, true}) {
+    unsigned seed = 1;
+    for (int steps = 0; steps < kSteps; ++seed) {
+      Walk walk(extended, static_cast<int>(1 + seed % 7), seed);
+      CAPTURE(extended);
+      CAPTURE(seed);
+      for (int at = 0; at < kSteps / 4 && !walk.Over(); ++at, ++steps) walk.TakeStep();
+    }
+  }
+}
+
+}  // namespace tessara::test
