@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -57,7 +58,7 @@ class FakeCanvas : public Canvas {
   double LineHeight(const TextStyle& style) override { return PixelsOf(style) * 1.2; }
 
   /// Display lines, wrapped at words, and inside a word that is wider than the line.
-  int CountLines(TextView text, double width, const TextStyle& style) const {
+  [[nodiscard]] int CountLines(TextView text, double width, const TextStyle& style) const {
     int count = 0;
     while (true) {
       const std::size_t end = std::min(text.find(u"\r\n"), text.size());
