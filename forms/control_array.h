@@ -25,8 +25,8 @@ class ControlArray {
   [[nodiscard]] auto end() const { return controls_.end(); }
 
   /// One handler for all: it gets the index. Example: Wire(&Button::onClick, handler).
-  template <class Slot>
-  void Wire(Slot C::*slot, const std::function<void(int)>& handler) {
+  template <class Slot, class Owner>
+  void Wire(Slot Owner::*slot, const std::function<void(int)>& handler) {
     for (int index = kFirst; index <= kLast; ++index) {
       (*this)[index].*slot = [handler, index] { handler(index); };
     }
