@@ -46,6 +46,7 @@ class Canvas {
   /// Height of the text, wrapped at the width where the style says so.
   [[nodiscard]] virtual double TextHeight(const Text& text, double width,
                                           const TextStyle& style) = 0;
+  /// Width of the text's widest line, not wrapped.
   [[nodiscard]] virtual double TextWidth(const Text& text, const TextStyle& style) = 0;
   [[nodiscard]] virtual double LineHeight(const TextStyle& style) = 0;
 };

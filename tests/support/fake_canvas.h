@@ -51,9 +51,13 @@ class FakeCanvas : public Canvas {
     return CountLines(text, width, style) * LineHeight(style);
   }
   double TextWidth(const Text& text, const TextStyle& style) override {
+    double widest = 0;
     double width = 0;
-    for (const char16_t letter : text) width += WidthOf(letter, style);
-    return width;
+    for (const char16_t letter : text) {
+      width = letter == u'\n' ? 0 : width + WidthOf(letter, style);
+      widest = std::max(widest, width);
+    }
+    return widest;
   }
   double LineHeight(const TextStyle& style) override { return PixelsOf(style) * 1.2; }
 
@@ -70,6 +74,7 @@ class FakeCanvas : public Canvas {
 
  private:
   static double WidthOf(char16_t letter, const TextStyle& style) {
+    if (letter == u'\r') return 0;
     const bool narrow = TextView(u" ijl.,").find(letter) != TextView::npos;
     const bool wide = TextView(u"mwMW").find(letter) != TextView::npos;
     return PixelsOf(style) * (narrow ? 0.3 : wide ? 0.9 : 0.55);

@@ -28,8 +28,6 @@ constexpr double kWideRuling = 31;
 /// Where a rule runs in a line of text, as a share of its height: just below the letters' feet.
 constexpr double kFeet = 0.86;
 
-constexpr TextView kBetweenWords = u" \r\n";
-
 TextStyle BodyStyle(double points) {
   TextStyle style;
   style.points = points;
@@ -38,21 +36,16 @@ TextStyle BodyStyle(double points) {
   return style;
 }
 
-bool HasWordWiderThan(double width, Canvas& canvas, TextView text, const TextStyle& style) {
-  std::size_t start = text.find_first_not_of(kBetweenWords);
-  while (start != TextView::npos) {
-    const std::size_t end = std::min(text.find_first_of(kBetweenWords, start), text.size());
-    if (canvas.TextWidth(Text(text.substr(start, end - start)), style) > width) return true;
-    start = text.find_first_not_of(kBetweenWords, end);
-  }
-  return false;
+double WidestWord(Canvas& canvas, Text text, const TextStyle& style) {
+  std::replace(text.begin(), text.end(), u' ', kLineFeed);
+  return canvas.TextWidth(text, style);
 }
 
 TextStyle StyleThatFits(Canvas& canvas, const Text& text, const Rect& body) {
   const auto tooLarge = [&](double points) {
     const TextStyle style = BodyStyle(points);
     if (canvas.TextHeight(text, body.width, style) > body.height) return true;
-    return points > kSmallestWithWholeWords && HasWordWiderThan(body.width, canvas, text, style);
+    return points > kSmallestWithWholeWords && WidestWord(canvas, text, style) > body.width;
   };
   const auto* const found =
       std::partition_point(std::begin(kBodySizes), std::end(kBodySizes), tooLarge);
