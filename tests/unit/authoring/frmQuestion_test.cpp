@@ -172,6 +172,20 @@ TEST_CASE("a mark set by the program uses up the guard, one that stands already 
   }
 }
 
+TEST_CASE("a guard left on by opening the builder twice is used up by the user's next mark") {
+  BuilderDesk desk;
+  desk.AddChoice(u"q", {u"a", u"b"}, u"A");
+  frmQuestion& window = desk.OpenQuestionOverTable();
+  desk.OpenBuilder();
+  Type(window.Text2, u"!");
+  CHECK_FALSE(window.Command2[kAddButton].Enabled());
+  window.Option1[1].Press();
+  CHECK_FALSE(window.Command2[kAddButton].Enabled());
+  CHECK_FALSE(desk.state.CardChanged);
+  Type(window.Text2, u"!");
+  CHECK(window.Command2[kAddButton].Enabled());
+}
+
 TEST_CASE("a move, a cancel and a delete do not count as edits of the question") {
   BuilderDesk desk;
   frmQuestion& window = desk.OpenQuestion(4);

@@ -29,6 +29,7 @@ void FillIn(frmQuestion& window, const Sheet& sheet) {
 
 std::vector<Text> Row(const BuilderDesk& desk, int row) {
   std::vector<Text> cells;
+  cells.reserve(kColumns);
   for (int column = 0; column < kColumns; ++column) cells.push_back(desk.Cell(row, column));
   return cells;
 }
