@@ -7,8 +7,17 @@ if(Qt6_FOUND AND qtSources)
     PUBLIC tessara_core Qt6::Core Qt6::Gui Qt6::Widgets)
 endif()
 
+# Printer dialog and print surface: loaded by the first job, from the executable's folder.
+if(TARGET tessara_qt)
+  file(GLOB qtPrintSources CONFIGURE_DEPENDS platform/qt/print/*.cpp)
+  add_library(tessara_qt_print MODULE ${qtPrintSources})
+  set_target_properties(tessara_qt_print PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
+  target_link_libraries(tessara_qt_print PRIVATE tessara_warnings tessara_qt Qt6::PrintSupport)
+endif()
+
 if(TARGET tessara_qt AND EXISTS ${CMAKE_SOURCE_DIR}/shell/main.cpp)
   add_executable(tessara shell/main.cpp)
+  add_dependencies(tessara tessara_qt_print)
   set_target_properties(tessara PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
   target_link_libraries(tessara PRIVATE tessara_warnings tessara_qt tessara_posix)
   if(TARGET tessara_freedesktop)

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QFont>
+#include <QLineF>
+#include <QPrinter>
+#include <memory>
+#include <vector>
+
+#include "platform/print_surface.h"
+
+class QFontMetricsF;
+
+namespace tessara {
+
+/// Writes on a printer or into a PDF file. A document is kept until it ends and printed then, all
+/// at once: a dropped one leaves no trace, neither in the printer's queue nor on the disk.
+class QtPrintSurface : public PrintSurface {
+ public:
+  void SetDestination(const PrintDestination& destination) override;
+  void SetCopies(int copies) override;
+  void SetFontName(const Text& name) override;
+  void SetFontSize(double points) override;
+  void SetBold(bool bold) override;
+  void SetItalic(bool italic) override;
+  void PrintLine(const Text& text) override;
+  void DrawLine(double x1, double y1, double x2, double y2) override;
+  [[nodiscard]] double CurrentY() const override { return y_; }
+  [[nodiscard]] double PageWidth() const override;
+  [[nodiscard]] double PageHeight() const override;
+  [[nodiscard]] double TextWidth(const Text& text) const override;
+  [[nodiscard]] double TextHeight(const Text& text) const override;
+  void NewPage() override;
+  void EndDocument() override;
+  void DropDocument() override;
+
+ private:
+  struct Line {
+    QString text;
+    QFont font;
+    double top = 0;
+  };
+  struct Page {
+    std::vector<Line> lines;
+    std::vector<QLineF> rules;
+  };
+
+  /// The printer that the document goes to, made at the document's first operation.
+  [[nodiscard]] QPrinter& Printer() const;
+  [[nodiscard]] QFontMetricsF Metrics() const;
+  [[nodiscard]] double LineHeight() const;
+  [[nodiscard]] Page& CurrentPage();
+  void PaintPages() const;
+  static void Paint(const Page& page, QPainter& painter);
+
+  PrintDestination destination_;
+  mutable std::unique_ptr<QPrinter> printer_;
+  QFont font_;
+  std::vector<Page> pages_;
+  double y_ = 0;  ///< twips from the top of the page's drawing area
+};
+
+}  // namespace tessara
