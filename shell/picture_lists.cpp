@@ -12,12 +12,12 @@ struct Tile {
 };
 
 constexpr Tile kTiles[] = {
-    {"DEFAULT", "jpg", 64, 64},  {"DIGITAL", "jpg", 64, 64},  {"DESERT", "gif", 160, 120},
+    {"DEFAULT", "jpg", 96, 96},  {"DIGITAL", "jpg", 64, 64},  {"DESERT", "gif", 160, 120},
     {"STUCCO", "gif", 100, 100}, {"BARS", "gif", 64, 64},     {"BLUESPH", "gif", 64, 64},
     {"CCURTIAN", "gif", 64, 64}, {"CH_LINK", "gif", 64, 64},  {"GRANITE", "gif", 64, 64},
     {"NEONGRID", "gif", 64, 64}, {"NETWORK", "gif", 64, 64},  {"OHIOSTAR", "gif", 64, 64},
-    {"OLDBLUE", "gif", 64, 64},  {"P_GRID", "gif", 16, 16},   {"REDBRICK", "gif", 64, 64},
-    {"S_NOISE", "gif", 64, 64},  {"STRIPES", "gif", 64, 64},  {"THREADS", "gif", 64, 64},
+    {"OLDBLUE", "gif", 64, 64},  {"P_GRID", "gif", 64, 64},   {"REDBRICK", "gif", 64, 64},
+    {"S_NOISE", "gif", 64, 64},  {"STRIPES", "gif", 16, 16},  {"THREADS", "gif", 64, 64},
     {"WD_FLOOR", "gif", 64, 64}, {"SOFTGRID", "gif", 64, 64},
 };
 

@@ -69,7 +69,7 @@ std::string DesktopEntry(const DocumentType& type) {
   return std::string(
              "[Desktop Entry]\n"
              "Type=Application\n"
-             "Version=1.5\n"
+             "Version=1.0\n"
              "Name=Tessara\n"
              "GenericName=Flash Cards\n"
              "Comment=Learn with flash cards on screen and on paper\n"

@@ -1,0 +1,84 @@
+// Puts the pieces together: the real machine, the renderer, the program.
+
+#include <QApplication>
+#include <clocale>
+#include <filesystem>
+
+#include "platform/absent_spreadsheet.h"
+#include "platform/freedesktop/document_registry.h"
+#include "platform/freedesktop/update_tools.h"
+#include "platform/posix/code_page_of_locale.h"
+#include "platform/posix/posix_clock.h"
+#include "platform/posix/posix_file_system.h"
+#include "platform/qt/lazy_print_surface.h"
+#include "platform/qt/print_module.h"
+#include "platform/qt/qt_desktop.h"
+#include "platform/qt/qt_dialogs.h"
+#include "platform/qt/qt_message_boxes.h"
+#include "platform/qt/qt_renderer.h"
+#include "platform/qt/qt_settings_store.h"
+#include "platform/qt/qt_text.h"
+#include "shell/program.h"
+
+namespace tessara {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The folder of the executable, links followed.
+fs::path ProgramFolder() {
+  std::error_code unknown;
+  return fs::read_symlink("/proc/self/exe", unknown).parent_path();
+}
+
+/// The arguments joined with a blank, as one absolute path; empty without arguments.
+Text CommandLineOf(int argc, char** argv) {
+  std::string joined;
+  for (int at = 1; at < argc; ++at) joined += (at == 1 ? "" : " ") + std::string(argv[at]);
+  if (joined.empty()) return {};
+  std::error_code unknown;
+  return FromUtf8(fs::absolute(joined, unknown).lexically_normal().string());
+}
+
+void NameApplication() {
+  QApplication::setApplicationName("Tessara");
+  QApplication::setApplicationVersion("1.0");
+  // The desktop entry's name: every desktop finds icon and name by it.
+  QGuiApplication::setDesktopFileName("tessara");
+}
+
+int RunTessara(int argc, char** argv) {
+  QApplication application(argc, argv);
+  NameApplication();
+  const fs::path folder = ProgramFolder();
+  const Text folderText = FromUtf8(folder.string());
+  const CodePage codePage = CodePageOfLocale();
+  PosixFileSystem files;
+  PosixClock clock;
+  PrintModuleSource printing(folderText);
+  LazyPrintSurface printer(printing);
+  QtMessageBoxes messages;
+  QtDialogs dialogs(printing);
+  QtSettingsStore settings;
+  QtDesktop desktop([](const Text&) {});
+  DocumentRegistry classes({UserDataFolder(), folder, "tessara"}, StartUpdateTools);
+  AbsentSpreadsheet spreadsheet;
+  Machine machine{messages, dialogs,     settings, files,    clock,     desktop,
+                  classes,  spreadsheet, printer,  codePage, folderText};
+  Program program(machine);
+  messages.SetWindows(program.Windows());
+  dialogs.SetWindows(program.Windows());
+  QtRenderer renderer(program.Windows(), ToQString(folderText + u"/pictures"));
+  program.Windows().SetRenderer(renderer);
+  program.Main(CommandLineOf(argc, argv));
+  const std::optional<int> ended = program.Windows().ExitStatus();
+  return ended ? *ended : QApplication::exec();
+}
+
+}  // namespace
+}  // namespace tessara
+
+int main(int argc, char** argv) {
+  std::setlocale(LC_ALL, "");
+  return tessara::RunTessara(argc, argv);
+}

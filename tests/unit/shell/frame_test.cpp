@@ -1,0 +1,238 @@
+#include <doctest/doctest.h>
+
+#include "shell/documents.h"
+#include "tests/support/program_desk.h"
+
+namespace tessara::test {
+
+namespace {
+
+/// The frame alone, its deck window closed.
+void CloseDeckWindow(ProgramDesk& desk) {
+  desk.Deck().Command3[2].Press();
+  REQUIRE_FALSE(desk.program.DeckWindowOf().IsLoaded());
+}
+
+}  // namespace
+
+TEST_CASE("the backdrop is painted once over the screen, both far edges included") {
+  ProgramDesk desk;
+  desk.fakes.desktop.screenWidth = 128;
+  desk.fakes.desktop.screenHeight = 96;
+  desk.fakes.settings.values[u"BackDrop"] = u"GRANITE";  // 64 by 64
+  desk.Start();
+  const auto& painted = desk.Frame().Painted();
+  REQUIRE(painted.size() == 6);
+  CHECK(painted.front() == PaintedPicture{{"backdrops/GRANITE.gif", 64, 64}, 0, 0});
+  CHECK(painted.back() == PaintedPicture{{"backdrops/GRANITE.gif", 64, 64}, 128, 64});
+}
+
+TEST_CASE("a tile larger than the screen is painted once") {
+  ProgramDesk desk;
+  desk.fakes.desktop.screenWidth = 60;
+  desk.fakes.desktop.screenHeight = 60;
+  desk.fakes.settings.values[u"BackDrop"] = u"DESERT";
+  desk.Start();
+  CHECK(desk.Frame().Painted().size() == 1);
+}
+
+TEST_CASE("the tiles stand under their twenty keys, in their order") {
+  ProgramDesk desk;
+  desk.Start();
+  desk.program.SetUpWindow().Loaded();
+  const TextView keys[] = {
+      u"<NONE>",   u"DEFAULT",  u"DIGITAL", u"DESERT",   u"STUCCO",  u"BARS",     u"BLUESPH",
+      u"CCURTIAN", u"CH_LINK",  u"GRANITE", u"NEONGRID", u"NETWORK", u"OHIOSTAR", u"OLDBLUE",
+      u"P_GRID",   u"REDBRICK", u"S_NOISE", u"STRIPES",  u"THREADS", u"WD_FLOOR", u"SOFTGRID"};
+  ComboBox& combo = desk.program.SetUpWindow()->Combo1;
+  REQUIRE(combo.Count() == 21);
+  for (int index = 0; index < 21; ++index) CHECK(combo.Item(index) == keys[index]);
+}
+
+TEST_CASE("new decks come up in their view with the frame's own caption of the flip button") {
+  ProgramDesk desk;
+  desk.Start();
+  CloseDeckWindow(desk);
+  SUBCASE("standard") {
+    desk.Frame().mnuStdTessara.Press();
+    CHECK(desk.state.DeckType == kStandardDeck);
+    CHECK(desk.Deck().Command3[1].Caption() == u"&Show Back");
+  }
+  SUBCASE("extended") {
+    desk.Frame().mnuExtTessara.Press();
+    CHECK(desk.state.DeckType == kExtendedDeck);
+    CHECK(desk.Deck().Command3[1].Caption() == u"&Hide Answer");
+    CHECK(desk.Deck().Picture1.Visible());
+  }
+  CHECK(desk.Deck().Visible());
+  CHECK(desk.Deck().Caption() == u"New Deck");
+  CHECK_FALSE(desk.Deck().mnuGTP.Enabled());
+}
+
+TEST_CASE("an existing deck is opened from the frame and is not on file") {
+  ProgramDesk desk;
+  desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(2));
+  desk.Start();
+  CloseDeckWindow(desk);
+  desk.fakes.dialogs.files = {u"/decks/birds.tsr"};
+  desk.Frame().mnuOPenExisting.Press();
+  CHECK(desk.Deck().Caption() == u"birds  [STUDY]");
+  CHECK(desk.Deck().NoteletCtl1.CardText() == u"front 1");
+  CHECK_FALSE(desk.state.DeckOnFile);
+  CHECK(desk.fakes.dialogs.fileRequests.back().filter == u"Study Cards|*.tsr");
+  CHECK(desk.fakes.dialogs.fileRequests.back().flags == 4100);
+  CHECK(desk.fakes.dialogs.fileRequests.back().initialFolder == u"/opt/tessara");
+}
+
+TEST_CASE("a path in capitals is refused by both open commands") {
+  ProgramDesk desk;
+  desk.Start();
+  desk.fakes.dialogs.files = {u"/decks/BIRDS.TSR", u"/decks/BIRDS.TSR"};
+  desk.Deck().mnuOCD.Press();
+  CloseDeckWindow(desk);
+  desk.Frame().mnuOPenExisting.Press();
+  const FakeMessages::Shown refusal{u"This is not a valid Tessara file", 16, u"Error Opening File"};
+  CHECK(desk.fakes.messages.shown == std::vector{refusal, refusal});
+  CHECK_FALSE(desk.program.DeckWindowOf().IsLoaded());
+}
+
+TEST_CASE("help opens the help file of the program's folder from both menus") {
+  ProgramDesk desk;
+  desk.Start();
+  desk.Frame().mnuHelpTopics.Press();
+  desk.Deck().mnuHelpTopic.Press();
+  const Text path = u"/opt/tessara/TessaraHelp.chm";
+  CHECK(desk.fakes.desktop.helpShown == std::vector{path, path});
+}
+
+TEST_CASE("the About box closes by its button, a click, the loss of the focus and its link") {
+  ProgramDesk desk;
+  desk.Start();
+  desk.Deck().mnuAbout.Press();
+  REQUIRE(desk.program.AboutBox().IsLoaded());
+  frmAbout& about = desk.program.AboutBox().Loaded();
+  CHECK(desk.program.Windows().ActiveForm() == &about);
+  SUBCASE("button") {
+    about.cmdOK.Press();
+  }
+  SUBCASE("Return") {
+    CHECK(about.UserReturn());
+  }
+  SUBCASE("Escape") {
+    CHECK(about.UserEscape());
+  }
+  SUBCASE("click on itself") {
+    about.UserClick();
+  }
+  SUBCASE("loss of the focus") {
+    desk.Deck().UserActivate();
+  }
+  SUBCASE("click on the frame") {
+    desk.Frame().UserClick();
+  }
+  SUBCASE("click on the deck window") {
+    desk.Deck().UserClick();
+  }
+  SUBCASE("link") {
+    about.Label2.UserClick();
+    REQUIRE(desk.fakes.desktop.opened.size() == 1);
+    const Text target = std::get<0>(desk.fakes.desktop.opened[0]);
+    CHECK(target.starts_with(u"mailto:"));
+    CHECK(target.ends_with(u"?SUBJECT=Re: Tessara 1.0"));
+    CHECK(std::get<2>(desk.fakes.desktop.opened[0]) == ShowState::kNormal);
+  }
+  CHECK_FALSE(desk.program.AboutBox().IsLoaded());
+}
+
+TEST_CASE("a second About brings the same box forward") {
+  ProgramDesk desk;
+  desk.Start();
+  desk.Deck().mnuAbout.Press();
+  frmAbout& about = desk.program.AboutBox().Loaded();
+  desk.Frame().mnuAbout.Press();
+  CHECK(&about == &desk.program.AboutBox().Loaded());
+}
+
+TEST_CASE("hovering the link shows the icon until the pointer is on the window again") {
+  ProgramDesk desk;
+  desk.Start();
+  desk.Deck().mnuAbout.Press();
+  frmAbout& about = desk.program.AboutBox().Loaded();
+  CHECK_FALSE(about.Image1.Visible());
+  about.Label2.UserMouseMove();
+  CHECK(about.Image1.Visible());
+  CHECK(about.Label2.FontOf().bold);
+  about.cmdOK.UserMouseMove();
+  CHECK(about.Image1.Visible());
+  about.UserMouseMove();
+  CHECK_FALSE(about.Image1.Visible());
+  CHECK_FALSE(about.Label2.FontOf().bold);
+}
+
+TEST_CASE("a document that is missing is reported, other failures are not") {
+  ProgramDesk desk;
+  desk.fakes.desktop.openResult = kOpenFileNotFound;
+  CHECK(OpenTearingSheet(desk.machine) == kOpenFileNotFound);
+  CHECK(desk.fakes.messages.Take() ==
+        std::vector<FakeMessages::Shown>{
+            {u"/opt/tessara/Tearing Sheet.bmp was not found in the Tessara program directory.", 0,
+             u"File Not Found"}});
+  desk.fakes.desktop.openResult = 31;
+  CHECK(OpenQuickStart(desk.machine) == 31);
+  CHECK(desk.fakes.messages.shown.empty());
+  CHECK(std::get<0>(desk.fakes.desktop.opened.back()) == u"/opt/tessara/QuickStartDocument.wri");
+  CHECK(std::get<2>(desk.fakes.desktop.opened.back()) == ShowState::kMaximised);
+}
+
+TEST_CASE("closing the frame ends the program, unless the deck window refuses") {
+  ProgramDesk desk;
+  desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(2));
+  desk.Start(u"/decks/birds.tsr");
+  SUBCASE("during a quiz everything stays open") {
+    desk.Deck().mnuQuiz.Press();
+    desk.Frame().UserClose();
+    CHECK(desk.fakes.messages.shown.back().text ==
+          u"Tessara must be in study mode before quiting.");
+    CHECK(desk.Deck().Visible());
+    CHECK(desk.Frame().Visible());
+    CHECK(desk.renderer.exitStatus == -1);
+  }
+  SUBCASE("No to the question keeps all") {
+    desk.fakes.messages.answers = {MessageAnswer::kNo};
+    desk.Frame().UserClose();
+    CHECK(desk.fakes.messages.shown.back().text == u"ARE YOU SURE?");
+    CHECK(desk.renderer.exitStatus == -1);
+  }
+  SUBCASE("Yes ends it") {
+    desk.fakes.messages.answers = {MessageAnswer::kYes};
+    desk.Frame().UserClose();
+    CHECK(desk.renderer.exitStatus == 0);
+  }
+}
+
+TEST_CASE("the frame closes with each child window open, and none comes back on screen") {
+  struct Case {
+    const char* window;
+    MenuEntry frmMain::*command;
+  };
+  const Case cases[] = {{"frmEssay", &frmMain::mnuACTTD},
+                        {"PrintCard", &frmMain::mnuPrint},
+                        {"frmInfo", &frmMain::mnuCDI}};
+  for (const Case& c : cases) {
+    CAPTURE(c.window);
+    ProgramDesk desk;
+    desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(2));
+    desk.Start(u"/decks/birds.tsr");
+    (desk.Deck().*c.command).Press();
+    REQUIRE(desk.program.Windows().ActiveForm() != nullptr);
+    CHECK(desk.program.Windows().ActiveForm()->Name() == c.window);
+    desk.fakes.messages.shown.clear();
+    desk.fakes.messages.answers = {MessageAnswer::kYes};
+    desk.Frame().UserClose();
+    CHECK(desk.renderer.exitStatus == 0);
+    CHECK(desk.fakes.messages.shown.size() == 1);
+    CHECK(desk.program.Windows().ActiveForm() == nullptr);
+  }
+}
+
+}  // namespace tessara::test

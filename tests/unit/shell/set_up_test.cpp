@@ -1,0 +1,155 @@
+#include <doctest/doctest.h>
+
+#include "tests/support/program_desk.h"
+
+namespace tessara::test {
+
+namespace {
+
+constexpr int kClose = 0;
+constexpr int kApply = 1;
+
+/// The program with the set-up window in front.
+struct SetUpDesk : ProgramDesk {
+  FrmSetUp* window = nullptr;
+  void Open() {
+    Start();
+    Deck().Command3[2].Press();
+    Frame().mnuSetup.Press();
+    window = program.SetUpWindow().IsLoaded() ? &program.SetUpWindow().Loaded() : nullptr;
+  }
+};
+
+const FakeMessages::Shown kSaved{
+    u"The current settings have been saved. Any background changes will take effect the next time "
+    u"Tessara is executed.",
+    0, u"Save settings"};
+const FakeMessages::Shown kQuestion{u"Set-Up changes have been made, do you want to save them?", 36,
+                                    u"Set-Up Changes"};
+
+}  // namespace
+
+TEST_CASE("the set-up window shows the defaults of a first run with nothing to apply") {
+  SetUpDesk desk;
+  desk.fakes.settings.values.erase(u"ShowSplash");
+  desk.Open();
+  REQUIRE(desk.window != nullptr);
+  CHECK(desk.window->Check1.Ticked());
+  CHECK(desk.window->Option1[0].Selected());
+  CHECK(desk.window->Option2[1].Selected());
+  CHECK(desk.window->Option3[0].Selected());
+  CHECK(desk.window->Option4[1].Selected());
+  CHECK(desk.window->Combo1.TextOf() == u"DEFAULT");
+  CHECK(desk.window->Image1.PictureOf().file == "backdrops/DEFAULT.jpg");
+  CHECK_FALSE(desk.window->Command1[kApply].Enabled());
+  CHECK(desk.window->Width() == 6330);
+  CHECK(desk.window->Height() == 4350);
+}
+
+TEST_CASE("each control changes its setting at once and the store only on Apply") {
+  SetUpDesk desk;
+  desk.Open();
+  const auto change = [&](auto& control, const Text& setting, TextView value) {
+    control.Press();
+    CHECK(setting == value);
+    CHECK(desk.window->Command1[kApply].Enabled());
+  };
+  change(desk.window->Check1, desk.state.ShowSplash, u"1");
+  change(desk.window->Option1[1], desk.state.LargeCardColor, u"1");
+  change(desk.window->Option2[0], desk.state.LargeCard3D, u"0");
+  change(desk.window->Option3[1], desk.state.SmallCardColor, u"1");
+  change(desk.window->Option4[0], desk.state.SmallCard3D, u"0");
+  desk.window->Combo1.UserSelect(9);
+  CHECK(desk.state.BackDrop == u"DEFAULT");
+  CHECK(desk.fakes.settings.writes.empty());
+  desk.window->Command1[kApply].Press();
+  CHECK(desk.fakes.settings.writes ==
+        std::vector<std::pair<Text, Text>>{{u"ShowSplash", u"1"},
+                                           {u"LargeCardColor", u"1"},
+                                           {u"LargeCard3D", u"0"},
+                                           {u"SmallCardColor", u"1"},
+                                           {u"SmallCard3D", u"0"},
+                                           {u"BackDrop", u"GRANITE"}});
+  CHECK(desk.state.BackDrop == u"GRANITE");
+  CHECK(desk.fakes.messages.shown == std::vector{kSaved});
+  CHECK_FALSE(desk.window->Command1[kApply].Enabled());
+  desk.window->Command1[kApply].Press();
+  CHECK(desk.fakes.messages.shown.size() == 1);
+}
+
+TEST_CASE("closing with changes asks, Yes saves, both answers close") {
+  for (const bool yes : {true, false}) {
+    SetUpDesk desk;
+    desk.Open();
+    desk.window->Option1[1].Press();
+    desk.fakes.messages.answers = {yes ? MessageAnswer::kYes : MessageAnswer::kNo};
+    desk.window->Command1[kClose].Press();
+    CHECK(desk.fakes.messages.shown ==
+          (yes ? std::vector{kQuestion, kSaved} : std::vector{kQuestion}));
+    CHECK_FALSE(desk.program.SetUpWindow().IsLoaded());
+    CHECK(desk.state.LargeCardColor == u"1");
+    CHECK(desk.fakes.settings.writes.empty() != yes);
+    desk.Frame().mnuSetup.Press();
+    CHECK(desk.program.SetUpWindow()->Option1[1].Selected());
+    CHECK_FALSE(desk.program.SetUpWindow()->Command1[kApply].Enabled());
+  }
+}
+
+TEST_CASE("closing without changes asks nothing") {
+  SetUpDesk desk;
+  desk.Open();
+  desk.window->Command1[kClose].Press();
+  CHECK(desk.fakes.messages.shown.empty());
+  CHECK_FALSE(desk.program.SetUpWindow().IsLoaded());
+}
+
+TEST_CASE("the preview stands in the middle of its area") {
+  SetUpDesk desk;
+  desk.Open();
+  desk.window->Combo1.UserSelect(3);  // DESERT, 160 by 120
+  CHECK(desk.window->Image1.Place() == Bounds{(1725 - 2400) / 2, (1695 - 1800) / 2, 2400, 1800});
+}
+
+TEST_CASE("choosing no backdrop ends the program with the image list's error") {
+  SetUpDesk desk;
+  desk.Open();
+  desk.window->Combo1.UserSelect(0);
+  CHECK(desk.fakes.messages.shown.back().text ==
+        u"Run-time error '35600':\r\n\r\nIndex out of bounds");
+  CHECK(desk.renderer.exitStatus == 1);
+}
+
+TEST_CASE("bad stored values fail when the set-up window loads") {
+  struct Case {
+    Text ProgramState::*setting;
+    TextView value;
+    TextView error;
+  };
+  const Case cases[] = {
+      {&ProgramState::ShowSplash, u"x", u"13"},      {&ProgramState::ShowSplash, u"7", u"380"},
+      {&ProgramState::LargeCardColor, u"2", u"340"}, {&ProgramState::LargeCard3D, u"-1", u"340"},
+      {&ProgramState::SmallCardColor, u"x", u"13"},  {&ProgramState::SmallCard3D, u"40000", u"6"},
+      {&ProgramState::BackDrop, u"PLAID", u"35600"}};
+  for (const Case& c : cases) {
+    SetUpDesk desk;
+    desk.Start();
+    desk.Deck().Command3[2].Press();
+    desk.state.*c.setting = c.value;
+    desk.Frame().mnuSetup.Press();
+    REQUIRE_FALSE(desk.fakes.messages.shown.empty());
+    CHECK(desk.fakes.messages.shown.back().text.starts_with(u"Run-time error '" + Text(c.error) +
+                                                            u"'"));
+    CHECK(desk.renderer.exitStatus == 1);
+  }
+}
+
+TEST_CASE("the set-up window holds its size") {
+  SetUpDesk desk;
+  desk.Open();
+  desk.window->SetHeight(9000);
+  CHECK(desk.window->Height() == 4350);
+  desk.window->SetWidth(9000);
+  CHECK(desk.window->Width() == 6330);
+}
+
+}  // namespace tessara::test

@@ -1,0 +1,187 @@
+#include <doctest/doctest.h>
+
+#include "tests/support/program_desk.h"
+
+namespace tessara::test {
+
+TEST_CASE("a plain start brings up the frame and an empty deck window") {
+  ProgramDesk desk;
+  desk.Start();
+  CHECK(desk.Frame().Caption() == u"Tessara 1.0");
+  CHECK(desk.Frame().Visible());
+  CHECK(desk.Deck().Visible());
+  CHECK(desk.Deck().Caption() == u"New Deck");
+  CHECK(desk.Deck().Width() == 7230);
+  CHECK(desk.Deck().Height() == 6315);
+  CHECK(desk.Deck().Command3[1].Caption() == u"&Show Back");
+  CHECK_FALSE(desk.Deck().Command3[1].Enabled());
+  CHECK_FALSE(desk.Deck().mnuMode.Enabled());
+  CHECK_FALSE(desk.Deck().mnuGTP.Enabled());
+  CHECK(desk.Deck().mnuStudy.Checked());
+  CHECK(desk.state.CardPresent.At(0) == 1);
+  CHECK(desk.state.CurrentCard == 0);
+  CHECK(desk.fakes.messages.shown.empty());
+}
+
+TEST_CASE("a deck on the command line comes up in study mode") {
+  for (const TextView type : {TextView(u"E"), TextView(u"T")}) {
+    ProgramDesk desk;
+    desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(3, type));
+    desk.Start(u"/decks/birds.tsr");
+    CHECK(desk.Deck().Caption() == u"birds  [STUDY]");
+    CHECK(desk.Deck().NoteletCtl1.CardText() == u"front 1");
+    CHECK(desk.Deck().NoteletCtl1.CardTotal() == u"3");
+    CHECK(desk.state.DeckFilePath == u"/decks/birds.tsr");
+    CHECK(desk.state.DeckType == (type == u"T" ? kExtendedDeck : kStandardDeck));
+    CHECK(desk.state.CommandLineFile.empty());
+    CHECK_FALSE(desk.state.DeckFromCommandLine);
+    CHECK_FALSE(desk.state.DeckOnFile);
+    CHECK(desk.Deck().mnuSaveAs.Enabled());
+    CHECK(desk.Deck().Width() == 7230);
+    CHECK(desk.Deck().Height() == 6315);
+  }
+}
+
+TEST_CASE("a deck on the command line shows the design's colours, whatever the settings") {
+  ProgramDesk desk;
+  desk.fakes.settings.values[u"LargeCardColor"] = u"1";
+  desk.fakes.settings.values[u"SmallCardColor"] = u"1";
+  desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(1));
+  desk.Start(u"/decks/birds.tsr");
+  CHECK(desk.Deck().NoteletCtl1.CardColor() == u"Q");
+  CHECK(desk.Deck().Picture1.PictureOf().file == "skins/white_3d.png");
+}
+
+TEST_CASE("a deck on the command line that can't be read ends the program with a report") {
+  struct Case {
+    const char* what;
+    TextView path;
+    TextView error;
+  };
+  const Case cases[] = {
+      {"missing", u"/decks/none.tsr", u"75"},
+      {"a folder", u"/decks", u"75"},
+      {"without permission", u"/decks/secret.tsr", u"70"},
+      {"a number outside the table", u"/decks/wild.tsr", u"9"},
+  };
+  for (const Case& c : cases) {
+    CAPTURE(c.what);
+    ProgramDesk desk;
+    desk.fakes.files.Put(u"/decks/secret.tsr", ProgramDesk::DeckBytes(1));
+    desk.fakes.files.withoutPermission.insert(u"/decks/secret.tsr");
+    std::string wild = ProgramDesk::DeckBytes(1);
+    wild[kRecordSize + 446] = '\x7F';
+    desk.fakes.files.Put(u"/decks/wild.tsr", wild);
+    desk.Start(Text(c.path));
+    REQUIRE(desk.fakes.messages.shown.size() == 1);
+    CHECK(
+        desk.fakes.messages.shown[0].text.starts_with(u"Run-time error '" + Text(c.error) + u"'"));
+    CHECK(desk.fakes.messages.shown[0].title == u"Tessara");
+    CHECK(desk.renderer.exitStatus == 1);
+  }
+}
+
+TEST_CASE("an empty deck file comes up as no cards") {
+  ProgramDesk desk;
+  desk.fakes.files.Put(u"/decks/empty.tsr", "");
+  desk.Start(u"/decks/empty.tsr");
+  CHECK(desk.state.CardCount == 0);
+  CHECK(desk.state.CurrentCard == 1);
+  CHECK(desk.fakes.messages.shown.empty());
+}
+
+TEST_CASE("a second instance refuses and ends at once") {
+  ProgramDesk desk;
+  desk.fakes.desktop.previousInstance = true;
+  desk.Start(u"/decks/birds.tsr");
+  CHECK(desk.fakes.messages.shown ==
+        std::vector<FakeMessages::Shown>{
+            {u"Tessara is already open. Please close the last deck before opening another.", 16,
+             u"Another Tessara Open"}});
+  CHECK(desk.renderer.exitStatus == 0);
+  CHECK(desk.program.Windows().LoadedForms().empty());
+  CHECK(desk.fakes.settings.readKeys.empty());
+}
+
+TEST_CASE("the settings are read in their order, with defaults, and nothing is written") {
+  ProgramDesk desk;
+  desk.fakes.settings.values = {{u"FirstLoad", u"0"}};
+  desk.Start();
+  CHECK(desk.fakes.settings.readKeys ==
+        std::vector<Text>{u"ShowSplash", u"LargeCardColor", u"LargeCard3D", u"SmallCardColor",
+                          u"SmallCard3D", u"BackDrop", u"FirstLoad"});
+  CHECK(desk.fakes.settings.writes.empty());
+  CHECK(desk.state.ShowSplash == u"1");
+  CHECK(desk.state.LargeCard3D == u"1");
+  CHECK(desk.state.BackDrop == u"DEFAULT");
+}
+
+TEST_CASE("nonsense in the settings ends the start with the classic errors") {
+  struct Case {
+    TextView key;
+    TextView value;
+    TextView error;
+  };
+  const Case cases[] = {{u"FirstLoad", u"maybe", u"13"},     {u"ShowSplash", u"yes", u"13"},
+                        {u"ShowSplash", u"1e999", u"6"},     {u"LargeCard3D", u"", u"13"},
+                        {u"LargeCardColor", u"blue", u"13"}, {u"SmallCard3D", u"x", u"13"},
+                        {u"BackDrop", u"PLAID", u"35601"},   {u"BackDrop", u"", u"35600"},
+                        {u"BackDrop", u"<NONE>", u"35600"},  {u"BackDrop", u"default", u"35601"}};
+  for (const Case& c : cases) {
+    const std::string key = ToUtf8(c.key);
+    CAPTURE(key);
+    ProgramDesk desk;
+    desk.fakes.settings.values[Text(c.key)] = c.value;
+    desk.Start();
+    REQUIRE_FALSE(desk.fakes.messages.shown.empty());
+    CHECK(
+        desk.fakes.messages.shown[0].text.starts_with(u"Run-time error '" + Text(c.error) + u"'"));
+    CHECK(desk.renderer.exitStatus == 1);
+  }
+}
+
+TEST_CASE("the splash is shown for 5000 yields where its setting is numerically 1") {
+  struct Case {
+    TextView value;
+    int yields;
+  };
+  const Case cases[] = {{u"1", 5000}, {u"1.0", 5000}, {u"0", 0}, {u"2", 0}, {u"-1", 0}};
+  for (const Case& c : cases) {
+    ProgramDesk desk;
+    desk.fakes.settings.values[u"ShowSplash"] = c.value;
+    desk.Start();
+    CHECK(desk.fakes.desktop.yields == c.yields);
+    for (const Form* form : desk.program.Windows().LoadedForms()) CHECK(form->Name() != "Splash");
+  }
+}
+
+TEST_CASE("the first load declares the document type once, in its order") {
+  ProgramDesk desk;
+  desk.fakes.settings.values.erase(u"FirstLoad");
+  desk.Start();
+  const auto& classes = desk.fakes.classes;
+  CHECK(classes.created == std::vector<Text>{u".tsr", u"Tessara.Document\\shell\\open\\command",
+                                             u"Tessara.Document\\DefaultIcon"});
+  CHECK(classes.strings ==
+        std::vector<std::tuple<Text, Text, Text>>{
+            {u".tsr", u"", u"Tessara.Document"},
+            {u"Tessara.Document\\DefaultIcon", u"", u"/opt/tessara/Notelet.ico"},
+            {u"Tessara.Document\\shell\\open\\command", u"", u"/opt/tessara/Tessara.EXE %1"},
+            {u"Tessara.Document", u"", u"Tessara File"}});
+  CHECK(classes.published == 1);
+  CHECK(desk.fakes.settings.values[u"FirstLoad"] == u"False");
+}
+
+TEST_CASE("a failed registration is silent and not tried again") {
+  ProgramDesk desk;
+  desk.fakes.settings.values.erase(u"FirstLoad");
+  desk.fakes.classes.result = 5;
+  desk.Start();
+  CHECK(desk.fakes.messages.shown.empty());
+  CHECK(desk.fakes.settings.values[u"FirstLoad"] == u"False");
+  ProgramDesk second;
+  second.Start();
+  CHECK(second.fakes.classes.created.empty());
+}
+
+}  // namespace tessara::test
