@@ -39,7 +39,7 @@ double Luminance(const Color& color) {
 }
 
 double Contrast(const Color& one, const Color& other) {
-  const auto [dark, light] = std::minmax(Luminance(one), Luminance(other));
+  const auto [dark, light] = std::minmax({Luminance(one), Luminance(other)});
   return (light + 0.05) / (dark + 0.05);
 }
 
