@@ -38,8 +38,9 @@ class FirstPaintProbe : public QObject {
   using QObject::QObject;
 
   bool eventFilter(QObject* watched, QEvent* event) override {
-    const bool wanted = event->type() == QEvent::Paint && !seen_ &&
-                        watched->objectName() == QString::fromLocal8Bit(std::getenv("BENCH_WIDGET"));
+    const bool wanted =
+        event->type() == QEvent::Paint && !seen_ &&
+        watched->objectName() == QString::fromLocal8Bit(std::getenv("BENCH_WIDGET"));
     if (wanted) {
       seen_ = true;
       // A zero timer runs when the paint has reached the screen's buffer.
