@@ -1,6 +1,7 @@
 // Puts the pieces together: the real machine, the renderer, the program.
 
 #include <QApplication>
+#include <QIcon>
 #include <clocale>
 #include <filesystem>
 
@@ -40,17 +41,19 @@ Text CommandLineOf(int argc, char** argv) {
   return FromUtf8(fs::absolute(joined, unknown).lexically_normal().string());
 }
 
-void NameApplication() {
+void NameApplication(const fs::path& folder) {
   QApplication::setApplicationName("Tessara");
   QApplication::setApplicationVersion("1.0");
   // The desktop entry's name: every desktop finds icon and name by it.
   QGuiApplication::setDesktopFileName("tessara");
+  QApplication::setWindowIcon(
+      QIcon(QString::fromStdString((folder / "icons/hicolor/48x48/apps/tessara.png").string())));
 }
 
 int RunTessara(int argc, char** argv) {
   QApplication application(argc, argv);
-  NameApplication();
   const fs::path folder = ProgramFolder();
+  NameApplication(folder);
   const Text folderText = FromUtf8(folder.string());
   const CodePage codePage = CodePageOfLocale();
   PosixFileSystem files;
