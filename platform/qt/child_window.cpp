@@ -81,6 +81,7 @@ void ChildWindow::ComeForward() {
 void ChildWindow::Leave() {
   form_ = nullptr;
   surface_->Detach();
+  setObjectName(QString());
   hide();
   area_.removeSubWindow(this);
   deleteLater();

@@ -1,4 +1,7 @@
+#include <QAbstractButton>
+#include <QCheckBox>
 #include <QPushButton>
+#include <QRadioButton>
 #include <doctest/doctest.h>
 
 #include "tests/desktop/desk.h"
@@ -11,5 +14,117 @@ TEST_CASE("A click on a button runs its form's click") {
   SampleForm& form = desk.ShowChild();
   QTest::mouseClick(&Desk::Of("Command2"), Qt::LeftButton);
   CHECK(form.log.Take() == "lost focus, delete");
-  if (qEnvironmentVariableIsSet("PICTURE")) Desk::Top("MDIForm1")->grab().save("/tmp/desk.png");
+}
+
+TEST_CASE("A disabled button and one behind a disabled window take no click") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  form.Command2.SetEnabled(false);
+  CHECK_FALSE(Desk::Of("Command2").isEnabled());
+  form.Command2.SetEnabled(true);
+  form.SetEnabled(false);
+  QTest::mouseClick(&Desk::Of("Command2"), Qt::LeftButton);
+  CHECK(form.log.Take().empty());
+}
+
+TEST_CASE("A long caption is made to fit its button and keeps its text") {
+  Desk desk;
+  desk.ShowChild();
+  auto& button = Desk::Of<QPushButton>("Command2");
+  CHECK(button.text() == "&Delete form deck");
+  CHECK(button.size() == QSize(97, 33));
+}
+
+TEST_CASE("An option that a form clears is cleared on screen") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  auto& one = Desk::Of<QRadioButton>("Option1(0)");
+  form.Option1[0].SetSelected(true);
+  REQUIRE(one.isChecked());
+  form.Option1[0].SetSelected(false);
+  CHECK_FALSE(one.isChecked());
+}
+
+TEST_CASE("A click selects one option of a group, and clicks again where it was selected") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  auto& one = Desk::Of<QRadioButton>("Option1(0)");
+  auto& two = Desk::Of<QRadioButton>("Option1(1)");
+  QTest::mouseClick(&one, Qt::LeftButton, {}, {6, 8});
+  QTest::mouseClick(&two, Qt::LeftButton, {}, {6, 8});
+  QTest::mouseClick(&two, Qt::LeftButton, {}, {6, 8});
+  CHECK(form.log.Take() == "lost focus, option 0, option 1, option 1");
+  CHECK_FALSE(one.isChecked());
+  CHECK(two.isChecked());
+}
+
+TEST_CASE("The arrow keys select the next option, round the group") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  QTest::mouseClick(&Desk::Of("Option1(0)"), Qt::LeftButton, {}, {6, 8});
+  QTest::keyClick(&Desk::Of("Option1(0)"), Qt::Key_Down);
+  CHECK(form.Option1[1].Selected());
+  CHECK(Desk::Of("Option1(1)").hasFocus());
+  QTest::keyClick(&Desk::Of("Option1(1)"), Qt::Key_Down);
+  CHECK(form.Option1[0].Selected());
+}
+
+TEST_CASE("A disabled group keeps the user out and does not grey what it holds") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  const QColor blue(0, 0, 255);
+  form.Option1[1].SetForeColor(FixedColor(0, 0, 255));
+  form.Frame1.SetEnabled(false);
+  auto& one = Desk::Of<QRadioButton>("Option1(0)");
+  auto& two = Desk::Of<QRadioButton>("Option1(1)");
+  QTest::mouseClick(&one, Qt::LeftButton, {}, {6, 8});
+  CHECK(form.log.Take().empty());
+  CHECK_FALSE(one.isChecked());
+  const QPalette desktop = QApplication::palette();
+  CHECK(one.palette().color(QPalette::Disabled, QPalette::WindowText) ==
+        desktop.color(QPalette::Active, QPalette::WindowText));
+  CHECK(two.palette().color(QPalette::Disabled, QPalette::WindowText) == blue);
+
+  form.Option1[0].SetEnabled(false);
+  CHECK(one.palette().color(QPalette::Disabled, QPalette::WindowText) ==
+        desktop.color(QPalette::Disabled, QPalette::WindowText));
+}
+
+TEST_CASE("A coloured option is painted in its colour in a disabled group") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  form.Option1[1].SetForeColor(FixedColor(0, 0, 255));
+  form.Frame1.SetEnabled(false);
+  const QImage picture = Desk::Of("Option1(1)").grab().toImage();
+  int blue = 0;
+  for (int x = 0; x < picture.width(); ++x) {
+    for (int y = 0; y < picture.height(); ++y) {
+      const QColor color = picture.pixelColor(x, y);
+      if (color.blue() > color.red() + 150) ++blue;
+    }
+  }
+  CHECK(blue > 10);
+}
+
+TEST_CASE("A check box shows its value and is turned over by a click") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  auto& check = Desk::Of<QCheckBox>("Check1");
+  QTest::mouseClick(&check, Qt::LeftButton, {}, {6, 8});
+  CHECK(form.log.Take() == "lost focus, check");
+  CHECK(check.checkState() == Qt::Checked);
+  form.Check1.SetValue(2);
+  CHECK(check.checkState() == Qt::PartiallyChecked);
+  form.Check1.SetValue(0);
+  CHECK(check.checkState() == Qt::Unchecked);
+}
+
+TEST_CASE("A handler that unloads its own window ends well") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  form.Command2.onClick = [&form] { form.Unload(); };
+  QTest::mouseClick(&Desk::Of("Command2"), Qt::LeftButton);
+  CHECK(Desk::Top("frmChild") == nullptr);
+  Desk::Settle();
+  CHECK_FALSE(desk.child.IsLoaded());
 }

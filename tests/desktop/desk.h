@@ -11,6 +11,7 @@
 #include "platform/code_page.h"
 #include "platform/qt/qt_renderer.h"
 #include "platform/qt/qt_text.h"
+#include "tests/desktop/event_loops.h"
 #include "tests/desktop/sample_forms.h"
 #include "tests/support/fake_messages.h"
 
@@ -33,6 +34,7 @@ struct Desk {
   Window<SampleForm> dialog{dialogSlot};
 
   Desk() {
+    StartAnew();
     windows.SetRenderer(renderer);
     frame->Show();
     const bool active = QTest::qWaitForWindowActive(Top("MDIForm1"));

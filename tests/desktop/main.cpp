@@ -4,6 +4,8 @@
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
+  // The offscreen platform tells about each window what it cannot do.
+  qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
   QApplication application(argc, argv);
   return doctest::Context(argc, argv).run();
 }

@@ -1,0 +1,161 @@
+#include <QAbstractButton>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+#include <doctest/doctest.h>
+#include <functional>
+
+#include "platform/qt/qt_dialogs.h"
+#include "platform/qt/qt_message_boxes.h"
+#include "platform/qt/qt_text.h"
+#include "platform/run_time_error.h"
+#include "tests/desktop/event_loops.h"
+
+using namespace tessara;
+using namespace tessara::test;
+
+namespace {
+
+/// Runs when the next dialog is up.
+template <class DialogType>
+void WhenUp(const std::function<void(DialogType&)>& act) {
+  StartAnew();
+  QTimer::singleShot(0, [act] {
+    auto* dialog = qobject_cast<DialogType*>(QApplication::activeModalWidget());
+    REQUIRE(dialog != nullptr);
+    act(*dialog);
+  });
+}
+
+void Press(QMessageBox& box, QMessageBox::StandardButton button) {
+  QTest::mouseClick(box.button(button), Qt::LeftButton);
+}
+
+struct NoPrinting {
+  PrintModuleSource printing{u"/nowhere"};
+  QtDialogs dialogs{printing};
+};
+
+}  // namespace
+
+TEST_CASE("A message box has its text, title, icon and buttons, all as they stand") {
+  struct Case {
+    int flags;
+    QMessageBox::Icon icon;
+    QMessageBox::StandardButtons buttons;
+    QMessageBox::StandardButton byDefault;
+    QMessageBox::StandardButton press;
+    MessageAnswer answer;
+  };
+  const Case cases[] = {
+      {kOkOnly, QMessageBox::NoIcon, QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok,
+       MessageAnswer::kOk},
+      {kStopIcon, QMessageBox::Critical, QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok,
+       MessageAnswer::kOk},
+      {kQuestionIcon + kYesNo, QMessageBox::Question, QMessageBox::Yes | QMessageBox::No,
+       QMessageBox::Yes, QMessageBox::No, MessageAnswer::kNo},
+      {kExclamationIcon + kYesNoCancel, QMessageBox::Warning,
+       QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, QMessageBox::Yes, QMessageBox::Yes,
+       MessageAnswer::kYes},
+      {kInformationIcon + kOkCancel + kSecondButtonDefault, QMessageBox::Information,
+       QMessageBox::Ok | QMessageBox::Cancel, QMessageBox::Cancel, QMessageBox::Cancel,
+       MessageAnswer::kCancel},
+  };
+  for (const Case& test : cases) {
+    CAPTURE(test.flags);
+    WhenUp<QMessageBox>([&test](QMessageBox& box) {
+      CHECK(box.text() == "<b>1 & 2</b>\n\nend");
+      CHECK(box.textFormat() == Qt::PlainText);
+      CHECK(box.windowTitle() == "Ti[*][*]tle");
+      CHECK(box.icon() == test.icon);
+      CHECK(box.standardButtons() == test.buttons);
+      CHECK(box.standardButton(box.defaultButton()) == test.byDefault);
+      Press(box, test.press);
+    });
+    QtMessageBoxes boxes;
+    CHECK(boxes.Show(u"<b>1 & 2</b>\r\n\r\nend", test.flags, u"Ti[*]tle") == test.answer);
+  }
+}
+
+TEST_CASE("Escape and the close box do not answer Yes or No") {
+  WhenUp<QMessageBox>([](QMessageBox& box) {
+    QTest::keyClick(&box, Qt::Key_Escape);
+    CHECK(box.isVisible());
+    box.close();
+    CHECK(box.isVisible());
+    Press(box, QMessageBox::Yes);
+  });
+  QtMessageBoxes boxes;
+  CHECK(boxes.Show(u"?", kYesNo, u"") == MessageAnswer::kYes);
+}
+
+TEST_CASE("Escape is Cancel where there is one, and OK where there is nothing else") {
+  for (const int flags : {kOkOnly, kOkCancel, kYesNoCancel}) {
+    WhenUp<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Escape); });
+    QtMessageBoxes boxes;
+    CHECK(boxes.Show(u"?", flags, u"") ==
+          (flags == kOkOnly ? MessageAnswer::kOk : MessageAnswer::kCancel));
+  }
+}
+
+TEST_CASE("The input box shows prompt and title as they stand and offers the default") {
+  NoPrinting desk;
+  WhenUp<QInputDialog>([](QInputDialog& dialog) {
+    CHECK(dialog.windowTitle() == "Go <To>");
+    CHECK(dialog.findChild<QLabel*>()->textFormat() == Qt::PlainText);
+    CHECK(dialog.labelText() == "<Enter> a & b");
+    CHECK(dialog.textValue() == "1");
+    QTest::keyClicks(dialog.findChild<QLineEdit*>(), "23");
+    QTest::keyClick(&dialog, Qt::Key_Return);
+  });
+  CHECK(desk.dialogs.AskText(u"<Enter> a & b", u"Go <To>", u"1") == u"23");
+  WhenUp<QInputDialog>([](QInputDialog& dialog) { dialog.reject(); });
+  CHECK(desk.dialogs.AskText(u"", u"", u"1") == std::nullopt);
+}
+
+TEST_CASE("Saving over a file is not asked about by the dialog") {
+  NoPrinting desk;
+  const QTemporaryDir folder;
+  const QString path = folder.filePath("deck.tsr");
+  QFile file(path);
+  REQUIRE(file.open(QIODevice::WriteOnly));
+  file.close();
+  FileDialogRequest request;
+  request.mode = FileDialogMode::kSave;
+  request.filter = u"Study Cards|*.tsr";
+  request.flags = kHideReadOnly | kFileMustExist;
+  request.initialFolder = FromQString(folder.path());
+  WhenUp<QFileDialog>([&path](QFileDialog& dialog) {
+    CHECK(dialog.acceptMode() == QFileDialog::AcceptSave);
+    CHECK(dialog.nameFilters() == QStringList("Study Cards (*.tsr)"));
+    CHECK(dialog.testOption(QFileDialog::DontConfirmOverwrite));
+    dialog.selectFile(path);
+    QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
+  });
+  CHECK(desk.dialogs.AskFile(request) == FromQString(path));
+}
+
+TEST_CASE("A cancelled file dialog names no file, and opening wants one that exists") {
+  NoPrinting desk;
+  FileDialogRequest request;
+  request.flags = kFileMustExist;
+  WhenUp<QFileDialog>([](QFileDialog& dialog) {
+    CHECK(dialog.acceptMode() == QFileDialog::AcceptOpen);
+    CHECK(dialog.fileMode() == QFileDialog::ExistingFile);
+    dialog.reject();
+  });
+  CHECK(desk.dialogs.AskFile(request).empty());
+}
+
+TEST_CASE("Without the print module the printer is an error") {
+  NoPrinting desk;
+  CHECK_THROWS_AS(desk.dialogs.AskPrinter(), RunTimeError);
+}

@@ -1,0 +1,132 @@
+#include <QApplication>
+#include <QMenu>
+#include <doctest/doctest.h>
+
+#include "tests/desktop/desk.h"
+
+using namespace tessara;
+using namespace tessara::test;
+
+namespace {
+
+QWidget& Focused() {
+  return *QApplication::focusWidget();
+}
+
+}  // namespace
+
+TEST_CASE("An accelerator presses what carries it, whatever the focus") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  QTest::keyClick(&Focused(), Qt::Key_D, Qt::AltModifier);
+  CHECK(form.log.Take() == "delete");
+  QTest::keyClick(&Focused(), Qt::Key_H, Qt::AltModifier);
+  CHECK(form.log.Take() == "check");
+  QTest::keyClick(&Focused(), Qt::Key_W, Qt::AltModifier);
+  CHECK(form.log.Take() == "option 1");
+}
+
+TEST_CASE("The window's accelerators come before the menu bar's") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  form.Command2.SetCaption(u"&First");
+  QTest::keyClick(&Focused(), Qt::Key_F, Qt::AltModifier);
+  CHECK(form.log.Take() == "delete");
+  CHECK(QApplication::activePopupWidget() == nullptr);
+}
+
+TEST_CASE("An accelerator that no control has opens the menu, whose keys choose") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  QTest::keyClick(&Focused(), Qt::Key_M, Qt::AltModifier);
+  REQUIRE(QApplication::activePopupWidget() != nullptr);
+  CHECK(QApplication::activePopupWidget()->objectName() == "mnuMode");
+  QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_S);
+  CHECK(form.log.Take() == "study");
+}
+
+TEST_CASE("Page Up and Page Down press the buttons that turn pages") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  Desk::Of("Command2").setFocus();
+  form.log.Take();
+  QTest::keyClick(&Focused(), Qt::Key_PageUp);
+  QTest::keyClick(&Focused(), Qt::Key_PageDown);
+  CHECK(form.log.Take() == "back, forth");
+  form.Command1[1].SetEnabled(false);
+  QTest::keyClick(&Focused(), Qt::Key_PageDown);
+  CHECK(form.log.Take().empty());
+}
+
+TEST_CASE("In a text box Page Up and Page Down need Ctrl") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  Desk::Of("Text2").setFocus();
+  form.log.Take();
+  QTest::keyClick(&Focused(), Qt::Key_PageDown);
+  CHECK(form.log.Take().empty());
+  QTest::keyClick(&Focused(), Qt::Key_PageDown, Qt::ControlModifier);
+  CHECK(form.log.Take() == "forth");
+}
+
+TEST_CASE("Return and Escape press a window's default and cancel button") {
+  Desk desk;
+  desk.prepare = [](SampleForm& form) { form.Command2.SetDefaultAndCancel(true); };
+  desk.dialog->Show();
+  Desk::Settle();
+  desk.dialog->log.Take();
+  QTest::keyClick(&Desk::Of("Check1", "frmDialog"), Qt::Key_Return);
+  QTest::keyClick(&Desk::Of("Check1", "frmDialog"), Qt::Key_Escape);
+  CHECK(desk.dialog->log.Take() == "delete, delete");
+  QTest::keyClick(&Desk::Of("Command1(0)", "frmDialog"), Qt::Key_Return);
+  CHECK(desk.dialog->log.Take() == "back");
+  QTest::keyClick(&Desk::Of("Text2", "frmDialog"), Qt::Key_Return);
+  CHECK(desk.dialog->Text2.TextOf() == u"\r\n");
+}
+
+TEST_CASE("Escape leaves a window without a cancel button alone") {
+  Desk desk;
+  desk.dialog->Show();
+  QTest::keyClick(Desk::Top("frmDialog"), Qt::Key_Escape);
+  CHECK(Desk::Top("frmDialog")->isVisible());
+}
+
+TEST_CASE("The key for help presses the menu's help entry") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  QTest::keyClick(&Focused(), Qt::Key_F1);
+  CHECK(form.log.Take() == "help");
+}
+
+TEST_CASE("Space presses the button that has the focus") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  Desk::Of("Command2").setFocus();
+  form.log.Take();
+  QTest::keyClick(&Focused(), Qt::Key_Space);
+  CHECK(form.log.Take() == "delete");
+}
+
+TEST_CASE("The focus is where the form has it, and its moves are told once") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  CHECK(Focused().objectName() == "Text1");
+  form.Command2.SetFocus();
+  CHECK(Focused().objectName() == "Command2");
+  CHECK(form.log.Take() == "lost focus");
+  Desk::Of("Text1").setFocus();
+  CHECK(form.FocusedControl() == &form.Text1);
+  CHECK(form.log.Take() == "got focus");
+}
+
+TEST_CASE("A focus set while a window loads is the one that it comes up with") {
+  Desk desk;
+  desk.prepare = [](SampleForm& form) {
+    form.onLoad = [&form] {
+      form.Show();
+      form.Command2.SetFocus();
+    };
+  };
+  desk.ShowChild();
+  CHECK(Focused().objectName() == "Command2");
+}

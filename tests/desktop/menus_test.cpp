@@ -1,0 +1,82 @@
+#include <QAction>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <doctest/doctest.h>
+
+#include "tests/desktop/desk.h"
+
+using namespace tessara;
+using namespace tessara::test;
+
+namespace {
+
+std::string BarTexts() {
+  std::string texts;
+  for (const QAction* action :
+       qobject_cast<QMainWindow*>(Desk::Top("MDIForm1"))->menuBar()->actions()) {
+    texts += action->text().toStdString() + " ";
+  }
+  return texts;
+}
+
+QAction& Entry(const char* name, const char* window) {
+  return *Desk::Top(window)->findChild<QAction*>(QLatin1String(name), Qt::FindDirectChildrenOnly);
+}
+
+}  // namespace
+
+TEST_CASE("The bar shows the menus of the window in front, else the frame's own") {
+  Desk desk;
+  CHECK(BarTexts() == "&File ");
+  desk.ShowChild();
+  CHECK(BarTexts() == "&File &Mode ");
+  desk.child->Hide();
+  CHECK(BarTexts() == "&File ");
+  desk.child->Show();
+  CHECK(BarTexts() == "&File &Mode ");
+  desk.child.Unload();
+  Desk::Settle();
+  CHECK(BarTexts() == "&File ");
+}
+
+TEST_CASE("Entries of one name in two windows run their own window's command") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  Entry("mnuOpen", "frmChild").trigger();
+  CHECK(form.log.Take() == "open");
+  CHECK(desk.frame->log.Take().empty());
+  desk.child->Hide();
+  Entry("mnuOpen", "MDIForm1").trigger();
+  CHECK(desk.frame->log.Take() == "frame open");
+}
+
+TEST_CASE("A disabled entry and a disabled menu can't be chosen") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  form.mnuOpen.SetEnabled(false);
+  CHECK_FALSE(Entry("mnuOpen", "frmChild").isEnabled());
+  form.mnuMode.SetEnabled(false);
+  CHECK_FALSE(Desk::Top("frmChild")->findChild<QMenu*>("mnuMode")->menuAction()->isEnabled());
+}
+
+TEST_CASE("A mark shows what the form says, not how often it was clicked") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  QAction& study = Entry("mnuStudy", "frmChild");
+  CHECK_FALSE(study.isCheckable());
+  form.mnuStudy.SetChecked(true);
+  CHECK(study.isChecked());
+  study.trigger();
+  CHECK(study.isChecked());
+  CHECK(form.log.Take() == "study");
+}
+
+TEST_CASE("A command that unloads its own window ends well") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  form.mnuOpen.onClick = [&form] { form.Unload(); };
+  Entry("mnuOpen", "frmChild").trigger();
+  Desk::Settle();
+  CHECK(BarTexts() == "&File ");
+}

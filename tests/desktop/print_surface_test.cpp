@@ -1,0 +1,103 @@
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <doctest/doctest.h>
+
+#include "platform/qt/lazy_print_surface.h"
+#include "platform/qt/qt_text.h"
+#include "platform/run_time_error.h"
+
+using namespace tessara;
+
+namespace {
+
+/// The real surface, writing into a PDF file.
+struct PdfDesk {
+  QTemporaryDir folder;
+  QString file = folder.filePath("sheet.pdf");
+  PrintModuleSource printing{FromQString(QStringLiteral(TESSARA_TEST_MODULES))};
+  LazyPrintSurface surface{printing};
+
+  PdfDesk() {
+    surface.SetDestination({u"", FromQString(file)});
+    surface.SetCopies(1);
+    surface.SetFontName(u"Arial");
+    surface.SetFontSize(10);
+  }
+
+  [[nodiscard]] QByteArray Written() const {
+    QFile pdf(file);
+    return pdf.open(QIODevice::ReadOnly) ? pdf.readAll() : QByteArray();
+  }
+  [[nodiscard]] int Pages() const { return static_cast<int>(Written().count("/Type /Page\n")); }
+};
+
+}  // namespace
+
+TEST_CASE("Lengths are twips and agree with each other") {
+  PdfDesk desk;
+  CHECK(desk.surface.PageWidth() > 9000);
+  CHECK(desk.surface.PageHeight() > desk.surface.PageWidth());
+  const double line = desk.surface.TextHeight(u"x");
+  CHECK(line > 200);
+  CHECK(line < 300);
+  CHECK(desk.surface.TextHeight(u"a\r\nb\r\nc") == doctest::Approx(3 * line));
+  CHECK(desk.surface.TextWidth(u"wide\r\nwider one") ==
+        doctest::Approx(desk.surface.TextWidth(u"wider one")));
+  CHECK(desk.surface.CurrentY() == 0);
+  desk.surface.PrintLine(u"a\r\nb");
+  CHECK(desk.surface.CurrentY() == doctest::Approx(2 * line));
+}
+
+TEST_CASE("Bold and size change the measures") {
+  PdfDesk desk;
+  const double plain = desk.surface.TextWidth(u"Tessara");
+  desk.surface.SetBold(true);
+  CHECK(desk.surface.TextWidth(u"Tessara") > plain);
+  desk.surface.SetBold(false);
+  desk.surface.SetFontSize(20);
+  CHECK(desk.surface.TextWidth(u"Tessara") == doctest::Approx(2 * plain).epsilon(0.02));
+}
+
+TEST_CASE("Past the bottom a new page begins by itself, and a document is one file") {
+  PdfDesk desk;
+  const double line = desk.surface.TextHeight(u"x");
+  const int lines = static_cast<int>(desk.surface.PageHeight() / line);
+  for (int i = 0; i < lines; ++i) desk.surface.PrintLine(u"line");
+  CHECK(desk.surface.CurrentY() > desk.surface.PageHeight() - line);
+  desk.surface.PrintLine(u"one more");
+  CHECK(desk.surface.CurrentY() == doctest::Approx(line));
+  desk.surface.NewPage();
+  CHECK(desk.surface.CurrentY() == 0);
+  CHECK(desk.Written().isEmpty());
+  desk.surface.DrawLine(0, 0, desk.surface.PageWidth(), 0);
+  desk.surface.EndDocument();
+  CHECK(desk.Written().startsWith("%PDF"));
+  CHECK(desk.Pages() == 3);
+  CHECK(desk.surface.CurrentY() == 0);
+}
+
+TEST_CASE("Nothing of a dropped document is printed, then or later") {
+  PdfDesk desk;
+  desk.surface.PrintLine(u"dropped");
+  desk.surface.NewPage();
+  desk.surface.DropDocument();
+  CHECK_FALSE(QFile::exists(desk.file));
+  desk.surface.PrintLine(u"kept");
+  desk.surface.EndDocument();
+  CHECK(desk.Pages() == 1);
+}
+
+TEST_CASE("A printer or a file that can't be written is error 482") {
+  PdfDesk desk;
+  SUBCASE("no such printer") {
+    desk.surface.SetDestination({u"no such printer", u""});
+    CHECK_THROWS_AS(desk.surface.PrintLine(u"x"), RunTimeError);
+  }
+  SUBCASE("no such folder") {
+    desk.surface.SetDestination({u"", u"/no such folder/x.pdf"});
+    desk.surface.PrintLine(u"x");
+    CHECK_THROWS_AS(desk.surface.EndDocument(), RunTimeError);
+  }
+}

@@ -1,0 +1,68 @@
+#include <QFile>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <doctest/doctest.h>
+
+#include "platform/qt/qt_settings_store.h"
+
+using namespace tessara;
+
+namespace {
+
+/// A configuration folder of its own.
+struct ConfigFolder {
+  QTemporaryDir folder;
+  ConfigFolder() {
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
+  }
+  [[nodiscard]] QString Path() const { return folder.filePath("Tessara.conf"); }
+  void Write(const char* content) const {
+    QFile file(Path());
+    REQUIRE(file.open(QIODevice::WriteOnly));
+    file.write(content);
+  }
+};
+
+}  // namespace
+
+TEST_CASE("A missing key gives the default, an empty value is a value") {
+  const ConfigFolder config;
+  QtSettingsStore store;
+  CHECK(store.Read(u"ShowSplash", u"1") == u"1");
+  store.Write(u"ShowSplash", u"");
+  CHECK(store.Read(u"ShowSplash", u"1").empty());
+  CHECK(QtSettingsStore().Read(u"ShowSplash", u"1").empty());
+}
+
+TEST_CASE("Texts come back as they were stored") {
+  const ConfigFolder config;
+  for (const Text& text : {Text(u"<NONE>"), Text(u"a, b,c"), Text(u" blanks "), Text(u"@Size(1 2)"),
+                           Text(u"\"quoted\"; %x \\ é\u20AC"), Text(u"False"), Text(u"1.0")}) {
+    QtSettingsStore().Write(u"BackDrop", text);
+    CHECK(QtSettingsStore().Read(u"BackDrop", u"") == text);
+  }
+}
+
+TEST_CASE("Settings stand in the user's file, in the section Settings") {
+  const ConfigFolder config;
+  QtSettingsStore().Write(u"BackDrop", u"DESERT");
+  QFile file(config.Path());
+  REQUIRE(file.open(QIODevice::ReadOnly));
+  CHECK(file.readAll() == "[Settings]\nBackDrop=DESERT\n");
+}
+
+TEST_CASE("Values that somebody wrote by hand are read as texts") {
+  const ConfigFolder config;
+  config.Write("[Settings]\nBackDrop=a,b\nFirstLoad=true\nShowSplash=0\n");
+  const QtSettingsStore store;
+  CHECK(store.Read(u"BackDrop", u"") == u"a,b");
+  CHECK(store.Read(u"FirstLoad", u"") == u"true");
+  CHECK(store.Read(u"ShowSplash", u"") == u"0");
+}
+
+TEST_CASE("A store that can't be written stays as it is, silently") {
+  const ConfigFolder config;
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/proc/no such folder");
+  QtSettingsStore().Write(u"BackDrop", u"DESERT");
+  CHECK_FALSE(QFile::exists("/proc/no such folder"));
+}

@@ -1,0 +1,211 @@
+#include <QClipboard>
+#include <QInputMethodEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTextBlock>
+#include <QTextLayout>
+#include <doctest/doctest.h>
+
+#include "platform/qt/text_area_view.h"
+#include "tests/desktop/desk.h"
+
+using namespace tessara;
+using namespace tessara::test;
+
+namespace {
+
+void Paste(QWidget& box, const QString& text) {
+  QApplication::clipboard()->setText(text);
+  QTest::keySequence(&box, QKeySequence::Paste);
+}
+
+/// Commits text the way an input method does.
+void Commit(QWidget& box, const QString& text) {
+  QInputMethodEvent event;
+  event.setCommitString(text);
+  QApplication::sendEvent(&box, &event);
+}
+
+void PutCursorAtEnd(QPlainTextEdit& box) {
+  box.moveCursor(QTextCursor::End);
+}
+
+}  // namespace
+
+TEST_CASE("Typed text reaches the form character by character") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  QTest::keyClicks(&Desk::Of("Text1"), "Ab");
+  CHECK(form.Text1.TextOf() == u"Ab");
+  CHECK(form.log.Take() == "key A, change, key b, change");
+}
+
+TEST_CASE("Return in a box of several lines is CR LF, and deletes as one") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  auto& area = Desk::Of<QPlainTextEdit>("Text2");
+  QTest::keyClicks(&area, "a");
+  QTest::keyClick(&area, Qt::Key_Return);
+  QTest::keyClicks(&area, "b");
+  CHECK(form.Text2.TextOf() == u"a\r\nb");
+  QTest::keyClick(&area, Qt::Key_Backspace);
+  QTest::keyClick(&area, Qt::Key_Backspace);
+  CHECK(form.Text2.TextOf() == u"a");
+}
+
+TEST_CASE("What the user does not touch stays to the last character") {
+  const Text odd[] = {
+      u"non\u00A0breaking",        u"lone\rreturn", u"lone\nfeed", Text(u"nul\0byte", 8),
+      u"tab\tand\u0081unassigned", u"\r\n\r\n",     u"bell\u0007", u" blanks "};
+  for (const Text& text : odd) {
+    CAPTURE(ToUtf8(text));
+    Desk desk;
+    SampleForm& form = desk.ShowChild();
+    form.Text2.SetText(text);
+    form.Text1.SetText(text);
+    CHECK(form.Text2.TextOf() == text);
+    auto& area = Desk::Of<QPlainTextEdit>("Text2");
+    PutCursorAtEnd(area);
+    QTest::keyClicks(&area, "x");
+    CHECK(form.Text2.TextOf() == text + u"x");
+    QTest::keyClick(&area, Qt::Key_Backspace);
+    CHECK(form.Text2.TextOf() == text);
+    auto& line = Desk::Of<QLineEdit>("Text1");
+    line.end(false);
+    QTest::keyClicks(&line, "x");
+    CHECK(form.Text1.TextOf() == text + u"x");
+  }
+}
+
+TEST_CASE("Characters that the code page lacks become question marks on every way in") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  auto& line = Desk::Of<QLineEdit>("Text1");
+  auto& area = Desk::Of<QPlainTextEdit>("Text2");
+  SUBCASE("typed") {
+    QTest::sendKeyEvent(QTest::Click, &line, Qt::Key_unknown, QString(u'\u4E2D'), {});
+    QTest::sendKeyEvent(QTest::Click, &area, Qt::Key_unknown, QString(u'\u4E2D'), {});
+  }
+  SUBCASE("by an input method") {
+    Commit(line, QString(u'\u4E2D'));
+    Commit(area, QString(u'\u4E2D'));
+  }
+  SUBCASE("pasted") {
+    Paste(line, QString(u'\u4E2D'));
+    Paste(area, QString(u'\u4E2D'));
+  }
+  CHECK(form.Text1.TextOf() == u"?");
+  CHECK(form.Text2.TextOf() == u"?");
+  CHECK(line.text() == "?");
+  CHECK(area.toPlainText() == "?");
+}
+
+TEST_CASE("A corrected paste can be undone") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  auto& area = Desk::Of<QPlainTextEdit>("Text2");
+  QTest::keyClicks(&area, "a");
+  Paste(area, QStringLiteral("\u4E2Db"));
+  CHECK(form.Text2.TextOf() == u"a?b");
+  while (area.document()->isUndoAvailable()) area.undo();
+  CHECK(form.Text2.TextOf().empty());
+}
+
+TEST_CASE("A lowered limit cuts nothing, and keeps more from coming in") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  auto& line = Desk::Of<QLineEdit>("Text1");
+  form.Text1.SetText(u"12345");
+  form.Text1.SetMaxLength(3);
+  CHECK(line.text() == "12345");
+  QTest::keyClicks(&line, "6");
+  CHECK(form.Text1.TextOf() == u"12345");
+  CHECK(line.text() == "12345");
+  line.end(false);
+  for (int i = 0; i < 3; ++i) QTest::keyClick(&line, Qt::Key_Backspace);
+  QTest::keyClicks(&line, "67");
+  CHECK(form.Text1.TextOf() == u"126");
+}
+
+TEST_CASE("What goes over the limit is the end of what was pasted") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  auto& area = Desk::Of<QPlainTextEdit>("Text2");
+  form.Text2.SetMaxLength(4);
+  form.Text2.SetText(u"abc");
+  QTextCursor cursor = area.textCursor();
+  cursor.setPosition(1);
+  area.setTextCursor(cursor);
+  Paste(area, "bcX");
+  CHECK(form.Text2.TextOf() == u"abbc");
+  CHECK(area.toPlainText() == "abbc");
+}
+
+TEST_CASE("A box of one line takes what stands before a pasted line break") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  auto& line = Desk::Of<QLineEdit>("Text1");
+  Paste(line, "one\ntwo");
+  CHECK(form.Text1.TextOf() == u"one");
+  CHECK(line.text() == "one");
+}
+
+TEST_CASE("A text that a form assigns shows, and is not an edit of the user") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  form.Text2.SetText(u"one\r\ntwo");
+  CHECK(form.log.Take() == "change");
+  auto& area = Desk::Of<QPlainTextEdit>("Text2");
+  CHECK(area.blockCount() == 2);
+  CHECK(area.toPlainText() == "one\ntwo");
+}
+
+TEST_CASE("A handler that rewrites the text has the last word") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  form.Text1.onChange = [&form] { form.Text1.SetText(u"fixed"); };
+  auto& line = Desk::Of<QLineEdit>("Text1");
+  QTest::keyClicks(&line, "a");
+  CHECK(line.text() == "fixed");
+}
+
+TEST_CASE("A locked box takes no text and can still be read") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  form.Text2.SetText(u"text");
+  form.Text2.SetLocked(true);
+  auto& area = Desk::Of<QPlainTextEdit>("Text2");
+  QTest::keyClicks(&area, "x");
+  CHECK(area.isReadOnly());
+  CHECK(form.Text2.TextOf() == u"text");
+  CHECK(area.toPlainText() == "text");
+}
+
+TEST_CASE("Tab leaves a box of several lines") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  Desk::Of("Text2").setFocus();
+  QTest::keyClick(&Desk::Of("Text2"), Qt::Key_Tab);
+  CHECK_FALSE(Desk::Of("Text2").hasFocus());
+  CHECK(form.Text2.TextOf().empty());
+}
+
+TEST_CASE("Lines are counted as the box on screen wraps them, and without one") {
+  Desk desk;
+  desk.prepare = [](SampleForm& form) {
+    form.Text2.SetText(u"many words that wrap and wrap and wrap again in a narrow box\r\n\r\nend");
+  };
+  const int unseen = desk.child->Text2.LineCount();
+  SampleForm& form = desk.ShowChild();
+  auto& area = Desk::Of<QPlainTextEdit>("Text2");
+  int lines = 0;
+  for (QTextBlock block = area.document()->begin(); block.isValid(); block = block.next()) {
+    lines += block.layout()->lineCount();
+  }
+  CHECK(lines > 4);
+  CHECK(form.Text2.LineCount() == lines);
+  CHECK(unseen == lines);
+  const PixelScale scale = PixelScale::OfDesktop();
+  const int margins = 2 * static_cast<int>(area.document()->documentMargin());
+  CHECK(LineWidthOf(form.Text2, scale) == area.viewport()->width() - margins);
+}
