@@ -1,0 +1,54 @@
+#pragma once
+
+#include <cstdlib>
+
+#include "fuzz/one_file.h"
+#include "import/import_common.h"
+
+namespace tessara::fuzz {
+
+/// One import of the fuzzer's bytes, and what must be true behind each.
+class ImportRun : private MessageBoxes {
+ public:
+  ImportRun(const std::uint8_t* data, std::size_t size) : files_(data, size) {}
+
+  ImportContext Context() {
+    return {state_,
+            fileNumber_,
+            *this,
+            CodePage::Western(),
+            {2026, 1, 5},
+            [](std::int16_t) {},
+            [this](DeckKind) { shown_ = true; }};
+  }
+
+  void CheckOutcome() const {
+    Require(state_.CardCount >= 0 && state_.CardCount < kRows);
+    Require(fileNumber_.IsOpen() == unforeseen_);
+    Require(shown_ == state_.DeckChanged);
+    Require(shown_ == (state_.CardPresent.At(kInfoRow) == 1));
+    for (int row = 1; row <= kMostCards; ++row) CheckRow(row);
+  }
+
+ private:
+  static void Require(bool truth) {
+    if (!truth) std::abort();
+  }
+  void CheckRow(int row) const {
+    const bool present = state_.CardPresent.At(row) != 0;
+    Require(shown_ || !present);
+    Require(!present || state_.Cell(row, kRowNumber) == DecimalText(row));
+  }
+  MessageAnswer Show(const Text&, int, const Text& title) override {
+    unforeseen_ = unforeseen_ || title == u"Import Error";
+    return MessageAnswer::kOk;
+  }
+
+  OneFile files_;
+  FileNumber fileNumber_{files_};
+  ProgramState state_;
+  bool shown_ = false;
+  bool unforeseen_ = false;
+};
+
+}  // namespace tessara::fuzz
