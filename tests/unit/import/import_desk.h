@@ -91,16 +91,14 @@ struct ImportDesk {
 
   /// True where the import has left no card, and no deck was brought up.
   [[nodiscard]] bool Dropped() const { return shown.empty() && !state.DeckChanged && Empty(); }
-  /// True where rows 0 to 200 are blank and absent.
+  /// True where rows 0 to 200 are absent, and those of cards blank.
   [[nodiscard]] bool Empty() const {
-    for (int row = kInfoRow; row <= kMostCards; ++row) {
-      if (state.CardPresent.At(row) != 0 || !Blank(row)) return false;
+    if (state.CardPresent.At(kInfoRow) != 0) return false;
+    for (int row = 1; row <= kMostCards; ++row) {
+      if (state.CardPresent.At(row) != 0 || RowOf(state, row) != CardRow()) return false;
     }
     return true;
   }
-
- private:
-  [[nodiscard]] bool Blank(int row) const { return RowOf(state, row) == CardRow(); }
 };
 
 }  // namespace tessara::test
