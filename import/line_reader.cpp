@@ -13,15 +13,22 @@ bool IsHighSurrogate(char16_t unit) {
   return unit >= 0xD800 && unit <= 0xDBFF;
 }
 
+bool IsAscii(char16_t unit) {
+  return unit < 0x80;
+}
+
 /// The text with one "?" for each character that the code page lacks: two units can be one.
-Text WithinCodePage(TextView text, const CodePage& codePage) {
-  Text result;
-  result.reserve(text.size());
+Text WithinCodePage(Text text, const CodePage& codePage) {
+  std::size_t length = 0;
   for (std::size_t at = 0; at < text.size(); ++at) {
-    result += codePage.Holds(text[at]) ? text[at] : u'?';
-    if (IsHighSurrogate(text[at])) ++at;
+    const char16_t unit = text[at];
+    // Every code page holds ASCII: most characters need no look-up.
+    const bool held = IsAscii(unit) || codePage.Holds(unit);
+    text[length++] = held ? unit : u'?';
+    if (IsHighSurrogate(unit)) ++at;
   }
-  return result;
+  text.resize(length);
+  return text;
 }
 
 }  // namespace
