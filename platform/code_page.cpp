@@ -1,5 +1,7 @@
 #include "platform/code_page.h"
 
+#include <algorithm>
+
 namespace tessara {
 
 namespace {
@@ -46,9 +48,9 @@ const CodePage& CodePage::Western() {
 }
 
 Text CodePage::Decode(std::string_view bytes) const {
-  Text text;
-  text.reserve(bytes.size());
-  for (const char byte : bytes) text += characters_[static_cast<unsigned char>(byte)];
+  Text text(bytes.size(), u'\0');
+  std::transform(bytes.begin(), bytes.end(), text.begin(),
+                 [this](char byte) { return characters_[static_cast<unsigned char>(byte)]; });
   return text;
 }
 
