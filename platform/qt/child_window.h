@@ -11,7 +11,7 @@ namespace tessara {
 
 /// A window inside the frame, of fixed size, with a close box and no other buttons. Its client area
 /// has the form's size whatever border the desktop draws, and stands where a classic one would.
-class ChildWindow : public QMdiSubWindow, public FormWindow {
+class ChildWindow final : public QMdiSubWindow, public FormWindow {
  public:
   ChildWindow(Form& form, QMdiArea& area, const ViewContext& context);
 

@@ -7,7 +7,7 @@
 namespace tessara {
 
 /// A window of its own and of fixed size: a dialog over the frame, or the start-up picture.
-class DialogWindow : public QWidget, public FormWindow {
+class DialogWindow final : public QWidget, public FormWindow {
  public:
   DialogWindow(Form& form, QWidget* frame, const ViewContext& context);
 

@@ -9,7 +9,7 @@
 namespace tessara {
 
 /// The window that holds the others. It has one menu bar for its whole life, whose entries change.
-class FrameWindow : public QMainWindow, public FormWindow {
+class FrameWindow final : public QMainWindow, public FormWindow {
  public:
   FrameWindow(Form& form, const ViewContext& context);
 

@@ -31,7 +31,8 @@ QAction* MenuView::MakeMenu(MenuEntry& entry) {
 }
 
 QAction* MenuView::MakeCommand(MenuEntry& entry) {
-  auto* action = new QAction(ToQString(entry.Caption()), &Owner());
+  // A style would write a separator's caption into its line.
+  auto* action = new QAction(entry.Separator() ? QString() : ToQString(entry.Caption()), &Owner());
   action->setSeparator(entry.Separator());
   QObject::connect(action, &QAction::triggered, this, [this, &entry] { Press(entry); });
   return action;

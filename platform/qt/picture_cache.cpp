@@ -24,7 +24,7 @@ QPixmap PictureCache::Read(const QString& file) const {
     QPixmap pixmap(folder_ + u'/' + dense);
     if (!pixmap.isNull()) return pixmap;
   }
-  return QPixmap(folder_ + u'/' + file);
+  return {folder_ + u'/' + file};
 }
 
 }  // namespace tessara

@@ -60,6 +60,14 @@ TEST_CASE("A disabled entry and a disabled menu can't be chosen") {
   CHECK_FALSE(Desk::Top("frmChild")->findChild<QMenu*>("mnuMode")->menuAction()->isEnabled());
 }
 
+TEST_CASE("An entry with the caption - is a line without text") {
+  Desk desk;
+  desk.ShowChild();
+  const QAction& line = Entry("mnu1", "frmChild");
+  CHECK(line.isSeparator());
+  CHECK(line.text().isEmpty());
+}
+
 TEST_CASE("A mark shows what the form says, not how often it was clicked") {
   Desk desk;
   SampleForm& form = desk.ShowChild();

@@ -84,6 +84,7 @@ class SampleForm : public Form {
     });
     PlaceMenus({{&mnuFile, "mnuFile", nullptr, u"&File"},
                 {&mnuOpen, "mnuOpen", &mnuFile, u"&Open"},
+                {&mnu1, "mnu1", &mnuFile, u"-"},
                 {&mnuMode, "mnuMode", nullptr, u"&Mode"},
                 {&mnuStudy, "mnuStudy", &mnuMode, u"&Study"},
                 {&mnuHelpTopic, "mnuHelpTopic", &mnuMode, u"&Help"}});
@@ -115,7 +116,7 @@ class SampleForm : public Form {
   SamplePainting Painting1;
   ControlArray<Button, 2> Command1;
   Button Command2;
-  MenuEntry mnuFile, mnuOpen, mnuMode, mnuStudy, mnuHelpTopic;
+  MenuEntry mnuFile, mnuOpen, mnu1, mnuMode, mnuStudy, mnuHelpTopic;
   EventLog log;
   std::function<void()> onLoad;
   bool refusesToGo = false;

@@ -66,7 +66,7 @@ void QtPrintSurface::SetItalic(bool italic) {
 }
 
 QFontMetricsF QtPrintSurface::Metrics() const {
-  return QFontMetricsF(font_, &Printer());
+  return {font_, &Printer()};
 }
 
 double QtPrintSurface::LineHeight() const {

@@ -21,9 +21,9 @@ TEST_CASE("a cell outside the table is a subscript error") {
   CardTable grid;
   CHECK(grid.At(0, 0).empty());
   CHECK(grid.At(202, 9).empty());
-  for (const auto& [row, column] : {std::pair{-1, 0}, {203, 0}, {0, -1}, {0, 10}, {-32768, 3}}) {
-    CHECK(ErrorOf([&] { (void)grid.At(row, column); }) == 9);
-    CHECK(ErrorOf([&] { grid.Set(row, column, u"x"); }) == 9);
+  for (const auto& cell : {std::pair{-1, 0}, {203, 0}, {0, -1}, {0, 10}, {-32768, 3}}) {
+    CHECK(ErrorOf([&] { (void)grid.At(cell.first, cell.second); }) == 9);
+    CHECK(ErrorOf([&] { grid.Set(cell.first, cell.second, u"x"); }) == 9);
   }
 }
 

@@ -34,7 +34,7 @@ class Walk {
   /// What the step did, for the message of a failure.
   std::string Step() {
     PrepareAnswers();
-    const std::string done = Command();
+    std::string done = Command();
     desk_.fakes.dialogs.files.clear();
     desk_.fakes.messages.answers.clear();
     return done;
@@ -71,7 +71,7 @@ class Walk {
   Text AnyName() { return kNames[Roll(std::size(kNames))]; }
 
   Text NameToOpen() {
-    if (Roll(4) == 0) return Text(Roll(2) == 0 ? u"*.tsr" : u"/decks/a.TSR");
+    if (Roll(4) == 0) return Roll(2) == 0 ? u"*.tsr" : u"/decks/a.TSR";
     if (Roll(6) == 0) return u"";
     auto file = model_.disk.begin();
     std::advance(file, Roll(model_.disk.size()));

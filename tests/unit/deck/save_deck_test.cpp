@@ -160,7 +160,7 @@ std::string ExpectedAfterFault(int operation) {
   std::string expected = DeckBytes(2);
   if (operation == kDelete) return expected + DeckBytes(9).substr(expected.size());
   if (operation == kOpen) return "";
-  const std::size_t record = static_cast<std::size_t>(operation - kOpen - 1);
+  const auto record = static_cast<std::size_t>(operation - kOpen - 1);
   const bool last = record == 3;
   if (last) return expected.substr(0, record * 1192);
   return expected.replace(record * 1192, 1192, 1192, '\0');

@@ -162,7 +162,7 @@ TEST_CASE("only the ticked cards are printed, in the order of the list") {
 TEST_CASE("the server and the print surface go where the dialog says, with one copy each") {
   PrintDesk desk;
   PrintCard& window = desk.OpenTicked(1);
-  desk.fakes.dialogs.printers.push_back(PrinterChoice{{u"Office", u""}, 1});
+  desk.fakes.dialogs.printers.emplace_back(PrinterChoice{{u"Office", u""}, 1});
   window.Command1[1].Press();
   CHECK(desk.server.record.Count("Destination Office") == 1);
   CHECK(desk.surface.record.calls.front() == "Destination Office");
