@@ -1,0 +1,121 @@
+#!/usr/bin/env bash
+# Takes the pictures of docs/pictures from the running program, with the sample decks.
+# usage: scripts/with_display.sh scripts/take_pictures.sh [FOLDER]     after ./run; FOLDER for a look before they change
+set -euo pipefail
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+build=$root/build/release
+pictures=${1:-$root/docs/pictures}
+mkdir -p "$pictures"
+
+# A home of its own: the pictures show the program as it comes.
+HOME=$(mktemp -d)
+export HOME LC_ALL=C.UTF-8
+unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_STATE_HOME XDG_CACHE_HOME
+program=
+window=
+end_program() {
+  [ -z "$program" ] || kill "$program" 2>/dev/null || true
+  wait 2>/dev/null || true
+  program=
+}
+trap 'end_program; rm -rf "$HOME"' EXIT
+
+# settings MAIN_COLOR MAIN_3D SMALL_COLOR SMALL_3D
+settings() {
+  mkdir -p "$HOME/.config"
+  printf '[Settings]\nShowSplash=0\nFirstLoad=False\nLargeCardColor=%s\nLargeCard3D=%s\nSmallCardColor=%s\nSmallCard3D=%s\n' \
+    "$@" >"$HOME/.config/Tessara.conf"
+}
+
+# shown NAME: waits for a window whose title matches, and leaves its number in `window`.
+shown() {
+  local deadline=$((SECONDS + 20))
+  until window=$(xdotool search --onlyvisible --name "$1" 2>/dev/null | head -n 1) && [ -n "$window" ]; do
+    [ $SECONDS -lt $deadline ] || { echo "No window \"$1\" came." >&2; exit 1; }
+    sleep 0.05
+  done
+  xdotool windowactivate --sync "$window"
+  sleep 0.4
+}
+
+open() {
+  "$build/tessara" "$@" &
+  program=$!
+  shown '^Tessara 1.0'
+}
+
+press() {
+  xdotool key --delay 60 "$@"
+  sleep 0.3
+}
+
+# menu LEFT KEY...: clicks the menu at that place of the bar and chooses with the keys.
+menu() {
+  xdotool mousemove --window "$window" "$1" 9 click 1
+  sleep 0.4
+  press "${@:2}"
+  # Away from the buttons, which would show that the pointer is on them.
+  xdotool mousemove --window "$window" 30 560
+}
+readonly file=15 mode=60 utility=105 help=150
+
+take() {
+  sleep 0.3
+  import -window "$window" -strip "$pictures/$1.png"
+}
+
+capitals=$build/samples/capitals.tsr
+science=$build/samples/science.tsr
+
+settings 0 1 0 1
+open "$capitals"
+take standard-front
+press alt+s
+take standard-back
+menu $mode q
+take quiz-standard
+press alt+s
+menu $mode t
+press alt+s
+take test-standard
+press space
+take test-next-card
+end_program
+
+open "$science"
+take extended-front
+press Page_Down
+press alt+s
+take extended-back
+menu $mode q
+press Page_Down
+take quiz-extended
+menu $mode t
+press Down
+take test-graded
+for _ in $(seq 59); do press space space; done
+press Return
+press space
+take score
+end_program
+
+for skin in 'white-flat 0 0' 'white-3d 0 1' 'yellow-flat 1 0' 'yellow-3d 1 1'; do
+  read -r name color is3d <<<"$skin"
+  settings "$color" "$is3d" "$color" "$is3d"
+  # A deck from the command line comes on the card that the program is drawn with.
+  open
+  menu $file o
+  xdotool type --delay 20 "$science"
+  press Return
+  sleep 1
+  press alt+s
+  take "skin-$name"
+  end_program
+done
+settings 0 1 0 1
+
+open "$capitals"
+menu $help Up Return
+shown Separating
+take separating
+end_program
