@@ -6,6 +6,7 @@
 #include "deck/deck_window.h"
 #include "deck/frmInfo.h"
 #include "platform/message_box.h"
+#include "platform/safety_copies.h"
 #include "platform/skip_errors.h"
 
 namespace tessara {
@@ -22,6 +23,7 @@ void DeckWindow::SaveTessaraToFile(const Text& xFilename) {
     // The answer is not used: a deck without a path has nowhere to go.
     static_cast<void>(AskFileName(FileDialogMode::kSave, kDeckFilter, machine));
   }
+  machine.copies.Keep(xFilename);
   if (state.DeckOnFile) SkipErrors([&] { machine.files.Delete(xFilename); });
   CollectDeckInfo(state, info_.Loaded());
   SkipErrors([&] { fileNumber_.OpenRandom(xFilename, OpenMode::kReadAndWrite, kRecordSize); });

@@ -12,6 +12,7 @@ class Dialogs;
 class FileSystem;
 class MessageBoxes;
 class PrintSurface;
+class SafetyCopies;
 class SettingsStore;
 class SpreadsheetServer;
 
@@ -21,6 +22,7 @@ struct Machine {
   Dialogs& dialogs;
   SettingsStore& settings;
   FileSystem& files;
+  SafetyCopies& copies;
   Clock& clock;
   Desktop& desktop;
   ClassRegistry& classes;

@@ -8,9 +8,11 @@
 #include "platform/absent_spreadsheet.h"
 #include "platform/freedesktop/document_registry.h"
 #include "platform/freedesktop/update_tools.h"
+#include "platform/freedesktop/user_folders.h"
 #include "platform/posix/code_page_of_locale.h"
 #include "platform/posix/posix_clock.h"
 #include "platform/posix/posix_file_system.h"
+#include "platform/posix/posix_safety_copies.h"
 #include "platform/qt/lazy_print_surface.h"
 #include "platform/qt/print_module.h"
 #include "platform/qt/qt_desktop.h"
@@ -50,6 +52,12 @@ void NameApplication(const fs::path& folder) {
       QIcon(QString::fromStdString((folder / "icons/hicolor/48x48/apps/tessara.png").string())));
 }
 
+/// The user's folder for safety copies; empty where there is no home.
+fs::path CopiesFolder() {
+  const fs::path state = UserStateFolder();
+  return state.empty() ? state : state / "Tessara" / "copies";
+}
+
 int RunTessara(int argc, char** argv) {
   QApplication application(argc, argv);
   const fs::path folder = ProgramFolder();
@@ -57,6 +65,7 @@ int RunTessara(int argc, char** argv) {
   const Text folderText = FromUtf8(folder.string());
   const CodePage codePage = CodePageOfLocale();
   PosixFileSystem files;
+  PosixSafetyCopies copies(CopiesFolder());
   PosixClock clock;
   PrintModuleSource printing(folderText);
   LazyPrintSurface printer(printing);
@@ -66,8 +75,8 @@ int RunTessara(int argc, char** argv) {
   QtDesktop desktop([](const Text&) {});
   DocumentRegistry classes({UserDataFolder(), folder, "tessara"}, StartUpdateTools);
   AbsentSpreadsheet spreadsheet;
-  Machine machine{messages, dialogs,     settings, files,    clock,     desktop,
-                  classes,  spreadsheet, printer,  codePage, folderText};
+  Machine machine{messages, dialogs, settings,    files,   copies,   clock,
+                  desktop,  classes, spreadsheet, printer, codePage, folderText};
   Program program(machine);
   messages.SetWindows(program.Windows());
   dialogs.SetWindows(program.Windows());

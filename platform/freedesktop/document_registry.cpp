@@ -1,6 +1,5 @@
 #include "platform/freedesktop/document_registry.h"
 
-#include <cstdlib>
 #include <fstream>
 #include <system_error>
 
@@ -22,13 +21,6 @@ void WriteFile(const fs::path& path, const std::string& content) {
 }
 
 }  // namespace
-
-fs::path UserDataFolder() {
-  const char* data = std::getenv("XDG_DATA_HOME");
-  if (data != nullptr && fs::path(data).is_absolute()) return data;
-  const char* home = std::getenv("HOME");
-  return home != nullptr && *home != '\0' ? fs::path(home) / ".local" / "share" : fs::path();
-}
 
 int DocumentRegistry::CreateClassKey(const Text& key) {
   // A key brings its parents into being.

@@ -39,7 +39,4 @@ class DocumentRegistry : public ClassRegistry {
   std::map<Text, Text> defaults_;
 };
 
-/// The user's data folder by the XDG base directory rules; empty where there is no home.
-[[nodiscard]] std::filesystem::path UserDataFolder();
-
 }  // namespace tessara

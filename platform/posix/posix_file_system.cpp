@@ -8,22 +8,13 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include "platform/posix/system_call.h"
 #include "platform/posix/system_error.h"
 #include "platform/run_time_error.h"
 
 namespace tessara {
 
 namespace {
-
-constexpr int kFailed = -1;
-
-/// Repeats the call for as long as a signal cuts it short.
-template <class Call>
-auto Uninterrupted(const Call& call) {
-  auto result = call();
-  while (result == kFailed && errno == EINTR) result = call();
-  return result;
-}
 
 [[noreturn]] void RaisePathError(int systemError) {
   throw RunTimeError(PathError(systemError));
@@ -54,15 +45,12 @@ void RequireRegularFile(const struct stat& status) {
 class PosixFile : public File {
  public:
   explicit PosixFile(int descriptor) : descriptor_(descriptor) {}
-  PosixFile(const PosixFile&) = delete;
-  PosixFile& operator=(const PosixFile&) = delete;
-  ~PosixFile() override { close(descriptor_); }
 
   std::size_t ReadAt(std::uint64_t offset, std::span<char> buffer) override {
     std::size_t done = 0;
     while (done < buffer.size()) {
       const auto count = Uninterrupted([&] {
-        return pread(descriptor_, buffer.data() + done, buffer.size() - done,
+        return pread(descriptor_.Get(), buffer.data() + done, buffer.size() - done,
                      static_cast<off_t>(offset + done));
       });
       if (count == kFailed) throw RunTimeError(TransferError(errno));
@@ -76,7 +64,7 @@ class PosixFile : public File {
     std::size_t done = 0;
     while (done < bytes.size()) {
       const auto count = Uninterrupted([&] {
-        return pwrite(descriptor_, bytes.data() + done, bytes.size() - done,
+        return pwrite(descriptor_.Get(), bytes.data() + done, bytes.size() - done,
                       static_cast<off_t>(offset + done));
       });
       if (count == kFailed) throw RunTimeError(TransferError(errno));
@@ -86,7 +74,7 @@ class PosixFile : public File {
   }
 
  private:
-  int descriptor_;
+  Descriptor descriptor_;
 };
 
 /// Without waiting: opening a pipe would wait for a peer, a terminal for its line.

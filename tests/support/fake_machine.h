@@ -11,6 +11,7 @@
 #include "platform/machine.h"
 #include "platform/print_surface.h"
 #include "platform/run_time_error.h"
+#include "platform/safety_copies.h"
 #include "platform/settings_store.h"
 #include "platform/spreadsheet.h"
 #include "tests/support/fake_dialogs.h"
@@ -34,6 +35,21 @@ class FakeSettings : public SettingsStore {
     writes.emplace_back(key, value);
     values[key] = value;
   }
+};
+
+/// Notes the files that are to be kept, each with the bytes that it had then.
+class FakeCopies : public SafetyCopies {
+ public:
+  explicit FakeCopies(const MemoryFiles& files) : files_(files) {}
+
+  std::vector<std::pair<Text, std::string>> kept;
+
+  void Keep(const Text& path) noexcept override {
+    if (files_.Has(path)) kept.emplace_back(path, files_.Bytes(path));
+  }
+
+ private:
+  const MemoryFiles& files_;
 };
 
 class FakeClock : public Clock {
@@ -125,18 +141,20 @@ struct FakeMachine {
   FakeDialogs dialogs;
   FakeSettings settings;
   MemoryFiles files;
+  FakeCopies copies{files};
   FakeClock clock;
   FakeDesktop desktop;
   FakeRegistry classes;
   NoSpreadsheet noSpreadsheet;
   NoPrinter noPrinter;
+  FileSystem* fileSystem = &files;
+  SafetyCopies* safetyCopies = &copies;
   SpreadsheetServer* spreadsheet = &noSpreadsheet;
   PrintSurface* printer = &noPrinter;
 
   [[nodiscard]] Machine Get() {
-    return {messages,       dialogs, settings,     files,    clock,
-            desktop,        classes, *spreadsheet, *printer, CodePage::Western(),
-            u"/opt/tessara"};
+    return {messages, dialogs, settings,     *fileSystem, *safetyCopies,       clock,
+            desktop,  classes, *spreadsheet, *printer,    CodePage::Western(), u"/opt/tessara"};
   }
 };
 

@@ -9,6 +9,8 @@ namespace {
 
 const Text kPath = u"/decks/a.tsr";
 
+using Kept = std::vector<std::pair<Text, std::string>>;
+
 void Save(LifeDesk& desk, const Text& path) {
   desk.state.DeckFilePath = path;
   desk.Run([&] { desk.deck->SaveTessaraToFile(path); });
@@ -134,6 +136,56 @@ TEST_CASE("a save keeps the date that the file had") {
   desk.OpenFile(kPath);
   desk.Run([&] { desk.deck->mnuSave_Click(); });
   CHECK(desk.File(kPath).substr(447, 10) == " 7/8/1999 ");
+}
+
+// What a save is about to lose is kept.
+
+TEST_CASE("a file is kept as it was before a save deletes it or writes over it") {
+  for (const bool onFile : {false, true}) {
+    LifeDesk desk;
+    desk.BuildDeck(3);
+    desk.state.DeckOnFile = onFile;
+    desk.fakes.files.Put(kPath, DeckBytes(10));
+    Save(desk, kPath);
+    CHECK(desk.fakes.copies.kept == Kept{{kPath, DeckBytes(10)}});
+  }
+}
+
+TEST_CASE("a save that writes no file keeps none") {
+  LifeDesk desk;
+  desk.NewDeck();
+  desk.fakes.files.Put(kPath, DeckBytes(10));
+  desk.state.DeckOnFile = true;
+  Save(desk, kPath);
+  CHECK(desk.fakes.copies.kept.empty());
+}
+
+TEST_CASE("a save to a new file keeps none") {
+  LifeDesk desk;
+  desk.BuildDeck(3);
+  Save(desk, kPath);
+  CHECK(desk.fakes.copies.kept.empty());
+}
+
+TEST_CASE("the deck that a Yes to the save question writes over is kept") {
+  LifeDesk desk;
+  desk.PutDeck(kPath, 9);
+  desk.BuildDeck(2);
+  desk.Answer(MessageAnswer::kYes);
+  desk.OpenFile(kPath);
+  CHECK(desk.File(kPath).starts_with(DeckBytes(2)));
+  CHECK(desk.fakes.copies.kept == Kept{{kPath, DeckBytes(9)}});
+}
+
+TEST_CASE("the file that a save under another name deletes is kept") {
+  LifeDesk desk;
+  desk.PutDeck(u"/decks/mine.tsr", 2);
+  desk.fakes.files.Put(u"/decks/letter.txt", "a letter");
+  desk.NewDeck();
+  desk.OpenFile(u"/decks/mine.tsr");
+  desk.Choose(u"/decks/letter.txt");
+  desk.Run([&] { desk.deck->mnuSaveAs_Click(); });
+  CHECK(desk.fakes.copies.kept == Kept{{u"/decks/letter.txt", "a letter"}});
 }
 
 // Errors on the way skip the statement that failed, and nobody is told.

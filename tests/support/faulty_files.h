@@ -1,0 +1,62 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "platform/file_system.h"
+#include "platform/run_time_error.h"
+
+namespace tessara::test {
+
+/// Hands every operation on to another file system, unless it is to fail.
+class FaultyFiles : public FileSystem {
+ public:
+  explicit FaultyFiles(FileSystem& files) : files_(files) {}
+
+  /// Asked before every operation, with its number counted from 1: an error makes it fail.
+  std::function<std::optional<ErrorNumber>(int operation)> fault;
+  int operations = 0;
+
+  std::unique_ptr<File> Open(const Text& path, OpenMode mode) override {
+    MayFail();
+    return std::make_unique<FaultyFile>(*this, files_.Open(path, mode));
+  }
+  void Delete(const Text& path) override {
+    MayFail();
+    files_.Delete(path);
+  }
+  std::optional<Text> EntryName(const Text& path) override {
+    MayFail();
+    return files_.EntryName(path);
+  }
+
+ private:
+  class FaultyFile : public File {
+   public:
+    FaultyFile(FaultyFiles& owner, std::unique_ptr<File> file)
+        : owner_(owner), file_(std::move(file)) {}
+    std::size_t ReadAt(std::uint64_t offset, std::span<char> buffer) override {
+      owner_.MayFail();
+      return file_->ReadAt(offset, buffer);
+    }
+    void WriteAt(std::uint64_t offset, std::span<const char> bytes) override {
+      owner_.MayFail();
+      file_->WriteAt(offset, bytes);
+    }
+
+   private:
+    FaultyFiles& owner_;
+    std::unique_ptr<File> file_;
+  };
+
+  void MayFail() {
+    ++operations;
+    if (!fault) return;
+    if (const auto error = fault(operations)) throw RunTimeError(*error);
+  }
+
+  FileSystem& files_;
+};
+
+}  // namespace tessara::test

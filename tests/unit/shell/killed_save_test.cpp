@@ -1,0 +1,164 @@
+// A save that the end of the process or a full disk breaks off: what is on the disk then, what
+// the next start makes of it, and that the deck as it was can be taken back. docs/saving.md has the
+// table.
+
+#include <algorithm>
+#include <doctest/doctest.h>
+
+#include "tests/support/disk_desk.h"
+#include "tests/support/faulty_files.h"
+#include "tests/support/killed_process.h"
+#include "tests/support/program_desk.h"
+
+namespace tessara::test {
+
+namespace {
+
+constexpr int kCards = 4;
+constexpr int kRecords = kCards + 2;
+
+/// How the deck got into the program decides whether a save deletes its file first.
+enum class Opened { kAtTheStart, kFromTheMenu };
+constexpr Opened kBothWays[] = {Opened::kAtTheStart, Opened::kFromTheMenu};
+
+const std::string& OldDeck() {
+  static const std::string bytes = ProgramDesk::DeckBytes(kCards);
+  return bytes;
+}
+
+/// A folder with the old deck in it, and the program with that deck changed.
+struct ChangedDeck {
+  ScratchFolder folder;
+  PosixFileSystem disk;
+  FaultyFiles faulty{disk};
+  DiskDesk desk;
+
+  explicit ChangedDeck(Opened opened) : desk(OldDeckIn(folder), &faulty) {
+    if (opened == Opened::kAtTheStart) {
+      desk.StartWithDeck();
+    } else {
+      desk.StartAndOpenDeck();
+    }
+    desk.ChangeCards();
+  }
+
+  [[nodiscard]] std::string DeckBytes() const { return folder.Read(DiskDesk::kDeckName); }
+  [[nodiscard]] bool HasDeck() const {
+    return std::filesystem::exists(folder / DiskDesk::kDeckName);
+  }
+
+ private:
+  static const ScratchFolder& OldDeckIn(const ScratchFolder& folder) {
+    folder.Write(DiskDesk::kDeckName, OldDeck());
+    return folder;
+  }
+};
+
+std::string NewDeck(Opened opened) {
+  ChangedDeck deck(opened);
+  deck.desk.Save();
+  return deck.DeckBytes();
+}
+
+/// The first records of the new deck, and behind them what the file held.
+std::string Written(const std::string& newDeck, int records, Opened opened) {
+  const auto written = static_cast<std::size_t>(records) * kRecordSize;
+  const std::string behind = opened == Opened::kAtTheStart ? OldDeck().substr(written) : "";
+  return newDeck.substr(0, written) + behind;
+}
+
+/// How far a save has got, by what is in the deck's file. The old deck whole is 0, no file 1, and
+/// from 2 on the number of new records in it.
+int StageOf(const ChangedDeck& deck, const std::string& newDeck, Opened opened) {
+  if (!deck.HasDeck()) return 1;
+  const std::string bytes = deck.DeckBytes();
+  if (bytes == OldDeck()) return 0;
+  for (int records = 0; records <= kRecords; ++records) {
+    if (bytes == Written(newDeck, records, opened)) return records + 2;
+  }
+  return -1;
+}
+
+bool CanBeTakenBack(const ChangedDeck& deck) {
+  const std::vector<std::string> kept = KeptIn(deck.folder);
+  return deck.DeckBytes() == OldDeck() || std::count(kept.begin(), kept.end(), OldDeck()) > 0;
+}
+
+/// What the next start with the deck shows.
+void CheckNextStart(const ChangedDeck& deck) {
+  const std::size_t size = deck.DeckBytes().size();
+  DiskDesk next(deck.folder);
+  next.StartWithDeck();
+  if (!deck.HasDeck()) {
+    // As for any deck that is not there.
+    CHECK(next.renderer.exitStatus == 1);
+    CHECK(next.fakes.messages.shown.size() == 1);
+    return;
+  }
+  const int records = static_cast<int>(size / kRecordSize);
+  CHECK(next.renderer.exitStatus == -1);
+  CHECK(next.fakes.messages.shown.empty());
+  CHECK(next.state.CardCount == std::clamp(records - 1, 0, kCards));
+}
+
+}  // namespace
+
+TEST_CASE("wherever a save is killed, the old deck can be taken back and the next start goes on") {
+  for (const Opened opened : kBothWays) {
+    const std::string newDeck = NewDeck(opened);
+    std::vector<int> stages;
+    bool killed = true;
+    for (int stop = 1; killed; ++stop) {
+      CAPTURE(stop);
+      ChangedDeck deck(opened);
+      killed = KilledAt(stop, [&] { deck.desk.Save(); });
+      CHECK(CanBeTakenBack(deck));
+      CHECK(NamesIn(deck.folder / "copies").size() <= 1);
+      for (const std::string& bytes : KeptIn(deck.folder)) CHECK(bytes == OldDeck());
+      const int stage = StageOf(deck, newDeck, opened);
+      if (!stages.empty() && stages.back() == stage) continue;
+      stages.push_back(stage);
+      CheckNextStart(deck);
+    }
+    CHECK(std::is_sorted(stages.begin(), stages.end()));
+    const bool deletes = opened == Opened::kFromTheMenu;
+    CHECK(stages == (deletes ? std::vector<int>{0, 1, 2, 3, 4, 5, 6, 7, 8}
+                             : std::vector<int>{0, 3, 4, 5, 6, 7}));
+  }
+}
+
+TEST_CASE("wherever the disk is full in a save, the old deck can be taken back") {
+  for (const Opened opened : kBothWays) {
+    for (int firstFailing = 1; firstFailing <= kRecords + 2; ++firstFailing) {
+      CAPTURE(firstFailing);
+      ChangedDeck deck(opened);
+      deck.faulty.operations = 0;
+      deck.faulty.fault = [firstFailing](int operation) {
+        return operation >= firstFailing ? std::optional(ErrorNumber::kDiskFull) : std::nullopt;
+      };
+      deck.desk.Save();
+      CHECK(KeptIn(deck.folder) == std::vector<std::string>{OldDeck()});
+      CHECK(deck.desk.fakes.messages.shown.back().title == u"Save");
+    }
+  }
+}
+
+TEST_CASE("a save that can't keep a copy saves all the same") {
+  for (const Opened opened : kBothWays) {
+    ChangedDeck deck(opened);
+    deck.folder.Write("copies", "no folder");
+    deck.desk.Save();
+    CHECK(deck.DeckBytes() == NewDeck(opened));
+    CHECK(deck.folder.Read("copies") == "no folder");
+    CHECK(deck.desk.fakes.messages.shown.size() == 1);
+  }
+}
+
+TEST_CASE("a save over a deck leaves the deck and one copy, and nothing else") {
+  ChangedDeck deck(Opened::kFromTheMenu);
+  deck.desk.Save();
+  CHECK(NamesIn(deck.folder.Path()) == std::vector<std::string>{"copies", "verbs.tsr"});
+  CHECK(KeptIn(deck.folder) == std::vector<std::string>{OldDeck()});
+}
+
+}  // namespace tessara::test
