@@ -25,6 +25,7 @@ PICTURES = [
     ("skins/yellow_flat.png", 323, 90), ("skins/yellow_3d.png", 327, 93),
     ("print/flip.png", 117, 37), ("print/nonflip.png", 117, 37), ("print/flip_disabled.png", 117, 37),
     *((f"steps/{step}.png", 360, 360) for step in range(1, 7)),
+    *((f"../../help/pictures/step{step}.png", 208, 174) for step in range(1, 7)),
     ("splash.png", 414, 196), ("about_mail.png", 32, 32), ("info.png", 64, 64),
 ]
 

@@ -1,5 +1,6 @@
 #!/usr/bin/python3
-"""Draws every picture of the program anew: data/pictures/generated, data/icons and data/Notelet.ico.
+"""Draws every picture of the program anew: data/pictures/generated, data/help/pictures, data/icons
+and data/Notelet.ico.
 
 Needs the Debian packages python3-pil and librsvg2-bin. Twice the same command gives twice the same bytes.
 """
@@ -19,6 +20,7 @@ def main():
     backdrops.draw(generated / "backdrops")
     cards.draw(generated)
     steps.draw(generated / "steps")
+    steps.draw_for_help(HERE.parent / "help" / "pictures")
     splash.draw(generated)
     marks.draw(generated)
     icons.draw(HERE.parent)

@@ -34,6 +34,14 @@ def vector(drawing, width, height, target):
     png(svg.render(drawing, 2 * width, 2 * height), doubled(target))
 
 
+def vector_part(drawing, width, height, part, target):
+    """As `vector`, with only the top left part, (width, height), of the drawing."""
+    target = Path(target)
+    for factor, name in ((1, target), (2, doubled(target))):
+        whole = svg.render(drawing, factor * width, factor * height)
+        png(whole.crop((0, 0, factor * part[0], factor * part[1])), name)
+
+
 def text(written, target):
     target.parent.mkdir(parents=True, exist_ok=True)
     target.write_text(written)

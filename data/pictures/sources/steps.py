@@ -11,6 +11,7 @@ from .svg import blur, document, polygon, rect
 
 SIZE = 360
 PANEL = (2, 2, 204, 170)
+PANEL_AND_EDGE = (208, 174)
 CENTRE = (104, 87)
 HALF = 2 * D
 THICKNESS = 0.045
@@ -143,3 +144,9 @@ STEPS = (the_sheet, fold_in_half, fold_first_quarter, fold_other_quarter, tear_s
 def draw(folder):
     for count, step in enumerate(STEPS, start=1):
         output.vector(step(), SIZE, SIZE, folder / f"{count}.png")
+
+
+def draw_for_help(folder):
+    """The same six, without the empty part."""
+    for count, step in enumerate(STEPS, start=1):
+        output.vector_part(step(), SIZE, SIZE, PANEL_AND_EDGE, folder / f"step{count}.png")
