@@ -5,7 +5,7 @@ set -euo pipefail
 scripts=$(dirname "${BASH_SOURCE[0]}")
 
 declare -A packages=(
-  [build]="g++ cmake ninja-build ccache python3 qt6-base-dev libgl1-mesa-dev"
+  [build]="g++ cmake ninja-build ccache python3 qt6-base-dev libgl1-mesa-dev libchm-dev fp-utils-3.2.2"
   [run]="fonts-dejavu-core fonts-liberation"
   [wayland]="qt6-wayland"
   [virtual-display]="xvfb openbox xdotool x11-utils python3-pil"

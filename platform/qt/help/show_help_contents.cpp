@@ -1,0 +1,42 @@
+#include "platform/qt/help/show_help_contents.h"
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <type_traits>
+
+#include "platform/qt/help/chm_file.h"
+#include "platform/qt/help/help_viewer.h"
+#include "platform/qt/help_loader.h"
+
+namespace tessara {
+
+namespace {
+
+/// Null once the window has been closed.
+QPointer<HelpViewer>& Viewer() {
+  static QPointer<HelpViewer> viewer;
+  return viewer;
+}
+
+void MakeViewer(const QString& path) {
+  auto file = ChmFile::Open(path);
+  if (file == nullptr) return;
+  Viewer() = new HelpViewer(std::move(file));
+  QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, Viewer(),
+                   [] { delete Viewer(); });
+}
+
+}  // namespace
+
+void ShowHelpContents(const QString& path) {
+  if (Viewer() == nullptr) MakeViewer(path);
+  if (Viewer() != nullptr) Viewer()->BringForward();
+}
+
+}  // namespace tessara
+
+extern "C" Q_DECL_EXPORT void tessara_show_help_contents(const QString& path) {
+  tessara::ShowHelpContents(path);
+}
+
+static_assert(std::is_same_v<decltype(&tessara_show_help_contents), tessara::ShowHelpFile>);

@@ -1,0 +1,106 @@
+#include "platform/qt/help/chm_file.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <doctest/doctest.h>
+
+#include "platform/qt/help/help_book.h"
+#include "platform/qt/help/show_help_contents.h"
+#include "tests/help/help_desk.h"
+
+namespace tessara::test {
+
+namespace {
+
+QByteArray BuiltBytes() {
+  QFile file(kHelpFile);
+  REQUIRE(file.open(QIODevice::ReadOnly));
+  return file.readAll();
+}
+
+/// A file on the disk with the bytes given.
+class Damaged {
+ public:
+  QString With(const QByteArray& bytes) const {
+    QFile file(folder_.filePath(QStringLiteral("damaged.chm")));
+    REQUIRE(file.open(QIODevice::WriteOnly));
+    file.write(bytes);
+    return file.fileName();
+  }
+
+ private:
+  QTemporaryDir folder_;
+};
+
+/// Reads all that the viewer would read.
+void ReadAll(const QString& path) {
+  const auto file = ChmFile::Open(path);
+  if (file == nullptr) return;
+  const HelpBook book = ReadHelpBook(*file);
+  for (const SiteMapEntry& entry : book.contents + book.index) (void)file->Read(entry.page);
+}
+
+}  // namespace
+
+TEST_CASE("an entry is read whole, with or without a leading slash") {
+  const auto file = BuiltHelp();
+  REQUIRE(file != nullptr);
+  QFile source(QStringLiteral(TESSARA_HELP_SOURCES "/welcome.html"));
+  REQUIRE(source.open(QIODevice::ReadOnly));
+  const QByteArray bytes = source.readAll();
+  CHECK((file->Read(QStringLiteral("/welcome.html")) == bytes));
+  CHECK((file->Read(QStringLiteral("welcome.html")) == bytes));
+}
+
+TEST_CASE("an entry that is not there is nothing") {
+  const auto file = BuiltHelp();
+  CHECK_FALSE(file->Read(QStringLiteral("nowhere.html")).has_value());
+  CHECK_FALSE(file->Read(QString()).has_value());
+  CHECK_FALSE(file->Read(QString(5000, u'a')).has_value());
+}
+
+TEST_CASE("what is no help file is not opened") {
+  const Damaged damaged;
+  CHECK(ChmFile::Open(QStringLiteral("/nowhere/TessaraHelp.chm")) == nullptr);
+  CHECK(ChmFile::Open(QStringLiteral("/")) == nullptr);
+  CHECK(ChmFile::Open(QString()) == nullptr);
+  CHECK(ChmFile::Open(damaged.With({})) == nullptr);
+  CHECK(ChmFile::Open(damaged.With("ITSF")) == nullptr);
+  CHECK(ChmFile::Open(damaged.With(QByteArray(100000, 'x'))) == nullptr);
+}
+
+TEST_CASE("a missing file shows no window") {
+  ShowHelpContents(QStringLiteral("/nowhere/TessaraHelp.chm"));
+  CHECK(HelpWindows().isEmpty());
+}
+
+TEST_CASE("a file without a readable page shows no window") {
+  const Damaged damaged;
+  const QByteArray whole = BuiltBytes();
+  for (qsizetype length : {qsizetype{200}, whole.size() / 4, whole.size() / 2}) {
+    CAPTURE(length);
+    ShowHelpContents(damaged.With(whole.left(length)));
+    CHECK(HelpWindows().isEmpty());
+  }
+  CloseHelpWindows();
+}
+
+TEST_CASE("a file that was cut off anywhere is read without harm") {
+  const Damaged damaged;
+  const QByteArray whole = BuiltBytes();
+  for (qsizetype length = 0; length < whole.size(); length += 1 + whole.size() / 97)
+    ReadAll(damaged.With(whole.left(length)));
+}
+
+TEST_CASE("a file with a flipped byte anywhere is read without harm") {
+  const Damaged damaged;
+  const QByteArray whole = BuiltBytes();
+  // The head and the directory byte by byte, the pages here and there.
+  for (qsizetype at = 0; at < whole.size(); at += at < 0x400 ? 1 : 1 + whole.size() / 199) {
+    QByteArray bytes = whole;
+    bytes[at] = static_cast<char>(~bytes[at]);
+    ReadAll(damaged.With(bytes));
+  }
+}
+
+}  // namespace tessara::test

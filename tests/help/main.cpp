@@ -1,0 +1,9 @@
+#define DOCTEST_CONFIG_IMPLEMENT
+#include <QApplication>
+#include <doctest/doctest.h>
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  return doctest::Context(argc, argv).run();
+}
