@@ -13,6 +13,7 @@
 #include "platform/posix/posix_clock.h"
 #include "platform/posix/posix_file_system.h"
 #include "platform/posix/posix_safety_copies.h"
+#include "platform/qt/help_loader.h"
 #include "platform/qt/lazy_print_surface.h"
 #include "platform/qt/print_module.h"
 #include "platform/qt/qt_desktop.h"
@@ -72,7 +73,7 @@ int RunTessara(int argc, char** argv) {
   QtMessageBoxes messages;
   QtDialogs dialogs(printing);
   QtSettingsStore settings;
-  QtDesktop desktop([](const Text&) {});
+  QtDesktop desktop([&folderText](const Text& path) { ShowHelpWithModule(folderText, path); });
   DocumentRegistry classes({UserDataFolder(), folder, "tessara"}, StartUpdateTools);
   AbsentSpreadsheet spreadsheet;
   Machine machine{messages, dialogs, settings,    files,   copies,   clock,
