@@ -27,7 +27,7 @@ std::unique_ptr<ChmFile> ChmFile::Open(const QString& path) {
 std::optional<QByteArray> ChmFile::Read(const QString& entry) const {
   const QByteArray path = PathInArchive(entry);
   chmUnitInfo info{};
-  if (path.size() > CHM_MAX_PATHLEN ||
+  if (path.endsWith('/') || path.size() > CHM_MAX_PATHLEN ||
       chm_resolve_object(archive_.get(), path.constData(), &info) != CHM_RESOLVE_SUCCESS ||
       info.length > kLargestEntry)
     return std::nullopt;

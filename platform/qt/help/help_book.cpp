@@ -35,9 +35,12 @@ QList<SiteMapEntry> SiteMapIn(const ChmFile& file, const QString& entry) {
 
 HelpBook ReadHelpBook(const ChmFile& file) {
   const QByteArray system = file.Read(QStringLiteral("#SYSTEM")).value_or(QByteArray());
-  return {SystemText(system, kTitle), SystemText(system, kFirstPage),
-          SiteMapIn(file, SystemText(system, kContentsFile)),
-          SiteMapIn(file, SystemText(system, kIndexFile))};
+  HelpBook book{SystemText(system, kTitle), SystemText(system, kFirstPage),
+                SiteMapIn(file, SystemText(system, kContentsFile)),
+                SiteMapIn(file, SystemText(system, kIndexFile))};
+  if (book.firstPage.isEmpty() && !book.contents.isEmpty())
+    book.firstPage = book.contents.first().page;
+  return book;
 }
 
 QUrl HelpAddress(const QString& page) {

@@ -13,7 +13,7 @@ class ChmFile;
 /// What a compiled help file says about itself.
 struct HelpBook {
   QString title;
-  QString firstPage;
+  QString firstPage;  ///< the one named, or else the first of the contents
   QList<SiteMapEntry> contents;
   QList<SiteMapEntry> index;
 };

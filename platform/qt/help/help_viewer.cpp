@@ -181,8 +181,7 @@ void HelpViewer::MarkInContents(const QUrl& address) {
 }
 
 void HelpViewer::OpenFirstPage() {
-  const bool named = !book_->firstPage.isEmpty() || book_->contents.isEmpty();
-  page_->Open(HelpAddress(named ? book_->firstPage : book_->contents.first().page));
+  page_->Open(HelpAddress(book_->firstPage));
 }
 
 void HelpViewer::FocusOtherSide() {

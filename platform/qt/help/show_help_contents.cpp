@@ -5,6 +5,7 @@
 #include <type_traits>
 
 #include "platform/qt/help/chm_file.h"
+#include "platform/qt/help/help_book.h"
 #include "platform/qt/help/help_viewer.h"
 #include "platform/qt/help_loader.h"
 
@@ -20,7 +21,7 @@ QPointer<HelpViewer>& Viewer() {
 
 void MakeViewer(const QString& path) {
   auto file = ChmFile::Open(path);
-  if (file == nullptr) return;
+  if (file == nullptr || !file->Read(ReadHelpBook(*file).firstPage)) return;
   Viewer() = new HelpViewer(std::move(file));
   QObject::connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, Viewer(),
                    [] { delete Viewer(); });
