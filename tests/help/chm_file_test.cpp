@@ -2,6 +2,7 @@
 
 #include <QFile>
 #include <QTemporaryDir>
+#include <QtEndian>
 #include <doctest/doctest.h>
 
 #include "platform/qt/help/help_book.h"
@@ -18,10 +19,16 @@ QByteArray BuiltBytes() {
   return file.readAll();
 }
 
+/// Where the directory of a help file ends and its pages begin: the head says it.
+qsizetype PlaceOfPages(const QByteArray& file) {
+  constexpr qsizetype kWhereItStands = 0x58;
+  return static_cast<qsizetype>(qFromLittleEndian<quint64>(file.constData() + kWhereItStands));
+}
+
 /// A file on the disk with the bytes given.
 class Damaged {
  public:
-  QString With(const QByteArray& bytes) const {
+  [[nodiscard]] QString With(const QByteArray& bytes) const {
     QFile file(folder_.filePath(QStringLiteral("damaged.chm")));
     REQUIRE(file.open(QIODevice::WriteOnly));
     file.write(bytes);
@@ -77,11 +84,19 @@ TEST_CASE("a missing file shows no window") {
 TEST_CASE("a file without a readable page shows no window") {
   const Damaged damaged;
   const QByteArray whole = BuiltBytes();
-  for (qsizetype length : {qsizetype{200}, whole.size() / 4, whole.size() / 2}) {
+  for (qsizetype length : {qsizetype{0}, qsizetype{200}, PlaceOfPages(whole)}) {
     CAPTURE(length);
     ShowHelpContents(damaged.With(whole.left(length)));
     CHECK(HelpWindows().isEmpty());
+    CloseHelpWindows();
   }
+}
+
+TEST_CASE("a file that was cut off behind its first page shows what is left") {
+  const Damaged damaged;
+  const QByteArray whole = BuiltBytes();
+  ShowHelpContents(damaged.With(whole.left(whole.size() / 2)));
+  CHECK(HelpWindows().size() == 1);
   CloseHelpWindows();
 }
 

@@ -7,7 +7,7 @@ namespace tessara {
 
 namespace {
 
-constexpr LONGUINT64 kLargestEntry = 16 * 1024 * 1024;
+constexpr LONGUINT64 kLargestEntry = LONGUINT64{16} * 1024 * 1024;
 
 QByteArray PathInArchive(const QString& entry) {
   return (entry.startsWith(u'/') ? entry : u'/' + entry).toUtf8();
