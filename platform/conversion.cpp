@@ -1,7 +1,9 @@
 #include "platform/conversion.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 #include <optional>
 #include <string>
@@ -96,10 +98,26 @@ class NumberReader {
     const auto result = std::from_chars(plain_.data(), plain_.data() + plain_.size(), value);
     if (result.ec == std::errc::result_out_of_range) {
       // Too small reads as nothing; too large is an overflow.
-      if (plain_.find("e-") != std::string::npos) return 0;
+      if (IsBelowOne()) return 0;
       throw RunTimeError(ErrorNumber::kOverflow);
     }
     return value;
+  }
+
+  /// By the place of the first digit that counts and the exponent, which may be of any size.
+  [[nodiscard]] bool IsBelowOne() const {
+    const auto placeOf = [this](const char* characters) {
+      return static_cast<double>(std::min(plain_.find_first_of(characters), plain_.size()));
+    };
+    const double digit = placeOf("123456789");
+    const double point = placeOf(".e");
+    const double digitsBeforePoint = digit < point ? point - digit : point + 1 - digit;
+    return digitsBeforePoint + Exponent() < 1;
+  }
+
+  [[nodiscard]] double Exponent() const {
+    const std::size_t mark = plain_.find('e');
+    return mark == std::string::npos ? 0 : std::strtod(plain_.c_str() + mark + 1, nullptr);
   }
 
   TextView rest_;

@@ -142,4 +142,28 @@ TEST_CASE("percentages print whole, a half rounded up") {
   for (const Case& c : cases) CHECK(WholeNumberText(c.value) == c.text);
 }
 
+TEST_CASE("a number is too small or too large by its value, not by how it is written") {
+  const Text zeros(400, u'0');
+  struct Case {
+    Text text;
+    bool tooLarge;
+  };
+  for (const Case& c : {Case{u"0." + zeros + u"1", false}, Case{u"-." + zeros + u"1e-9", false},
+                        Case{u"0." + zeros + u"1e9", false}, Case{u"1" + zeros, true},
+                        Case{u"-1" + zeros + u".5", true}, Case{u"1" + zeros + u"e-5", true},
+                        Case{u"1e99999999999999999999", true},
+                        Case{u"1e-99999999999999999999", false}, Case{u"1e" + zeros + u"999", true},
+                        Case{u"1e1" + zeros, true}, Case{u"1e-1" + zeros, false}}) {
+    CAPTURE(ToUtf8(c.text));
+    if (c.tooLarge) {
+      CHECK(ErrorOf([&] { return NumberOf(c.text); }) == 6);
+    } else {
+      CHECK(NumberOf(c.text) == 0);
+    }
+  }
+  CHECK(NumberOf(u"0." + zeros + u"1e401") == 1);
+  CHECK(NumberOf(u"1" + zeros + u"e-400") == 1);
+  CHECK(NumberOf(u"0e99999999999999999999") == 0);
+}
+
 }  // namespace tessara::test
