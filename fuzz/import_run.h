@@ -1,8 +1,7 @@
 #pragma once
 
-#include <cstdlib>
-
 #include "fuzz/one_file.h"
+#include "fuzz/require.h"
 #include "import/import_common.h"
 
 namespace tessara::fuzz {
@@ -31,9 +30,6 @@ class ImportRun : private MessageBoxes {
   }
 
  private:
-  static void Require(bool truth) {
-    if (!truth) std::abort();
-  }
   void CheckRow(int row) const {
     const bool present = state_.CardPresent.At(row) != 0;
     Require(shown_ || !present);

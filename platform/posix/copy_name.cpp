@@ -22,8 +22,7 @@ std::string MomentText(Moment moment) {
   std::tm parts{};
   localtime_r(&seconds, &parts);
   std::array<char, 64> text{};
-  const std::size_t length =
-      std::strftime(text.data(), text.size(), " %Y-%m-%d %H-%M-%S-", &parts);
+  const std::size_t length = std::strftime(text.data(), text.size(), " %Y-%m-%d %H-%M-%S-", &parts);
   const std::string thousandths = std::to_string(since % 1000);
   return std::string(text.data(), length) + std::string(3 - thousandths.size(), '0') + thousandths;
 }
@@ -45,10 +44,9 @@ std::string Shortened(const std::string& text, std::size_t longest) {
 }
 
 bool IsMoment(std::string_view text) {
-  return std::equal(text.begin(), text.end(), kMomentPattern.begin(), kMomentPattern.end(),
-                    [](char c, char pattern) {
-                      return pattern == '0' ? c >= '0' && c <= '9' : c == pattern;
-                    });
+  return std::equal(
+      text.begin(), text.end(), kMomentPattern.begin(), kMomentPattern.end(),
+      [](char c, char pattern) { return pattern == '0' ? c >= '0' && c <= '9' : c == pattern; });
 }
 
 }  // namespace

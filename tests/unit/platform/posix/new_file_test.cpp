@@ -57,8 +57,8 @@ TEST_CASE("a nameless file is whole or not there, wherever its process is killed
     const ScratchFolder folder;
     const bool killed = KilledAt(stop, [&] { WriteNew(folder, NewFile::Kind::kNameless); });
     const std::vector<std::string> names = NamesIn(folder.Path());
-    CHECK((names.empty() || (names == std::vector<std::string>{"name"} &&
-                             folder.Read("name") == "whole")));
+    CHECK((names.empty() ||
+           (names == std::vector<std::string>{"name"} && folder.Read("name") == "whole")));
     if (!killed) break;
   }
 }

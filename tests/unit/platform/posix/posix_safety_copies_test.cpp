@@ -38,9 +38,8 @@ struct CopyDesk {
   /// A copy of that size, made so many minutes ago.
   void PutCopy(const std::string& deck, int minutes, std::uintmax_t size = 1) const {
     fs::create_directories(CopiesFolder());
-    const fs::path path =
-        CopiesFolder() /
-        CopyName(deck, std::chrono::system_clock::now() - std::chrono::minutes(minutes));
+    const fs::path path = CopiesFolder() / CopyName(deck, std::chrono::system_clock::now() -
+                                                              std::chrono::minutes(minutes));
     std::ofstream(path, std::ios::binary) << "x";
     fs::resize_file(path, size);
     fs::last_write_time(path, fs::file_time_type::clock::now() - std::chrono::minutes(minutes));
@@ -124,7 +123,8 @@ TEST_CASE("copies have 50 MB at most in all; the oldest of any deck make room") 
   CHECK(desk.CountOf("verbs.tsr") == 2);
 }
 
-TEST_CASE("a file of 10 MB is kept; what is larger or empty is not, and nothing makes room for it") {
+TEST_CASE(
+    "a file of 10 MB is kept; what is larger or empty is not, and nothing makes room for it") {
   struct Case {
     std::uintmax_t size;
     bool kept;

@@ -1,0 +1,80 @@
+// Any bytes as a deck file: it loads, or ends in error 9 for a row outside the table; and what
+// was loaded comes back from a save.
+
+#include "deck/deck_file.h"
+#include "fuzz/one_file.h"
+#include "fuzz/require.h"
+#include "platform/run_time_error.h"
+#include "tests/support/memory_files.h"
+
+namespace tessara::fuzz {
+
+namespace {
+
+const Text kPath = u"/deck.tsr";
+
+/// False where the load raises its one error.
+bool Loads(FileSystem& files, ProgramState& state) {
+  FileNumber number(files);
+  try {
+    LoadDeckFromFile(kPath, state, number, CodePage::Western());
+  } catch (const RunTimeError& error) {
+    Require(error.Number() == ErrorNumber::kSubscriptOutOfRange);
+    return false;
+  }
+  Require(!number.IsOpen());
+  return true;
+}
+
+void CheckLoaded(const ProgramState& state) {
+  Require(state.CurrentCard == 1);
+  Require(state.CardCount >= 0 && state.CardCount <= kMostCards);
+  for (int row = 0; row < kRows; ++row) {
+    const bool there = state.CardPresent.At(row) == 1;
+    Require(there == (state.Cell(row, kRowNumber) == DecimalText(row)));
+    for (int column = kCardType; column < kColumns; ++column) {
+      const Text& cell = state.Cell(row, column);
+      Require(there || cell.empty());
+      Require(Trimmed(cell) == cell);
+    }
+  }
+  Require(state.DeckTitle == state.Cell(kInfoRow, kInfoTitle));
+}
+
+/// The writer goes down to the first absent row.
+int RowsWritten(const ProgramState& state) {
+  int row = 0;
+  while (row < kRows && state.CardPresent.At(row) == 1) ++row;
+  return row;
+}
+
+void CheckSavedAndLoaded(const ProgramState& state) {
+  test::MemoryFiles files;
+  FileNumber number(files);
+  number.OpenRandom(kPath, OpenMode::kReadAndWrite, kRecordSize);
+  WriteRecords(state, number, CodePage::Western());
+  number.Close();
+  ProgramState again;
+  Require(Loads(files, again));
+  for (int row = 0; row < RowsWritten(state) && row <= kMostCards; ++row) {
+    // A terminator or a second information record in the middle makes the load stop or go on.
+    if (state.Cell(row, kCardType) == u"X") return;
+    for (int column = kCardType; column < kColumns; ++column) {
+      Require(again.Cell(row, column) == state.Cell(row, column));
+    }
+  }
+}
+
+}  // namespace
+
+}  // namespace tessara::fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace tessara;
+  fuzz::OneFile files(data, size);
+  ProgramState state;
+  if (!fuzz::Loads(files, state)) return 0;
+  fuzz::CheckLoaded(state);
+  fuzz::CheckSavedAndLoaded(state);
+  return 0;
+}

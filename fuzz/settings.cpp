@@ -1,0 +1,57 @@
+// Any texts in the settings store: the program starts with them or ends with a report, and the
+// set-up window opens on whatever it has started with.
+
+#include "shell/settings.h"
+
+#include "fuzz/byte_source.h"
+#include "fuzz/require.h"
+#include "tests/support/program_desk.h"
+
+namespace tessara::fuzz {
+
+namespace {
+
+const Text kKeys[] = {Text(kShowSplashKey),     Text(kLargeCardColorKey), Text(kLargeCard3DKey),
+                      Text(kSmallCardColorKey), Text(kSmallCard3DKey),    Text(kBackDropKey),
+                      Text(kFirstLoadKey)};
+
+void FillStore(ByteSource& bytes, std::map<Text, Text>& values) {
+  values.clear();
+  const std::size_t stored = bytes.Next();
+  for (std::size_t at = 0; at < std::size(kKeys); ++at) {
+    if ((stored >> at & 1U) != 0) values[kKeys[at]] = bytes.TakeText(12);
+  }
+}
+
+/// Either the program runs on, or it has ended with one report of an error.
+bool RunsOn(const test::ProgramDesk& desk) {
+  const auto& shown = desk.fakes.messages.shown;
+  const bool ended = desk.renderer.exitStatus != -1;
+  Require(!ended || desk.renderer.exitStatus == 1);
+  Require(shown.size() == (ended ? 1 : 0));
+  Require(!ended || shown[0].text.starts_with(u"Run-time error '"));
+  return !ended;
+}
+
+void CheckSetUp(test::ProgramDesk& desk) {
+  const auto before = desk.fakes.settings.writes.size();
+  desk.Deck().Command3[2].Press();
+  desk.Frame().mnuSetup.Press();
+  desk.fakes.messages.answers = {MessageAnswer::kNo};
+  if (desk.program.SetUpWindow().IsLoaded()) desk.program.SetUpWindow()->Command1[0].Press();
+  Require(desk.fakes.settings.writes.size() == before);
+}
+
+}  // namespace
+
+}  // namespace tessara::fuzz
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace tessara;
+  fuzz::ByteSource bytes(data, size);
+  test::ProgramDesk desk;
+  fuzz::FillStore(bytes, desk.fakes.settings.values);
+  desk.Start();
+  if (fuzz::RunsOn(desk)) fuzz::CheckSetUp(desk);
+  return 0;
+}
