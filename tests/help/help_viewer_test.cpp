@@ -4,8 +4,8 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMessageBox>
 #include <QTemporaryDir>
+#include <QTextBlock>
 #include <QToolBar>
 #include <QTreeWidget>
 #include <doctest/doctest.h>
@@ -60,6 +60,17 @@ TEST_CASE("the help comes up with its contents and its first page") {
   CHECK(help.contents->isVisible());
   CHECK(help.contents->currentItem()->text(0) == QStringLiteral("Welcome to Tessara"));
   CHECK(help.page->toPlainText().contains(QStringLiteral("Tessara is a flash-card program")));
+}
+
+TEST_CASE("every page has the spaces of the help's style sheet") {
+  const Shown help;
+  for (const SiteMapEntry& entry : ReadHelpBook(*BuiltHelp()).contents) {
+    CAPTURE(entry.page);
+    help.page->Open(HelpAddress(entry.page));
+    const QTextBlockFormat heading = help.page->document()->firstBlock().blockFormat();
+    CHECK(heading.topMargin() == 0);
+    CHECK(heading.bottomMargin() == 8);
+  }
 }
 
 TEST_CASE("every page can be reached by going down the contents with the keyboard") {

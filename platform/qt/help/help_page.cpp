@@ -9,6 +9,8 @@ namespace tessara {
 
 namespace {
 
+constexpr qreal kPageMargin = 14;
+
 /// The name of a picture drawn for twice the size: step.png becomes step@2x.png.
 QString Doubled(QString entry) {
   const qsizetype dot = entry.lastIndexOf(u'.');
@@ -18,6 +20,7 @@ QString Doubled(QString entry) {
 }  // namespace
 
 HelpPage::HelpPage(const ChmFile& file) : file_(file) {
+  document()->setDocumentMargin(kPageMargin);
   setOpenLinks(false);
   setOpenExternalLinks(false);
   connect(this, &QTextBrowser::anchorClicked, this, &HelpPage::Open);
