@@ -59,6 +59,19 @@ menu() {
 }
 readonly file=15 mode=60 utility=105 help=150
 
+enter() {
+  xdotool type --delay 15 "$1"
+  sleep 0.2
+}
+
+# builder [FROM_BELOW]: opens the builder, whose menu entry stands so many places above the end of
+# the menu; disabled entries are passed over.
+builder() {
+  local up=()
+  for _ in $(seq "${1:-3}"); do up+=(Up); done
+  menu $file "${up[@]}" Return
+}
+
 take() {
   sleep 0.3
   import -window "$window" -strip "$pictures/$1.png"
@@ -68,6 +81,59 @@ capitals=$build/samples/capitals.tsr
 science=$build/samples/science.tsr
 
 settings 0 1 0 1
+open "$capitals"
+take frame
+frame=$window
+press F1
+shown '^Tessara Help'
+take help
+press Escape
+window=$frame
+menu $help a
+shown '^About'
+take about
+press Escape
+window=$frame
+menu $utility Up Return
+press ctrl+a
+enter 'Capital cities'
+press Tab
+enter 'Ann'
+take info
+end_program
+
+open
+builder 2
+enter 'What is the capital of Norway?'
+press Tab
+enter 'Oslo'
+take builder-standard-new
+end_program
+
+open "$capitals"
+builder
+press ctrl+Page_Down
+take builder-standard-edit
+end_program
+
+open
+press alt+c
+menu $file n x
+builder 2
+enter 'Which number is prime?'
+press Tab
+enter 'Four'
+press Tab
+enter 'Seven'
+take builder-question-new
+end_program
+
+open "$science"
+builder
+press ctrl+Page_Down ctrl+Page_Down
+take builder-question-edit
+end_program
+
 open "$capitals"
 take standard-front
 press alt+s
