@@ -33,13 +33,24 @@ class User {
  private:
   void Use(Form& form) {
     const std::uint8_t what = bytes_.Next();
-    if (what >= 170 && !form.Controls().empty()) {
-      UseControl(*bytes_.OneOf(form.Controls()));
-    } else if (what >= 40) {
+    const std::vector<Control*> controls = ControlsOf(form);
+    if (what >= 110 && !controls.empty()) {
+      UseControl(*bytes_.OneOf(controls));
+    } else if (what >= 30) {
       UseMenu(BarOnShow().Menus());
     } else {
       UseWindow(form, what);
     }
+  }
+
+  /// More often than not those that the user can reach and that do something.
+  std::vector<Control*> ControlsOf(const Form& form) {
+    if (bytes_.Next() < 20) return form.Controls();
+    std::vector<Control*> controls;
+    for (Control* control : form.Controls()) {
+      if (control->Reachable() && control->TakesFocus()) controls.push_back(control);
+    }
+    return controls;
   }
 
   void UseWindow(Form& form, std::uint8_t what) {

@@ -14,11 +14,14 @@ class FaultyFiles : public FileSystem {
  public:
   explicit FaultyFiles(FileSystem& files) : files_(files) {}
 
-  /// Asked before every operation, with its number counted from 1: an error makes it fail.
+  /// Asked before every operation, with its number counted from 1: an error makes it fail. A
+  /// look-up of an entry has no errors: it finds none.
   std::function<std::optional<ErrorNumber>(int operation)> fault;
   int operations = 0;
+  int opens = 0;  ///< of these, the openings
 
   std::unique_ptr<File> Open(const Text& path, OpenMode mode) override {
+    ++opens;
     MayFail();
     return std::make_unique<FaultyFile>(*this, files_.Open(path, mode));
   }
@@ -27,8 +30,7 @@ class FaultyFiles : public FileSystem {
     files_.Delete(path);
   }
   std::optional<Text> EntryName(const Text& path) override {
-    MayFail();
-    return files_.EntryName(path);
+    return Fault() ? std::nullopt : files_.EntryName(path);
   }
 
  private:
@@ -50,10 +52,12 @@ class FaultyFiles : public FileSystem {
     std::unique_ptr<File> file_;
   };
 
-  void MayFail() {
+  std::optional<ErrorNumber> Fault() {
     ++operations;
-    if (!fault) return;
-    if (const auto error = fault(operations)) throw RunTimeError(*error);
+    return fault ? fault(operations) : std::nullopt;
+  }
+  void MayFail() {
+    if (const auto error = Fault()) throw RunTimeError(*error);
   }
 
   FileSystem& files_;

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace tessara::test {
+
+/// Runs the action in a process of its own in which the system refuses what is over the limit:
+/// RLIMIT_FSIZE bytes of a file, RLIMIT_NOFILE open files. True where it came to its end.
+template <class Action>
+bool EndsWithLimit(int resource, rlim_t limit, const Action& action) {
+  const pid_t child = fork();
+  if (child == 0) {
+    // Too long a file is then an error of the write alone.
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limits{limit, limit};
+    setrlimit(static_cast<__rlimit_resource>(resource), &limits);
+    action();
+    _exit(0);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
+}  // namespace tessara::test
