@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <doctest/doctest.h>
 
 #include "tests/unit/authoring/builder_desk.h"
@@ -35,6 +36,17 @@ TEST_CASE("the question builder over an empty deck waits for a multiple choice c
   CHECK(window.Option3[1].Enabled());
   CHECK(window.Frame1.Visible());
   CHECK_FALSE(window.Frame2.Visible());
+}
+
+TEST_CASE("the question is the first control that the focus comes to") {
+  BuilderDesk desk;
+  const frmQuestion& window = desk.OpenQuestion();
+  const auto& controls = window.Controls();
+  const auto first = std::find_if(controls.begin(), controls.end(), [](const Control* control) {
+    return control->TakesFocus() && control->Reachable();
+  });
+  REQUIRE(first != controls.end());
+  CHECK(*first == &window.Text2);
 }
 
 TEST_CASE("the question builder over a deck shows the card that the deck window showed") {
