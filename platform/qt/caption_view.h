@@ -35,10 +35,13 @@ class CaptionView : public ControlView {
   }
 
   void FollowFont() override {
+    Shown().Fit(Context().scale.ControlFont(As<CaptionedControl>().FontOf()), CaptionRoom());
+  }
+
+  [[nodiscard]] QSizeF CaptionRoom() const {
     QStyleOptionButton option;
     option.initFrom(&Shown());
-    const QSizeF room = Shown().style()->subElementRect(room_, &option, &Shown()).size();
-    Shown().Fit(Context().scale.ControlFont(As<CaptionedControl>().FontOf()), room);
+    return Shown().style()->subElementRect(room_, &option, &Shown()).size();
   }
 
  private:

@@ -45,11 +45,24 @@ OptionView::OptionView(OptionButton& option, QWidget& parent, const ViewContext&
 }
 
 void OptionView::FollowOwn(Aspect aspect) {
+  if (aspect == Aspect::kCaption || aspect == Aspect::kBounds) MakeRoomForCaption();
   CaptionView::FollowOwn(aspect);
   if (aspect == Aspect::kValue) Shown().setChecked(As<OptionButton>().Selected());
   const bool movesTabStop =
       aspect == Aspect::kValue || aspect == Aspect::kEnabled || aspect == Aspect::kVisible;
   if (movesTabStop) SetTabStops(*Shown().parentWidget());
+}
+
+/// An option no larger than its mark is widened, so that its caption is seen.
+void OptionView::MakeRoomForCaption() {
+  const OptionButton& control = As<OptionButton>();
+  const QString caption = ToQString(control.Caption());
+  const QFontMetrics metrics(Context().scale.ControlFont(control.FontOf()));
+  const int room = CaptionRoom().toSize().width();
+  if (!caption.isEmpty() && room < metrics.horizontalAdvance(caption.front())) {
+    const int wanted = metrics.size(Qt::TextShowMnemonic, caption).width();
+    Shown().resize(Shown().width() + wanted - room, Shown().height());
+  }
 }
 
 bool OptionView::eventFilter(QObject* watched, QEvent* event) {

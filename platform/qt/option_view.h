@@ -19,6 +19,7 @@ class OptionView : public CaptionView<QRadioButton> {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  void MakeRoomForCaption();
   void SelectNeighbour(int step);
 };
 

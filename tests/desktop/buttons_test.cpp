@@ -58,6 +58,20 @@ TEST_CASE("A click selects one option of a group, and clicks again where it was 
   CHECK(two.isChecked());
 }
 
+TEST_CASE("An option that has room for its mark only is widened for its caption") {
+  Desk desk;
+  desk.prepare = [](SampleForm& form) {
+    form.Option1[0].SetCaption(u"A");
+    form.Option1[0].SetWidth(255);
+  };
+  desk.ShowChild();
+  const auto& one = Desk::Of<QRadioButton>("Option1(0)");
+  CHECK(one.height() == 17);
+  CHECK(one.width() > 17);
+  CHECK(one.width() < 40);
+  CHECK(Desk::Of("Option1(1)").width() == 100);
+}
+
 TEST_CASE("The arrow keys select the next option, round the group") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
