@@ -121,10 +121,11 @@ press alt+c
 menu $file n x
 builder 2
 enter 'Which number is prime?'
-press Tab
+press Tab Tab
 enter 'Four'
-press Tab
+press Tab Tab
 enter 'Seven'
+press Tab space
 take builder-question-new
 end_program
 
