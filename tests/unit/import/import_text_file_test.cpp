@@ -4,33 +4,14 @@
 #include <string>
 
 #include "deck/deck_file.h"
-#include "tests/support/deck_desk.h"
-#include "tests/unit/import/import_desk.h"
+#include "tests/unit/import/command_desk.h"
 
 namespace tessara::test {
 
 namespace {
 
-const FakeMessages::Shown kUnknownFormat{
-    u"EXT or STD was not indicated as a file type at the top of the import file. Import has been "
-    u"aborted.",
-    kStopIcon, u"Error In Import File"};
-
 const std::string kStandardText = "STD\r\n1.\r\n*>F\r\nfront\r\n*>B\r\nback\r\n";
 const std::string kExtendedText = "EXT\r\n1.question\r\n=F\r\n";
-
-/// The command as the frame runs it, in an event.
-struct CommandDesk : DeckDesk {
-  void Import(std::string bytes) {
-    fakes.files.Put(kTextPath, std::move(bytes));
-    ImportPath(kTextPath);
-  }
-  void ImportPath(const Text& path) {
-    fakes.dialogs.files.push_back(path);
-    windows.Run([this] { ImportTextFile(app, fileNumber, deck); });
-  }
-  Boxes Told() { return fakes.messages.Take(); }
-};
 
 FakeMessages::Shown ErrorReport(const Text& number, const Text& description) {
   return {u"Run-time error '" + number + u"':\r\n\r\n" + description, kStopIcon, u"Tessara"};
