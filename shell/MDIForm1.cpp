@@ -115,8 +115,9 @@ void MDIForm1::mnuOPenExisting_Click() {
   const Text path = AskFileName(FileDialogMode::kOpen, kDeckFilter, app_.machine);
   if (NoAnswer(path) || !IsDeckFileName(path, state, app_.machine.messages)) return;
   state.DeckFilePath = path;
+  // The deck before the window: the window's load looks at the count of cards.
+  windows_.deck.Instance().LoadDeck(state.DeckFilePath);
   frmMain& deck = windows_.deck.Loaded();
-  deck.LoadDeck(state.DeckFilePath);
   deck.OpenViewOfFirstCard();
   state.CurrentCard = 1;
   deck.NoteletCtl1.SetCardTotal(DecimalText(state.CardCount));

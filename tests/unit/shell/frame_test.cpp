@@ -84,6 +84,37 @@ TEST_CASE("an existing deck is opened from the frame and is not on file") {
   CHECK(desk.fakes.dialogs.fileRequests.back().initialFolder == u"/opt/tessara");
 }
 
+TEST_CASE("a deck opened from the frame can be saved under another name") {
+  ProgramDesk desk;
+  desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(2));
+  desk.fakes.files.Put(u"/decks/none.tsr", ProgramDesk::DeckBytes(0));
+  desk.fakes.messages.answers = {MessageAnswer::kYes};
+  desk.Start();
+  for (const TextView path : {u"/decks/birds.tsr", u"/decks/none.tsr"}) {
+    CloseDeckWindow(desk);
+    desk.fakes.dialogs.files = {Text(path)};
+    desk.Frame().mnuOPenExisting.Press();
+    CHECK(desk.Deck().mnuSaveAs.Enabled() == (desk.state.CardCount > 0));
+  }
+}
+
+TEST_CASE("a deck opened from the frame is written over in place once, then deleted first") {
+  const Text path = u"/decks/birds.tsr";
+  ProgramDesk desk;
+  desk.fakes.files.Put(path, ProgramDesk::DeckBytes(2));
+  desk.Start();
+  CloseDeckWindow(desk);
+  desk.fakes.dialogs.files = {path};
+  desk.Frame().mnuOPenExisting.Press();
+  desk.fakes.messages.answers = {MessageAnswer::kYes};
+  desk.Deck().mnuDelete.Press();
+  desk.program.Windows().Run([&] { desk.Deck().mnuSave_Click(); });
+  CHECK(desk.fakes.files.Bytes(path).size() == 4 * kRecordSize);
+  CHECK(desk.state.DeckOnFile);
+  desk.program.Windows().Run([&] { desk.Deck().mnuSave_Click(); });
+  CHECK(desk.fakes.files.Bytes(path).size() == 3 * kRecordSize);
+}
+
 TEST_CASE("a path in capitals is refused by both open commands") {
   ProgramDesk desk;
   desk.Start();
