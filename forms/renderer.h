@@ -19,7 +19,8 @@ class Renderer {
   virtual void FormChanged(Form& form, FormAspect aspect) = 0;
   virtual void ControlChanged(Control& control, Aspect aspect) = 0;
   virtual void MenuChanged(MenuEntry& entry) = 0;
-  /// The active window is another, or none (null): its menu bar and focus come to the front.
+  /// The active window is another, or none (null), or another child is in front behind it: menu
+  /// bar and focus follow.
   virtual void ActiveFormChanged(Form* form) = 0;
   virtual void FocusChanged(Form& form) = 0;
   /// Returns when the form has been unloaded or hidden, or the program has ended.

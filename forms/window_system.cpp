@@ -92,22 +92,24 @@ void WindowSystem::Bury(std::unique_ptr<Form> form) {
 
 void WindowSystem::BringForward(Form& form) {
   if (form.Kind() == FormKind::kFrame) return;
-  Form* before = ActiveForm();
+  const Front before = InFront();
   std::erase(order_, &form);
   order_.push_back(&form);
-  ActiveMayHaveChanged(before);
+  FrontMayHaveChanged(before);
 }
 
 void WindowSystem::Drop(Form& form) {
-  Form* before = ActiveForm();
+  const Front before = InFront();
   std::erase(order_, &form);
-  ActiveMayHaveChanged(before);
+  FrontMayHaveChanged(before);
 }
 
-void WindowSystem::ActiveMayHaveChanged(Form* before) {
+void WindowSystem::FrontMayHaveChanged(const Front& front) {
+  if (front == InFront()) return;
+  Form* before = front.active;
   Form* now = ActiveForm();
-  if (before == now) return;
   if (renderer_ != nullptr) renderer_->ActiveFormChanged(now);
+  if (before == now) return;
   const bool beforeStands = std::find(order_.begin(), order_.end(), before) != order_.end();
   if (beforeStands) Run([before] { before->Form_LostFocus(); });
   if (now != nullptr && ActiveForm() == now && !closingFrame_) Run([now] { now->Form_Activate(); });

@@ -58,7 +58,14 @@ class WindowSystem {
   /// Brings the form to the front and runs what the change of the active window causes.
   void BringForward(Form& form);
   void Drop(Form& form);
-  void ActiveMayHaveChanged(Form* before);
+  /// The active window, and the one that the frame's menu bar follows.
+  struct Front {
+    Form* active;
+    Form* child;
+    friend bool operator==(const Front&, const Front&) = default;
+  };
+  [[nodiscard]] Front InFront() const { return {ActiveForm(), ActiveChild()}; }
+  void FrontMayHaveChanged(const Front& front);
   bool CloseFrame(Form& frame);
 
   MessageBoxes& messages_;

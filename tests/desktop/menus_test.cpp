@@ -40,6 +40,21 @@ TEST_CASE("The bar shows the menus of the window in front, else the frame's own"
   CHECK(BarTexts() == "&File ");
 }
 
+TEST_CASE("The bar follows when the window behind a dialog goes") {
+  Desk desk;
+  desk.ShowChild();
+  desk.dialog->Show();
+  CHECK(BarTexts() == "&File &Mode ");
+  SUBCASE("unloaded") {
+    desk.child.Unload();
+  }
+  SUBCASE("hidden") {
+    desk.child->Hide();
+  }
+  CHECK(BarTexts() == "&File ");
+  CHECK(desk.windows.ActiveForm() == &desk.dialog.Loaded());
+}
+
 TEST_CASE("Entries of one name in two windows run their own window's command") {
   Desk desk;
   SampleForm& form = desk.ShowChild();

@@ -1,4 +1,5 @@
 #include <doctest/doctest.h>
+#include <functional>
 
 #include "shell/documents.h"
 #include "tests/support/program_desk.h"
@@ -182,6 +183,27 @@ TEST_CASE("a second About brings the same box forward") {
   frmAbout& about = desk.program.AboutBox().Loaded();
   desk.Frame().mnuAbout.Press();
   CHECK(&about == &desk.program.AboutBox().Loaded());
+  CHECK(desk.program.Windows().ActiveForm() == &about);
+}
+
+TEST_CASE("an information window that outlives its deck brings the deck window back unseen") {
+  ProgramDesk desk;
+  desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(2));
+  desk.Start(u"/decks/birds.tsr");
+  desk.program.Windows().Run([&] { desk.Deck().mnuSave_Click(); });
+  REQUIRE(desk.program.InfoWindow().IsLoaded());
+  desk.fakes.messages.answers = {MessageAnswer::kYes};
+  desk.Deck().Command3[2].Press();
+  REQUIRE_FALSE(desk.program.DeckWindowOf().IsLoaded());
+  CHECK(desk.program.InfoWindow()->Visible());
+  CHECK(desk.program.InfoWindow()->Text1[0].TextOf() == u" Birds");
+  desk.program.InfoWindow()->Command1[0].Press();
+  CHECK(desk.program.DeckWindowOf().IsLoaded());
+  CHECK_FALSE(desk.Deck().Visible());
+  CHECK(desk.program.Windows().ActiveForm() == nullptr);
+  desk.Frame().mnuStdTessara.Press();
+  CHECK(desk.Deck().Visible());
+  CHECK(desk.Deck().Caption() == u"New Deck");
 }
 
 TEST_CASE("hovering the link shows the icon until the pointer is on the window again") {
@@ -244,17 +266,23 @@ TEST_CASE("closing the frame ends the program, unless the deck window refuses") 
 TEST_CASE("the frame closes with each child window open, and none comes back on screen") {
   struct Case {
     const char* window;
-    MenuEntry frmMain::*command;
+    TextView deckType;
+    std::function<void(ProgramDesk&)> open;
   };
-  const Case cases[] = {{"frmEssay", &frmMain::mnuACTTD},
-                        {"PrintCard", &frmMain::mnuPrint},
-                        {"frmInfo", &frmMain::mnuCDI}};
+  const Case cases[] = {
+      {"frmEssay", u"E", [](ProgramDesk& desk) { desk.Deck().mnuACTTD.Press(); }},
+      {"frmQuestion", u"T", [](ProgramDesk& desk) { desk.Deck().mnuACTTD.Press(); }},
+      {"PrintCard", u"E", [](ProgramDesk& desk) { desk.Deck().mnuPrint.Press(); }},
+      {"frmInfo", u"E", [](ProgramDesk& desk) { desk.Deck().mnuCDI.Press(); }},
+      {"FrmSetUp", u"E", [](ProgramDesk& desk) { desk.Frame().mnuSetup.Press(); }},
+      {"frmAbout", u"E", [](ProgramDesk& desk) { desk.Deck().mnuAbout.Press(); }},
+  };
   for (const Case& c : cases) {
     CAPTURE(c.window);
     ProgramDesk desk;
-    desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(2));
+    desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(2, c.deckType));
     desk.Start(u"/decks/birds.tsr");
-    (desk.Deck().*c.command).Press();
+    c.open(desk);
     REQUIRE(desk.program.Windows().ActiveForm() != nullptr);
     CHECK(desk.program.Windows().ActiveForm()->Name() == c.window);
     desk.fakes.messages.shown.clear();

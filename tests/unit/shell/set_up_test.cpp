@@ -95,6 +95,35 @@ TEST_CASE("closing with changes asks, Yes saves, both answers close") {
   }
 }
 
+TEST_CASE("changes that were not saved show in the next deck window, not in the next start") {
+  SetUpDesk desk;
+  desk.Open();
+  desk.window->Option1[1].Press();
+  desk.window->Option4[0].Press();
+  desk.fakes.messages.answers = {MessageAnswer::kNo};
+  desk.window->Command1[kClose].Press();
+  desk.Frame().mnuExtTessara.Press();
+  CHECK(desk.Deck().NoteletCtl1.CardColor() == u"A");
+  CHECK(desk.Deck().Picture1.PictureOf().file == "skins/white_flat.png");
+  SetUpDesk next;
+  next.fakes.settings.values = desk.fakes.settings.values;
+  next.Start();
+  CHECK(next.Deck().NoteletCtl1.CardColor() == u"Q");
+}
+
+TEST_CASE("the box that tells of the save comes up before the window closes") {
+  SetUpDesk desk;
+  desk.Open();
+  desk.window->Check1.Press();
+  desk.fakes.messages.answers = {MessageAnswer::kYes};
+  std::vector<bool> loaded;
+  desk.fakes.messages.whileShown = [&](const FakeMessages::Shown&) {
+    loaded.push_back(desk.program.SetUpWindow().IsLoaded());
+  };
+  desk.window->Command1[kClose].Press();
+  CHECK(loaded == std::vector{true, true});
+}
+
 TEST_CASE("closing without changes asks nothing") {
   SetUpDesk desk;
   desk.Open();

@@ -52,6 +52,19 @@ TEST_CASE("a deck on the command line shows the design's colours, whatever the s
   CHECK(desk.Deck().Picture1.PictureOf().file == "skins/white_3d.png");
 }
 
+TEST_CASE("a deck on the command line is left as its view has placed it") {
+  ProgramDesk desk;
+  // Without an information record row 0 would be present only by the steps of a plain start.
+  desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(2).substr(kRecordSize));
+  desk.Start(u"/decks/birds.tsr");
+  CHECK(desk.state.CardPresent.At(kInfoRow) == 0);
+  CHECK(desk.Deck().Command3[1].Enabled());
+  CHECK(desk.Deck().mnuMode.Enabled());
+  CHECK(desk.Deck().mnuGTP.Enabled());
+  CHECK(desk.Deck().Left() == (desk.Frame().ScaleWidth() - 7230) / 2);
+  CHECK(desk.Deck().Top() == (desk.Frame().ScaleHeight() - 6315) / 2);
+}
+
 TEST_CASE("a deck on the command line that can't be read ends the program with a report") {
   struct Case {
     const char* what;

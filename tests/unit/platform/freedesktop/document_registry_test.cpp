@@ -1,36 +1,16 @@
 #include "platform/freedesktop/document_registry.h"
 
-#include <cstdlib>
 #include <doctest/doctest.h>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 
 #include "platform/freedesktop/document_files.h"
+#include "tests/support/scratch_folder.h"
 
 namespace tessara::test {
 
 namespace {
 
 const DocumentRegistry::Tools kNoTools = [](const std::filesystem::path&) {};
-
-std::string ReadAll(const std::filesystem::path& path) {
-  std::ostringstream content;
-  content << std::ifstream(path).rdbuf();
-  return content.str();
-}
-
-/// A folder of the test's own, gone with it.
-struct ScratchFolder {
-  std::filesystem::path path;
-  ScratchFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "tessara-test-XXXXXX").string();
-    path = mkdtemp(name.data());
-  }
-  ScratchFolder(const ScratchFolder&) = delete;
-  ScratchFolder& operator=(const ScratchFolder&) = delete;
-  ~ScratchFolder() { std::filesystem::remove_all(path); }
-};
 
 }  // namespace
 
@@ -65,21 +45,19 @@ TEST_CASE("a value of a key that was not made is refused") {
 
 TEST_CASE("publishing writes package, entry and icons below the user's data folder") {
   const ScratchFolder scratch;
-  const auto icon = scratch.path / "program/icons/hicolor/16x16/apps/tessara.png";
-  std::filesystem::create_directories(icon.parent_path());
-  std::ofstream(icon) << "icon";
+  std::filesystem::create_directories(scratch / "program/icons/hicolor/16x16/apps");
+  scratch.Write("program/icons/hicolor/16x16/apps/tessara.png", "icon");
   std::filesystem::path told;
-  DocumentRegistry registry({scratch.path / "data", scratch.path / "program", "tessara"},
+  DocumentRegistry registry({scratch / "data", scratch / "program", "tessara"},
                             [&](const std::filesystem::path& folder) { told = folder; });
   registry.CreateClassKey(u"Tessara.Document");
   registry.SetClassValue(u"Tessara.Document", u"", u"Tessara File");
   registry.Publish();
-  CHECK(ReadAll(scratch.path / "data/mime/packages/tessara.xml").find("Tessara File") !=
-        std::string::npos);
-  CHECK(ReadAll(scratch.path / "data/applications/tessara.desktop")
-            .find((scratch.path / "program/tessara").string()) != std::string::npos);
-  CHECK(ReadAll(scratch.path / "data/icons/hicolor/16x16/apps/tessara.png") == "icon");
-  CHECK(told == scratch.path / "data");
+  CHECK(scratch.Read("data/mime/packages/tessara.xml").find("Tessara File") != std::string::npos);
+  CHECK(scratch.Read("data/applications/tessara.desktop")
+            .find((scratch / "program/tessara").string()) != std::string::npos);
+  CHECK(scratch.Read("data/icons/hicolor/16x16/apps/tessara.png") == "icon");
+  CHECK(told == scratch / "data");
 }
 
 TEST_CASE("publishing where nothing can be written is silent") {
