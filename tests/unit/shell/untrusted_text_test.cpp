@@ -1,0 +1,188 @@
+// Whatever a deck or a text to import says is shown, and does nothing else.
+
+#include <doctest/doctest.h>
+#include <set>
+
+#include "deck/double_amps.h"
+#include "tests/support/hostile_texts.h"
+#include "tests/support/program_desk.h"
+#include "tests/support/window_tour.h"
+#include "tests/unit/import/text_file.h"
+#include "tests/unit/printing/print_desk.h"
+
+namespace tessara::test {
+
+namespace {
+
+const Text kDeck = u"/decks/birds.tsr";
+
+/// A deck that says the text in every field.
+std::string DeckSaying(const Text& text, TextView type) {
+  std::string bytes;
+  const auto add = [&bytes](const DeckRecord& record) {
+    const RecordBytes encoded = EncodeRecord(record, CodePage::Western());
+    bytes.append(encoded.begin(), encoded.end());
+  };
+  const Text key = type == u"M" ? u"A" : u"";
+  add({u"I", text, 0, {text, text, text, text}, u"", text});
+  add({Text(type), text, 1, {text, text, text, text}, key, text});
+  add({Text(type), text, 2, {text, text, text, text}, key, text});
+  add({u"X", u"", 0, {}, u"", u""});
+  return bytes;
+}
+
+/// The program, with a note of every path that it has asked the disk about.
+struct WatchedDesk : ProgramDesk {
+  std::set<Text> paths;
+  WindowTour tour{program, fakes, [] {}};
+
+  WatchedDesk() {
+    fakes.files.fault = [this](MemoryFiles::Operation, const Text& path) {
+      paths.insert(path);
+      return std::optional<ErrorNumber>();
+    };
+  }
+
+  /// Nothing was opened, written or asked for but the file that the user named.
+  void CheckNothingElse(const Text& path) {
+    for (const Text& touched : paths) CHECK((touched == path || touched == u"/decks"));
+    CHECK(fakes.desktop.opened.empty());
+    CHECK(fakes.desktop.helpShown.empty());
+    CHECK(fakes.settings.writes.empty());
+    CHECK(fakes.classes.created.empty());
+    CHECK_FALSE(program.Windows().ExitStatus());
+  }
+};
+
+}  // namespace
+
+TEST_CASE("any text of a text card is on the card as it stands, and does nothing else") {
+  for (const Text& text : kHostileTexts) {
+    CAPTURE(ToUtf8(text));
+    WatchedDesk desk;
+    desk.fakes.files.Put(kDeck, DeckSaying(text, u"E"));
+    desk.Start(kDeck);
+    const Text shown = DoubleAmps(text);
+    CHECK(desk.Deck().NoteletCtl1.CardText() == shown);
+    desk.Deck().Command3[1].Press();
+    CHECK(desk.Deck().NoteletCtl1.CardText() == shown);
+    desk.Deck().cmdMove[1].Press();
+    desk.Deck().mnuQuiz.Press();
+    desk.Deck().mnuTest.Press();
+    CHECK(desk.Deck().NoteletCtl1.CardText() == shown);
+    desk.Deck().mnuStudy.Press();
+    desk.tour.GoRound();
+    desk.CheckNothingElse(kDeck);
+  }
+}
+
+TEST_CASE("any text of a question is on the card, the answer and the choices as it stands") {
+  for (const Text& text : kHostileTexts) {
+    CAPTURE(ToUtf8(text));
+    WatchedDesk desk;
+    desk.fakes.files.Put(kDeck, DeckSaying(text, u"M"));
+    desk.Start(kDeck);
+    CHECK(desk.Deck().NoteletCtl1.CardText() == DoubleAmps(text));
+    CHECK(desk.Deck().Label2.Caption().find(DoubleAmps(text)) != Text::npos);
+    desk.Deck().mnuTest.Press();
+    for (const OptionButton& option : desk.Deck().Option1) CHECK(option.Caption() == text);
+    desk.Deck().Option1[1].Press();
+    desk.Deck().Command3[0].Press();
+    desk.CheckNothingElse(kDeck);
+  }
+}
+
+TEST_CASE("any text of a deck is in the builders and the information window as it stands") {
+  for (const Text& text : kHostileTexts) {
+    CAPTURE(ToUtf8(text));
+    WatchedDesk desk;
+    desk.fakes.files.Put(kDeck, DeckSaying(text, u"E"));
+    desk.Start(kDeck);
+    desk.Deck().mnuCDI.Press();
+    // A blank stands in front.
+    for (const TextBox& box : desk.program.InfoWindow()->Text1)
+      CHECK(Trimmed(box.TextOf()) == text);
+    desk.program.InfoWindow()->UserClose();
+    desk.Deck().mnuACTTD.Press();
+    CHECK(desk.program.TextBuilder()->Text1[0].TextOf() == text);
+    CHECK(desk.program.TextBuilder()->Text1[1].TextOf() == text);
+    desk.CheckNothingElse(kDeck);
+  }
+}
+
+TEST_CASE("any text comes through a save as it stands") {
+  for (const Text& text : kHostileTexts) {
+    WatchedDesk desk;
+    desk.fakes.files.Put(kDeck, DeckSaying(text, u"E"));
+    desk.Start(kDeck);
+    desk.program.Windows().Run([&] { desk.Deck().mnuSave_Click(); });
+    CHECK(desk.fakes.messages.shown.back().text == u"This file has been saved to " + kDeck);
+    WatchedDesk next;
+    next.fakes.files.Put(kDeck, desk.fakes.files.Bytes(kDeck));
+    next.Start(kDeck);
+    CHECK(next.state.Cell(2, kCardText) == text);
+    CHECK(next.state.Cell(2, kBackText) == text);
+    CHECK(next.state.DeckTitle == text);
+  }
+}
+
+TEST_CASE("any text to import is on the card as it stands, and does nothing else") {
+  const Text path = u"/decks/text.txt";
+  for (const Text& text : kHostileTexts) {
+    CAPTURE(ToUtf8(text));
+    const std::string line = ToUtf8(text);
+    for (const std::string& bytes : {Lines({"STD", "1.", "*>F", line, "*>B", line, "*END*"}),
+                                     Lines({"EXT", "1.Q " + line, "=T"})}) {
+      WatchedDesk desk;
+      desk.fakes.files.Put(path, bytes);
+      desk.Start();
+      desk.Deck().UserClose();
+      desk.fakes.dialogs.files = {path};
+      desk.Frame().mnuImportFile.Press();
+      CHECK(desk.Deck().NoteletCtl1.CardText().find(DoubleAmps(text)) != Text::npos);
+      desk.CheckNothingElse(path);
+    }
+  }
+}
+
+TEST_CASE("any text goes to the sheet and to the page as it stands") {
+  for (const Text& text : kHostileTexts) {
+    CAPTURE(ToUtf8(text));
+    PrintDesk sheets(1);
+    sheets.state.CardGrid.Set(1, kCardText, text);
+    sheets.state.CardGrid.Set(1, kBackText, text);
+    sheets.ChoosePrinter();
+    sheets.OpenTicked(1).Command1[1].Press();
+    REQUIRE(sheets.server.sheets.size() == 2);
+    CHECK(sheets.server.sheets[0].at("A1") == text);
+    CHECK(sheets.server.sheets[1].at("C1") == text);
+
+    PrintDesk pages(2);
+    pages.surface.pageWidth = 1000000;
+    pages.state.DeckTitle = text;
+    // The heading of a card stands above the texts of the next one.
+    pages.state.CardGrid.Set(2, kCardText, text);
+    PrintCard& window = pages.OpenTicked(1);
+    window.Check1.SetTicked(true);
+    pages.ChoosePrinter();
+    window.Command1[1].Press();
+    CHECK(pages.surface.record.Count("Line TITLE: " + ToUtf8(text)) == 1);
+    CHECK(pages.surface.record.Count("Line " + ToUtf8(text)) == 1);
+  }
+}
+
+TEST_CASE("any name of a deck is in the title and the boxes as it stands") {
+  for (const Text& name : kHostileNames) {
+    CAPTURE(ToUtf8(name));
+    WatchedDesk desk;
+    const Text path = u"/decks/" + name;
+    desk.fakes.files.Put(path, ProgramDesk::DeckBytes(1));
+    desk.Start(path);
+    CHECK(desk.Deck().Caption() == name.substr(0, name.find(u'.')) + u"  [STUDY]");
+    desk.program.Windows().Run([&] { desk.Deck().mnuSave_Click(); });
+    CHECK(desk.fakes.messages.shown.back().text == u"This file has been saved to " + path);
+    desk.CheckNothingElse(path);
+  }
+}
+
+}  // namespace tessara::test
