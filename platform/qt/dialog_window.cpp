@@ -82,6 +82,12 @@ void DialogWindow::Leave() {
   deleteLater();
 }
 
+void DialogWindow::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  const bool comes = event->type() == QEvent::ActivationChange && isActiveWindow();
+  if (comes && form_ != nullptr) form_->UserActivate();
+}
+
 void DialogWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
   if (form_ != nullptr) form_->UserClose();

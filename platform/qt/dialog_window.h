@@ -19,6 +19,7 @@ class DialogWindow final : public QWidget, public FormWindow {
   void Leave() override;
 
  protected:
+  void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:

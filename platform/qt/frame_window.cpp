@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <QScreen>
 
+#include "forms/window_system.h"
 #include "platform/qt/qt_text.h"
 
 namespace tessara {
@@ -85,6 +86,15 @@ bool FrameWindow::OpenMenu(char16_t letter) {
   const auto entries = action->menu()->actions();
   if (!entries.isEmpty()) action->menu()->setActiveAction(entries.first());
   return true;
+}
+
+/// The child in front keeps its place in the frame while a dialog is active: its area has nothing
+/// to tell when the user turns back to it.
+void FrameWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  const bool comes = event->type() == QEvent::ActivationChange && isActiveWindow();
+  Form* child = comes && form_ != nullptr ? form_->System().ActiveChild() : nullptr;
+  if (child != nullptr) child->UserActivate();
 }
 
 void FrameWindow::closeEvent(QCloseEvent* event) {

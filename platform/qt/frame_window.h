@@ -31,6 +31,7 @@ class FrameWindow final : public QMainWindow, public FormWindow {
   [[nodiscard]] static QSize OpeningSize(const PixelScale& scale);
 
  protected:
+  void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
 
  private:

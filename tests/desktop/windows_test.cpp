@@ -161,6 +161,19 @@ TEST_CASE("A window without modality lets the others work") {
   CHECK(form.log.Take() == "lost focus, delete");
 }
 
+TEST_CASE("The window behind a dialog becomes the active one when the user turns to it, and back") {
+  Desk desk;
+  desk.ShowChild();
+  desk.dialog->Show();
+  for (const char* name : {"frmDialog", "MDIForm1", "frmDialog"}) {
+    CAPTURE(name);
+    Desk::Top(name)->activateWindow();
+    REQUIRE(QTest::qWaitFor([&] { return QApplication::activeWindow() == Desk::Top(name); }));
+    const std::string active = desk.windows.ActiveForm()->Name();
+    CHECK((active == "frmChild") == (name == std::string("MDIForm1")));
+  }
+}
+
 TEST_CASE("The frame's client area is told in twips") {
   Desk desk;
   const QMdiArea& area = *Desk::Top("MDIForm1")->findChild<QMdiArea*>();
