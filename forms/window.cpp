@@ -13,7 +13,8 @@ WindowSlot::~WindowSlot() {
   if (form_ != nullptr && form_->loaded_) {
     form_->loaded_ = false;
     form_->visible_ = false;
-    system_.Remove(*form_);
+    // A program that an error has ended goes with its windows, whose renderer is gone by then.
+    system_.Forget(*form_);
   }
 }
 

@@ -86,6 +86,11 @@ void WindowSystem::Remove(Form& form) {
   if (form.Kind() == FormKind::kFrame) EndProgram(0);
 }
 
+void WindowSystem::Forget(Form& form) {
+  std::erase(loaded_, &form);
+  std::erase(order_, &form);
+}
+
 void WindowSystem::Bury(std::unique_ptr<Form> form) {
   if (form != nullptr) buried_.push_back(std::move(form));
 }

@@ -54,6 +54,8 @@ class WindowSystem {
   void Leave();
   void Add(Form& form);
   void Remove(Form& form);
+  /// The form goes with its owner: no event runs and nobody is told.
+  void Forget(Form& form);
   void Bury(std::unique_ptr<Form> form);
   /// Brings the form to the front and runs what the change of the active window causes.
   void BringForward(Form& form);

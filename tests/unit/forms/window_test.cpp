@@ -129,6 +129,24 @@ TEST_CASE("the next use after an unload makes a fresh window") {
   CHECK(desk.first->Text1.TextOf().empty());
 }
 
+TEST_CASE("a window that goes with its owner runs no event and tells nobody") {
+  RulesDesk desk;
+  desk.first->Show();
+  {
+    WindowSlot slot(desk.windows, [&desk] {
+      return std::make_unique<RulesForm>(desk.windows, "Third", desk.log);
+    });
+    Window<RulesForm>(slot)->Show();
+    CHECK(desk.windows.ActiveForm() == &slot.Instance());
+    desk.log.clear();
+    desk.renderer.activated.clear();
+  }
+  CHECK(desk.log.empty());
+  CHECK(desk.renderer.activated.empty());
+  CHECK(desk.windows.ActiveForm() == &desk.first.Instance());
+  CHECK(desk.windows.LoadedForms().size() == 1);
+}
+
 TEST_CASE("a disabled window takes no input") {
   RulesDesk desk;
   desk.first->Show();
