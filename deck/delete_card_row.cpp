@@ -4,9 +4,10 @@ namespace tessara {
 
 namespace {
 
+/// Any answer but No agrees.
 bool UserAgrees(std::int16_t row, MessageBoxes& messages) {
   return messages.Show(u"Deletion is permanent, are you sure?", kYesNo,
-                       u"Delete Card # " + DecimalText(row)) == MessageAnswer::kYes;
+                       u"Delete Card # " + DecimalText(row)) != MessageAnswer::kNo;
 }
 
 }  // namespace

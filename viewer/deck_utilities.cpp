@@ -22,8 +22,7 @@ void frmMain::mnuDelete_Click() {
   if (state.CardCount < 1) {
     MenuOp(false);
     Command3[1].SetEnabled(false);
-    NoteletCtl1.SetFrontRule(true);
-    NoteletCtl1.SetFrontLines(true);
+    ShowCardBack(false);
     mnuGTP.SetEnabled(false);
   } else {
     MenuOp(true);

@@ -40,6 +40,14 @@ TEST_CASE("deleting asks first and names the card in the title") {
   CHECK(desk.card.writes.empty());
 }
 
+TEST_CASE("any answer but No deletes") {
+  for (const MessageAnswer answer : {MessageAnswer::kYes, MessageAnswer::kCancel}) {
+    DeleteDesk desk(3);
+    desk.Delete(2, answer);
+    CHECK(desk.state.CardCount == 2);
+  }
+}
+
 TEST_CASE("deleting a middle card moves the later ones up under the same row") {
   DeleteDesk desk(4);
   CHECK(desk.Delete(2, MessageAnswer::kYes) == 2);
