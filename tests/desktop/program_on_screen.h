@@ -1,0 +1,220 @@
+#pragma once
+
+#include <QAction>
+#include <QApplication>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <deque>
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "platform/posix/posix_file_system.h"
+#include "platform/qt/print_module.h"
+#include "platform/qt/qt_dialogs.h"
+#include "platform/qt/qt_message_boxes.h"
+#include "platform/qt/qt_renderer.h"
+#include "platform/qt/qt_text.h"
+#include "shell/program.h"
+#include "tests/desktop/event_loops.h"
+#include "tests/support/fake_machine.h"
+#include "tests/support/scratch_folder.h"
+
+namespace tessara::test {
+
+/// The whole program with real windows, boxes and dialogs, over the files of a folder of its own,
+/// and the hands of a user at it.
+class ProgramOnScreen {
+ public:
+  using Answer = std::function<void(QWidget& dialog)>;
+
+  ScratchFolder folder;
+
+  ProgramOnScreen() {
+    StartAnew();
+    fakes_.settings.values = {{u"ShowSplash", u"0"}, {u"FirstLoad", u"False"}};
+    messages_.SetWindows(program.Windows());
+    dialogs_.SetWindows(program.Windows());
+    program.Windows().SetRenderer(renderer_);
+    dialogTimer_.callOnTimeout([this] { AnswerDialog(); });
+    dialogTimer_.start(0);
+  }
+
+  /// Starts with the deck of that name in the folder, or without one.
+  void Start(const Text& deck = {}) {
+    program.Main(deck.empty() ? Text() : folder.TextPath(deck));
+    if (!QTest::qWaitForWindowActive(&Top("MDIForm1"))) {
+      throw std::logic_error("the frame did not become active");
+    }
+    Settle();
+  }
+
+  // What is on screen.
+  static QWidget& Top(const char* name) {
+    for (QWidget* widget : QApplication::allWidgets()) {
+      if (widget->objectName() == QLatin1String(name)) return *widget;
+    }
+    throw std::logic_error(std::string("no window ") + name);
+  }
+  template <class W = QWidget>
+  static W& Of(const char* control, const char* window = "frmMain") {
+    W* widget = Top(window).findChild<W*>(QLatin1String(control));
+    if (widget == nullptr) throw std::logic_error(std::string("no widget ") + control);
+    return *widget;
+  }
+  /// A property of the large card.
+  static std::string Card(const char* property) {
+    return Of("NoteletCtl1").property(property).toString().toStdString();
+  }
+  /// The name of what has the focus.
+  static std::string Focus() {
+    const QWidget* focused = QApplication::focusWidget();
+    return focused == nullptr ? "" : focused->objectName().toStdString();
+  }
+  static std::string TitleOf(const char* window) {
+    return Top(window).windowTitle().toStdString();
+  }
+
+  // The keyboard.
+  static void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    QTest::keyClick(&KeysGoTo(), key, modifiers);
+    Settle();
+  }
+  static void Keys(std::initializer_list<Qt::Key> keys) {
+    for (const Qt::Key key : keys) Key(key);
+  }
+  static void Alt(Qt::Key letter) { Key(letter, Qt::AltModifier); }
+  /// Each line break of the text is a Return.
+  static void Type(TextView text) {
+    for (const char16_t letter : text) {
+      if (letter == u'\n') {
+        Key(Qt::Key_Return);
+      } else {
+        QTest::sendKeyEvent(QTest::Click, &KeysGoTo(), Qt::Key_unknown, QString(QChar(letter)),
+                            Qt::NoModifier);
+      }
+    }
+    Settle();
+  }
+  /// Alt goes to the menu bar: down into it, right to the menu, down to the entry.
+  static void ChooseByKeys(const char* menu, const char* entry) {
+    Key(Qt::Key_Alt, Qt::AltModifier);
+    Key(Qt::Key_Down);
+    StepTo(menu, Qt::Key_Right, [] {
+      const QWidget* popup = QApplication::activePopupWidget();
+      return popup == nullptr ? QString() : popup->objectName();
+    });
+    StepTo(entry, Qt::Key_Down, [] {
+      const auto* popup = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+      const QAction* active = popup == nullptr ? nullptr : popup->activeAction();
+      return active == nullptr ? QString() : active->objectName();
+    });
+    Key(Qt::Key_Return);
+  }
+
+  // The mouse.
+  static void Click(const char* control, const char* window = "frmMain") {
+    QWidget& widget = Of(control, window);
+    // Where an option button has its mark.
+    constexpr int kAtTheMark = 8;
+    QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, {kAtTheMark, widget.height() / 2});
+    Settle();
+  }
+  static void ChooseByMouse(const char* menu, const char* entry) {
+    auto& bar = *qobject_cast<QMainWindow*>(&Top("MDIForm1"))->menuBar();
+    QMenu& opened = *Top("frmMain").findChild<QMenu*>(QLatin1String(menu));
+    const QPoint title = bar.actionGeometry(opened.menuAction()).center();
+    QTest::mouseClick(&bar, Qt::LeftButton, Qt::NoModifier, title);
+    for (const QAction* action : opened.actions()) {
+      if (action->objectName() != QLatin1String(entry)) continue;
+      const QPoint place = opened.actionGeometry(const_cast<QAction*>(action)).center();
+      QTest::mouseClick(&opened, Qt::LeftButton, Qt::NoModifier, place);
+    }
+    Settle();
+  }
+
+  // Boxes and dialogs, which hold the program until they are answered.
+  void WhenAsked(Answer answer) { answers_.push_back(std::move(answer)); }
+  void AnswerByKey(Qt::Key key) {
+    WhenAsked([key](QWidget&) { QTest::keyClick(&KeysGoTo(), key); });
+  }
+  /// The texts of the boxes and the titles of the other dialogs since the last time.
+  std::vector<std::string> TakeAsked() { return std::exchange(asked_, {}); }
+
+  static void Settle() {
+    QApplication::processEvents();
+    // No window manager brings the frame back when the last dialog has closed.
+    if (QApplication::activeWindow() == nullptr) Top("MDIForm1").activateWindow();
+    QApplication::processEvents();
+  }
+
+ private:
+  static QWidget& KeysGoTo() {
+    for (QWidget* receiver : {QApplication::activePopupWidget(), QApplication::focusWidget(),
+                              QApplication::activeWindow()}) {
+      if (receiver != nullptr) return *receiver;
+    }
+    throw std::logic_error("no window takes keys");
+  }
+
+  template <class Now>
+  static void StepTo(const char* wanted, Qt::Key step, const Now& now) {
+    constexpr int kMostSteps = 20;
+    for (int steps = 0; now() != QLatin1String(wanted); ++steps) {
+      if (steps == kMostSteps) throw std::logic_error(std::string("the keys never get to ") + wanted);
+      Key(step);
+    }
+  }
+
+  void AnswerDialog() {
+    QWidget* dialog = QApplication::activeModalWidget();
+    const QWidget* focused = QApplication::focusWidget();
+    const bool ready = dialog != nullptr && dialog->isAncestorOf(focused);
+    if (!ready || dialog == answered_) return;
+    answered_ = dialog;
+    auto* box = qobject_cast<QMessageBox*>(dialog);
+    asked_.push_back((box != nullptr ? box->text() : dialog->windowTitle()).toStdString());
+    if (answers_.empty()) return GiveUp(*dialog);
+    const Answer answer = answers_.front();
+    answers_.pop_front();
+    answer(*dialog);
+  }
+  /// A test that did not expect the dialog fails by what was asked, and does not hang.
+  static void GiveUp(QWidget& dialog) {
+    if (auto* box = qobject_cast<QMessageBox*>(&dialog)) {
+      box->defaultButton()->click();
+    } else {
+      dialog.close();
+    }
+  }
+
+  FakeMachine fakes_;
+  PosixFileSystem files_;
+  PrintModuleSource printing_{u"/nowhere"};
+  QtMessageBoxes messages_;
+  QtDialogs dialogs_{printing_};
+  Machine machine_ = {messages_,          dialogs_,       fakes_.settings,
+                      files_,             fakes_.copies,  fakes_.clock,
+                      fakes_.desktop,     fakes_.classes, fakes_.noSpreadsheet,
+                      fakes_.noPrinter,   CodePage::Western(), u"/opt/tessara"};
+
+ public:
+  Program program{machine_};
+  ProgramState& state = program.State();
+
+ private:
+  QtRenderer renderer_{program.Windows(), TESSARA_TEST_PICTURES};
+  QTimer dialogTimer_;
+  QPointer<QWidget> answered_;
+  std::deque<Answer> answers_;
+  std::vector<std::string> asked_;
+};
+
+}  // namespace tessara::test
