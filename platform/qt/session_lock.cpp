@@ -2,11 +2,12 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstddef>
 #include <cstdlib>
-#include <fcntl.h>
-#include <filesystem>
-#include <sys/file.h>
+#include <optional>
+#include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 namespace tessara {
@@ -29,32 +30,78 @@ std::string Display() {
   return display;
 }
 
-bool IsFolder(const std::string& path) {
-  std::error_code error;
-  return std::filesystem::is_directory(path, error);
+/// The folder that the session has for its running programs, by its numbers, which are short;
+/// empty where it has none.
+std::string RuntimeFolder() {
+  struct stat status {};
+  const std::string path = FromEnvironment("XDG_RUNTIME_DIR");
+  const bool folder = stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+  return folder ? std::to_string(status.st_dev) + "." + std::to_string(status.st_ino) : "";
+}
+
+/// A name among the system's sockets that is no file.
+struct Address {
+  sockaddr_un socket{};
+  socklen_t length = 0;
+
+  [[nodiscard]] const sockaddr* Get() const { return reinterpret_cast<const sockaddr*>(&socket); }
+};
+
+/// Nothing for a name that is too long.
+std::optional<Address> AddressOf(const std::string& name) {
+  Address address;
+  // The first byte, 0, says that it is no path.
+  if (name.size() + 1 > sizeof address.socket.sun_path) return std::nullopt;
+  address.socket.sun_family = AF_UNIX;
+  name.copy(address.socket.sun_path + 1, name.size());
+  address.length = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + name.size());
+  return address;
+}
+
+int OpenSocket() {
+  return socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+}
+
+bool IsUser(int connected) {
+  ucred peer{};
+  socklen_t length = sizeof peer;
+  return getsockopt(connected, SOL_SOCKET, SO_PEERCRED, &peer, &length) == 0 &&
+         peer.uid == geteuid();
+}
+
+/// Anybody can take a name: only another program of the user's counts.
+bool IsHeldByUser(const Address& address) {
+  const int caller = OpenSocket();
+  if (caller < 0) return false;
+  const bool connected = connect(caller, address.Get(), address.length) == 0;
+  const bool held = connected ? IsUser(caller) : errno == EAGAIN;
+  close(caller);
+  return held;
 }
 
 }  // namespace
 
-std::string SessionLock::Path() {
-  const std::string runtime = FromEnvironment("XDG_RUNTIME_DIR");
-  if (IsFolder(runtime)) return runtime + "/tessara-" + Display() + ".lock";
-  const std::string temporary = FromEnvironment("TMPDIR");
-  return (IsFolder(temporary) ? temporary : "/tmp") + "/tessara-" + std::to_string(getuid()) + "-" +
-         Display() + ".lock";
+std::string SessionLock::Name() {
+  return "tessara-" + std::to_string(geteuid()) + "-" + RuntimeFolder() + "-" + Display();
 }
 
 SessionLock::~SessionLock() {
-  if (file_ >= 0) close(file_);
+  if (socket_ >= 0) close(socket_);
 }
 
 bool SessionLock::Acquire() {
-  if (file_ >= 0) return true;
-  file_ = open(Path().c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
-  if (file_ < 0 || flock(file_, LOCK_EX | LOCK_NB) == 0) return true;
-  const bool held = errno == EWOULDBLOCK;
-  close(file_);
-  file_ = -1;
+  const auto address = AddressOf(Name());
+  if (socket_ >= 0 || !address) return true;
+  socket_ = OpenSocket();
+  if (socket_ < 0) return true;
+  if (bind(socket_, address->Get(), address->length) == 0) {
+    // Nobody is ever answered: a caller only looks who it is.
+    listen(socket_, 1);
+    return true;
+  }
+  const bool held = errno == EADDRINUSE && IsHeldByUser(*address);
+  close(socket_);
+  socket_ = -1;
   return !held;
 }
 

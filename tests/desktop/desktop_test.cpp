@@ -1,8 +1,11 @@
 #include <QApplication>
 #include <QCursor>
+#include <QDir>
 #include <QTemporaryDir>
+#include <cstddef>
 #include <doctest/doctest.h>
-#include <fcntl.h>
+#include <sys/socket.h>
+#include <sys/un.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -54,21 +57,45 @@ TEST_CASE("The lock of a program that dies is free") {
 
 TEST_CASE("Another display is another session, another screen of it is not") {
   const Session session;
-  const std::string path = SessionLock::Path();
-  CHECK(path == session.folder.path().toStdString() + "/tessara-:7.lock");
+  const std::string name = SessionLock::Name();
   qputenv("DISPLAY", ":7.1");
-  CHECK(SessionLock::Path() == path);
+  CHECK(SessionLock::Name() == name);
   qputenv("DISPLAY", ":8");
-  CHECK(SessionLock::Path() != path);
+  CHECK(SessionLock::Name() != name);
 }
 
-TEST_CASE("Without a runtime folder the lock is the user's in the temporary folder") {
+TEST_CASE("Another runtime folder is another session; without one the display alone counts") {
   const Session session;
+  const std::string name = SessionLock::Name();
+  const Session other;
+  CHECK(SessionLock::Name() != name);
   qputenv("XDG_RUNTIME_DIR", "/nowhere");
-  qputenv("TMPDIR", session.folder.path().toLocal8Bit());
-  CHECK(SessionLock::Path() ==
-        session.folder.path().toStdString() + "/tessara-" + std::to_string(getuid()) + "-:7.lock");
-  qunsetenv("TMPDIR");
+  CHECK(SessionLock::Name() == "tessara-" + std::to_string(geteuid()) + "--:7");
+}
+
+TEST_CASE("However often a second instance asks, the lock is held, and it leaves no file") {
+  const Session session;
+  {
+    SessionLock first;
+    CHECK(first.Acquire());
+    for (int count = 0; count < 20; ++count) CHECK_FALSE(SessionLock().Acquire());
+    CHECK(QDir(session.folder.path()).isEmpty());
+  }
+  CHECK(SessionLock().Acquire());
+  CHECK(QDir(session.folder.path()).isEmpty());
+}
+
+TEST_CASE("A stranger who has taken the name is not in the way") {
+  const Session session;
+  const std::string name = SessionLock::Name();
+  sockaddr_un address{};
+  address.sun_family = AF_UNIX;
+  name.copy(address.sun_path + 1, name.size());
+  const int stranger = socket(AF_UNIX, SOCK_STREAM, 0);
+  const auto length = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + 1 + name.size());
+  REQUIRE(bind(stranger, reinterpret_cast<const sockaddr*>(&address), length) == 0);
+  CHECK(SessionLock().Acquire());
+  close(stranger);
 }
 
 TEST_CASE("Where no lock can be made nothing is in the way") {
