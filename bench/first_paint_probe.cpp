@@ -4,12 +4,13 @@
 
 #include <QCoreApplication>
 #include <QEvent>
-#include <QFile>
 #include <QTimer>
 #include <QWidget>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+
+#include "bench/resident_memory.h"
 
 namespace {
 
@@ -22,15 +23,6 @@ long long MonotonicNanoseconds() {
 long long NumberFromEnvironment(const char* name) {
   const char* value = std::getenv(name);
   return value == nullptr ? 0 : std::atoll(value);
-}
-
-long long ResidentKilobytes() {
-  QFile status("/proc/self/status");
-  if (!status.open(QIODevice::ReadOnly)) return 0;
-  for (const QByteArray& line : status.readAll().split('\n')) {
-    if (line.startsWith("VmRSS:")) return line.mid(6).trimmed().split(' ').first().toLongLong();
-  }
-  return 0;
 }
 
 class FirstPaintProbe : public QObject {

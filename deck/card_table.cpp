@@ -1,5 +1,7 @@
 #include "deck/card_table.h"
 
+#include <utility>
+
 #include "platform/run_time_error.h"
 
 namespace tessara {
@@ -47,8 +49,12 @@ const Text& CardTable::At(int row, int column) const {
   return cells_[Offset(row, column)];
 }
 
-void CardTable::Set(int row, int column, const Text& value) {
-  cells_[Offset(row, column)] = value;
+void CardTable::Set(int row, int column, Text value) {
+  cells_[Offset(row, column)] = std::move(value);
+}
+
+CardTable::RowCells CardTable::Row(int row) {
+  return RowCells(&cells_[Offset(row, 0)], kColumns);
 }
 
 std::int16_t PresentFlags::At(int row) const {

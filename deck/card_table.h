@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <span>
 
 #include "platform/text.h"
 
@@ -42,7 +43,10 @@ enum InfoColumn : int {
 class CardTable {
  public:
   [[nodiscard]] const Text& At(int row, int column) const;
-  void Set(int row, int column, const Text& value);
+  void Set(int row, int column, Text value);
+  using RowCells = std::span<Text, kColumns>;
+  /// The cells of a row, to be written.
+  [[nodiscard]] RowCells Row(int row);
 
  private:
   static std::size_t Offset(int row, int column);

@@ -1,6 +1,8 @@
 #include "deck/deck_file.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 #include "platform/conversion.h"
 #include "platform/skip_errors.h"
@@ -37,8 +39,18 @@ void PutText(RecordBytes& bytes, Field field, const Text& text, const CodePage& 
   std::copy(stored.begin(), stored.end(), bytes.data() + field.offset);
 }
 
+/// Most of a field is blanks: they go in long strides.
+std::string_view WithoutBlanksBehind(std::string_view bytes) {
+  constexpr std::string_view kStride = "        ";
+  while (bytes.ends_with(kStride)) bytes.remove_suffix(kStride.size());
+  while (bytes.ends_with(kBlank)) bytes.remove_suffix(1);
+  return bytes;
+}
+
 Text TextAt(Bytes bytes, Field field, const CodePage& codePage) {
-  return codePage.Decode({bytes.data() + field.offset, field.width});
+  std::string_view text = WithoutBlanksBehind({bytes.data() + field.offset, field.width});
+  while (text.starts_with(kBlank)) text.remove_prefix(1);
+  return text.empty() ? Text() : codePage.Decode(text);
 }
 
 /// Little-endian, whatever the machine.
@@ -59,37 +71,32 @@ std::int16_t NumberInCell(const Text& cell) {
   return cell.empty() ? std::int16_t{0} : IntegerOf(cell);
 }
 
-void StoreRecord(const DeckRecord& record, ProgramState& state) {
-  const int row = record.number;
-  const auto store = [&state, row](int column, const Text& text) {
-    state.CardGrid.Set(row, column, Text(Trimmed(text)));
-  };
-  store(kCardType, record.cardType);
-  store(kCardText, record.text);
-  store(kRowNumber, DecimalText(record.number));
-  for (std::size_t at = 0; at < record.shortFields.size(); ++at) {
-    store(kChoiceA + static_cast<int>(at), record.shortFields[at]);
-  }
-  store(kAnswer, record.answer);
-  store(kBackText, record.longText);
-  state.CardPresent.Set(row, 1);
+void StoreRecord(DeckRecord&& record, ProgramState& state) {
+  const CardTable::RowCells cells = state.CardGrid.Row(record.number);
+  cells[kCardType] = std::move(record.cardType);
+  cells[kCardText] = std::move(record.text);
+  cells[kRowNumber] = DecimalText(record.number);
+  std::move(record.shortFields.begin(), record.shortFields.end(), cells.begin() + kChoiceA);
+  cells[kAnswer] = std::move(record.answer);
+  cells[kBackText] = std::move(record.longText);
+  state.CardPresent.Set(record.number, 1);
 }
 
 /// A record that was cut off behind its number counts: blanks take the place of what is missing.
-bool ReadRecord(FileNumber& file, const CodePage& codePage, DeckRecord& record) {
+std::optional<DeckRecord> ReadRecord(FileNumber& file, const CodePage& codePage) {
   RecordBytes bytes;
-  bytes.fill(kBlank);
-  if (file.GetNext(bytes) < kLeastRecord) return false;
-  record = DecodeRecord(bytes, codePage);
-  return true;
+  const std::size_t count = file.GetNext(bytes);
+  if (count < kLeastRecord) return std::nullopt;
+  std::fill(bytes.begin() + count, bytes.end(), kBlank);
+  return DecodeRecord(bytes, codePage);
 }
 
 void ReadRecords(FileNumber& file, ProgramState& state, const CodePage& codePage) {
-  DeckRecord record;
-  while (ReadRecord(file, codePage, record)) {
-    if (record.cardType == kTerminator || state.CardCount == kMostCards) return;
-    StoreRecord(record, state);
-    if (record.cardType != kInformation) ++state.CardCount;
+  while (std::optional<DeckRecord> record = ReadRecord(file, codePage)) {
+    if (record->cardType == kTerminator || state.CardCount == kMostCards) return;
+    const bool isCard = record->cardType != kInformation;
+    StoreRecord(std::move(*record), state);
+    if (isCard) ++state.CardCount;
   }
 }
 

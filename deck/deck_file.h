@@ -26,7 +26,7 @@ using RecordBytes = std::array<char, kRecordSize>;
 
 /// Each text is cut or filled up with blanks to its field's width.
 [[nodiscard]] RecordBytes EncodeRecord(const DeckRecord& record, const CodePage& codePage);
-/// Texts come with the blanks of their fields.
+/// Texts come without the blanks at their ends.
 [[nodiscard]] DeckRecord DecodeRecord(std::span<const char, kRecordSize> bytes,
                                       const CodePage& codePage);
 

@@ -1,24 +1,27 @@
 #include "import/utf8_check.h"
 
+#include "platform/ascii.h"
+
 namespace tessara {
 
 namespace {
 
-constexpr unsigned char kFirstNonAscii = 0x80;
 constexpr unsigned char kLowestContinuation = 0x80;
 constexpr unsigned char kHighestContinuation = 0xBF;
 
 }  // namespace
 
 void Utf8Check::Feed(std::string_view block) {
-  for (const char character : block) {
-    const auto byte = static_cast<unsigned char>(character);
+  while (!broken_ && !block.empty()) {
+    if (missing_ == 0) block.remove_prefix(AsciiLength(block));
+    if (block.empty()) return;
+    const auto byte = static_cast<unsigned char>(block.front());
+    block.remove_prefix(1);
     if (missing_ > 0) {
       TakeContinuation(byte);
-    } else if (byte >= kFirstNonAscii) {
+    } else {
       TakeLead(byte);
     }
-    if (broken_) return;
   }
 }
 

@@ -1,6 +1,6 @@
 #include "platform/code_page.h"
 
-#include <algorithm>
+#include "platform/ascii.h"
 
 namespace tessara {
 
@@ -48,20 +48,27 @@ const CodePage& CodePage::Western() {
 }
 
 Text CodePage::Decode(std::string_view bytes) const {
-  Text text(bytes.size(), u'\0');
-  std::transform(bytes.begin(), bytes.end(), text.begin(),
-                 [this](char byte) { return characters_[static_cast<unsigned char>(byte)]; });
-  return text;
+  Text text;
+  text.reserve(bytes.size());
+  while (true) {
+    MoveAscii(text, bytes);
+    if (bytes.empty()) return text;
+    text += characters_[static_cast<unsigned char>(bytes.front())];
+    bytes.remove_prefix(1);
+  }
 }
 
 std::string CodePage::Encode(TextView text) const {
   std::string bytes;
   bytes.reserve(text.size());
-  for (const char16_t character : text) {
-    const auto found = bytes_.find(character);
-    bytes += found == bytes_.end() ? '?' : found->second;
-  }
+  for (const char16_t character : text) bytes += ByteOf(character);
   return bytes;
+}
+
+char CodePage::ByteOf(char16_t character) const {
+  if (character < kFirstUpper) return static_cast<char>(character);
+  const auto found = bytes_.find(character);
+  return found == bytes_.end() ? '?' : found->second;
 }
 
 Text CodePage::Representable(TextView text) const {

@@ -30,6 +30,8 @@ class CodePage {
   [[nodiscard]] bool Holds(char16_t character) const;
 
  private:
+  [[nodiscard]] char ByteOf(char16_t character) const;
+
   std::array<char16_t, 256> characters_{};
   std::unordered_map<char16_t, char> bytes_;
 };

@@ -1,8 +1,9 @@
 #include "platform/text.h"
 
-#include <algorithm>
 #include <cstdint>
 #include <optional>
+
+#include "platform/ascii.h"
 
 namespace tessara {
 
@@ -40,7 +41,6 @@ char16_t UpperCase(char16_t character) {
   return character;
 }
 
-constexpr unsigned char kFirstBeyondAscii = 0x80;
 constexpr char32_t kFirstHighSurrogate = 0xD800;
 constexpr char32_t kFirstLowSurrogate = 0xDC00;
 constexpr char32_t kLastLowSurrogate = 0xDFFF;
@@ -100,16 +100,6 @@ void AppendUnits(Text& text, char32_t character) {
   text += static_cast<char16_t>(kFirstLowSurrogate + (offset & 0x3FFU));
 }
 
-/// Moves the ASCII that the bytes begin with to the text, all of it at once: most of a text is.
-void AppendAscii(Text& text, std::string_view& bytes) {
-  const auto* const end = std::find_if(bytes.begin(), bytes.end(), [](char byte) {
-    return static_cast<unsigned char>(byte) >= kFirstBeyondAscii;
-  });
-  if (end == bytes.begin()) return;
-  text.append(bytes.begin(), end);
-  bytes.remove_prefix(static_cast<std::size_t>(end - bytes.begin()));
-}
-
 /// The character that the text begins with: a pair of surrogates is one.
 char32_t FirstCharacter(TextView text) {
   const char32_t unit = text.front();
@@ -162,7 +152,7 @@ Text FromUtf8(std::string_view bytes) {
   Text text;
   text.reserve(bytes.size());
   while (!bytes.empty()) {
-    AppendAscii(text, bytes);
+    MoveAscii(text, bytes);
     if (bytes.empty()) break;
     const auto lead = static_cast<unsigned char>(bytes.front());
     const std::optional<char32_t> character = FirstCharacter(bytes);

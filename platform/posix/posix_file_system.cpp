@@ -7,7 +7,9 @@
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
+#include "platform/posix/read_ahead.h"
 #include "platform/posix/system_call.h"
 #include "platform/posix/system_error.h"
 #include "platform/run_time_error.h"
@@ -102,6 +104,7 @@ std::unique_ptr<File> PosixFileSystem::Open(const Text& path, OpenMode mode) {
   struct stat status {};
   if (fstat(descriptor, &status) == kFailed) RaisePathError(errno);
   RequireRegularFile(status);
+  if (mode == OpenMode::kRead) return std::make_unique<ReadAhead>(std::move(file));
   return file;
 }
 

@@ -1,0 +1,165 @@
+// Times what the program does with the files of a deck, each beside the plain copy of the same
+// bytes from or to the same file. Prints a line per work: name, median of ours and of the floor in
+// microseconds.
+// usage: bench_files FOLDER     for the files it makes
+
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "deck/deck_file.h"
+#include "import/TextImport.h"
+#include "import/TextImport2.h"
+#include "platform/posix/posix_file_system.h"
+
+using namespace tessara;
+
+namespace {
+
+constexpr int kRuns = 201;
+
+/// Microseconds of one run.
+double Timed(const std::function<void()>& work) {
+  const auto start = std::chrono::steady_clock::now();
+  work();
+  return std::chrono::duration<double, std::micro>(std::chrono::steady_clock::now() - start)
+      .count();
+}
+
+double Median(std::vector<double> times) {
+  std::nth_element(times.begin(), times.begin() + kRuns / 2, times.end());
+  return times[kRuns / 2];
+}
+
+/// In turn, so that both meet the machine in the same mood. The work gets an empty table, as the
+/// running program has one before it loads or imports.
+void Compare(const char* name, const std::function<void(ProgramState&)>& work,
+             const std::function<void()>& floor) {
+  std::vector<double> ours;
+  std::vector<double> least;
+  for (int run = 0; run < kRuns; ++run) {
+    least.push_back(Timed(floor));
+    const auto state = std::make_unique<ProgramState>();
+    ours.push_back(Timed([&] { work(*state); }));
+  }
+  std::printf("%s %.1f %.1f\n", name, Median(ours), Median(least));
+}
+
+struct SilentMessages : MessageBoxes {
+  MessageAnswer Show(const Text& text, int, const Text&) override {
+    std::fprintf(stderr, "%s\n", ToUtf8(text).c_str());
+    return MessageAnswer::kOk;
+  }
+};
+
+class Bench {
+ public:
+  explicit Bench(std::string folder) : folder_(std::move(folder)) {}
+
+  void Run() {
+    FillDeck();
+    Deck();
+    Import("import-standard", StandardText(), ImportStandard);
+    Import("import-extended", ExtendedText(), ImportExtended);
+  }
+
+ private:
+  [[nodiscard]] Text PathOf(const std::string& name) const {
+    return FromUtf8(folder_ + "/" + name);
+  }
+
+  void FillDeck() {
+    deck_.CardPresent.Set(kInfoRow, 1);
+    for (int row = 1; row <= kMostCards; ++row) {
+      deck_.CardPresent.Set(row, 1);
+      deck_.CardGrid.Set(row, kCardType, u"A");
+      deck_.CardGrid.Set(row, kCardText, Text(440, u'q'));
+      deck_.CardGrid.Set(row, kRowNumber, DecimalText(row));
+    }
+  }
+
+  void WriteDeck() {
+    number_.OpenRandom(PathOf("deck.tsr"), OpenMode::kReadAndWrite, kRecordSize);
+    WriteRecords(deck_, number_, page_);
+    number_.Close();
+  }
+
+  void Deck() {
+    const std::size_t size = kRecordSize * (kMostCards + 2);
+    Compare(
+        "deck-save", [this](ProgramState&) { WriteDeck(); },
+        [&] { PlainWrite("plain.tsr", std::string(size, 'x')); });
+    Compare(
+        "deck-load",
+        [this](ProgramState& state) {
+          LoadDeckFromFile(PathOf("deck.tsr"), state, number_, page_);
+          if (state.CardCount != kMostCards) std::abort();
+        },
+        [&] { PlainRead("deck.tsr"); });
+  }
+
+  void Import(const char* name, const std::string& text,
+              void (*import)(const Text&, const ImportContext&)) {
+    const std::string file = std::string(name) + ".txt";
+    PlainWrite(file, text);
+    Compare(
+        name,
+        [&](ProgramState& state) {
+          import(PathOf(file),
+                 {state, number_, messages_, page_, {2026, 1, 5}, [](std::int16_t){}, [](DeckKind) {
+                  }});
+          if (state.CardCount != kMostCards) std::abort();
+        },
+        [&] { PlainRead(file); });
+  }
+
+  void PlainWrite(const std::string& name, const std::string& bytes) {
+    files_.Open(PathOf(name), OpenMode::kReadAndWrite)->WriteAt(0, bytes);
+  }
+
+  /// Into memory of its own, as ours goes.
+  void PlainRead(const std::string& name) {
+    constexpr std::size_t kEnough = 262144;
+    std::vector<char> bytes(kEnough);
+    if (files_.Open(PathOf(name), OpenMode::kRead)->ReadAt(0, bytes) == 0) std::abort();
+  }
+
+  static std::string StandardText() {
+    std::string text = "STD\r\n";
+    for (int card = 1; card <= kMostCards; ++card) {
+      text += std::to_string(card) + ".\r\n*>F\r\n" + std::string(440, 'f') + "\r\n*>B\r\n" +
+              std::string(440, 'b') + "\r\n\r\n";
+    }
+    return text;
+  }
+
+  static std::string ExtendedText() {
+    std::string text = "EXT\r\n";
+    for (int card = 1; card <= kMostCards; ++card) {
+      text += std::to_string(card) + "." + std::string(400, 'q') + "\r\n";
+      for (const char letter : {'A', 'B', 'C', 'D'}) {
+        text += std::string(1, letter) + "." + std::string(120, 'c') + "\r\n";
+      }
+      text += "=C\r\n\r\n";
+    }
+    return text;
+  }
+
+  std::string folder_;
+  PosixFileSystem files_;
+  FileNumber number_{files_};
+  const CodePage& page_ = CodePage::Western();
+  SilentMessages messages_;
+  ProgramState deck_;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 2) return 2;
+  Bench(argv[1]).Run();
+}
