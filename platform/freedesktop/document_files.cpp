@@ -1,5 +1,7 @@
 #include "platform/freedesktop/document_files.h"
 
+#include <string_view>
+
 namespace tessara {
 
 namespace {
@@ -24,6 +26,9 @@ std::string EscapedForXml(const std::string& text) {
   return escaped;
 }
 
+/// What the rules reserve: an argument of Exec with one of these stands in quotes.
+constexpr std::string_view kReserved = " \t\n\"'\\<>~|&;$*?#()`";
+
 }  // namespace
 
 std::string MimePackage(const DocumentType& type) {
@@ -42,8 +47,10 @@ std::string MimePackage(const DocumentType& type) {
 }
 
 std::string QuotedForExec(const std::string& path) {
+  // Without need there are no quotes: some of those who open files do not read them.
+  const std::string quote = path.find_first_of(kReserved) == std::string::npos ? "" : "\"";
   // Two layers: the entry's value doubles a backslash, the quoted argument escapes four characters.
-  std::string quoted = "\"";
+  std::string quoted = quote;
   for (const char c : path) {
     switch (c) {
       case '\\':
@@ -62,7 +69,7 @@ std::string QuotedForExec(const std::string& path) {
         quoted += c;
     }
   }
-  return quoted + "\"";
+  return quoted + quote;
 }
 
 std::string DesktopEntry(const DocumentType& type) {
