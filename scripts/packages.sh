@@ -10,6 +10,7 @@ declare -A packages=(
   [wayland]="qt6-wayland"
   [virtual-display]="xvfb openbox xdotool x11-utils python3-pil"
   [test]="doctest-dev at-spi2-core"
+  [package]="appstream desktop-file-utils dpkg-dev libfile-mimeinfo-perl libglib2.0-bin lintian shared-mime-info xdg-utils"
   [lint]="clang-format-14 clang-tidy-14"
   [fuzz]="clang-14 libclang-rt-14-dev"
 )

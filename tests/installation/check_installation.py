@@ -1,0 +1,154 @@
+#!/usr/bin/python3
+"""Installs the program into a scratch root, starts it there, opens decks by the desktop; packs it.
+
+usage: check_installation.py BUILD [TEST...]     on the display that DISPLAY names
+"""
+import os
+import pathlib
+import shutil
+import subprocess
+import sys
+import tempfile
+import time
+import unittest
+
+SECONDS_TO_WAIT = 60
+SECONDS_BETWEEN_LOOKS = 0.1
+DECK_TYPE = "application/x-tessara-deck"
+
+build = pathlib.Path()
+
+
+def said(*command, **options):
+    """What a command that must succeed writes, its errors included."""
+    done = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, **options)
+    if done.returncode != 0:
+        raise AssertionError(f"{command} ended with {done.returncode}:\n{done.stdout}")
+    return done.stdout.strip()
+
+
+def wait_for(what, look):
+    """What `look` finds, once it finds something."""
+    deadline = time.monotonic() + SECONDS_TO_WAIT
+    while not (found := look()):
+        if time.monotonic() > deadline:
+            raise AssertionError(f"{what} did not come within {SECONDS_TO_WAIT} seconds")
+        time.sleep(SECONDS_BETWEEN_LOOKS)
+    return found
+
+
+def titles_on_screen():
+    found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^Tessara", "getwindowname", "%@"],
+                           stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+    return found.stdout.split("\n")[:-1]
+
+
+class Scratch(unittest.TestCase):
+    """A scratch root with the program installed, and a home in which it has never run."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.folder = pathlib.Path(tempfile.mkdtemp(prefix="tessara-installation-"))
+        cls.addClassCleanup(shutil.rmtree, cls.folder)
+        cls.root = cls.folder / "root"
+        said("cmake", "--install", build, "--prefix", "/usr", env={**os.environ, "DESTDIR": str(cls.root)})
+        cls.usr = cls.root / "usr"
+
+    def setUp(self):
+        home = pathlib.Path(tempfile.mkdtemp(dir=self.folder))
+        self.settings = home / ".config" / "Tessara.conf"
+        self.settings.parent.mkdir()
+        self.settings.write_text("[Settings]\nShowSplash=0\n")
+        self.data = home / ".local" / "share"
+        self.deck = home / "my décks" / "two words.tsr"
+        self.deck.parent.mkdir()
+        shutil.copy(build / "samples" / "capitals.tsr", self.deck)
+        self.environment = {name: value for name, value in os.environ.items()
+                            if not name.startswith("XDG_") or name == "XDG_RUNTIME_DIR"}
+        self.environment["HOME"] = str(home)
+
+    def start(self, *command):
+        """Starts a command that shows the frame and nothing else, and ends all of it."""
+        program = subprocess.Popen(command, env=self.environment, start_new_session=True)
+        try:
+            wait_for("The frame", titles_on_screen)
+            self.assertEqual(titles_on_screen(), ["Tessara 1.0"])
+        finally:
+            os.killpg(program.pid, 15)
+            program.wait()
+            wait_for("The end of the program", lambda: not titles_on_screen())
+
+    def ask(self, *command):
+        return subprocess.run(command, env=self.environment, stdout=subprocess.PIPE, text=True).stdout.strip()
+
+
+class Files(Scratch):
+    def test_the_program_lives_whole_in_its_folder_with_a_link_in_bin(self):
+        folder = self.usr / "lib" / "tessara"
+        self.assertEqual((self.usr / "bin" / "tessara").resolve(), folder / "tessara")
+        for name in ("Notelet.ico", "TessaraHelp.chm", "libtessara_qt_print.so", "libtessara_help.so",
+                     "pictures/info.png", "pictures/backdrops/DEFAULT.jpg", "samples/capitals.tsr",
+                     "icons/hicolor/48x48/apps/tessara.png"):
+            self.assertTrue((folder / name).is_file(), name)
+
+    def test_nothing_of_the_installation_points_to_the_build(self):
+        told = said("readelf", "-d", self.usr / "lib" / "tessara" / "tessara")
+        self.assertNotIn(str(build), told)
+
+    def test_what_the_desktop_reads_stands_by_its_rules(self):
+        share = self.usr / "share"
+        said("desktop-file-validate", share / "applications" / "tessara.desktop")
+        said("appstreamcli", "validate", "--no-net", share / "metainfo" / "io.github.tessara.tessara.metainfo.xml")
+        said("update-mime-database", share / "mime")
+        self.environment["XDG_DATA_DIRS"] = f"{share}:/usr/share"
+        self.assertEqual(self.ask("gio", "info", "-a", "standard::content-type", self.deck).split()[-1], DECK_TYPE)
+
+
+class Start(Scratch):
+    def test_the_first_start_declares_the_deck_type_and_xdg_open_then_starts_the_program(self):
+        program = self.usr / "bin" / "tessara"
+        self.start(program)
+        self.assertIn("FirstLoad=False", self.settings.read_text())
+        wait_for("The deck type", lambda: self.ask("xdg-mime", "query", "default", DECK_TYPE) == "tessara.desktop")
+        for desktop in ("", "GNOME"):
+            with self.subTest(desktop=desktop):
+                self.environment["XDG_CURRENT_DESKTOP"] = desktop
+                self.assertEqual(self.ask("xdg-mime", "query", "filetype", self.deck), DECK_TYPE)
+                self.start("xdg-open", self.deck)
+
+    def test_a_deck_is_opened_by_its_path_and_the_second_start_declares_nothing(self):
+        self.settings.write_text("[Settings]\nFirstLoad=False\nShowSplash=0\n")
+        self.start(self.usr / "bin" / "tessara", self.deck)
+        self.assertFalse((self.data / "applications").exists())
+        self.assertFalse((self.data / "mime").exists())
+
+
+class Package(unittest.TestCase):
+    """The Debian package."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.folder = pathlib.Path(tempfile.mkdtemp(prefix="tessara-package-"))
+        cls.addClassCleanup(shutil.rmtree, cls.folder)
+        said("cpack", "--config", build / "CPackConfig.cmake", "-G", "DEB", "-B", cls.folder)
+        cls.package, = cls.folder.glob("*.deb")
+
+    def field(self, name):
+        return said("dpkg-deb", "--field", self.package, name)
+
+    def test_it_needs_libraries_and_fonts_and_no_office(self):
+        needed = [part.split()[0] for part in self.field("Depends").split(", ")]
+        self.assertIn("fonts-liberation", needed)
+        self.assertIn("libqt6widgets6", needed)
+        self.assertFalse([name for name in needed if name.startswith("libreoffice") or name.endswith("-dev")], needed)
+        recommended = self.field("Recommends").split(", ")
+        for name in ("libreoffice-calc", "xdg-utils", "shared-mime-info", "desktop-file-utils"):
+            self.assertIn(name, recommended)
+
+    def test_lintian_finds_no_error(self):
+        said("lintian", "--fail-on", "error", "--allow-root", self.package)
+
+
+if __name__ == "__main__":
+    build = pathlib.Path(sys.argv.pop(1)).resolve()
+    unittest.main()
