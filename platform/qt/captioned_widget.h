@@ -28,6 +28,10 @@ class CaptionedWidget : public ButtonWidget {
     option->text = shown_;
   }
   void nextCheckState() override {}
+  /// All of the place takes the click, not only mark and letters.
+  [[nodiscard]] bool hitButton(const QPoint& place) const override {
+    return this->rect().contains(place);
+  }
 
  private:
   QString shown_;

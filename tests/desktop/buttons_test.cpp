@@ -58,6 +58,17 @@ TEST_CASE("A click selects one option of a group, and clicks again where it was 
   CHECK(two.isChecked());
 }
 
+TEST_CASE("An option and a check box take a click anywhere in their place") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  for (const char* name : {"Option1(1)", "Check1"}) {
+    QWidget& widget = Desk::Of(name);
+    const QPoint atTheEnd(widget.width() - 2, widget.height() / 2);
+    QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, atTheEnd);
+  }
+  CHECK(form.log.Take() == "lost focus, option 1, check");
+}
+
 TEST_CASE("An option that has room for its mark only is widened for its caption") {
   Desk desk;
   desk.prepare = [](SampleForm& form) {

@@ -78,9 +78,7 @@ class ProgramOnScreen {
     const QWidget* focused = QApplication::focusWidget();
     return focused == nullptr ? "" : focused->objectName().toStdString();
   }
-  static std::string TitleOf(const char* window) {
-    return Top(window).windowTitle().toStdString();
-  }
+  static std::string TitleOf(const char* window) { return Top(window).windowTitle().toStdString(); }
 
   // The keyboard.
   static void Key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
@@ -121,10 +119,7 @@ class ProgramOnScreen {
 
   // The mouse.
   static void Click(const char* control, const char* window = "frmMain") {
-    QWidget& widget = Of(control, window);
-    // Where an option button has its mark.
-    constexpr int kAtTheMark = 8;
-    QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, {kAtTheMark, widget.height() / 2});
+    QTest::mouseClick(&Of(control, window), Qt::LeftButton);
     Settle();
   }
   static void ChooseByMouse(const char* menu, const char* entry) {
@@ -168,7 +163,8 @@ class ProgramOnScreen {
   static void StepTo(const char* wanted, Qt::Key step, const Now& now) {
     constexpr int kMostSteps = 20;
     for (int steps = 0; now() != QLatin1String(wanted); ++steps) {
-      if (steps == kMostSteps) throw std::logic_error(std::string("the keys never get to ") + wanted);
+      if (steps == kMostSteps)
+        throw std::logic_error(std::string("the keys never get to ") + wanted);
       Key(step);
     }
   }
@@ -200,10 +196,18 @@ class ProgramOnScreen {
   PrintModuleSource printing_{u"/nowhere"};
   QtMessageBoxes messages_;
   QtDialogs dialogs_{printing_};
-  Machine machine_ = {messages_,          dialogs_,       fakes_.settings,
-                      files_,             fakes_.copies,  fakes_.clock,
-                      fakes_.desktop,     fakes_.classes, fakes_.noSpreadsheet,
-                      fakes_.noPrinter,   CodePage::Western(), u"/opt/tessara"};
+  Machine machine_ = {messages_,
+                      dialogs_,
+                      fakes_.settings,
+                      files_,
+                      fakes_.copies,
+                      fakes_.clock,
+                      fakes_.desktop,
+                      fakes_.classes,
+                      fakes_.noSpreadsheet,
+                      fakes_.noPrinter,
+                      CodePage::Western(),
+                      u"/opt/tessara"};
 
  public:
   Program program{machine_};
