@@ -1,5 +1,6 @@
 #include <array>
 #include <doctest/doctest.h>
+#include <random>
 
 #include "tests/support/deck_desk.h"
 
@@ -129,6 +130,39 @@ TEST_CASE("percentages are whole, a half rounded up") {
     }
     CHECK(desk.deck->NoteletCtl1.CardBanner() ==
           u"SCORE: " + Text(c.text) + u"% ... RETURN TO STUDY MODE");
+  }
+}
+
+TEST_CASE("scores of random tests are those of a count by hand") {
+  std::mt19937 random(7);
+  const auto roll = [&random](unsigned sides) { return random() % sides; };
+  for (int test = 0; test < 100; ++test) {
+    const int cards = static_cast<int>(1 + roll(12));
+    CAPTURE(test);
+    DeckDesk text;
+    text.OpenStandardDeck(cards);
+    text.deck->mnuTest.Press();
+    int halves = 0;
+    DeckDesk questions;
+    questions.OpenExtendedDeck(cards);
+    questions.deck->mnuTest.Press();
+    int right = 0;
+    for (int card = 1; card <= cards; ++card) {
+      const auto credit = static_cast<Credit>(roll(3));
+      halves += credit == kFull ? 2 : credit == kPartial ? 1 : 0;
+      Grade(text, credit);
+      // Every key is TRUE or B.
+      const int choice = static_cast<int>(roll(card % 2 == 1 ? 2 : 4));
+      right += choice == (card % 2 == 1 ? 0 : 1) ? 1 : 0;
+      questions.deck->Option1[choice].Press();
+      questions.deck->Command3[0].Press();
+    }
+    const Text points = DecimalText(halves / 2) + (halves % 2 == 1 ? u".5" : u"");
+    CHECK(text.deck->NoteletCtl1.CardBanner() ==
+          u"Complete: You scored " + points + u" points out of a possible " + DecimalText(cards));
+    const int percent = (200 * right + cards) / (2 * cards);
+    CHECK(questions.deck->NoteletCtl1.CardBanner() ==
+          u"SCORE: " + DecimalText(percent) + u"% ... RETURN TO STUDY MODE");
   }
 }
 
