@@ -89,7 +89,8 @@ std::string Field(std::string bytes, std::size_t width) {
 
 }  // namespace
 
-TEST_CASE("A text deck typed by keys alone is in its file byte for byte, and back after a restart") {
+TEST_CASE(
+    "A text deck typed by keys alone is in its file byte for byte, and back after a restart") {
   std::string saved;
   {
     ProgramOnScreen desk;
@@ -154,11 +155,10 @@ TEST_CASE("A deck of questions typed by keys alone is in its file byte for byte"
   ProgramOnScreen::Alt(kA);
   ProgramOnScreen::Alt(kC);
   const std::string saved = SaveByKeys(desk, "mnuSave");
-  CHECK(saved ==
-        WithAccents(InfoBytes(NewDeckOfType(u" Extended")) +
-                    QuestionBytes('M', u"Which particle carries\r\na negative charge?", 1,
-                                  {u"proton", u"neutron", u"#lectron", u"photon"}, 'C') +
-                    QuestionBytes('T', u"Spiders are insects.", 2, {}, 'F') + EndBytes()));
+  CHECK(saved == WithAccents(InfoBytes(NewDeckOfType(u" Extended")) +
+                             QuestionBytes('M', u"Which particle carries\r\na negative charge?", 1,
+                                           {u"proton", u"neutron", u"#lectron", u"photon"}, 'C') +
+                             QuestionBytes('T', u"Spiders are insects.", 2, {}, 'F') + EndBytes()));
   CHECK(desk.TakeAsked().empty());
 }
 

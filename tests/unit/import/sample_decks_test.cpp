@@ -33,8 +33,8 @@ TEST_CASE("the sample texts import to the cards of the sample decks, byte for by
     void (ImportDesk::*import)(std::string bytes);
     int fewestCards;
   };
-  for (const Case& c : {Case{"capitals", &ImportDesk::Standard, 190},
-                        Case{"science", &ImportDesk::Extended, 40}}) {
+  for (const Case& c :
+       {Case{"capitals", &ImportDesk::Standard, 190}, Case{"science", &ImportDesk::Extended, 40}}) {
     CAPTURE(c.name);
     ImportDesk desk;
     (desk.*c.import)(BytesOfFile(std::filesystem::path(TESSARA_SAMPLE_TEXTS) / (c.name + ".txt")));
