@@ -1,17 +1,23 @@
 #include "deck/ask_file_name.h"
 
+#include "deck/frmSaveBox.h"
+#include "forms/window.h"
 #include "platform/desktop.h"
 
 namespace tessara {
 
-Text AskFileName(FileDialogMode mode, TextView filter, const Machine& machine) {
-  FileDialogRequest request;
-  request.mode = mode;
-  request.filter = filter;
-  request.flags = kFileMustExist + kHideReadOnly;
-  request.initialFolder = machine.programFolder;
-  Text path = machine.dialogs.AskFile(request);
+Text AskFileName(FileDialogMode mode, TextView filter, AppContext& app) {
+  Machine& machine = app.machine;
+  WindowSlot slot(app.windows, [&app] { return std::make_unique<frmSaveBox>(app.windows); });
+  const Window<frmSaveBox> box(slot);
+  FileDialogRequest& dialog = box->CommonDialog1;
+  dialog.mode = mode;
+  dialog.filter = filter;
+  dialog.flags = kFileMustExist + kHideReadOnly;
+  dialog.initialFolder = machine.programFolder;
+  Text path = machine.dialogs.AskFile(dialog);
   machine.desktop.SetMousePointer(MousePointer::kDefault);
+  box.Unload();
   return path;
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "deck/app_context.h"
 #include "platform/dialogs.h"
-#include "platform/machine.h"
 
 namespace tessara {
 
@@ -10,7 +10,7 @@ inline constexpr TextView kDeckFilter = u"Study Cards|*.tsr";
 
 /// Asks for a path, starting in the program's folder. Empty on a cancel. Sets the mouse pointer
 /// back to the default.
-[[nodiscard]] Text AskFileName(FileDialogMode mode, TextView filter, const Machine& machine);
+[[nodiscard]] Text AskFileName(FileDialogMode mode, TextView filter, AppContext& app);
 
 /// True where a dialog for deck files gave no answer: empty text or the bare pattern.
 [[nodiscard]] bool NoAnswer(TextView path);

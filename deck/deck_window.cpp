@@ -29,7 +29,7 @@ void DeckWindow::ChkSave() {
       u"Unsaved Changes: ");
   if (answer != MessageAnswer::kYes) return;
   if (state.DeckFilePath.empty()) {
-    state.DeckFilePath = AskFileName(FileDialogMode::kSave, kDeckFilter, App().machine);
+    state.DeckFilePath = AskFileName(FileDialogMode::kSave, kDeckFilter, App());
     if (NoAnswer(state.DeckFilePath)) {
       App().machine.messages.Show(u"This file was not saved", kInformationIcon, u"File Not Saved");
     } else {
@@ -73,7 +73,7 @@ void DeckWindow::mnuNCD_Click() {
 void DeckWindow::mnuOCD_Click() {
   ProgramState& state = State();
   App().machine.desktop.SetMousePointer(MousePointer::kHourglass);
-  state.DeckFilePath = AskFileName(FileDialogMode::kOpen, kDeckFilter, App().machine);
+  state.DeckFilePath = AskFileName(FileDialogMode::kOpen, kDeckFilter, App());
   MessageBoxes& messages = App().machine.messages;
   if (NoAnswer(state.DeckFilePath)) return;
   if (!IsDeckFileName(state.DeckFilePath, state, messages)) return;
@@ -110,7 +110,7 @@ void DeckWindow::ShowOpenedDeck() {
 void DeckWindow::mnuSave_Click() {
   ProgramState& state = State();
   if (Caption().starts_with(u"New") && state.SaveOffered) {
-    const Text path = AskFileName(FileDialogMode::kSave, kDeckFilter, App().machine);
+    const Text path = AskFileName(FileDialogMode::kSave, kDeckFilter, App());
     if (RefusedAnswer(path)) return;
     state.DeckFilePath = path;
     state.SaveOffered = false;
@@ -122,7 +122,7 @@ void DeckWindow::mnuSave_Click() {
 
 void DeckWindow::mnuSaveAs_Click() {
   ProgramState& state = State();
-  const Text path = AskFileName(FileDialogMode::kSave, kDeckFilter, App().machine);
+  const Text path = AskFileName(FileDialogMode::kSave, kDeckFilter, App());
   if (RefusedAnswer(path)) return;
   state.DeckFilePath = path;
   SaveTessaraToFile(state.DeckFilePath);

@@ -21,7 +21,7 @@ void DeckWindow::SaveTessaraToFile(const Text& xFilename) {
   }
   if (xFilename.empty()) {
     // The answer is not used: a deck without a path has nowhere to go.
-    static_cast<void>(AskFileName(FileDialogMode::kSave, kDeckFilter, machine));
+    static_cast<void>(AskFileName(FileDialogMode::kSave, kDeckFilter, App()));
   }
   machine.copies.Keep(xFilename);
   if (state.DeckOnFile) SkipErrors([&] { machine.files.Delete(xFilename); });

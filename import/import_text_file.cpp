@@ -41,7 +41,7 @@ ImportContext ContextOf(AppContext& app, FileNumber& fileNumber, Window<DeckWind
 }  // namespace
 
 void ImportTextFile(AppContext& app, FileNumber& fileNumber, Window<DeckWindow> deck) {
-  const Text path = AskFileName(FileDialogMode::kOpen, u"Text File|*.txt", app.machine);
+  const Text path = AskFileName(FileDialogMode::kOpen, u"Text File|*.txt", app);
   if (path.empty()) return;
   const Text format = FirstLine(path, fileNumber, app.machine.codePage);
   const bool extended = IsWord(format, kExtendedWord);

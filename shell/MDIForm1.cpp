@@ -112,7 +112,7 @@ void MDIForm1::mnuExtTessara_Click() {
 void MDIForm1::mnuOPenExisting_Click() {
   ProgramState& state = app_.state;
   ClearAllCards(state);
-  const Text path = AskFileName(FileDialogMode::kOpen, kDeckFilter, app_.machine);
+  const Text path = AskFileName(FileDialogMode::kOpen, kDeckFilter, app_);
   if (NoAnswer(path) || !IsDeckFileName(path, state, app_.machine.messages)) return;
   state.DeckFilePath = path;
   // The deck before the window: the window's load looks at the count of cards.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <stdexcept>
 #include <vector>
 
@@ -23,10 +24,13 @@ class FakeDialogs : public Dialogs {
   /// Nothing is a cancel.
   std::deque<std::optional<PrinterChoice>> printers;
   std::vector<FileDialogRequest> fileRequests;
+  /// Runs while a file dialog is up.
+  std::function<void()> whileAsked;
   std::vector<TextRequest> textRequests;
 
   Text AskFile(const FileDialogRequest& request) override {
     fileRequests.push_back(request);
+    if (whileAsked) whileAsked();
     return Next(files, "file");
   }
   std::optional<Text> AskText(const Text& prompt, const Text& title,
