@@ -34,9 +34,15 @@ struct ProgramDesk {
       bytes.append(encoded.begin(), encoded.end());
     };
     add({u"I", u"", 0, {u"1/2/2003", u" Standard", u"Birds", u"Ann"}, u"", u"All about birds"});
-    for (std::int16_t row = 1; row <= cards; ++row) {
+    for (int row = 1; row <= cards; ++row) {
       const Text number = DecimalText(row);
-      add({Text(type), u"front " + number, row, {}, type == u"T" ? u"T" : u"", u"back " + number});
+      const auto stored = static_cast<std::int16_t>(row);
+      add({Text(type),
+           u"front " + number,
+           stored,
+           {},
+           type == u"T" ? u"T" : u"",
+           u"back " + number});
     }
     add({u"X", u"", 0, {}, u"", u""});
     return bytes;
