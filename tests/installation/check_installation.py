@@ -91,6 +91,10 @@ class Files(Scratch):
                      "icons/hicolor/48x48/apps/tessara.png"):
             self.assertTrue((folder / name).is_file(), name)
 
+    def test_the_spreadsheet_module_and_its_template_go_along_where_they_were_built(self):
+        for name in ("libtessara_libreoffice.so", "Notelet.xlt"):
+            self.assertEqual((self.usr / "lib" / "tessara" / name).is_file(), (build / name).is_file(), name)
+
     def test_nothing_of_the_installation_points_to_the_build(self):
         told = said("readelf", "-d", self.usr / "lib" / "tessara" / "tessara")
         self.assertNotIn(str(build), told)
