@@ -42,8 +42,8 @@ class SpreadsheetServer {
   virtual std::shared_ptr<Workbook> Bind(const Text& templatePath) = 0;
   /// Where the sheets printed from now on go: beside the operations of the sheet.
   virtual void SetDestination(const PrintDestination& destination) = 0;
-  /// The job is over: a PDF file's pages are joined, also those before an error. Raises 61, 70,
-  /// 75, 482, and forgets the job's sheets all the same.
+  /// The job is over: a PDF file's pages are joined, also those before an error. Raises the
+  /// errors of writing a file and 482, and forgets the job's sheets all the same.
   virtual void FinishDestination() = 0;
 };
 

@@ -5,11 +5,12 @@ set -euo pipefail
 scripts=$(dirname "${BASH_SOURCE[0]}")
 
 declare -A packages=(
-  [build]="g++ cmake ninja-build ccache python3 qt6-base-dev libgl1-mesa-dev libchm-dev fp-utils-3.2.2"
-  [run]="fonts-dejavu-core fonts-liberation"
+  [build]="g++ cmake ninja-build ccache python3 qt6-base-dev libgl1-mesa-dev libchm-dev fp-utils-3.2.2
+    libreoffice-calc libreoffice-dev libcups2-dev libqpdf-dev"
+  [run]="fonts-dejavu-core fonts-liberation libreoffice-calc"
   [wayland]="qt6-wayland"
   [virtual-display]="xvfb openbox xdotool x11-utils python3-pil"
-  [test]="doctest-dev at-spi2-core"
+  [test]="doctest-dev at-spi2-core poppler-utils"
   [package]="appstream desktop-file-utils dpkg-dev libfile-mimeinfo-perl libglib2.0-bin lintian shared-mime-info xdg-utils"
   [lint]="clang-format-14 clang-tidy-14"
   [fuzz]="clang-14 libclang-rt-14-dev"

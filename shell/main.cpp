@@ -5,11 +5,11 @@
 #include <clocale>
 #include <filesystem>
 
-#include "platform/absent_spreadsheet.h"
 #include "platform/freedesktop/document_registry.h"
 #include "platform/freedesktop/update_tools.h"
 #include "platform/freedesktop/user_folders.h"
 #include "platform/posix/code_page_of_locale.h"
+#include "platform/posix/loaded_spreadsheet.h"
 #include "platform/posix/posix_clock.h"
 #include "platform/posix/posix_file_system.h"
 #include "platform/posix/posix_safety_copies.h"
@@ -75,7 +75,7 @@ int RunTessara(int argc, char** argv) {
   QtSettingsStore settings;
   QtDesktop desktop([&folderText](const Text& path) { ShowHelpWithModule(folderText, path); });
   DocumentRegistry classes({UserDataFolder(), folder, "tessara"}, StartUpdateTools);
-  AbsentSpreadsheet spreadsheet;
+  LoadedSpreadsheet spreadsheet(folderText);
   Machine machine{messages, dialogs, settings,    files,   copies,   clock,
                   desktop,  classes, spreadsheet, printer, codePage, folderText};
   Program program(machine);

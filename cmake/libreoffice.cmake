@@ -1,0 +1,58 @@
+# The spreadsheet server over UNO, a module that is loaded at its first use, and the template of
+# the card sheets. Where LibreOffice is missing the program is built without them.
+set(officeProgram /usr/lib/libreoffice/program CACHE PATH "Programs and libraries of LibreOffice")
+set(officeSdk /usr/lib/libreoffice/sdk CACHE PATH "Its software development kit")
+
+find_program(CPPUMAKER cppumaker HINTS ${officeSdk}/bin)
+find_package(Cups)
+find_library(QPDF_LIBRARY qpdf)
+file(GLOB libreofficeSources CONFIGURE_DEPENDS platform/libreoffice/*.cpp)
+
+if(CPPUMAKER AND CUPS_FOUND AND QPDF_LIBRARY AND libreofficeSources)
+  # The interfaces that the sources use; what these use in turn is made with them.
+  set(unoInterfaces
+    beans.PropertyValue beans.XPropertySet bridge.UnoUrlResolver connection.NoConnectException
+    document.MacroExecMode document.UpdateDocMode frame.Desktop frame.XComponentLoader frame.XModel
+    frame.XStorable lang.XComponent sheet.XSpreadsheet sheet.XSpreadsheetDocument
+    sheet.XSpreadsheetView text.XText uno.DeploymentException uno.XComponentContext util.XCloseable)
+  list(TRANSFORM unoInterfaces PREPEND -Tcom.sun.star.)
+  set(unoHeaders ${CMAKE_BINARY_DIR}/uno)
+  set(unoStamp ${unoHeaders}/made)
+  add_custom_command(OUTPUT ${unoStamp}
+    COMMAND ${CMAKE_COMMAND} -E env LD_LIBRARY_PATH=${officeProgram}
+            ${CPPUMAKER} -Gc -O${unoHeaders} ${unoInterfaces}
+            ${officeProgram}/types.rdb ${officeProgram}/types/offapi.rdb
+    COMMAND ${CMAKE_COMMAND} -E touch ${unoStamp}
+    COMMENT "Making the headers of LibreOffice's interfaces" VERBATIM)
+  add_custom_target(uno_headers DEPENDS ${unoStamp})
+
+  add_library(tessara_uno INTERFACE)
+  add_dependencies(tessara_uno uno_headers)
+  target_include_directories(tessara_uno SYSTEM INTERFACE ${unoHeaders} ${officeSdk}/include)
+  target_compile_definitions(tessara_uno INTERFACE UNX LINUX GCC CPPU_ENV=gcc3)
+  target_link_libraries(tessara_uno INTERFACE
+    ${officeProgram}/libuno_sal.so.3 ${officeProgram}/libuno_cppu.so.3 ${officeProgram}/libuno_cppuhelpergcc3.so.3)
+
+  add_library(tessara_libreoffice MODULE ${libreofficeSources})
+  add_dependencies(tessara_libreoffice uno_headers)
+  set_target_properties(tessara_libreoffice PROPERTIES
+    LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR} CXX_VISIBILITY_PRESET hidden
+    COMPILE_DEFINITIONS POINTERHOLDER_TRANSITION=4
+    BUILD_RPATH ${officeProgram} INSTALL_RPATH ${officeProgram})
+  target_link_libraries(tessara_libreoffice
+    PRIVATE tessara_warnings tessara_core tessara_posix tessara_uno Cups::Cups ${QPDF_LIBRARY})
+else()
+  message(STATUS "Two-sided printing is left out: libreoffice-dev, libcups2-dev or libqpdf-dev is missing")
+endif()
+
+# The template stands beside the executable.
+find_program(SOFFICE soffice)
+set(templateSource ${CMAKE_SOURCE_DIR}/data/template)
+set(template ${CMAKE_BINARY_DIR}/Notelet.xlt)
+if(SOFFICE)
+  add_custom_command(OUTPUT ${template}
+    COMMAND ${PYTHON3} ${templateSource}/make_template.py ${template}
+    DEPENDS ${templateSource}/make_template.py ${templateSource}/sheet.py
+    COMMENT "Making the template of the card sheets" VERBATIM)
+  add_custom_target(template ALL DEPENDS ${template})
+endif()

@@ -1,0 +1,40 @@
+#include "platform/libreoffice/sheet_output.h"
+
+#include <fstream>
+#include <iterator>
+#include <utility>
+
+#include "platform/libreoffice/join_pdf.h"
+#include "platform/libreoffice/print_queue.h"
+#include "platform/libreoffice/write_file.h"
+
+namespace tessara {
+
+namespace {
+
+std::string ReadAll(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+}  // namespace
+
+void SheetOutput::SetDestination(const PrintDestination& destination) {
+  destination_ = destination;
+  pages_.clear();
+}
+
+void SheetOutput::Print(const std::string& pagePath) {
+  if (destination_.printer.empty()) {
+    pages_.push_back(ReadAll(pagePath));
+  } else {
+    PrintOnQueue(ToUtf8(destination_.printer), pagePath);
+  }
+}
+
+void SheetOutput::Finish() {
+  const std::vector<std::string> pages = std::exchange(pages_, {});
+  if (!pages.empty()) WriteFile(ToUtf8(destination_.pdfFile), JoinPdf(pages));
+}
+
+}  // namespace tessara

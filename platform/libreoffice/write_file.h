@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+
+namespace tessara {
+
+/// Writes the file anew. Raises 53 and 76 (no such folder), 57 (device), 61 (disk full), 70
+/// (permission), 71, 75; a file that could not be written whole is gone.
+void WriteFile(const std::string& path, const std::string& bytes);
+
+}  // namespace tessara

@@ -1,0 +1,80 @@
+#include <chrono>
+#include <doctest/doctest.h>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <optional>
+
+#include "platform/posix/loaded_spreadsheet.h"
+#include "platform/run_time_error.h"
+#include "tests/printing/scratch_folder.h"
+#include "tests/printing/server_processes.h"
+
+namespace tessara {
+namespace {
+
+const std::string kTemplate = PROGRAM_FOLDER "/Notelet.xlt";
+
+/// Name of the stream that makes a compound file a spreadsheet.
+const std::string kWorkbookStream("W\0o\0r\0k\0b\0o\0o\0k\0", 16);
+
+std::optional<ErrorNumber> ErrorOf(const std::function<void()>& step) {
+  try {
+    step();
+    return std::nullopt;
+  } catch (const RunTimeError& error) {
+    return error.Number();
+  }
+}
+
+std::optional<ErrorNumber> ProbeError(const std::string& templatePath,
+                                      const std::string& programFolder = PROGRAM_FOLDER) {
+  LoadedSpreadsheet server(FromUtf8(programFolder));
+  return ErrorOf([&] { server.Probe(FromUtf8(templatePath)); });
+}
+
+TEST_CASE("the probe finds server and template in under 20 milliseconds without starting it") {
+  const auto start = std::chrono::steady_clock::now();
+  CHECK(ProbeError(kTemplate) == std::nullopt);
+  CHECK(std::chrono::steady_clock::now() - start < std::chrono::milliseconds(20));
+  CHECK(test::ServerProcesses().empty());
+}
+
+TEST_CASE("a template that is not there, or none, is told apart") {
+  const test::ScratchFolder folder;
+  const std::string path = folder.File("Notelet.xlt");
+  CHECK(ProbeError(path) == ErrorNumber::kAutomationClassNotFound);
+  std::ofstream(path) << "Cards,on,paper\n";
+  CHECK(ProbeError(path) == ErrorNumber::kAutomationError);
+  std::ofstream(path) << "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1 and no spreadsheet";
+  CHECK(ProbeError(path) == ErrorNumber::kAutomationError);
+  std::filesystem::remove(path);
+  std::filesystem::create_directory(path);
+  CHECK(ProbeError(path) == ErrorNumber::kAutomationError);
+}
+
+TEST_CASE("without the module there is no server") {
+  const test::ScratchFolder folder;
+  CHECK(ProbeError(kTemplate, folder.File("")) == ErrorNumber::kAutomationClassNotFound);
+}
+
+TEST_CASE("binding raises what the probe raises") {
+  const test::ScratchFolder folder;
+  LoadedSpreadsheet server(FromUtf8(PROGRAM_FOLDER));
+  CHECK(ErrorOf([&] { server.Bind(FromUtf8(folder.File("none.xlt"))); }) ==
+        ErrorNumber::kAutomationClassNotFound);
+}
+
+TEST_CASE("a damaged spreadsheet is refused by the server") {
+  const test::ScratchFolder folder;
+  const std::string path = folder.File("Notelet.xlt");
+  std::ofstream(path) << "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1" << kWorkbookStream
+                      << std::string(600, '\0');
+  LoadedSpreadsheet server(FromUtf8(PROGRAM_FOLDER));
+  const auto error = ErrorOf([&] { server.Bind(FromUtf8(path)); });
+  CHECK(error == ErrorNumber::kAutomationError);
+  CHECK(test::ServerProcesses().empty());
+}
+
+}  // namespace
+}  // namespace tessara
