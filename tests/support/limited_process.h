@@ -7,6 +7,13 @@
 
 namespace tessara::test {
 
+/// False under the sanitizers: their own checks open files.
+#ifdef __SANITIZE_ADDRESS__
+inline constexpr bool kOpenFilesCanBeLimited = false;
+#else
+inline constexpr bool kOpenFilesCanBeLimited = true;
+#endif
+
 /// Runs the action in a process of its own in which the system refuses what is over the limit:
 /// RLIMIT_FSIZE bytes of a file, RLIMIT_NOFILE open files. True where it came to its end.
 template <class Action>
