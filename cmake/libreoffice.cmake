@@ -1,5 +1,9 @@
 # The spreadsheet server over UNO, a module that is loaded at its first use, and the template of
 # the card sheets. Where LibreOffice is missing the program is built without them.
+if(NOT TESSARA_DESKTOP)
+  return()
+endif()
+
 set(officeProgram /usr/lib/libreoffice/program CACHE PATH "Programs and libraries of LibreOffice")
 set(officeSdk /usr/lib/libreoffice/sdk CACHE PATH "Its software development kit")
 
@@ -41,6 +45,9 @@ if(CPPUMAKER AND CUPS_FOUND AND QPDF_LIBRARY AND libreofficeSources)
     BUILD_RPATH ${officeProgram} INSTALL_RPATH ${officeProgram})
   target_link_libraries(tessara_libreoffice
     PRIVATE tessara_warnings tessara_core tessara_posix tessara_uno Cups::Cups ${QPDF_LIBRARY})
+  if(TARGET tessara)
+    add_dependencies(tessara tessara_libreoffice)
+  endif()
 else()
   message(STATUS "Two-sided printing is left out: libreoffice-dev, libcups2-dev or libqpdf-dev is missing")
 endif()
@@ -55,4 +62,7 @@ if(SOFFICE)
     DEPENDS ${templateSource}/make_template.py ${templateSource}/sheet.py
     COMMENT "Making the template of the card sheets" VERBATIM)
   add_custom_target(template ALL DEPENDS ${template})
+  if(TARGET tessara)
+    add_dependencies(tessara template)
+  endif()
 endif()
