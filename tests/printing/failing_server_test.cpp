@@ -25,7 +25,7 @@ struct OpenBook {
   std::shared_ptr<Workbook> book = server.Bind(FromUtf8(PROGRAM_FOLDER "/Notelet.xlt"));
   std::shared_ptr<Worksheet> sheet = book->ActiveSheet();
 
-  OpenBook() { server.SetDestination({u"", FromUtf8(folder.File("cards.pdf"))}); }
+  OpenBook() { server.SetDestination({u"", FromUtf8((folder / "cards.pdf").string())}); }
   void Kill() const {
     for (const pid_t process : ServerProcesses()) kill(process, SIGKILL);
   }
@@ -127,7 +127,7 @@ TEST_CASE("a server that hangs while it starts fails the job within 30 seconds")
 
 TEST_CASE("a PDF file that can't be written cancels the job, told once") {
   const test::ScratchFolder folder;
-  for (const std::string& path : {folder.File("none/cards.pdf"), std::string("/dev/full"),
+  for (const std::string& path : {(folder / "none/cards.pdf").string(), std::string("/dev/full"),
                                   std::filesystem::temp_directory_path().string()}) {
     CAPTURE(path);
     OfficeDesk desk(1);

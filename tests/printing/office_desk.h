@@ -10,10 +10,10 @@
 #include "printing/PrintCard.h"
 #include "printing/spreadsheet_job.h"
 #include "tests/printing/printed_pdf.h"
-#include "tests/printing/scratch_folder.h"
 #include "tests/support/fake_machine.h"
 #include "tests/support/headless_renderer.h"
 #include "tests/support/recording_print_surface.h"
+#include "tests/support/scratch_folder.h"
 #include "tests/support/test_frame.h"
 
 namespace tessara::test {
@@ -53,7 +53,7 @@ class OfficeDesk {
     state.CardGrid.Set(row, kCardText, front);
     state.CardGrid.Set(row, kBackText, back);
   }
-  [[nodiscard]] std::string PdfPath() const { return folder.File("cards.pdf"); }
+  [[nodiscard]] std::string PdfPath() const { return (folder / "cards.pdf").string(); }
 
   /// Prints all cards into the PDF file, or into another, and tells the title of the last box.
   std::string Print(bool flip = false, int copies = 1, std::string pdfPath = {}) {

@@ -7,8 +7,8 @@
 
 #include "platform/posix/loaded_spreadsheet.h"
 #include "platform/run_time_error.h"
-#include "tests/printing/scratch_folder.h"
 #include "tests/printing/server_processes.h"
+#include "tests/support/scratch_folder.h"
 
 namespace tessara {
 namespace {
@@ -42,7 +42,7 @@ TEST_CASE("the probe finds server and template in under 20 milliseconds without 
 
 TEST_CASE("a template that is not there, or none, is told apart") {
   const test::ScratchFolder folder;
-  const std::string path = folder.File("Notelet.xlt");
+  const std::string path = (folder / "Notelet.xlt").string();
   CHECK(ProbeError(path) == ErrorNumber::kAutomationClassNotFound);
   std::ofstream(path) << "Cards,on,paper\n";
   CHECK(ProbeError(path) == ErrorNumber::kAutomationError);
@@ -55,19 +55,19 @@ TEST_CASE("a template that is not there, or none, is told apart") {
 
 TEST_CASE("without the module there is no server") {
   const test::ScratchFolder folder;
-  CHECK(ProbeError(kTemplate, folder.File("")) == ErrorNumber::kAutomationClassNotFound);
+  CHECK(ProbeError(kTemplate, (folder / "").string()) == ErrorNumber::kAutomationClassNotFound);
 }
 
 TEST_CASE("binding raises what the probe raises") {
   const test::ScratchFolder folder;
   LoadedSpreadsheet server(FromUtf8(PROGRAM_FOLDER));
-  CHECK(ErrorOf([&] { server.Bind(FromUtf8(folder.File("none.xlt"))); }) ==
+  CHECK(ErrorOf([&] { server.Bind(FromUtf8((folder / "none.xlt").string())); }) ==
         ErrorNumber::kAutomationClassNotFound);
 }
 
 TEST_CASE("a damaged spreadsheet is refused by the server") {
   const test::ScratchFolder folder;
-  const std::string path = folder.File("Notelet.xlt");
+  const std::string path = (folder / "Notelet.xlt").string();
   std::ofstream(path) << "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1" << kWorkbookStream
                       << std::string(600, '\0');
   LoadedSpreadsheet server(FromUtf8(PROGRAM_FOLDER));
