@@ -181,6 +181,30 @@ for skin in 'white-flat 0 0' 'white-3d 0 1' 'yellow-flat 1 0' 'yellow-3d 1 1'; d
 done
 settings 0 1 0 1
 
+# answer TITLE: waits for the box and takes its default button.
+answer() {
+  local frame=$window
+  shown "^$1\$"
+  press Return
+  window=$frame
+}
+
+open "$capitals"
+menu $file Up Up Return
+# The button that selects all cards has no letter, the one beside it has.
+xdotool mousemove --window "$window" 452 503 click 1
+sleep 0.5
+take print-window
+press alt+p
+answer Print
+answer 'PRINT FRONT'
+answer 'PRINT BACK'
+answer PRINT
+end_program
+for side in front:1 back:26; do
+  pdftoppm -r 60 -f "${side#*:}" -singlefile -png "$HOME/print.pdf" "$pictures/sheet-${side%:*}"
+done
+
 open "$capitals"
 menu $help Up Return
 shown Separating
