@@ -51,7 +51,8 @@ class States:
         self._dependencies = dependencies(build)
         self._hashes = {}
         version = subprocess.run([TIDY, "--version"], capture_output=True, check=True).stdout
-        self._rules = version + (ROOT / ".clang-tidy").read_bytes()
+        rules = (ROOT / ".clang-tidy", ROOT / "tests/.clang-tidy")
+        self._rules = version + b"".join(path.read_bytes() for path in rules)
 
     def of(self, command):
         made_from = self._dependencies[self._object_of(command)]
