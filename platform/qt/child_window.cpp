@@ -78,9 +78,12 @@ void ChildWindow::ComeForward() {
   area_.setActiveSubWindow(this);
 }
 
-void ChildWindow::Leave() {
+void ChildWindow::Detach() {
   form_ = nullptr;
   surface_->Detach();
+}
+
+void ChildWindow::Leave() {
   setObjectName(QString());
   hide();
   area_.removeSubWindow(this);

@@ -20,6 +20,7 @@ class ChildWindow final : public QMdiSubWindow, public FormWindow {
   [[nodiscard]] QWidget& Top() override { return *this; }
   void Follow(FormAspect aspect) override;
   void ComeForward() override;
+  void Detach() override;
   void Leave() override;
 
  protected:

@@ -73,9 +73,12 @@ void DialogWindow::ComeForward() {
   activateWindow();
 }
 
-void DialogWindow::Leave() {
+void DialogWindow::Detach() {
   form_ = nullptr;
   surface_->Detach();
+}
+
+void DialogWindow::Leave() {
   hide();
   setParent(nullptr);
   setObjectName(QString());

@@ -16,6 +16,7 @@ class DialogWindow final : public QWidget, public FormWindow {
   [[nodiscard]] QWidget& Top() override { return *this; }
   void Follow(FormAspect aspect) override;
   void ComeForward() override;
+  void Detach() override;
   void Leave() override;
 
  protected:

@@ -19,7 +19,9 @@ class FormWindow {
   [[nodiscard]] virtual QWidget& Top() = 0;
   virtual void Follow(FormAspect aspect) = 0;
   virtual void ComeForward() = 0;
-  /// The form has been unloaded: the window goes from the screen and is destroyed soon after.
+  /// The form has been unloaded: the window knows it no more.
+  virtual void Detach() = 0;
+  /// Goes from the screen, detached, and is destroyed soon after.
   virtual void Leave() = 0;
 };
 

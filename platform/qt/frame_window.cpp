@@ -54,9 +54,12 @@ void FrameWindow::ComeForward() {
   activateWindow();
 }
 
-void FrameWindow::Leave() {
+void FrameWindow::Detach() {
   form_ = nullptr;
   area_->Detach();
+}
+
+void FrameWindow::Leave() {
   hide();
   deleteLater();
 }

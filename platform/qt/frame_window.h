@@ -18,6 +18,7 @@ class FrameWindow final : public QMainWindow, public FormWindow {
   [[nodiscard]] QWidget& Top() override { return *this; }
   void Follow(FormAspect aspect) override;
   void ComeForward() override;
+  void Detach() override;
   void Leave() override;
 
   [[nodiscard]] BackdropArea& Area() const { return *area_; }

@@ -37,9 +37,9 @@ QtRenderer::QtRenderer(WindowSystem& windows, const QString& pictureFolder)
 
 QtRenderer::~QtRenderer() {
   const auto left = shown_;
-  for (const auto& [form, window] : left) {
-    window->Leave();
-  }
+  // All of them first: when one leaves, Qt activates another, whose form may be gone already.
+  for (const auto& [form, window] : left) window->Detach();
+  for (const auto& [form, window] : left) window->Leave();
   for (const auto& [form, window] : left) delete &window->Top();
 }
 
@@ -95,6 +95,7 @@ void QtRenderer::FormUnloaded(Form& form) {
   DropMenusOf(form);
   shown_.erase(&form);
   if (window == frame_) frame_ = nullptr;
+  window->Detach();
   window->Leave();
 }
 

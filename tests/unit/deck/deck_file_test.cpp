@@ -304,7 +304,7 @@ TEST_CASE("a file without a terminator ends with its last record") {
 TEST_CASE("a record that is cut off counts from its number on, with blanks for the rest") {
   const std::string card = RecordBytesOf(u"E", u"front", 1);
   CHECK(Loaded(card.substr(0, 446)).CardCount == 0);
-  for (const std::size_t length : {447, 448, 747, 1191}) {
+  for (const std::size_t length : {447U, 448U, 747U, 1191U}) {
     const ProgramState state = Loaded(card.substr(0, length));
     CHECK(state.CardCount == 1);
     CHECK(state.Cell(1, kCardText) == u"front");

@@ -63,7 +63,7 @@ void CheckSameCards(const ImportDesk& desk, const ProgramState& written) {
 
 TEST_CASE("a standard deck written as a text is read back the same") {
   for (const int cards : {1, 2, 17, 200}) {
-    for (const std::size_t lineLength : {40, 1000}) {
+    for (const std::size_t lineLength : {40U, 1000U}) {
       ProgramState written;
       Chance chance;
       for (int card = 0; card < cards; ++card) AddTextCard(written, chance);
