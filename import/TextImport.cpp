@@ -112,7 +112,7 @@ bool ReadExtendedCards(LineReader& lines, const ImportContext& context) {
 bool StoreExtCard(std::int16_t xCard, std::int16_t xPrev, TextView xText,
                   const ImportContext& context) {
   if (!CheckCardSequence(xCard, xPrev, context.messages)) return false;
-  context.state.CardGrid.Set(xCard, kCardText, Text(xText));
+  context.state.CardGrid.Set(xCard, kCardText, BoundedText(xText));
   context.state.CardGrid.Set(xCard, kRowNumber, DecimalText(xCard));
   context.state.CardPresent.Set(xCard, 1);
   return true;
@@ -124,7 +124,7 @@ bool StoreExtChoice(std::int16_t xCard, TextView xLetter, TextView xLastLetter, 
     context.messages.Show(u"Error in answer sequence.", kOkOnly, Text(kProgramName));
     return false;
   }
-  context.state.CardGrid.Set(xCard, ColumnOfChoice(xLetter), Text(xText));
+  context.state.CardGrid.Set(xCard, ColumnOfChoice(xLetter), BoundedText(xText));
   return true;
 }
 

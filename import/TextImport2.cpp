@@ -63,8 +63,8 @@ class StandardReader {
   }
 
   void AddText() {
-    if (side_ == Side::kFront) front_ += state_.ImportLine;
-    if (side_ == Side::kBack) back_ += state_.ImportLine;
+    if (side_ == Side::kFront) AddBounded(front_, state_.ImportLine);
+    if (side_ == Side::kBack) AddBounded(back_, state_.ImportLine);
   }
 
   bool FinishCard() {

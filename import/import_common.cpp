@@ -28,6 +28,14 @@ bool ReadImportFile(const Text& xFilename, const ImportContext& context, CardsRe
   return good;
 }
 
+Text BoundedText(TextView text) {
+  return Text(text.substr(0, kLongestImportedText));
+}
+
+void AddBounded(Text& text, TextView line) {
+  text += line.substr(0, kLongestImportedText - text.size());
+}
+
 void ShowImportedDeck(DeckKind kind, const ImportContext& context) {
   context.state.CurrentCard = 1;
   context.showDeck(kind);

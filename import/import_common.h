@@ -36,6 +36,14 @@ using CardsReader = bool (*)(LineReader& lines, const ImportContext& context);
 [[nodiscard]] bool ReadImportFile(const Text& xFilename, const ImportContext& context,
                                   CardsReader readCards);
 
+/// The most characters of a text that an import puts into the table. A deck file keeps 444 of
+/// them, and nobody reads more on a card: the bound is there for the file that is no deck at all.
+inline constexpr std::size_t kLongestImportedText = 0x100000;
+/// The text, up to that bound.
+[[nodiscard]] Text BoundedText(TextView text);
+/// Adds a line to a text, up to that bound.
+void AddBounded(Text& text, TextView line);
+
 /// Shows the deck that has been read, at card 1.
 void ShowImportedDeck(DeckKind kind, const ImportContext& context);
 /// Marks the deck as a new one, never saved, with the information that a new one has.

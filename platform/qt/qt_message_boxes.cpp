@@ -11,6 +11,8 @@ namespace tessara {
 
 namespace {
 
+/// The most characters that a classic message box shows; a text without end would fill the screen.
+constexpr std::size_t kLongestMessage = 1024;
 constexpr int kButtonBits = 0x0F;
 constexpr int kIconBits = 0xF0;
 
@@ -80,7 +82,7 @@ MessageAnswer AnswerOf(int button) {
 MessageAnswer QtMessageBoxes::Show(const Text& text, int flags, const Text& title) {
   AnswerBox box(QApplication::activeWindow(), (flags & kButtonBits) == kYesNo);
   box.setTextFormat(Qt::PlainText);
-  box.setText(LinesForQt(text));
+  box.setText(LinesForQt(text.substr(0, kLongestMessage)));
   box.setWindowTitle(TitleForQt(title));
   box.setIcon(IconOf(flags));
   const auto buttons = ButtonsOf(flags);

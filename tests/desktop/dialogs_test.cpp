@@ -85,6 +85,15 @@ TEST_CASE("A message box has its text, title, icon and buttons, all as they stan
   }
 }
 
+TEST_CASE("A message without end is shown as far as a message box goes") {
+  QtMessageBoxes messages;
+  WhenUp<QMessageBox>([](QMessageBox& box) {
+    CHECK(box.text() == QString(1024, 'x'));
+    Press(box, QMessageBox::Ok);
+  });
+  messages.Show(Text(10'000'000, u'x'), kOkOnly, u"Tessara");
+}
+
 TEST_CASE("Escape and the close box do not answer Yes or No") {
   WhenUp<QMessageBox>([](QMessageBox& box) {
     QTest::keyClick(&box, Qt::Key_Escape);

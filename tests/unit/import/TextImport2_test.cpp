@@ -73,6 +73,14 @@ TEST_CASE("lines of a side are joined as they stand, lines of blanks included") 
   CHECK(RowOf(desk.state, 1) == TextCard(u" a   b", u"1", u"\tc "));
 }
 
+TEST_CASE("a side of lines without end takes no more than the bound of an imported text") {
+  const std::string line(400'000, 'x');
+  ImportDesk desk;
+  desk.Standard(Lines({"1.", "*>F", line, line, line, "*>B", std::string(1'500'000, 'y')}));
+  CHECK(RowOf(desk.state, 1) ==
+        TextCard(Text(kLongestImportedText, u'x'), u"1", Text(kLongestImportedText, u'y')));
+}
+
 TEST_CASE("tags stand in either order, repeat, and are known with blanks and in lower case") {
   ImportDesk desk;
   desk.Standard(Lines({"1.", " *>b ", "b1", "*>f", "f1", "*>B", "b2", "*>F  ", "f2", ""}));

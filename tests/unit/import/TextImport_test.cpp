@@ -357,6 +357,14 @@ TEST_CASE("lengths are not checked") {
   CHECK(desk.state.Cell(1, kChoiceA).size() == longText.size());
 }
 
+TEST_CASE("a question or choice without end is kept up to the bound of an imported text") {
+  const std::string text(1'500'000, 'x');
+  ImportDesk desk;
+  desk.Extended(Lines({"1." + text, "A." + text, "=A"}));
+  CHECK(desk.state.Cell(1, kCardText) == Text(kLongestImportedText, u'x'));
+  CHECK(desk.state.Cell(1, kChoiceA) == Text(kLongestImportedText, u'x'));
+}
+
 TEST_CASE("an import does not empty the rows that it fills") {
   ImportDesk desk;
   PutCard(desk.state, 1, u"front", u"back");
