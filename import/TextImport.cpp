@@ -99,7 +99,8 @@ bool ReadExtendedCards(LineReader& lines, const ImportContext& context) {
   ProgramState& state = context.state;
   std::size_t linesWithText = 0;
   while (!lines.AtEnd()) {
-    state.ImportLine = lines.ReadLine();
+    // Swapped, so that the memory of a long line goes with it.
+    lines.ReadLine().swap(state.ImportLine);
     if (!state.ImportLine.empty()) ++linesWithText;
     if (state.CardCount == kMostCards && linesWithText == kLineBehindFullDeck) break;
     const Progress progress = TakeLine(context);

@@ -105,7 +105,8 @@ bool TakeLines(LineReader& lines, StandardReader& reader, ProgramState& state) {
       state.CardCount = kMostCards;
       return true;
     }
-    state.ImportLine = lines.ReadLine();
+    // Swapped, so that the memory of a long line goes with it.
+    lines.ReadLine().swap(state.ImportLine);
     if (IsWord(state.ImportLine, u"*END*")) return true;
     if (!IsTypeLine(state.ImportLine) && !reader.TakeLine()) return false;
   }

@@ -38,7 +38,7 @@ using CardsReader = bool (*)(LineReader& lines, const ImportContext& context);
 
 /// The most characters of a text that an import puts into the table. A deck file keeps 444 of
 /// them, and nobody reads more on a card: the bound is there for the file that is no deck at all.
-inline constexpr std::size_t kLongestImportedText = 0x100000;
+inline constexpr std::size_t kLongestImportedText = 0x40000;
 /// The text, up to that bound.
 [[nodiscard]] Text BoundedText(TextView text);
 /// Adds a line to a text, up to that bound.
