@@ -1,10 +1,11 @@
 # The Qt renderer, the freedesktop adapters and the executable.
 find_package(Qt6 6.4 COMPONENTS Core Gui Widgets PrintSupport Test)
+find_package(Fontconfig REQUIRED)
 file(GLOB qtSources CONFIGURE_DEPENDS platform/qt/*.cpp)
 if(Qt6_FOUND AND qtSources)
   add_library(tessara_qt STATIC ${qtSources})
   target_link_libraries(tessara_qt PRIVATE tessara_warnings
-    PUBLIC tessara_core Qt6::Core Qt6::Gui Qt6::Widgets)
+    PUBLIC tessara_core Qt6::Core Qt6::Gui Qt6::Widgets PRIVATE Fontconfig::Fontconfig)
 endif()
 
 # Printer dialog and print surface: loaded by the first job, from the executable's folder.

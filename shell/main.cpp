@@ -13,6 +13,7 @@
 #include "platform/posix/posix_clock.h"
 #include "platform/posix/posix_file_system.h"
 #include "platform/posix/posix_safety_copies.h"
+#include "platform/qt/fonts_ahead.h"
 #include "platform/qt/help_loader.h"
 #include "platform/qt/lazy_print_surface.h"
 #include "platform/qt/print_module.h"
@@ -60,7 +61,9 @@ fs::path CopiesFolder() {
 }
 
 int RunTessara(int argc, char** argv) {
+  FontsAhead fonts;
   QApplication application(argc, argv);
+  fonts.Wait();
   const fs::path folder = ProgramFolder();
   NameApplication(folder);
   const Text folderText = FromUtf8(folder.string());

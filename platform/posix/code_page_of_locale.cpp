@@ -110,7 +110,9 @@ CodePage CodePageNamed(const std::string& name) {
 }
 
 CodePage CodePageOfLocale() {
-  return CodePageNamed(CodePageNameOf(LocaleOfCharacters()));
+  const std::string name = CodePageNameOf(LocaleOfCharacters());
+  // The most usual one needs no modules of the system's converter.
+  return name == kWestern ? CodePage::Western() : CodePageNamed(name);
 }
 
 }  // namespace tessara

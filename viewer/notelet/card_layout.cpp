@@ -47,8 +47,10 @@ TextStyle StyleThatFits(Canvas& canvas, const Text& text, const Rect& body) {
     if (canvas.TextHeight(text, body.width, style) > body.height) return true;
     return points > kSmallestWithWholeWords && WidestWord(canvas, text, style) > body.width;
   };
+  // Most cards are short, and a size that is not tried needs no font.
+  if (!tooLarge(kLargestBody)) return BodyStyle(kLargestBody);
   const auto* const found =
-      std::partition_point(std::begin(kBodySizes), std::end(kBodySizes), tooLarge);
+      std::partition_point(std::begin(kBodySizes) + 1, std::end(kBodySizes), tooLarge);
   return BodyStyle(found == std::end(kBodySizes) ? kSmallestBody : *found);
 }
 

@@ -83,6 +83,13 @@ TEST_CASE("deleting the only card leaves no cards, row 0 and both arrows off") {
   CHECK_FALSE(desk.arrows[1].Enabled());
 }
 
+TEST_CASE("deleting from a deck that was closed behind its builder counts below zero") {
+  DeleteDesk desk(0);
+  CHECK(desk.Delete(1, MessageAnswer::kYes) == 1);
+  CHECK(desk.state.CardCount == -1);
+  CHECK(desk.card.CardTotal == u"-1");
+}
+
 TEST_CASE("deleting from a full deck leaves row 200 blank and absent") {
   for (const std::int16_t row : {std::int16_t{200}, std::int16_t{1}}) {
     DeleteDesk desk(200);
