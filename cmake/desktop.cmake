@@ -8,12 +8,20 @@ if(Qt6_FOUND AND qtSources)
     PUBLIC tessara_core Qt6::Core Qt6::Gui Qt6::Widgets PRIVATE Fontconfig::Fontconfig)
 endif()
 
+# Print queues: linked into the modules that print, not into the executable that starts.
+if(TARGET tessara_qt)
+  find_package(Cups REQUIRED)
+  file(GLOB cupsSources CONFIGURE_DEPENDS platform/cups/*.cpp)
+  add_library(tessara_cups STATIC ${cupsSources})
+  target_link_libraries(tessara_cups PRIVATE tessara_warnings PUBLIC tessara_core Cups::Cups)
+endif()
+
 # Printer dialog and print surface: loaded by the first job, from the executable's folder.
 if(TARGET tessara_qt)
   file(GLOB qtPrintSources CONFIGURE_DEPENDS platform/qt/print/*.cpp)
   add_library(tessara_qt_print MODULE ${qtPrintSources})
   set_target_properties(tessara_qt_print PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
-  target_link_libraries(tessara_qt_print PRIVATE tessara_warnings tessara_qt Qt6::PrintSupport)
+  target_link_libraries(tessara_qt_print PRIVATE tessara_warnings tessara_qt tessara_cups Qt6::PrintSupport)
 endif()
 
 if(TARGET tessara_qt AND EXISTS ${CMAKE_SOURCE_DIR}/shell/main.cpp)

@@ -8,11 +8,10 @@ set(officeProgram /usr/lib/libreoffice/program CACHE PATH "Programs and librarie
 set(officeSdk /usr/lib/libreoffice/sdk CACHE PATH "Its software development kit")
 
 find_program(CPPUMAKER cppumaker HINTS ${officeSdk}/bin)
-find_package(Cups)
 find_library(QPDF_LIBRARY qpdf)
 file(GLOB libreofficeSources CONFIGURE_DEPENDS platform/libreoffice/*.cpp)
 
-if(CPPUMAKER AND CUPS_FOUND AND QPDF_LIBRARY AND libreofficeSources)
+if(CPPUMAKER AND TARGET tessara_cups AND QPDF_LIBRARY AND libreofficeSources)
   # The interfaces that the sources use; what these use in turn is made with them.
   set(unoInterfaces
     beans.PropertyValue beans.XPropertySet bridge.UnoUrlResolver connection.NoConnectException
@@ -44,12 +43,12 @@ if(CPPUMAKER AND CUPS_FOUND AND QPDF_LIBRARY AND libreofficeSources)
     COMPILE_DEFINITIONS POINTERHOLDER_TRANSITION=4
     BUILD_RPATH ${officeProgram} INSTALL_RPATH ${officeProgram})
   target_link_libraries(tessara_libreoffice
-    PRIVATE tessara_warnings tessara_core tessara_posix tessara_uno Cups::Cups ${QPDF_LIBRARY})
+    PRIVATE tessara_warnings tessara_core tessara_posix tessara_uno tessara_cups ${QPDF_LIBRARY})
   if(TARGET tessara)
     add_dependencies(tessara tessara_libreoffice)
   endif()
 else()
-  message(STATUS "Two-sided printing is left out: libreoffice-dev, libcups2-dev or libqpdf-dev is missing")
+  message(STATUS "Two-sided printing is left out: libreoffice-dev or libqpdf-dev is missing")
 endif()
 
 # The template stands beside the executable.

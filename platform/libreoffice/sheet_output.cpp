@@ -4,13 +4,17 @@
 #include <iterator>
 #include <utility>
 
+#include "platform/cups/print_queue.h"
 #include "platform/libreoffice/join_pdf.h"
-#include "platform/libreoffice/print_queue.h"
 #include "platform/libreoffice/write_file.h"
 
 namespace tessara {
 
 namespace {
+
+/// What would move the cards, or turn the paper before its time.
+constexpr QueueOption kAsTheyStand[] = {
+    {"print-scaling", "none"}, {"sides", "one-sided"}, {"number-up", "1"}};
 
 std::string ReadAll(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
@@ -28,7 +32,7 @@ void SheetOutput::Print(const std::string& pagePath) {
   if (destination_.printer.empty()) {
     pages_.push_back(ReadAll(pagePath));
   } else {
-    PrintOnQueue(ToUtf8(destination_.printer), pagePath);
+    PrintOnQueue(ToUtf8(destination_.printer), pagePath, kAsTheyStand);
   }
 }
 

@@ -24,8 +24,9 @@ MAY_INCLUDE = {
     "printing": BESIDE,
     "shell": SHELL,
     "platform/posix": BASE,
-    "platform/qt": BASE | {"viewer"},
-    "platform/libreoffice": BASE | {"platform/posix"},
+    "platform/cups": BASE,
+    "platform/qt": BASE | {"viewer", "platform/cups"},
+    "platform/libreoffice": BASE | {"platform/posix", "platform/cups"},
     "platform/freedesktop": BASE | {"platform/posix"},
 }
 ADAPTERS = {room for room in MAY_INCLUDE if room.startswith("platform/")}

@@ -1,11 +1,15 @@
 #include "platform/qt/print/qt_print_surface.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QPrinterInfo>
+#include <QTemporaryDir>
 #include <algorithm>
 #include <utility>
 
+#include "platform/cups/print_queue.h"
 #include "platform/qt/qt_text.h"
 #include "platform/run_time_error.h"
 
@@ -24,16 +28,13 @@ double TwipsPerDot(const QPrinter& printer) {
   return kTwipsPerInch / printer.resolution();
 }
 
-std::unique_ptr<QPrinter> PrinterFor(const PrintDestination& destination) {
-  auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-  if (destination.pdfFile.empty()) {
-    printer->setPrinterName(ToQString(destination.printer));
-    if (printer->outputFormat() != QPrinter::NativeFormat || !printer->isValid()) return nullptr;
-  } else {
-    printer->setOutputFormat(QPrinter::PdfFormat);
-    printer->setOutputFileName(ToQString(destination.pdfFile));
-  }
-  return printer;
+/// The page that a queue prints on by default. Raises error 482 where there is no such queue.
+QPageLayout LayoutOfQueue(const Text& queue) {
+  const QPrinterInfo info = QPrinterInfo::printerInfo(ToQString(queue));
+  if (info.isNull()) throw RunTimeError(ErrorNumber::kPrinterError);
+  QPrinter printer(info, QPrinter::HighResolution);
+  printer.setPageSize(info.defaultPageSize());  // not of itself
+  return printer.pageLayout();
 }
 
 }  // namespace
@@ -43,9 +44,16 @@ void QtPrintSurface::SetDestination(const PrintDestination& destination) {
   DropDocument();
 }
 
+bool QtPrintSurface::ToQueue() const {
+  return destination_.pdfFile.empty();
+}
+
 QPrinter& QtPrintSurface::Printer() const {
-  if (printer_ == nullptr) printer_ = PrinterFor(destination_);
-  if (printer_ == nullptr) throw RunTimeError(ErrorNumber::kPrinterError);
+  if (printer_ != nullptr) return *printer_;
+  auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+  printer->setOutputFormat(QPrinter::PdfFormat);
+  if (ToQueue()) printer->setPageLayout(LayoutOfQueue(destination_.printer));
+  printer_ = std::move(printer);
   return *printer_;
 }
 
@@ -120,7 +128,11 @@ void QtPrintSurface::NewPage() {
 
 void QtPrintSurface::EndDocument() {
   try {
-    PaintPages();
+    if (ToQueue()) {
+      SendPages();
+    } else {
+      PaintPages(ToQString(destination_.pdfFile));
+    }
   } catch (const RunTimeError&) {
     DropDocument();
     throw;
@@ -134,7 +146,16 @@ void QtPrintSurface::DropDocument() {
   printer_.reset();
 }
 
-void QtPrintSurface::PaintPages() const {
+/// Qt's own way to a queue does not tell whether the queue has taken the job.
+void QtPrintSurface::SendPages() const {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath(QStringLiteral("listing.pdf"));
+  PaintPages(file);
+  PrintOnQueue(ToUtf8(destination_.printer), QFile::encodeName(file).toStdString(), {});
+}
+
+void QtPrintSurface::PaintPages(const QString& file) const {
+  Printer().setOutputFileName(file);
   QPainter painter;
   if (!painter.begin(&Printer())) throw RunTimeError(ErrorNumber::kPrinterError);
   const double scale = 1 / TwipsPerDot(Printer());
@@ -145,7 +166,7 @@ void QtPrintSurface::PaintPages() const {
   }
   const bool written = painter.end() && Printer().printerState() != QPrinter::Error;
   if (written) return;
-  if (!destination_.pdfFile.empty()) QFile::remove(ToQString(destination_.pdfFile));
+  if (QFileInfo(file).isFile()) QFile::remove(file);  // a device stays
   throw RunTimeError(ErrorNumber::kPrinterError);
 }
 

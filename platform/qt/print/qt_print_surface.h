@@ -12,8 +12,8 @@ class QFontMetricsF;
 
 namespace tessara {
 
-/// Writes on a printer or into a PDF file. A document is kept until it ends and printed then, all
-/// at once: a dropped one leaves no trace, neither in the printer's queue nor on the disk.
+/// Writes for a print queue or into a PDF file. A document is kept until it ends and printed then,
+/// all at once: a dropped one leaves no trace, neither in the printer's queue nor on the disk.
 class QtPrintSurface : public PrintSurface {
  public:
   void SetDestination(const PrintDestination& destination) override;
@@ -44,12 +44,15 @@ class QtPrintSurface : public PrintSurface {
     std::vector<QLineF> rules;
   };
 
-  /// The printer that the document goes to, made at the document's first operation.
+  [[nodiscard]] bool ToQueue() const;
+  /// Draws the document, on the page of its destination; made at the document's first operation.
   [[nodiscard]] QPrinter& Printer() const;
   [[nodiscard]] QFontMetricsF Metrics() const;
   [[nodiscard]] double LineHeight() const;
   [[nodiscard]] Page& CurrentPage();
-  void PaintPages() const;
+  void SendPages() const;
+  /// Raises error 482, with nothing left of the file, where it can't be written.
+  void PaintPages(const QString& file) const;
   static void Paint(const Page& page, QPainter& painter);
 
   PrintDestination destination_;

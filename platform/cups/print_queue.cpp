@@ -1,4 +1,4 @@
-#include "platform/libreoffice/print_queue.h"
+#include "platform/cups/print_queue.h"
 
 #include <cups/cups.h>
 #include <memory>
@@ -14,16 +14,19 @@ struct FreeDestination {
 };
 using Destination = std::unique_ptr<cups_dest_t, FreeDestination>;
 
+void Set(cups_dest_t& destination, const QueueOption& option) {
+  destination.num_options =
+      cupsAddOption(option.name, option.value, destination.num_options, &destination.options);
+}
+
 }  // namespace
 
-void PrintOnQueue(const std::string& queue, const std::string& pdfPath) {
+void PrintOnQueue(const std::string& queue, const std::string& pdfPath,
+                  std::span<const QueueOption> options) {
   const Destination destination(cupsGetNamedDest(CUPS_HTTP_DEFAULT, queue.c_str(), nullptr));
   if (destination == nullptr) throw RunTimeError(ErrorNumber::kPrinterError);
-  // The user's own options for the queue, but for what would move the cards or turn the paper.
-  destination->num_options =
-      cupsAddOption("print-scaling", "none", destination->num_options, &destination->options);
-  destination->num_options =
-      cupsAddOption("sides", "one-sided", destination->num_options, &destination->options);
+  Set(*destination, {"copies", "1"});
+  for (const QueueOption& option : options) Set(*destination, option);
   const int job = cupsPrintFile(destination->name, pdfPath.c_str(), "Tessara",
                                 destination->num_options, destination->options);
   if (job == 0) throw RunTimeError(ErrorNumber::kPrinterError);
