@@ -4,49 +4,18 @@
 
 #include "tests/printing/office_desk.h"
 #include "tests/printing/server_processes.h"
+#include "tests/printing/sheet_checks.h"
 
 namespace tessara {
 namespace {
 
+using test::CheckSheets;
+using test::kTolerance;
 using test::OfficeDesk;
 using test::PrintedPage;
 using test::PrintedWord;
 
-/// Millimetres by which a back may miss its front.
-constexpr double kTolerance = 0.5;
-
 constexpr double kCardHeight = 58.5;
-
-struct Spot {
-  double x;
-  double y;
-};
-
-Spot CenterOf(const PrintedWord& word) {
-  return {(word.left + word.right) / 2, (word.top + word.bottom) / 2};
-}
-
-/// Where a spot of the sheet's face is when the sheet is turned and seen from behind.
-Spot Turned(const PrintedPage& page, const Spot& spot, bool flip) {
-  return flip ? Spot{spot.x, page.height - spot.y} : Spot{page.width - spot.x, spot.y};
-}
-
-void CheckBackBehindFront(const PrintedPage& front, const PrintedPage& back, int card, bool flip) {
-  CAPTURE(card);
-  const Spot face = CenterOf(front.Word("F" + std::to_string(card)));
-  const Spot behind = Turned(back, CenterOf(back.Word("B" + std::to_string(card))), flip);
-  CHECK(std::abs(face.x - behind.x) < kTolerance);
-  CHECK(std::abs(face.y - behind.y) < kTolerance);
-}
-
-void CheckSheets(const std::vector<PrintedPage>& pages, int cards, bool flip) {
-  const int sheets = (cards + 7) / 8;
-  REQUIRE(static_cast<int>(pages.size()) == 2 * sheets);
-  for (int card = 1; card <= cards; ++card) {
-    const auto sheet = static_cast<std::size_t>((card - 1) / 8);
-    CheckBackBehindFront(pages[sheet], pages[sheet + static_cast<std::size_t>(sheets)], card, flip);
-  }
-}
 
 TEST_CASE("every back lies behind its front when the sheet is turned") {
   struct Case {

@@ -18,6 +18,12 @@
 
 namespace tessara::test {
 
+/// What a desk uses in place of a dialog that is answered beforehand and a recording surface.
+struct Devices {
+  Dialogs* dialogs = nullptr;
+  PrintSurface* printer = nullptr;
+};
+
 /// A print window on the real spreadsheet server. Card 1 reads "F1" and "B1", and so on.
 class OfficeDesk {
  public:
@@ -25,7 +31,7 @@ class OfficeDesk {
   LoadedSpreadsheet server{FromUtf8(PROGRAM_FOLDER)};
   FakeMachine fakes;
   RecordingPrintSurface surface;
-  Machine machine = WithServer();
+  Machine machine;
   WindowSystem windows{fakes.messages, machine.codePage};
   HeadlessRenderer renderer;
   ProgramState state;
@@ -39,7 +45,7 @@ class OfficeDesk {
                   [this] { return std::make_unique<PrintCard>(app, job, Window<Form>(deckSlot)); }};
   Window<PrintCard> window{slot};
 
-  explicit OfficeDesk(int cards) {
+  explicit OfficeDesk(int cards, const Devices& devices = {}) : machine(WithServer(devices)) {
     windows.SetRenderer(renderer);
     machine.programFolder = FromUtf8(PROGRAM_FOLDER);
     state.CanPrintCards = true;
@@ -58,11 +64,18 @@ class OfficeDesk {
   /// Prints all cards into the PDF file, or into another, and tells the title of the last box.
   std::string Print(bool flip = false, int copies = 1, std::string pdfPath = {}) {
     if (pdfPath.empty()) pdfPath = PdfPath();
+    fakes.dialogs.printers.emplace_back(PrinterChoice{{u"", FromUtf8(pdfPath)}, copies});
+    return PressPrint(flip ? Mode::kFlip : Mode::kCards, copies);
+  }
+
+  enum class Mode { kCards, kFlip, kFlat };
+  /// Prints all cards to where the dialog says, with a Yes to each copy.
+  std::string PressPrint(Mode mode, int copies = 1) {
     PrintCard& opened = window.Loaded();
     opened.SelectAll();
-    opened.Check2.SetTicked(flip);
+    opened.Check1.SetTicked(mode == Mode::kFlat);
+    opened.Check2.SetTicked(mode == Mode::kFlip);
     opened.Command1[1].SetEnabled(true);
-    fakes.dialogs.printers.emplace_back(PrinterChoice{{u"", FromUtf8(pdfPath)}, copies});
     for (int copy = 1; copy < copies; ++copy) fakes.messages.answers.push_back(MessageAnswer::kYes);
     opened.Command1[1].Press();
     return ToUtf8(fakes.messages.shown.back().title);
@@ -70,9 +83,11 @@ class OfficeDesk {
   [[nodiscard]] std::vector<PrintedPage> Pages() const { return ReadPdf(PdfPath()); }
 
  private:
-  Machine WithServer() {
+  Machine WithServer(const Devices& devices) {
     fakes.spreadsheet = &server;
     fakes.printer = &surface;
+    if (devices.printer != nullptr) fakes.printer = devices.printer;
+    if (devices.dialogs != nullptr) fakes.chooser = devices.dialogs;
     return fakes.Get();
   }
 };

@@ -149,12 +149,13 @@ struct FakeMachine {
   NoPrinter noPrinter;
   FileSystem* fileSystem = &files;
   SafetyCopies* safetyCopies = &copies;
+  Dialogs* chooser = &dialogs;
   SpreadsheetServer* spreadsheet = &noSpreadsheet;
   PrintSurface* printer = &noPrinter;
 
   [[nodiscard]] Machine Get() {
-    return {messages, dialogs, settings,     *fileSystem, *safetyCopies,       clock,
-            desktop,  classes, *spreadsheet, *printer,    CodePage::Western(), u"/opt/tessara"};
+    return {messages, *chooser, settings,     *fileSystem, *safetyCopies,       clock,
+            desktop,  classes,  *spreadsheet, *printer,    CodePage::Western(), u"/opt/tessara"};
   }
 };
 

@@ -1,0 +1,115 @@
+#include <QApplication>
+#include <QComboBox>
+#include <QDialogButtonBox>
+#include <QPrintDialog>
+#include <QPushButton>
+#include <QSpinBox>
+#include <QTest>
+#include <QTimer>
+#include <doctest/doctest.h>
+
+#include "platform/qt/lazy_print_surface.h"
+#include "platform/qt/qt_dialogs.h"
+#include "tests/printing/office_desk.h"
+#include "tests/printing/print_server.h"
+#include "tests/printing/server_processes.h"
+#include "tests/printing/sheet_checks.h"
+
+namespace tessara {
+namespace {
+
+using test::OfficeDesk;
+using test::PrintedJob;
+using test::PrintedPage;
+using test::PrintServer;
+using Mode = OfficeDesk::Mode;
+
+/// The print window with the real dialog, server and surface.
+struct PaperDesk {
+  PrintModuleSource printing{FromUtf8(PROGRAM_FOLDER)};
+  QtDialogs dialogs{printing};
+  LazyPrintSurface surface{printing};
+  OfficeDesk office;
+  PrintServer& queues = PrintServer::Instance();
+
+  explicit PaperDesk(int cards) : office(cards, {&dialogs, &surface}) {}
+
+  /// Chooses the queue and the copies in the dialog, and prints all cards.
+  std::string Print(const char* queue, Mode mode, int copies = 1) {
+    QTimer::singleShot(0, [=] {
+      auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+      REQUIRE(dialog != nullptr);
+      dialog->findChild<QComboBox*>("printers")->setCurrentText(queue);
+      dialog->findChild<QSpinBox*>("copies")->setValue(copies);
+      auto* buttons = dialog->findChild<QDialogButtonBox*>();
+      QTest::mouseClick(buttons->button(QDialogButtonBox::Ok), Qt::LeftButton);
+    });
+    return office.PressPrint(mode, copies);
+  }
+};
+
+std::vector<PrintedPage> PagesOf(const std::vector<PrintedJob>& jobs) {
+  std::vector<PrintedPage> pages;
+  for (const PrintedJob& job : jobs) pages.insert(pages.end(), job.pages.begin(), job.pages.end());
+  return pages;
+}
+
+TEST_CASE("card sheets go to the queue chosen in the dialog, in the order of their printing") {
+  PaperDesk desk(17);
+  REQUIRE(desk.Print(PrintServer::kQueue, Mode::kFlip) == "PRINT");
+  const std::vector<PrintedPage> pages = PagesOf(desk.queues.TakeJobs(PrintServer::kQueue, 6));
+  test::CheckSheets(pages, 17, true);
+  const char* pageLines[] = {"Page 1 - Front VV", "Page 2 - Front VV", "Page 3 - Front VV",
+                             "Page 1 - Back",     "Page 2 - Back",     "Page 3 - Back"};
+  for (std::size_t page = 0; page < std::size(pageLines); ++page) {
+    CHECK(pages[page].Has(pageLines[page]));
+  }
+}
+
+TEST_CASE("copies of card sheets are printed again, and the queue's own settings move no card") {
+  PaperDesk desk(3);
+  REQUIRE(desk.Print(PrintServer::kOtherQueue, Mode::kCards, 2) == "PRINT");
+  const std::vector<PrintedJob> jobs = desk.queues.TakeJobs(PrintServer::kOtherQueue, 4);
+  for (const PrintedJob& job : jobs) {
+    CHECK(job.copies == 1);
+    CHECK(job.pages.size() == 1);
+    for (const char* option : {"print-scaling=none", "sides=one-sided", "number-up=1"}) {
+      INFO(job.options);
+      CHECK(job.Has(option));
+    }
+  }
+  CHECK(jobs[2].pages.front().Has("F3"));
+  CHECK(jobs[3].pages.front().Has("B3"));
+}
+
+TEST_CASE("each copy of a listing is a job on the chosen queue's own paper") {
+  PaperDesk desk(40);
+  desk.office.state.DeckTitle = u"Numbers";
+  REQUIRE(desk.Print(PrintServer::kOtherQueue, Mode::kFlat, 2) == "PRINT");
+  const std::vector<PrintedJob> jobs = desk.queues.TakeJobs(PrintServer::kOtherQueue, 2);
+  for (const PrintedJob& job : jobs) {
+    CHECK(job.copies == 1);
+    REQUIRE(job.pages.size() > 1);
+    CHECK(job.pages[0].width == doctest::Approx(215.9).epsilon(0.01));
+    CHECK(job.pages[0].Text().starts_with("TITLE: Numbers"));
+    CHECK(job.pages.back().Has("Card #40"));
+  }
+  // A heading stands above the texts of the card behind it.
+  CHECK(jobs[0].pages[0].Has("Card #1 F2 B2 Card #2 F3 B3"));
+}
+
+TEST_CASE("a queue that takes no jobs cancels the job, and the next one prints elsewhere") {
+  for (const Mode mode : {Mode::kCards, Mode::kFlat}) {
+    CAPTURE(static_cast<int>(mode));
+    PaperDesk desk(3);
+    CHECK(desk.Print(PrintServer::kRefusingQueue, mode) == "Cancel Printing");
+    CHECK(desk.office.fakes.messages.shown.back().text == u"Printing was cancelled");
+    CHECK(test::ServerProcesses().empty());
+    CHECK(test::FilesLeftBehind().empty());
+    desk.Print(PrintServer::kQueue, Mode::kCards);
+    test::CheckSheets(PagesOf(desk.queues.TakeJobs(PrintServer::kQueue, 2)), 3, false);
+  }
+}
+
+}  // namespace
+}  // namespace tessara
