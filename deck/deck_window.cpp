@@ -81,12 +81,14 @@ void DeckWindow::mnuOCD_Click() {
   // The path is the new one by now: a Yes here writes the old deck over the chosen file.
   ChkSave();
   ClearAllCards(state);
-  LoadDeck(state.DeckFilePath);
-  ShowOpenedDeck();
+  LoadAndShowDeck(state.DeckFilePath);
+  mnuSaveAs.SetEnabled(state.CardCount >= 1);
+  state.DeckOnFile = true;
 }
 
-void DeckWindow::ShowOpenedDeck() {
+void DeckWindow::LoadAndShowDeck(const Text& xFilename) {
   ProgramState& state = State();
+  LoadDeck(xFilename);
   Card().SetCardNumber(u"1");
   state.CurrentCard = 1;
   OpenViewOfFirstCard();
@@ -103,8 +105,6 @@ void DeckWindow::ShowOpenedDeck() {
   Card().SetFrontLines(true);
   Card().SetFrontRule(true);
   mnuNCD.SetEnabled(state.HasCards());
-  mnuSaveAs.SetEnabled(state.CardCount >= 1);
-  state.DeckOnFile = true;
 }
 
 void DeckWindow::mnuSave_Click() {

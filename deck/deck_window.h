@@ -77,13 +77,14 @@ class DeckWindow : public Form {
  protected:
   void Form_Unload(bool& cancel) override;
 
+  /// Loads the deck and brings it up in study mode on its first card.
+  void LoadAndShowDeck(const Text& xFilename);
+
   [[nodiscard]] AppContext& App() const { return app_; }
   [[nodiscard]] ProgramState& State() const { return app_.state; }
   [[nodiscard]] Window<frmInfo> Info() const { return info_; }
 
  private:
-  /// Steps of opening a deck once it is in the table.
-  void ShowOpenedDeck();
   /// True where a save was not given a name; says so.
   bool RefusedAnswer(const Text& path);
 

@@ -15,24 +15,7 @@ constexpr int kAskedWidth = 7320;
 }  // namespace
 
 void frmMain::CommandLineLoad(const Text& xFilename) {
-  ProgramState& state = State();
-  LoadDeck(xFilename);
-  NoteletCtl1.SetCardNumber(u"1");
-  state.CurrentCard = 1;
-  OpenViewOfFirstCard();
-  NoteletCtl1.SetCardTotal(DecimalText(state.CardCount));
-  UpdateMoveButtons();
-  ShowTitle(u"[STUDY]");
-  state.DeckChanged = false;
-  state.SaveOffered = false;
-  ConfigSaveMenu();
-  AutoModeMenu();
-  AfterEditShow(state.DeckType);
-  state.CardMode = kStudyMode;
-  state.TestPoints = 0;
-  NoteletCtl1.SetFrontLines(true);
-  NoteletCtl1.SetFrontRule(true);
-  mnuNCD.SetEnabled(state.HasCards());
+  LoadAndShowDeck(xFilename);
 }
 
 void frmMain::ShowNewCard(std::int32_t Typecard) {
