@@ -21,7 +21,7 @@ if(TARGET tessara_qt)
   file(GLOB qtPrintSources CONFIGURE_DEPENDS platform/qt/print/*.cpp)
   add_library(tessara_qt_print MODULE ${qtPrintSources})
   set_target_properties(tessara_qt_print PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
-  target_link_libraries(tessara_qt_print PRIVATE tessara_warnings tessara_qt tessara_cups Qt6::PrintSupport)
+  target_link_libraries(tessara_qt_print PRIVATE tessara_warnings tessara_qt tessara_cups tessara_posix Qt6::PrintSupport)
 endif()
 
 if(TARGET tessara_qt AND EXISTS ${CMAKE_SOURCE_DIR}/shell/main.cpp)

@@ -7,8 +7,8 @@ namespace tessara {
 
 /// A page to write on, line by line. All lengths are twips unless told otherwise.
 /// A document begins with the first thing written or asked about its page, and ends with
-/// EndDocument, which sends it; setting destination and copies begins none. Every operation may
-/// raise error 482 (printer).
+/// EndDocument, which sends it and raises the errors of writing a file too; setting destination and
+/// copies begins none. Every operation may raise error 482 (printer).
 class PrintSurface {
  public:
   virtual ~PrintSurface() = default;

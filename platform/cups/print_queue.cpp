@@ -25,7 +25,6 @@ void PrintOnQueue(const std::string& queue, const std::string& pdfPath,
                   std::span<const QueueOption> options) {
   const Destination destination(cupsGetNamedDest(CUPS_HTTP_DEFAULT, queue.c_str(), nullptr));
   if (destination == nullptr) throw RunTimeError(ErrorNumber::kPrinterError);
-  Set(*destination, {"copies", "1"});
   for (const QueueOption& option : options) Set(*destination, option);
   const int job = cupsPrintFile(destination->name, pdfPath.c_str(), "Tessara",
                                 destination->num_options, destination->options);

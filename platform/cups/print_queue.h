@@ -11,7 +11,7 @@ struct QueueOption {
   const char* value;
 };
 
-/// Sends a PDF file to a print queue, once, with the user's own options for the queue but for
+/// Sends a PDF file to a print queue, with the user's own options for the queue but for
 /// those given here. Raises error 482 where there is no such queue or it takes no job.
 void PrintOnQueue(const std::string& queue, const std::string& pdfPath,
                   std::span<const QueueOption> options);

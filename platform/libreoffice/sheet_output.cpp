@@ -6,7 +6,7 @@
 
 #include "platform/cups/print_queue.h"
 #include "platform/libreoffice/join_pdf.h"
-#include "platform/libreoffice/write_file.h"
+#include "platform/posix/write_file.h"
 
 namespace tessara {
 
@@ -14,7 +14,7 @@ namespace {
 
 /// What would move the cards, or turn the paper before its time.
 constexpr QueueOption kAsTheyStand[] = {
-    {"print-scaling", "none"}, {"sides", "one-sided"}, {"number-up", "1"}};
+    {"copies", "1"}, {"print-scaling", "none"}, {"sides", "one-sided"}, {"number-up", "1"}};
 
 std::string ReadAll(const std::string& path) {
   std::ifstream file(path, std::ios::binary);

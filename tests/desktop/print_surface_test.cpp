@@ -89,7 +89,7 @@ TEST_CASE("Nothing of a dropped document is printed, then or later") {
   CHECK(desk.Pages() == 1);
 }
 
-TEST_CASE("A printer or a file that can't be written is error 482") {
+TEST_CASE("A printer or a file that can't be written to is an error") {
   PdfDesk desk;
   SUBCASE("no such printer") {
     desk.surface.SetDestination({u"no such printer", u""});

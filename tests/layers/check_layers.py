@@ -25,7 +25,7 @@ MAY_INCLUDE = {
     "shell": SHELL,
     "platform/posix": BASE,
     "platform/cups": BASE,
-    "platform/qt": BASE | {"viewer", "platform/cups"},
+    "platform/qt": BASE | {"viewer", "platform/cups", "platform/posix"},
     "platform/libreoffice": BASE | {"platform/posix", "platform/cups"},
     "platform/freedesktop": BASE | {"platform/posix"},
 }

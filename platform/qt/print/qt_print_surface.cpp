@@ -1,15 +1,16 @@
 #include "platform/qt/print/qt_print_surface.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QPrinter>
 #include <QPrinterInfo>
-#include <QTemporaryDir>
+#include <QTemporaryFile>
 #include <algorithm>
 #include <utility>
 
 #include "platform/cups/print_queue.h"
+#include "platform/posix/write_file.h"
 #include "platform/qt/qt_text.h"
 #include "platform/run_time_error.h"
 
@@ -24,8 +25,8 @@ QStringList LinesOf(const Text& text) {
   return LinesForQt(text).replace(u'\r', u'\n').split(u'\n');
 }
 
-double TwipsPerDot(const QPrinter& printer) {
-  return kTwipsPerInch / printer.resolution();
+double TwipsPerDot(const QPdfWriter& writer) {
+  return kTwipsPerInch / writer.resolution();
 }
 
 /// The page that a queue prints on by default. Raises error 482 where there is no such queue.
@@ -48,17 +49,17 @@ bool QtPrintSurface::ToQueue() const {
   return destination_.pdfFile.empty();
 }
 
-QPrinter& QtPrintSurface::Printer() const {
-  if (printer_ != nullptr) return *printer_;
-  auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-  printer->setOutputFormat(QPrinter::PdfFormat);
-  if (ToQueue()) printer->setPageLayout(LayoutOfQueue(destination_.printer));
-  printer_ = std::move(printer);
-  return *printer_;
+QPdfWriter& QtPrintSurface::Writer() const {
+  if (document_ == nullptr) {
+    auto document = std::make_unique<Document>();
+    if (ToQueue()) document->writer.setPageLayout(LayoutOfQueue(destination_.printer));
+    document_ = std::move(document);
+  }
+  return document_->writer;
 }
 
 void QtPrintSurface::SetCopies(int copies) {
-  Printer().setCopyCount(copies);
+  copies_ = copies;
 }
 void QtPrintSurface::SetFontName(const Text& name) {
   font_.setFamily(ToQString(name));
@@ -74,11 +75,11 @@ void QtPrintSurface::SetItalic(bool italic) {
 }
 
 QFontMetricsF QtPrintSurface::Metrics() const {
-  return {font_, &Printer()};
+  return {font_, &Writer()};
 }
 
 double QtPrintSurface::LineHeight() const {
-  return Metrics().lineSpacing() * TwipsPerDot(Printer());
+  return Metrics().lineSpacing() * TwipsPerDot(Writer());
 }
 
 QtPrintSurface::Page& QtPrintSurface::CurrentPage() {
@@ -100,11 +101,11 @@ void QtPrintSurface::DrawLine(double x1, double y1, double x2, double y2) {
 }
 
 double QtPrintSurface::PageWidth() const {
-  return Printer().pageLayout().paintRect(QPageLayout::Point).width() * kTwipsPerPoint;
+  return Writer().pageLayout().paintRect(QPageLayout::Point).width() * kTwipsPerPoint;
 }
 
 double QtPrintSurface::PageHeight() const {
-  return Printer().pageLayout().paintRect(QPageLayout::Point).height() * kTwipsPerPoint;
+  return Writer().pageLayout().paintRect(QPageLayout::Point).height() * kTwipsPerPoint;
 }
 
 double QtPrintSurface::TextWidth(const Text& text) const {
@@ -113,7 +114,7 @@ double QtPrintSurface::TextWidth(const Text& text) const {
   for (const QString& line : LinesOf(text)) {
     widest = std::max(widest, metrics.horizontalAdvance(line));
   }
-  return widest * TwipsPerDot(Printer());
+  return widest * TwipsPerDot(Writer());
 }
 
 double QtPrintSurface::TextHeight(const Text& text) const {
@@ -128,11 +129,7 @@ void QtPrintSurface::NewPage() {
 
 void QtPrintSurface::EndDocument() {
   try {
-    if (ToQueue()) {
-      SendPages();
-    } else {
-      PaintPages(ToQString(destination_.pdfFile));
-    }
+    Send(PaintPages());
   } catch (const RunTimeError&) {
     DropDocument();
     throw;
@@ -143,31 +140,36 @@ void QtPrintSurface::EndDocument() {
 void QtPrintSurface::DropDocument() {
   pages_.clear();
   y_ = 0;
-  printer_.reset();
+  document_.reset();
 }
 
-/// Qt's own way to a queue does not tell whether the queue has taken the job.
-void QtPrintSurface::SendPages() const {
-  const QTemporaryDir folder;
-  const QString file = folder.filePath(QStringLiteral("listing.pdf"));
-  PaintPages(file);
-  PrintOnQueue(ToUtf8(destination_.printer), QFile::encodeName(file).toStdString(), {});
+/// Qt's own ways to a queue and into a file do not tell whether all has got there.
+void QtPrintSurface::Send(const QByteArray& pdf) const {
+  if (!ToQueue()) {
+    WriteFile(ToUtf8(destination_.pdfFile), pdf.toStdString());
+    return;
+  }
+  QTemporaryFile file;
+  const bool written = file.open() && file.write(pdf) == pdf.size() && file.flush();
+  if (!written) throw RunTimeError(ErrorNumber::kPrinterError);
+  const std::string copies = std::to_string(copies_);
+  const QueueOption options[] = {{"copies", copies.c_str()}};
+  PrintOnQueue(ToUtf8(destination_.printer), QFile::encodeName(file.fileName()).toStdString(),
+               options);
 }
 
-void QtPrintSurface::PaintPages(const QString& file) const {
-  Printer().setOutputFileName(file);
+QByteArray QtPrintSurface::PaintPages() const {
+  QPdfWriter& writer = Writer();
   QPainter painter;
-  if (!painter.begin(&Printer())) throw RunTimeError(ErrorNumber::kPrinterError);
-  const double scale = 1 / TwipsPerDot(Printer());
+  if (!painter.begin(&writer)) throw RunTimeError(ErrorNumber::kPrinterError);
+  const double scale = 1 / TwipsPerDot(writer);
   painter.scale(scale, scale);
   for (std::size_t at = 0; at < pages_.size(); ++at) {
-    if (at > 0) Printer().newPage();
+    if (at > 0) writer.newPage();
     Paint(pages_[at], painter);
   }
-  const bool written = painter.end() && Printer().printerState() != QPrinter::Error;
-  if (written) return;
-  if (QFileInfo(file).isFile()) QFile::remove(file);  // a device stays
-  throw RunTimeError(ErrorNumber::kPrinterError);
+  painter.end();
+  return document_->bytes.data();
 }
 
 void QtPrintSurface::Paint(const Page& page, QPainter& painter) {

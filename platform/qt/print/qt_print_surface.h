@@ -1,14 +1,16 @@
 #pragma once
 
+#include <QBuffer>
 #include <QFont>
 #include <QLineF>
-#include <QPrinter>
+#include <QPdfWriter>
 #include <memory>
 #include <vector>
 
 #include "platform/print_surface.h"
 
 class QFontMetricsF;
+class QPainter;
 
 namespace tessara {
 
@@ -44,19 +46,27 @@ class QtPrintSurface : public PrintSurface {
     std::vector<QLineF> rules;
   };
 
+  struct Document {
+    QBuffer bytes;
+    QPdfWriter writer{&bytes};
+
+    Document() { bytes.open(QIODevice::WriteOnly); }
+  };
+
   [[nodiscard]] bool ToQueue() const;
   /// Draws the document, on the page of its destination; made at the document's first operation.
-  [[nodiscard]] QPrinter& Printer() const;
+  [[nodiscard]] QPdfWriter& Writer() const;
   [[nodiscard]] QFontMetricsF Metrics() const;
   [[nodiscard]] double LineHeight() const;
   [[nodiscard]] Page& CurrentPage();
-  void SendPages() const;
-  /// Raises error 482, with nothing left of the file, where it can't be written.
-  void PaintPages(const QString& file) const;
+  /// The document as a PDF file.
+  [[nodiscard]] QByteArray PaintPages() const;
+  void Send(const QByteArray& pdf) const;
   static void Paint(const Page& page, QPainter& painter);
 
   PrintDestination destination_;
-  mutable std::unique_ptr<QPrinter> printer_;
+  int copies_ = 1;
+  mutable std::unique_ptr<Document> document_;
   QFont font_;
   std::vector<Page> pages_;
   double y_ = 0;  ///< twips from the top of the page's drawing area

@@ -1,4 +1,4 @@
-#include "platform/libreoffice/write_file.h"
+#include "platform/posix/write_file.h"
 
 #include <cerrno>
 #include <fcntl.h>
