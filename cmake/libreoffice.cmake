@@ -16,7 +16,7 @@ if(CPPUMAKER AND TARGET tessara_cups AND QPDF_LIBRARY AND libreofficeSources)
   set(unoInterfaces
     beans.PropertyValue beans.XPropertySet bridge.UnoUrlResolver connection.NoConnectException
     document.MacroExecMode document.UpdateDocMode frame.Desktop frame.XComponentLoader frame.XModel
-    frame.XStorable lang.XComponent sheet.XSpreadsheet sheet.XSpreadsheetDocument
+    frame.XStorable lang.DisposedException lang.XComponent sheet.XSpreadsheet sheet.XSpreadsheetDocument
     sheet.XSpreadsheetView text.XText uno.DeploymentException uno.XComponentContext util.XCloseable)
   list(TRANSFORM unoInterfaces PREPEND -Tcom.sun.star.)
   set(unoHeaders ${CMAKE_BINARY_DIR}/uno)

@@ -40,7 +40,8 @@ CalcServer::~CalcServer() {
 
 std::shared_ptr<Workbook> CalcServer::Bind(const Text& templatePath) {
   auto session = session_.lock();
-  if (session == nullptr) {
+  // A job that failed while it opened still holds its workbook, and so a server that has died.
+  if (session == nullptr || session->Lost()) {
     session = std::make_shared<OfficeSession>(officeProgramFolder_, local_);
     session_ = session;
   }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <atomic>
 #include <com/sun/star/frame/XComponentLoader.hpp>
+#include <com/sun/star/lang/DisposedException.hpp>
 #include <com/sun/star/lang/XComponent.hpp>
 #include <com/sun/star/uno/Exception.hpp>
 #include <com/sun/star/uno/XComponentContext.hpp>
@@ -28,11 +30,16 @@ class OfficeSession {
     const Watchdog::Wait wait(watchdog_);
     try {
       return question();
+    } catch (const com::sun::star::lang::DisposedException&) {
+      lost_ = true;
+      throw RunTimeError(ErrorNumber::kAutomationError);
     } catch (const com::sun::star::uno::Exception&) {
       throw RunTimeError(ErrorNumber::kAutomationError);
     }
   }
 
+  /// True where the server has ended, or is about to: nothing more can be asked of it.
+  [[nodiscard]] bool Lost() { return lost_ || !process_.Running(); }
   /// Opens a file as a new, hidden document; starts the server at its first use. Within Ask.
   Component Open(const std::string& path);
   [[nodiscard]] const std::filesystem::path& Folder() const { return process_.Folder().Path(); }
@@ -47,6 +54,7 @@ class OfficeSession {
   Watchdog watchdog_;
   Context local_;
   Loader desktop_;
+  std::atomic<bool> lost_ = false;
 };
 
 }  // namespace tessara
