@@ -1,9 +1,9 @@
 #include <chrono>
 #include <csignal>
 #include <doctest/doctest.h>
-#include <filesystem>
 #include <functional>
 #include <thread>
+#include <vector>
 
 #include "platform/run_time_error.h"
 #include "tests/printing/office_desk.h"
@@ -26,10 +26,11 @@ struct OpenBook {
   std::shared_ptr<Worksheet> sheet = book->ActiveSheet();
 
   OpenBook() { server.SetDestination({u"", FromUtf8((folder / "cards.pdf").string())}); }
-  void Kill() const {
-    for (const pid_t process : ServerProcesses()) kill(process, SIGKILL);
-  }
 };
+
+void SignalServers(int signal) {
+  for (const pid_t process : ServerProcesses()) kill(process, signal);
+}
 
 void CheckRefused(const std::function<void()>& operation) {
   try {
@@ -42,7 +43,7 @@ void CheckRefused(const std::function<void()>& operation) {
 
 TEST_CASE("a server that was killed raises an error in each operation and closes in silence") {
   OpenBook open;
-  open.Kill();
+  SignalServers(SIGKILL);
   CheckRefused([&] { open.sheet->SetCell(1, 1, u"x"); });
   CheckRefused([&] { open.sheet->PrintOut(); });
   CheckRefused([&] { open.book->ActiveSheet(); });
@@ -69,14 +70,41 @@ TEST_CASE("a range that the sheet does not have is refused") {
   CheckRefused([&] { open.sheet->SetCell(0, 1, u"x"); });
 }
 
-/// Does something to the server while a box of the title is up, prints, and checks that it ends
-/// as a cancelled job; the next job must print.
-void CheckJobSurvives(const Text& title, int signal) {
-  OfficeDesk desk(9);
+TEST_CASE("a job whose server dies before any operation ends as told, and the next one prints") {
+  struct Case {
+    std::string operation;
+    std::string title;
+  };
+  const Case cases[] = {
+      {"active sheet", "Error Printing Cards"},
+      {"prompt switch", "Cancel Printing"},
+      {"font name", "Cancel Printing"},
+      {"font size", "Cancel Printing"},
+      {"cell value", "Cancel Printing"},
+      {"print", "Cancel Printing"},
+      {"close", "PRINT"},
+  };
+  OfficeDesk desk(1);
+  for (const Case& c : cases) {
+    CAPTURE(c.operation);
+    desk.server.before = [&](const std::string& operation) {
+      if (operation == c.operation) SignalServers(SIGKILL);
+    };
+    CHECK(desk.Print() == c.title);
+    CHECK(ServerProcesses().empty());
+  }
+  desk.server.before = [](const std::string&) {};
+  CHECK(desk.Print() == "PRINT");
+  CHECK(desk.Pages().size() == 2);
+  CHECK(test::FilesLeftBehind().empty());
+}
+
+TEST_CASE("a job whose server hangs is cancelled within 30 seconds, and the next one prints") {
+  OfficeDesk desk(1);
   auto start = std::chrono::steady_clock::now();
   desk.fakes.messages.whileShown = [&](const test::FakeMessages::Shown& box) {
-    if (box.title != title) return;
-    for (const pid_t process : ServerProcesses()) kill(process, signal);
+    if (box.title != u"PRINT BACK") return;
+    SignalServers(SIGSTOP);
     start = std::chrono::steady_clock::now();
   };
   CHECK(desk.Print() == "Cancel Printing");
@@ -85,54 +113,71 @@ void CheckJobSurvives(const Text& title, int signal) {
   CHECK(ServerProcesses().empty());
   desk.fakes.messages.whileShown = nullptr;
   CHECK(desk.Print() == "PRINT");
-  CHECK(desk.Pages().size() == 4);
 }
 
-TEST_CASE("a job whose server dies before a pass is cancelled, and the next one prints") {
-  for (const Text title : {u"PRINT FRONT", u"PRINT BACK"}) {
-    CAPTURE(ToUtf8(title));
-    CheckJobSurvives(title, SIGKILL);
+/// The operations that ask a server something, each on a workbook of its own.
+struct HungOperations {
+  LoadedSpreadsheet server{FromUtf8(PROGRAM_FOLDER)};
+  std::shared_ptr<Workbook> asked = Open();
+  std::shared_ptr<Workbook> written = Open();
+  std::shared_ptr<Workbook> printed = Open();
+  std::shared_ptr<Workbook> closed = Open();
+  std::shared_ptr<Worksheet> writtenSheet = written->ActiveSheet();
+  std::shared_ptr<Worksheet> printedSheet = printed->ActiveSheet();
+
+  std::shared_ptr<Workbook> Open() { return server.Bind(FromUtf8(PROGRAM_FOLDER "/Notelet.xlt")); }
+};
+
+TEST_CASE("a server that hangs in any operation is ended, and the operation refused") {
+  {
+    HungOperations open;
+    SignalServers(SIGSTOP);
+    const auto start = std::chrono::steady_clock::now();
+    // All at once, so that they share the wait.
+    const std::function<void()> operations[] = {
+        [&] { CheckRefused([&] { open.Open(); }); },
+        [&] { CheckRefused([&] { open.asked->ActiveSheet(); }); },
+        [&] { CheckRefused([&] { open.writtenSheet->SetCell(1, 1, u"x"); }); },
+        [&] { CheckRefused([&] { open.printedSheet->PrintOut(); }); },
+        [&] { open.closed->Close(); },
+    };
+    std::vector<std::jthread> waiting;
+    for (const auto& operation : operations) waiting.emplace_back(operation);
+    waiting.clear();
+    CHECK(std::chrono::steady_clock::now() - start < kLongest);
   }
-}
-
-TEST_CASE("a job whose server hangs is cancelled within 30 seconds, and the next one prints") {
-  CheckJobSurvives(u"PRINT BACK", SIGSTOP);
+  CHECK(ServerProcesses().empty());
+  CHECK(test::FilesLeftBehind().empty());
 }
 
 TEST_CASE("the sheets before a server's death stay in the PDF file") {
   OfficeDesk desk(3);
   desk.fakes.messages.whileShown = [](const test::FakeMessages::Shown& box) {
-    if (box.title != u"PRINT BACK") return;
-    for (const pid_t process : ServerProcesses()) kill(process, SIGKILL);
+    if (box.title == u"PRINT BACK") SignalServers(SIGKILL);
   };
   desk.Print();
   REQUIRE(desk.Pages().size() == 1);
   CHECK(desk.Pages().front().Has("F3"));
 }
 
-TEST_CASE("a server that hangs while it starts fails the job within 30 seconds") {
-  OfficeDesk desk(1);
-  std::chrono::steady_clock::time_point start;
-  std::thread stopper([&start] {
-    kill(test::WaitForServer(), SIGSTOP);
-    start = std::chrono::steady_clock::now();
-  });
-  const std::string title = desk.Print();
-  stopper.join();
-  CHECK(title == "Error Printing Cards");
-  CHECK(std::chrono::steady_clock::now() - start < kLongest);
-  CHECK(ServerProcesses().empty());
-  CHECK(test::FilesLeftBehind().empty());
-}
-
-TEST_CASE("a PDF file that can't be written cancels the job, told once") {
-  const test::ScratchFolder folder;
-  for (const std::string& path : {(folder / "none/cards.pdf").string(), std::string("/dev/full"),
-                                  std::filesystem::temp_directory_path().string()}) {
-    CAPTURE(path);
+TEST_CASE("a server that dies or hangs while it starts fails the job within 30 seconds") {
+  for (const int signal : {SIGKILL, SIGSTOP}) {
+    CAPTURE(signal);
     OfficeDesk desk(1);
-    CHECK(desk.Print(false, 1, path) == "Cancel Printing");
-    CHECK(desk.Print() == "PRINT");
+    std::chrono::steady_clock::time_point start;
+    std::thread hand([&] {
+      kill(test::WaitForServer(), signal);
+      start = std::chrono::steady_clock::now();
+    });
+    const std::string title = desk.Print();
+    hand.join();
+    CHECK(title == "Error Printing Cards");
+    CHECK(desk.fakes.messages.shown.back().text ==
+          u"An unspecified printing error has occured. Ensure that the printer is ready.");
+    CHECK_FALSE(desk.window->Command1[1].Enabled());
+    CHECK(std::chrono::steady_clock::now() - start < kLongest);
+    CHECK(ServerProcesses().empty());
+    CHECK(test::FilesLeftBehind().empty());
   }
 }
 

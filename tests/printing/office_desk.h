@@ -10,6 +10,7 @@
 #include "printing/PrintCard.h"
 #include "printing/spreadsheet_job.h"
 #include "tests/printing/printed_pdf.h"
+#include "tests/printing/watched_server.h"
 #include "tests/support/fake_machine.h"
 #include "tests/support/headless_renderer.h"
 #include "tests/support/recording_print_surface.h"
@@ -28,7 +29,8 @@ struct Devices {
 class OfficeDesk {
  public:
   ScratchFolder folder;
-  LoadedSpreadsheet server{FromUtf8(PROGRAM_FOLDER)};
+  LoadedSpreadsheet office{FromUtf8(PROGRAM_FOLDER)};
+  WatchedServer server{office};
   FakeMachine fakes;
   RecordingPrintSurface surface;
   Machine machine;

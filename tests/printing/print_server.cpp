@@ -1,18 +1,17 @@
 #include "tests/printing/print_server.h"
 
 #include <algorithm>
-#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <functional>
 #include <sstream>
 #include <stdexcept>
 #include <sys/prctl.h>
 #include <sys/wait.h>
-#include <thread>
 #include <unistd.h>
+
+#include "tests/support/wait_for.h"
 
 namespace tessara::test {
 
@@ -111,18 +110,6 @@ std::string Replaced(std::string_view text, std::string_view what, std::string_v
     replaced.replace(at, what.size(), with);
   }
   return replaced;
-}
-
-void WaitFor(const std::string& what, const std::function<bool()>& condition) {
-  constexpr std::chrono::seconds kLongest{20};
-  constexpr std::chrono::milliseconds kBetweenLooks{5};
-  const auto start = std::chrono::steady_clock::now();
-  while (!condition()) {
-    if (std::chrono::steady_clock::now() - start > kLongest) {
-      throw std::runtime_error("waited in vain for " + what);
-    }
-    std::this_thread::sleep_for(kBetweenLooks);
-  }
 }
 
 }  // namespace

@@ -4,8 +4,10 @@
 #include <fstream>
 #include <functional>
 #include <optional>
+#include <unistd.h>
 
 #include "platform/posix/loaded_spreadsheet.h"
+#include "platform/posix/office_location.h"
 #include "platform/run_time_error.h"
 #include "tests/printing/server_processes.h"
 #include "tests/support/scratch_folder.h"
@@ -51,6 +53,36 @@ TEST_CASE("a template that is not there, or none, is told apart") {
   std::filesystem::remove(path);
   std::filesystem::create_directory(path);
   CHECK(ProbeError(path) == ErrorNumber::kAutomationError);
+}
+
+/// For its life the process has no right to read what others keep to themselves.
+class AsNobody {
+ public:
+  AsNobody() { SetUser(kNobody); }
+  ~AsNobody() { SetUser(0); }
+  AsNobody(const AsNobody&) = delete;
+  AsNobody& operator=(const AsNobody&) = delete;
+
+ private:
+  static constexpr uid_t kNobody = 65534;
+  void SetUser(uid_t user) const {
+    if (root_) REQUIRE(seteuid(user) == 0);
+  }
+
+  bool root_ = getuid() == 0;
+};
+
+TEST_CASE("a template that may not be read is told from one that is not there") {
+  namespace fs = std::filesystem;
+  const test::ScratchFolder folder;
+  const fs::path path = folder / "Notelet.xlt";
+  fs::copy_file(kTemplate, path);
+  fs::permissions(folder.Path(), fs::perms::group_exec | fs::perms::others_exec,
+                  fs::perm_options::add);
+  CheckTemplate(FromUtf8(path.string()));
+  fs::permissions(path, fs::perms::none);
+  const AsNobody nobody;
+  CHECK(ErrorOf([&] { CheckTemplate(FromUtf8(path.string())); }) == ErrorNumber::kAutomationError);
 }
 
 TEST_CASE("without the module there is no server") {

@@ -1,0 +1,73 @@
+#include <doctest/doctest.h>
+#include <filesystem>
+#include <sys/mount.h>
+
+#include "platform/qt/lazy_print_surface.h"
+#include "tests/printing/office_desk.h"
+
+namespace tessara {
+namespace {
+
+using test::OfficeDesk;
+using Mode = OfficeDesk::Mode;
+
+/// A disk on which nothing finds room, where this system lets one be made.
+class FullDisk {
+ public:
+  explicit FullDisk(const std::filesystem::path& folder) : folder_(folder) {
+    std::filesystem::create_directory(folder_);
+    made_ = mount("none", folder_.c_str(), "tmpfs", 0, "size=4096") == 0;
+  }
+  ~FullDisk() {
+    if (made_) umount2(folder_.c_str(), MNT_DETACH);
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+
+  [[nodiscard]] bool Made() const { return made_; }
+
+ private:
+  std::filesystem::path folder_;
+  bool made_;
+};
+
+/// Cards and listings, each to the answered path.
+struct PdfDesk {
+  PrintModuleSource printing{FromUtf8(PROGRAM_FOLDER)};
+  LazyPrintSurface surface{printing};
+  OfficeDesk office{1, {nullptr, &surface}};
+
+  void CheckCancelled(Mode mode, const std::string& path) {
+    CAPTURE(path);
+    CAPTURE(static_cast<int>(mode));
+    office.fakes.dialogs.printers.emplace_back(PrinterChoice{{u"", FromUtf8(path)}, 1});
+    office.fakes.messages.shown.clear();
+    office.PressPrint(mode);
+    int told = 0;
+    for (const auto& box : office.fakes.messages.shown) {
+      if (box.text == u"Printing was cancelled") ++told;
+    }
+    CHECK(told == 1);
+    CHECK(office.fakes.messages.shown.back().title == u"Cancel Printing");
+  }
+};
+
+TEST_CASE("a PDF file that can't be written cancels the job, told once, and the next one prints") {
+  const test::ScratchFolder folder;
+  const FullDisk disk(folder / "full");
+  const std::string onFullDisk = folder / "full/cards.pdf";
+  std::vector<std::string> paths{"/dev/full", folder.Path()};
+  if (disk.Made()) paths.push_back(onFullDisk);
+  PdfDesk desk;
+  for (const std::string& path : paths) {
+    for (const Mode mode : {Mode::kCards, Mode::kFlat}) desk.CheckCancelled(mode, path);
+  }
+  desk.CheckCancelled(Mode::kFlat, folder / "none/listing.pdf");
+  CHECK_FALSE(std::filesystem::exists(onFullDisk));
+  CHECK(std::filesystem::is_character_file("/dev/full"));
+  CHECK(desk.office.Print() == "PRINT BACK");  // the flag of the cancelled listing is still set
+  CHECK(desk.office.Pages().size() == 2);
+}
+
+}  // namespace
+}  // namespace tessara
