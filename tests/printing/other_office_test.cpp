@@ -44,8 +44,8 @@ class UsersOffice {
  private:
   void Start() {
     const std::string home = folder_.Path();
-    const std::string command = "SAL_USE_VCLPLUGIN=svp HOME=" + home + " setsid " + OfficeProgramFolder() +
-                                "/soffice --norestore --nologo " + home +
+    const std::string command = "SAL_USE_VCLPLUGIN=svp HOME=" + home + " setsid " +
+                                OfficeProgramFolder() + "/soffice --norestore --nologo " + home +
                                 "/letter.fods >" + home + "/output 2>&1 & echo $!";
     FILE* shell = popen(command.c_str(), "r");
     REQUIRE(shell != nullptr);

@@ -1,0 +1,43 @@
+// Prints 200 cards into a PDF file, as the print window does when its button is pressed, and tells
+// how many milliseconds that took. The texts are "Front 1", "Back 1" and so on.
+// usage: bench_print cards|listing FILE
+
+#include <QApplication>
+#include <chrono>
+#include <cstdio>
+#include <string>
+
+#include "platform/qt/lazy_print_surface.h"
+#include "tests/printing/office_desk.h"
+
+using namespace tessara;
+
+namespace {
+
+constexpr int kCards = 200;
+
+/// True where the job came to its end.
+bool Print(test::OfficeDesk& desk, const std::string& way, const std::string& file) {
+  using Mode = test::OfficeDesk::Mode;
+  desk.fakes.dialogs.printers.emplace_back(PrinterChoice{{u"", FromUtf8(file)}, 1});
+  return desk.PressPrint(way == "listing" ? Mode::kFlat : Mode::kCards) == "PRINT";
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 3) return 2;
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication application(argc, argv);
+  PrintModuleSource printing(FromUtf8(PROGRAM_FOLDER));
+  LazyPrintSurface surface(printing);
+  test::OfficeDesk desk(kCards, {nullptr, &surface});
+  for (int row = 1; row <= kCards; ++row) {
+    desk.SetCard(row, u"Front " + DecimalText(row), u"Back " + DecimalText(row));
+  }
+  desk.window.Loaded();
+  const auto start = std::chrono::steady_clock::now();
+  if (!Print(desk, argv[1], argv[2])) return 1;
+  const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - start;
+  std::printf("%.1f\n", took.count());
+}
