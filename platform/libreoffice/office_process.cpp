@@ -99,14 +99,14 @@ std::string OfficeProcess::PipeName() const {
 
 void OfficeProcess::NotePipes() {
   const std::lock_guard lock(mutex_);
-  pipes_ = PipesOf(process_);
+  for (const std::filesystem::path& pipe : PipesOf(process_)) {
+    if (pipes_.insert(pipe).second) folder_.AlsoRemove(pipe);
+  }
 }
 
 OfficeProcess::~OfficeProcess() {
   Kill();
   if (process_ != 0) waitpid(process_, nullptr, 0);
-  std::error_code none;
-  for (const std::filesystem::path& pipe : pipes_) std::filesystem::remove(pipe, none);
 }
 
 void OfficeProcess::Start() {

@@ -1,9 +1,10 @@
 #pragma once
 
+#include <filesystem>
 #include <mutex>
+#include <set>
 #include <string>
 #include <sys/types.h>
-#include <vector>
 
 #include "platform/libreoffice/private_folder.h"
 
@@ -22,7 +23,8 @@ class OfficeProcess {
   [[nodiscard]] const PrivateFolder& Folder() const { return folder_; }
   /// The pipe's name, unique as the folder's is.
   [[nodiscard]] std::string PipeName() const;
-  /// To be called when the pipe is there: the files of the server's pipes go with the object.
+  /// To be called while the server starts and when its pipe is there: the files of the pipes that
+  /// it has made go with the object.
   void NotePipes();
 
   /// False where it has ended. A server that has ended because it wants to be started again, as
@@ -36,7 +38,7 @@ class OfficeProcess {
 
   std::string officeProgramFolder_;
   PrivateFolder folder_;
-  std::vector<std::filesystem::path> pipes_;
+  std::set<std::filesystem::path> pipes_;  ///< that are to be removed
   std::mutex mutex_;   ///< keeps Kill from a process number that is no longer ours
   pid_t process_ = 0;  ///< 0 where none runs
 };

@@ -55,6 +55,7 @@ OfficeSession::Context OfficeSession::WaitForPipe() {
       process_.NotePipes();
       return context;
     } catch (const NoConnectException&) {
+      process_.NotePipes();
       std::this_thread::sleep_for(kBetweenTries);
     }
   }

@@ -49,11 +49,7 @@ PrivateFolder::PrivateFolder() {
   std::string name = (parent / (kPrefix + std::to_string(getpid()) + "-XXXXXX")).string();
   if (mkdtemp(name.data()) == nullptr) throw RunTimeError(ErrorNumber::kAutomationError);
   path_ = name;
-}
-
-PrivateFolder::~PrivateFolder() {
-  std::error_code none;
-  fs::remove_all(path_, none);
+  cleaner_ = std::make_unique<Cleaner>(name);
 }
 
 }  // namespace tessara

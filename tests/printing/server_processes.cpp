@@ -13,42 +13,64 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The fields of a process's state file: number, name in parentheses, state, parent.
-bool IsOurServer(const fs::path& process) {
-  std::ifstream file(process / "stat");
-  std::string number, name, state;
+/// Of a process's state file. No state: there is no such process.
+struct ProcessState {
+  std::string name;  ///< in parentheses
+  std::string state;
   pid_t parent = 0;
-  file >> number >> name >> state >> parent;
-  return parent == getpid() && name == "(soffice.bin)" && state != "Z";
+
+  explicit ProcessState(const fs::path& process) {
+    std::ifstream file(process / "stat");
+    std::string number;
+    file >> number >> name >> state >> parent;
+  }
+  [[nodiscard]] bool Runs() const { return !state.empty() && state != "Z"; }
+};
+
+bool IsServerOf(pid_t program, const fs::path& path) {
+  const ProcessState process(path);
+  return process.parent == program && process.name == "(soffice.bin)" && process.Runs();
 }
 
 }  // namespace
 
-std::vector<pid_t> ServerProcesses() {
+std::vector<pid_t> ServersOf(pid_t program) {
   std::vector<pid_t> servers;
   for (const fs::directory_entry& entry : fs::directory_iterator("/proc")) {
     const std::string name = entry.path().filename().string();
     const bool process = name.find_first_not_of("0123456789") == std::string::npos;
-    if (process && IsOurServer(entry.path())) servers.push_back(std::stoi(name));
+    if (process && IsServerOf(program, entry.path())) servers.push_back(std::stoi(name));
   }
   return servers;
 }
 
-pid_t WaitForServer() {
+std::vector<pid_t> ServerProcesses() {
+  return ServersOf(getpid());
+}
+
+pid_t WaitForServer(pid_t program) {
   for (;;) {
-    const std::vector<pid_t> servers = ServerProcesses();
+    const std::vector<pid_t> servers = ServersOf(program);
     if (!servers.empty()) return servers.front();
     std::this_thread::yield();
   }
 }
 
-std::vector<std::string> FilesLeftBehind() {
+bool Runs(pid_t process) {
+  return ProcessState("/proc/" + std::to_string(process)).Runs();
+}
+
+std::vector<std::string> FilesOf(pid_t program) {
   std::vector<std::string> left;
-  const std::string mark = "tessara-print-" + std::to_string(getpid());
+  const std::string mark = "tessara-print-" + std::to_string(program) + "-";
   for (const fs::directory_entry& entry : fs::directory_iterator(fs::temp_directory_path())) {
     if (entry.path().string().find(mark) != std::string::npos) left.push_back(entry.path());
   }
   return left;
+}
+
+std::vector<std::string> FilesLeftBehind() {
+  return FilesOf(getpid());
 }
 
 }  // namespace tessara::test

@@ -1,0 +1,88 @@
+// The program is killed with a job on: what is left is looked at by a process that outlives it.
+
+#include <array>
+#include <chrono>
+#include <csignal>
+#include <doctest/doctest.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+#include "platform/posix/loaded_spreadsheet.h"
+#include "tests/printing/server_processes.h"
+
+namespace tessara {
+namespace {
+
+/// Where a job process tells that it is in its job.
+constexpr int kTold = 9;
+
+/// A process with a job on a server of its own.
+class JobProcess {
+ public:
+  JobProcess() {
+    REQUIRE(pipe(told_.data()) == 0);
+    process_ = fork();
+    if (process_ == 0) Execute();
+    close(told_[1]);
+  }
+  JobProcess(const JobProcess&) = delete;
+  JobProcess& operator=(const JobProcess&) = delete;
+  ~JobProcess() { close(told_[0]); }
+
+  [[nodiscard]] pid_t Number() const { return process_; }
+  void WaitForJob() const {
+    char told = 0;
+    REQUIRE(read(told_[0], &told, 1) == 1);
+  }
+  void Kill() const {
+    kill(process_, SIGKILL);
+    waitpid(process_, nullptr, 0);
+  }
+
+ private:
+  [[noreturn]] void Execute() const {
+    dup2(told_[1], kTold);
+    execl("/proc/self/exe", "tests_printing", "--no-skip", "--test-case=a job that waits", nullptr);
+    _exit(1);
+  }
+
+  std::array<int, 2> told_{};
+  pid_t process_ = 0;
+};
+
+void CheckNothingIsLeftOf(const JobProcess& job, pid_t server) {
+  constexpr std::chrono::seconds kPatience{20};
+  const auto end = std::chrono::steady_clock::now() + kPatience;
+  const auto left = [&] { return test::Runs(server) || !test::FilesOf(job.Number()).empty(); };
+  while (left() && std::chrono::steady_clock::now() < end) std::this_thread::yield();
+  CHECK_FALSE(test::Runs(server));
+  CHECK(test::FilesOf(job.Number()).empty());
+}
+
+TEST_CASE("a job that waits" * doctest::skip()) {
+  LoadedSpreadsheet server{FromUtf8(PROGRAM_FOLDER)};
+  const auto book = server.Bind(FromUtf8(PROGRAM_FOLDER "/Notelet.xlt"));
+  REQUIRE(write(kTold, "x", 1) == 1);
+  pause();
+}
+
+TEST_CASE("a program killed in the middle of a job leaves no server and no file") {
+  const JobProcess job;
+  job.WaitForJob();
+  const pid_t server = test::WaitForServer(job.Number());
+  // The folder, and the pipe beside it.
+  CHECK(test::FilesOf(job.Number()).size() == 2);
+  job.Kill();
+  CheckNothingIsLeftOf(job, server);
+}
+
+TEST_CASE("a program killed while its server starts leaves no server and no file") {
+  const JobProcess job;
+  const pid_t server = test::WaitForServer(job.Number());
+  job.Kill();
+  CheckNothingIsLeftOf(job, server);
+}
+
+}  // namespace
+}  // namespace tessara
