@@ -1,5 +1,6 @@
 #!/usr/bin/python3
-"""Times the start and the memory of the program beside a bare window, run in turn."""
+"""Times the start and the memory of the program beside a bare window, run in turn; for root also the
+start with nothing in the page cache."""
 
 import os
 import statistics
@@ -9,7 +10,9 @@ import tempfile
 import time
 
 RUNS = 15
+COLD_RUNS = 5
 STAY_MS = 5000
+PAGE_CACHE = "/proc/sys/vm/drop_caches"
 
 
 def run_once(command, widget, stay_ms, home):
@@ -20,16 +23,42 @@ def run_once(command, widget, stay_ms, home):
     return dict(line.split() for line in output.stdout.splitlines())
 
 
-def measure(programs, home):
+def drop_page_cache():
+    os.sync()
+    with open(PAGE_CACHE, "w", encoding="ascii") as cache:
+        cache.write("3")
+
+
+def starts_of(programs, home, runs, prepare):
     starts = {name: [] for name in programs}
-    for name, (command, widget) in programs.items():
-        run_once(command, widget, 0, home)  # warm
-    for _ in range(RUNS):
+    for _ in range(runs):
         for name, (command, widget) in programs.items():
+            prepare()
             starts[name].append(float(run_once(command, widget, 0, home)["first_paint_ms"]))
+    return starts
+
+
+def measure(programs, home):
+    for command, widget in programs.values():
+        run_once(command, widget, 0, home)  # warm
+    starts = starts_of(programs, home, RUNS, lambda: None)
     memory = {name: int(run_once(command, widget, STAY_MS, home)["resident_kb"])
               for name, (command, widget) in programs.items()}
     return starts, memory
+
+
+def start_lines(title, starts):
+    yield f"{title:20}{'ms (min/median/max)':24}{'ratio':>6}"
+    floor = statistics.median(starts["bare window"])
+    for name, times in starts.items():
+        middle = statistics.median(times)
+        yield f"  {name:18}{f'{min(times):.1f} / {middle:.1f} / {max(times):.1f}':24}{middle / floor:6.2f}"
+
+
+def memory_lines(memory):
+    yield f"{'resident memory':20}{'kB':24}{'ratio':>6}"
+    for name, kilobytes in memory.items():
+        yield f"  {name:18}{kilobytes:<24}{kilobytes / memory['bare window']:6.2f}"
 
 
 def main():
@@ -45,13 +74,10 @@ def main():
             with open(f"{folder}/Tessara.conf", "w", encoding="utf-8") as settings:
                 settings.write("[Settings]\nShowSplash=0\nFirstLoad=False\n")
         starts, memory = measure(programs, home)
-    floor = statistics.median(starts["bare window"])
-    print(f"{'':14}{'start ms (min/median/max)':30}{'ratio':>6}   {'resident kB':>11}{'ratio':>7}")
-    for name, times in starts.items():
-        middle = statistics.median(times)
-        figures = f"{min(times):.1f} / {middle:.1f} / {max(times):.1f}"
-        print(f"{name:14}{figures:30}{middle / floor:6.2f}   {memory[name]:11}"
-              f"{memory[name] / memory['bare window']:7.2f}")
+        lines = [*start_lines("start", starts)]
+        if os.access(PAGE_CACHE, os.W_OK):
+            lines += start_lines("start, cold", starts_of(programs, home, COLD_RUNS, drop_page_cache))
+    print("\n".join([*lines, *memory_lines(memory)]))
 
 
 main()
