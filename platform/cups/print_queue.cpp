@@ -16,7 +16,9 @@ using Destination = std::unique_ptr<cups_dest_t, FreeDestination>;
 
 void Set(cups_dest_t& destination, const QueueOption& option) {
   destination.num_options =
-      cupsAddOption(option.name, option.value, destination.num_options, &destination.options);
+      option.value == nullptr
+          ? cupsRemoveOption(option.name, destination.num_options, &destination.options)
+          : cupsAddOption(option.name, option.value, destination.num_options, &destination.options);
 }
 
 }  // namespace

@@ -5,10 +5,10 @@
 
 namespace tessara {
 
-/// A setting of a print job: "sides" is "one-sided".
+/// A setting of a print job: "sides" is "one-sided". Without a value it is not set at all.
 struct QueueOption {
   const char* name;
-  const char* value;
+  const char* value = nullptr;
 };
 
 /// Sends a PDF file to a print queue, with the user's own options for the queue but for

@@ -13,8 +13,18 @@ namespace tessara {
 namespace {
 
 /// What would move the cards, or turn the paper before its time.
-constexpr QueueOption kAsTheyStand[] = {
-    {"copies", "1"}, {"print-scaling", "none"}, {"sides", "one-sided"}, {"number-up", "1"}};
+constexpr QueueOption kAsTheyStand[] = {{"copies", "1"},
+                                        {"print-scaling", "none"},
+                                        {"sides", "one-sided"},
+                                        {"number-up", "1"},
+                                        {"fit-to-page"},
+                                        {"fitplot"},
+                                        {"scaling"},
+                                        {"natural-scaling"},
+                                        {"mirror"},
+                                        {"position"},
+                                        {"landscape"},
+                                        {"orientation-requested"}};
 
 std::string ReadAll(const std::string& path) {
   std::ifstream file(path, std::ios::binary);

@@ -159,6 +159,17 @@ TEST_CASE("nothing is printed nearer to an edge than printers reach, on A4 and o
   }
 }
 
+TEST_CASE("a text of any characters that a deck can hold prints") {
+  Text controls;
+  for (char16_t character = 0; character < u' '; ++character) controls += character;
+  const Text texts[] = {controls, u"\x7f\x80\x9f\xad\xa0", u"'", u" ", u"\r\n"};
+  constexpr int kTexts = static_cast<int>(std::size(texts));
+  OfficeDesk desk(kTexts);
+  for (int row = 1; row <= kTexts; ++row) desk.SetCard(row, texts[row - 1], texts[row - 1]);
+  CHECK(desk.Print() == "PRINT");
+  CHECK(desk.Pages().size() == 2);
+}
+
 TEST_CASE("a job leaves no server and no file behind") {
   OfficeDesk desk(1);
   REQUIRE(desk.Print() == "PRINT");

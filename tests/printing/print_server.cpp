@@ -148,8 +148,10 @@ void PrintServer::Configure() const {
   fs::copy_file(kProgram, folder_ / "cupsd");
   AddQueue(kQueue, "A4", "Yes");
   AddQueue(kOtherQueue, "Letter", "Yes");
-  folder_.Write("root/lpoptions", std::string("Dest ") + kOtherQueue +
-                                      " copies=3 number-up=4 sides=two-sided-long-edge\n");
+  folder_.Write(
+      "root/lpoptions",
+      std::string("Dest ") + kOtherQueue +
+          " copies=3 number-up=4 sides=two-sided-long-edge fit-to-page=true mirror=true\n");
   AddQueue(kRefusingQueue, "A4", "No");
 }
 
@@ -187,10 +189,6 @@ void PrintServer::WaitUntilUp() const {
 void PrintServer::BecomeTheOnlyOne() const {
   setenv("CUPS_SERVER", (folder_ / "socket").c_str(), 1);
   setenv("CUPS_SERVERROOT", (folder_ / "root").c_str(), 1);
-}
-
-void PrintServer::Signal(int signal) const {
-  kill(process_, signal);
 }
 
 std::vector<int> PrintServer::JobsOf(const std::string& queue) const {

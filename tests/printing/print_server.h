@@ -25,7 +25,7 @@ class PrintServer {
  public:
   static constexpr const char* kQueue = "cards";
   /// Another queue that works. Its paper is Letter, and its user has settings of his own for it:
-  /// three copies, four pages on a sheet, both sides of the paper.
+  /// three copies, four pages on a sheet, both sides of the paper, fitted and mirrored.
   static constexpr const char* kOtherQueue = "letters";
   /// Takes no jobs.
   static constexpr const char* kRefusingQueue = "refusing";
@@ -42,8 +42,6 @@ class PrintServer {
   /// Waits until so many jobs have come out of the queue, takes them away, in the order of their
   /// printing. Fails the test where they don't come, or more do.
   std::vector<PrintedJob> TakeJobs(const std::string& queue, std::size_t count);
-  /// The server stops answering, or answers again.
-  void Signal(int signal) const;
 
  private:
   void Configure() const;

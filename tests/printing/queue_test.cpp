@@ -77,6 +77,9 @@ TEST_CASE("copies of card sheets are printed again, and the queue's own settings
       INFO(job.options);
       CHECK(job.Has(option));
     }
+    for (const char* name : {"fit-to-page", "mirror"}) {
+      CHECK(job.options.find(name) == std::string::npos);
+    }
   }
   CHECK(jobs[2].pages.front().Has("F3"));
   CHECK(jobs[3].pages.front().Has("B3"));
@@ -93,6 +96,7 @@ TEST_CASE("each copy of a listing is a job on the chosen queue's own paper") {
     CHECK(job.pages[0].width == doctest::Approx(215.9).epsilon(0.01));
     CHECK(job.pages[0].Text().starts_with("TITLE: Numbers"));
     CHECK(job.pages.back().Has("Card #40"));
+    CHECK(job.Has("number-up=4"));
   }
   // A heading stands above the texts of the card behind it.
   CHECK(jobs[0].pages[0].Has("Card #1 F2 B2 Card #2 F3 B3"));

@@ -21,6 +21,9 @@ namespace {
 constexpr double kTwipsPerPoint = 20;
 constexpr double kTwipsPerInch = 1440;
 
+/// Of a file's pages: where most printers do not reach. A queue knows its own.
+constexpr QMarginsF kMargins(6, 6, 6, 6);
+
 QStringList LinesOf(const Text& text) {
   return LinesForQt(text).replace(u'\r', u'\n').split(u'\n');
 }
@@ -52,7 +55,11 @@ bool QtPrintSurface::ToQueue() const {
 QPdfWriter& QtPrintSurface::Writer() const {
   if (document_ == nullptr) {
     auto document = std::make_unique<Document>();
-    if (ToQueue()) document->writer.setPageLayout(LayoutOfQueue(destination_.printer));
+    if (ToQueue()) {
+      document->writer.setPageLayout(LayoutOfQueue(destination_.printer));
+    } else {
+      document->writer.setPageMargins(kMargins, QPageLayout::Millimeter);
+    }
     document_ = std::move(document);
   }
   return document_->writer;
