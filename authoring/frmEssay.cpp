@@ -34,12 +34,12 @@ void frmEssay::PlaceControls() {
       {&Text1[kFront], "Text1", kFront, nullptr, u"", {120, 720, 5175, 1695}, u"Front"},
       {&Label2[1], "Label2", 1, nullptr, u"BACK", {120, 2520, 975, 255}, u""},
       {&Text1[kBack], "Text1", kBack, nullptr, u"", {120, 2760, 5175, 1695}, u"Back"},
-      {&cmdMove[0], "cmdMove", 0, nullptr, u"<<", {3360, 120, 975, 375}, u"Previous card"},
-      {&cmdMove[1], "cmdMove", 1, nullptr, u">>", {4320, 120, 975, 375}, u"Next card"},
       {&Command1[0], "Command1", 0, nullptr, u"&New", {120, 4680, 1215, 495}, u""},
       {&Command1[1], "Command1", 1, nullptr, u"&Add to deck", {1320, 4680, 1215, 495}, u""},
       {&Command1[2], "Command1", 2, nullptr, u"&Delete from deck", {2520, 4680, 1455, 495}, u""},
       {&Command1[3], "Command1", 3, nullptr, u"&Close", {4080, 4680, 1215, 495}, u""},
+      {&cmdMove[0], "cmdMove", 0, nullptr, u"<<", {3360, 120, 975, 375}, u"Previous card"},
+      {&cmdMove[1], "cmdMove", 1, nullptr, u">>", {4320, 120, 975, 375}, u"Next card"},
   });
   Label1.SetFont({u"MS Sans Serif", 9.75});
   Label1.SetForeColor(kBlue);

@@ -47,7 +47,7 @@ void frmInfo::PlaceControls() {
       {&Label3, "Label3", kNoIndex, nullptr, u"", {3300, 2970, 2610, 255}, u""},
       {&Command1[1], "Command1", 1, nullptr, u"&Save", {3300, 3570, 1215, 495}, u""},
       {&Command1[0], "Command1", 0, nullptr, u"&Close", {4695, 3570, 1215, 495}, u""},
-      {&Image1, "Image1", kNoIndex, nullptr, u"", {4950, 405, 960, 960}, u""},
+      {&Image1, "Image1", kNoIndex, nullptr, u"", {4950, 405, 960, 960}, u"Cards"},
   });
   Text1[kTitle].SetMaxLength(kTitleLength);
   Text1[kAuthor].SetMaxLength(kTitleLength);

@@ -96,6 +96,10 @@ bool Form::UserAccelerator(char16_t letter) {
 }
 
 bool Form::UserReturn() {
+  if (focused_ != nullptr && focused_->Kind() == ControlKind::kLabel) {
+    static_cast<Label*>(focused_)->UserClick();
+    return true;
+  }
   return PressIfThere(FindButton(controls_, &Button::IsDefault));
 }
 

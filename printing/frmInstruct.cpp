@@ -31,8 +31,8 @@ frmInstruct::frmInstruct(WindowSystem& windows)
   SetWidth(kClientWidth + kBorderAcross);
   SetHeight(kClientHeight + kBorderDown);
   Place({
-      {&Picture1, "Picture1", kNoIndex, nullptr, u"", {120, 120, 4575, 4095}, u""},
-      {&Image1, "Image1", kNoIndex, &Picture1, u"", {720, 600, 5400, 5400}, u""},
+      {&Picture1, "Picture1", kNoIndex, nullptr, u"", {120, 120, 4575, 4095}, u"Step"},
+      {&Image1, "Image1", kNoIndex, &Picture1, u"", {720, 600, 5400, 5400}, u"How it is done"},
       {&Label1, "Label1", kNoIndex, &Picture1, u"Label1", {120, 3240, 4335, 735}, u""},
       {&Command1[kBackButton],
        "Command1",

@@ -33,15 +33,16 @@ frmAbout::frmAbout(AppContext& app)
        u"Flash cards by the Tessara developers",
        {300, 1020, 4500, 300},
        u""},
+      {&cmdOK, "cmdOK", kNoIndex, nullptr, u"OK", {1890, 2400, 1320, 480}, u""},
       {&Label2, "Label2", kNoIndex, nullptr, u"email author", {1500, 1500, 2100, 300}, u""},
       {&Image1, "Image1", kNoIndex, nullptr, u"", {3780, 1410, 480, 480}, u"Envelope"},
-      {&cmdOK, "cmdOK", kNoIndex, nullptr, u"OK", {1890, 2400, 1320, 480}, u""},
   });
   for (Label& label : Label1) label.SetAlignment(Alignment::kCenter);
   Label1[0].SetFont({u"Georgia", 15.75, false, false, false});
   Label2.SetAlignment(Alignment::kCenter);
   Label2.SetFont({u"MS Serif", 9.75, false, false, true});
   Label2.SetForeColor(kLinkBlue);
+  Label2.SetLink(true);
   Image1.SetPicture({"about_mail.png", 32, 32});
   Image1.SetVisible(false);
   cmdOK.SetDefaultAndCancel(true);

@@ -36,12 +36,6 @@ void frmMain::PlaceControls() {
   Place({
       {&Shape1, "Shape1", kNoIndex, nullptr, u"", {210, 240, 6840, 3570}, u"Shadow of the card"},
       {&NoteletCtl1, "NoteletCtl1", kNoIndex, nullptr, u"", {120, 120, 6855, 3615}, u"Card"},
-      {&Frame3, "Frame3", kNoIndex, nullptr, u"", {5085, 3840, 1905, 1965}, u"Buttons"},
-      {&cmdMove[0], "cmdMove", 0, &Frame3, u"<<", {135, 240, 780, 390}, u"Previous card"},
-      {&cmdMove[1], "cmdMove", 1, &Frame3, u">>", {975, 240, 780, 390}, u"Next card"},
-      {&Command3[0], "Command3", 0, &Frame3, u"", {135, 720, 1620, 375}, kNextOrScore},
-      {&Command3[1], "Command3", 1, &Frame3, u"&Show Answer", {135, 1080, 1620, 375}, u""},
-      {&Command3[2], "Command3", 2, &Frame3, u"&Close Deck", {135, 1440, 1620, 375}, u""},
       {&Picture1, "Picture1", kNoIndex, nullptr, u"", {120, 3855, 4950, 1740}, u"Answer card"},
       {&Label2, "Label2", kNoIndex, &Picture1, u"LABEL2", {120, 360, 4575, 255}, u""},
       {&Frame1, "Frame1", kNoIndex, nullptr, u"CREDIT", kUnderTheCard, u""},
@@ -53,6 +47,12 @@ void frmMain::PlaceControls() {
       {&Option1[1], "Option1", 1, &Frame2, u"Option1", {150, 600, 4545, 255}, u""},
       {&Option1[2], "Option1", 2, &Frame2, u"Option1", {150, 870, 4545, 255}, u""},
       {&Option1[3], "Option1", 3, &Frame2, u"Option1", {150, 1140, 4545, 255}, u""},
+      {&Frame3, "Frame3", kNoIndex, nullptr, u"", {5085, 3840, 1905, 1965}, u"Buttons"},
+      {&cmdMove[0], "cmdMove", 0, &Frame3, u"<<", {135, 240, 780, 390}, u"Previous card"},
+      {&cmdMove[1], "cmdMove", 1, &Frame3, u">>", {975, 240, 780, 390}, u"Next card"},
+      {&Command3[0], "Command3", 0, &Frame3, u"", {135, 720, 1620, 375}, kNextOrScore},
+      {&Command3[1], "Command3", 1, &Frame3, u"&Show Answer", {135, 1080, 1620, 375}, u""},
+      {&Command3[2], "Command3", 2, &Frame3, u"&Close Deck", {135, 1440, 1620, 375}, u""},
   });
   Shape1.SetBackColor({Color::Role::kInactiveTitle});
   Command3[0].SetEnabled(false);

@@ -4,6 +4,7 @@
 #include <QScreen>
 
 #include "forms/window_system.h"
+#include "platform/qt/accessible_role.h"
 #include "platform/qt/qt_text.h"
 
 namespace tessara {
@@ -23,6 +24,7 @@ DialogWindow::DialogWindow(Form& form, QWidget* frame, const ViewContext& contex
       form_(&form),
       context_(context),
       surface_(new FormSurface(form, this, context)) {
+  WithRole(*this, QAccessible::Dialog);
   setObjectName(QString::fromStdString(form.Name()));
   Follow(FormAspect::kCaption);
   Follow(FormAspect::kBounds);

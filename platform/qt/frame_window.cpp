@@ -23,6 +23,7 @@ FrameWindow::FrameWindow(Form& form, const ViewContext& context)
     : form_(&form), area_(new BackdropArea(form, context)) {
   setObjectName(QString::fromStdString(form.Name()));
   setCentralWidget(area_);
+  menuBar()->setAccessibleName(QStringLiteral("Menus"));
   resize(OpeningSize(context.scale));
   Follow(FormAspect::kCaption);
 }

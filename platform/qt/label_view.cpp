@@ -3,7 +3,9 @@
 #include <QLabel>
 #include <QPainter>
 #include <QStyle>
+#include <QStyleOptionFocusRect>
 
+#include "platform/qt/accessible_role.h"
 #include "platform/qt/caption_fit.h"
 #include "platform/qt/qt_text.h"
 
@@ -30,11 +32,23 @@ class CaptionLabel : public QLabel {
     const int flags = static_cast<int>(alignment()) | Qt::TextShowMnemonic;
     style()->drawItemText(&painter, rect(), flags, palette(), isEnabled(), shown_,
                           foregroundRole());
+    if (hasFocus()) PaintFocus(painter);
   }
 
  private:
+  void PaintFocus(QPainter& painter) const {
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
+  }
+
   QString shown_;
 };
+
+QWidget& MakeWidget(const Label& label, QWidget& parent) {
+  QWidget& widget = *new CaptionLabel(&parent);
+  return label.IsLink() ? WithRole(widget, QAccessible::Link) : widget;
+}
 
 Qt::Alignment AlignmentForQt(Alignment alignment) {
   switch (alignment) {
@@ -51,7 +65,7 @@ Qt::Alignment AlignmentForQt(Alignment alignment) {
 }  // namespace
 
 LabelView::LabelView(Label& label, QWidget& parent, const ViewContext& context)
-    : ControlView(label, *new CaptionLabel(&parent), context) {
+    : ControlView(label, MakeWidget(label, parent), context) {
   static_cast<CaptionLabel&>(Widget()).setAlignment(AlignmentForQt(label.AlignmentOf()));
   if (label.onClick) Widget().setCursor(Qt::PointingHandCursor);
 }

@@ -39,15 +39,25 @@ void SetTabStops(const QWidget& container) {
 
 }  // namespace
 
-OptionView::OptionView(OptionButton& option, QWidget& parent, const ViewContext& context)
-    : CaptionView(option, parent, context, QStyle::SE_RadioButtonContents) {
-  Shown().setAutoExclusive(false);
+void OptionWidget::ShowSelected(bool selected) {
+  setAutoExclusive(false);
+  setChecked(selected);
+  setAutoExclusive(true);
 }
+
+void OptionWidget::focusInEvent(QFocusEvent* event) {
+  setAutoExclusive(false);
+  QRadioButton::focusInEvent(event);
+  setAutoExclusive(true);
+}
+
+OptionView::OptionView(OptionButton& option, QWidget& parent, const ViewContext& context)
+    : CaptionView(option, parent, context, QStyle::SE_RadioButtonContents) {}
 
 void OptionView::FollowOwn(Aspect aspect) {
   if (aspect == Aspect::kCaption || aspect == Aspect::kBounds) MakeRoomForCaption();
   CaptionView::FollowOwn(aspect);
-  if (aspect == Aspect::kValue) Shown().setChecked(As<OptionButton>().Selected());
+  if (aspect == Aspect::kValue) Shown().ShowSelected(As<OptionButton>().Selected());
   const bool movesTabStop =
       aspect == Aspect::kValue || aspect == Aspect::kEnabled || aspect == Aspect::kVisible;
   if (movesTabStop) SetTabStops(*Shown().parentWidget());

@@ -7,9 +7,19 @@
 
 namespace tessara {
 
-/// Shows an option button. Which one of a group is selected is the form's business, so the widget's
-/// own exclusion is off, and a selection can be cleared.
-class OptionView : public CaptionView<QRadioButton> {
+/// A radio button that leaves its group to the form. A group of Qt's own can't be cleared, and has
+/// Tab stops of its own; yet only a member of one is a radio button to a screen reader.
+class OptionWidget : public QRadioButton {
+ public:
+  using QRadioButton::QRadioButton;
+  void ShowSelected(bool selected);
+
+ protected:
+  void focusInEvent(QFocusEvent* event) override;
+};
+
+/// Shows an option button. Which one of a group is selected is the form's business.
+class OptionView : public CaptionView<OptionWidget> {
  public:
   OptionView(OptionButton& option, QWidget& parent, const ViewContext& context);
 

@@ -7,6 +7,7 @@
 #include <QVariant>
 #include <cmath>
 
+#include "platform/qt/accessible_role.h"
 #include "platform/qt/qt_canvas.h"
 #include "platform/qt/qt_text.h"
 
@@ -25,7 +26,7 @@ QVariant ForQt(const std::variant<bool, Text>& value) {
 }  // namespace
 
 PaintedView::PaintedView(PaintedControl& control, QWidget& parent, const ViewContext& context)
-    : ControlView(control, *new QWidget(&parent), context) {}
+    : ControlView(control, WithRole(*new QWidget(&parent), QAccessible::StaticText), context) {}
 
 void PaintedView::FollowOwn(Aspect aspect) {
   if (aspect == Aspect::kContent) ShowContent();

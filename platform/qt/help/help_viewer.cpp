@@ -7,6 +7,7 @@
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QStyle>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QToolBar>
 #include <QTreeWidget>
@@ -76,9 +77,14 @@ void HelpViewer::LayOut() {
   contents_->setHeaderHidden(true);
   sides_->addTab(contents_, tr("Contents"));
   sides_->addTab(MakeIndexTab(), tr("Index"));
+  // Its row of tabs takes the focus, which is not the widget itself to a screen reader.
+  sides_->setFocusPolicy(Qt::NoFocus);
+  sides_->tabBar()->setFocusPolicy(Qt::TabFocus);
   auto* splitter = new QSplitter;
+  splitter->setAccessibleName(tr("Contents and page"));
   splitter->addWidget(sides_);
   splitter->addWidget(page_);
+  splitter->handle(1)->setAccessibleName(tr("Width of the contents"));
   splitter->setStretchFactor(1, 1);
   splitter->setSizes({kContentsWidth, kWindowSize.width() - kContentsWidth});
   setCentralWidget(splitter);

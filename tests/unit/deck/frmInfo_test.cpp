@@ -52,7 +52,8 @@ TEST_CASE("the information window has its captions, limits and size") {
   CHECK(desk.info->Width() == 6270);
 }
 
-TEST_CASE("every control stands inside the window, and every box has a name to be read out") {
+TEST_CASE(
+    "every control stands inside the window, and every box and picture has a name to be read out") {
   InfoDesk desk;
   desk.OpenInfo();
   for (const Control* control : desk.info->Controls()) {
@@ -62,8 +63,9 @@ TEST_CASE("every control stands inside the window, and every box has a name to b
     CHECK(place.top >= 0);
     CHECK(place.left + place.width <= desk.info->ScaleWidth());
     CHECK(place.top + place.height <= desk.info->ScaleHeight());
-    const bool box = control->Kind() == ControlKind::kTextBox;
-    CHECK(control->AccessibleName().empty() != box);
+    const bool silent =
+        control->Kind() != ControlKind::kTextBox && control->Kind() != ControlKind::kImage;
+    CHECK(control->AccessibleName().empty() == silent);
   }
 }
 

@@ -150,6 +150,11 @@ TEST_CASE("the About box closes by its button, a click, the loss of the focus an
   SUBCASE("Return") {
     CHECK(about.UserReturn());
   }
+  SUBCASE("Return on the link") {
+    about.Label2.SetFocus();
+    CHECK(about.UserReturn());
+    CHECK(desk.fakes.desktop.opened.size() == 1);
+  }
   SUBCASE("Escape") {
     CHECK(about.UserEscape());
   }

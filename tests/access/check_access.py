@@ -1,0 +1,145 @@
+#!/usr/bin/python3
+"""Walks the accessibility tree of every window of the running program, on a bus of its own.
+
+usage: dbus-run-session -- check_access.py TESSARA SAMPLES [TEST...]
+
+It needs the display that DISPLAY names
+
+In each window, whatever shows has a name and a role that a screen reader can say, and the keyboard
+gets to whatever takes the focus, in an order that the eye follows.
+"""
+import contextlib
+import sys
+import time
+import unittest
+
+from accessible_program import Program, SECONDS_FOR_A_KEY, wait_for
+from windows import SCENES
+
+# What holds or parts other things, and says nothing itself.
+SILENT = {"filler", "panel", "layered pane", "separator", "scroll bar", "frame"}
+TEXTS = {"label"}
+WINDOWS = {"frame", "dialog", "alert"}
+# By so many pixels neighbours may overlap.
+SLACK = 10
+
+tessara = samples = ""
+
+
+def comes_after(first, second):
+    """True where the second place stands below the first or on its right."""
+    return second[0] >= first[2] - SLACK or second[1] >= first[3] - SLACK
+
+
+def in_order(first, second):
+    """Compares two places where their ways from the root part."""
+    for one, other in zip(first.ancestry(), second.ancestry()):
+        if one != other:
+            return comes_after(one.place, other.place)
+    return True
+
+
+class Windows(unittest.TestCase):
+    @contextlib.contextmanager
+    def showing(self, scene):
+        self.program = Program(tessara, samples)
+        try:
+            self.program.go_to(scene)
+            yield
+        finally:
+            self.program.end()
+
+    def stands(self, scene):
+        """Checks the window, which is in front."""
+        self.assertEqual(self.faults(self.program.window(scene.title)), [])
+        if not scene.tabs:
+            return
+        stops = self.tab_stops(scene.title)
+        self.assertEqual(self.missed(scene.title, stops), [], "not reached by Tab")
+        self.assertEqual(self.against_the_eye(stops), [], "Tab jumps back")
+
+    @staticmethod
+    def faults(window):
+        found = [] if window.role in WINDOWS else [f"a window without a role: {window}"]
+        for node in [window, *window.showing_below()]:
+            where = " / ".join(map(str, node.ancestry()))
+            silent = node.role in SILENT and node is not window
+            if silent and node.focusable and node.role != "frame":
+                found.append(f"takes the focus without a role: {where}")
+            if not node.name and (node.focusable or not silent) and node.role not in TEXTS:
+                found.append(f"nameless: {where}")
+        return found
+
+    @staticmethod
+    def focusable_in(window):
+        """What takes the focus; a part of something that does belongs to it."""
+        found = []
+        for node in window.showing_below():
+            inner = any(outer in found for outer in node.ancestry())
+            if node.focusable and node.enabled and not inner:
+                found.append(node)
+        return found
+
+    def tab_stops(self, title):
+        """Where Tab goes, once round, from what has the focus."""
+        wanted = self.focusable_in(self.program.window(title))
+        if not wanted:
+            return []
+
+        def focused():
+            inner = self.program.focused(title)
+            return inner and next((node for node in inner.ancestry() if node in wanted), None)
+
+        stops = [wait_for(f'the focus in "{title}"', focused)]
+        while len(wanted) > 1:
+            self.program.press("Tab")
+            deadline = time.monotonic() + SECONDS_FOR_A_KEY
+            while (now := focused()) in (None, stops[-1]):
+                self.assertLess(time.monotonic(), deadline, f"Tab does not leave {stops[-1]}")
+            if now in stops:
+                break
+            stops.append(now)
+        return stops
+
+    def missed(self, title, stops):
+        """What Tab passes over. In a group of options it stops once; the arrows do the rest."""
+        window = self.program.window(title)
+        groups = {stop.parent for stop in stops if stop.role == "radio button"}
+        return [str(node) for node in self.focusable_in(window)
+                if node not in stops and not (node.role == "radio button" and node.parent in groups)
+                and not (node.role == "label" and window.role == "alert")]
+
+    @staticmethod
+    def against_the_eye(stops):
+        """The steps back but one: from the last place Tab goes round to the first."""
+        steps = list(zip(stops, stops[1:] + stops[:1]))
+        back = [f"{first} to {second}" for first, second in steps if not in_order(first, second)]
+        return back if len(back) > 1 else []
+
+    def test_every_window(self):
+        for scene in SCENES:
+            with self.subTest(scene=scene.name):
+                with self.showing(scene):
+                    self.stands(scene)
+
+    def reads(self, name, *parts):
+        """Whether the card of a scene comes to say all the parts."""
+        scene = next(scene for scene in SCENES if scene.name == name)
+        with self.subTest(scene=name), self.showing(scene):
+            wait_for(f"the card to say {parts}", lambda: all(
+                part in self.program.find(scene.title, "Card").description for part in parts))
+
+    def test_the_card_says_its_side_number_text_and_banner(self):
+        self.reads("study-text", "Front", "1 of 195", "What is the capital of Afghanistan?")
+        self.reads("study-text-back", "Back", "1 of 195", "Kabul")
+        self.reads("test-question-judged", "Front", "1 of 60", "WRONG")
+
+
+def main():
+    global tessara, samples
+    tessara, samples = sys.argv[1:3]
+    unittest.main(argv=sys.argv[:1] + sys.argv[3:])
+
+
+if __name__ == "__main__":
+    main()

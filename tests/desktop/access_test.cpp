@@ -1,0 +1,51 @@
+// What a screen reader finds behind widgets whose role Qt can't know.
+
+#include <QAccessible>
+#include <doctest/doctest.h>
+
+#include "tests/desktop/desk.h"
+
+using namespace tessara;
+using namespace tessara::test;
+
+namespace {
+
+QAccessible::Role RoleOf(QWidget& widget) {
+  return QAccessible::queryAccessibleInterface(&widget)->role();
+}
+
+}  // namespace
+
+TEST_CASE("What paints itself is a text, an option a radio button, a dialog a dialog") {
+  Desk desk;
+  desk.ShowChild();
+  desk.dialog->Show();
+  CHECK(RoleOf(Desk::Of("Painting1")) == QAccessible::StaticText);
+  CHECK(RoleOf(Desk::Of("Option1(0)")) == QAccessible::RadioButton);
+  CHECK(RoleOf(*Desk::Top("frmDialog")) == QAccessible::Dialog);
+}
+
+TEST_CASE("An option stays a radio button, and no Tab stop is lost, wherever the focus goes") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  Desk::Of("Option1(0)").setFocus();
+  CHECK(Desk::Of("Option1(1)").focusPolicy() == Qt::StrongFocus);
+  form.Option1[1].SetSelected(true);
+  CHECK(RoleOf(Desk::Of("Option1(1)")) == QAccessible::RadioButton);
+}
+
+TEST_CASE("A link is a link, Tab gets to it, it shows the focus, and Return is its click") {
+  Desk desk;
+  desk.prepare = [](SampleForm& form) { form.Label1.SetLink(true); };
+  SampleForm& form = desk.ShowChild();
+  QWidget& link = Desk::Of("Label1");
+  CHECK(RoleOf(link) == QAccessible::Link);
+  form.Text1.SetFocus();
+  const QImage plain = link.grab().toImage();
+  QTest::keyClick(&Desk::Of("Text1"), Qt::Key_Backtab);
+  REQUIRE(link.hasFocus());
+  CHECK(link.grab().toImage() != plain);
+  form.log.Take();
+  QTest::keyClick(&link, Qt::Key_Return);
+  CHECK(form.log.Take() == "label");
+}
