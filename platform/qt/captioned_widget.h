@@ -4,6 +4,7 @@
 #include <QStyleOptionButton>
 
 #include "platform/qt/caption_fit.h"
+#include "platform/qt/visible_focus.h"
 
 namespace tessara {
 
@@ -26,6 +27,7 @@ class CaptionedWidget : public ButtonWidget {
   void initStyleOption(QStyleOptionButton* option) const override {
     ButtonWidget::initStyleOption(option);
     option->text = shown_;
+    ShowFocusAlways(*option);
   }
   void nextCheckState() override {}
   /// All of the place takes the click, not only mark and letters.

@@ -3,11 +3,27 @@
 #include <QComboBox>
 
 #include "platform/qt/qt_text.h"
+#include "platform/qt/visible_focus.h"
 
 namespace tessara {
 
+namespace {
+
+class ComboWidget : public QComboBox {
+ public:
+  using QComboBox::QComboBox;
+
+ protected:
+  void initStyleOption(QStyleOptionComboBox* option) const override {
+    QComboBox::initStyleOption(option);
+    ShowFocusAlways(*option);
+  }
+};
+
+}  // namespace
+
 ComboView::ComboView(ComboBox& combo, QWidget& parent, const ViewContext& context)
-    : ControlView(combo, *new QComboBox(&parent), context) {
+    : ControlView(combo, *new ComboWidget(&parent), context) {
   Shown().setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
   QObject::connect(&Shown(), &QComboBox::activated, this,
                    [this](int index) { PassSelection(index); });

@@ -3,7 +3,9 @@
 #include <QApplication>
 #include <array>
 
+#include "forms/controls.h"
 #include "forms/form.h"
+#include "platform/qt/contrast.h"
 #include "platform/qt/qt_colors.h"
 
 namespace tessara {
@@ -15,6 +17,24 @@ constexpr std::array kGroundRoles = {QPalette::Window, QPalette::Base, QPalette:
 
 bool HasColors(const Control& control) {
   return control.ForeColor() != Color{} || control.BackColor() != Color{};
+}
+
+/// A picture is a ground of its own, the same on every desktop.
+bool StandsOnPicture(const Control& control) {
+  for (const Control* at = control.Container(); at != nullptr; at = at->Container()) {
+    const bool box = at->Kind() == ControlKind::kPictureBox;
+    if (box && !static_cast<const PictureBox*>(at)->PictureOf().Empty()) return true;
+  }
+  return false;
+}
+
+/// Named colours were chosen for a light desktop.
+QColor TextColor(const Control& control, const QPalette& desktop, const QColor& own) {
+  const QColor color = ColorIn(desktop, control.ForeColor(), own);
+  const bool fixed = control.ForeColor().role == Color::Role::kFixed;
+  if (!fixed || StandsOnPicture(control)) return color;
+  const QColor window = desktop.color(QPalette::Active, QPalette::Window);
+  return ReadableOn(ColorIn(desktop, control.BackColor(), window), color);
 }
 
 }  // namespace
@@ -45,7 +65,7 @@ QPalette PaletteOf(const Control& control) {
     const auto source = group == QPalette::Disabled && keptOut ? QPalette::Active : group;
     for (const auto role : kTextRoles) {
       const QColor own = desktop.color(source, role);
-      palette.setColor(group, role, greyed ? own : ColorIn(desktop, control.ForeColor(), own));
+      palette.setColor(group, role, greyed ? own : TextColor(control, desktop, own));
     }
     for (const auto role : kGroundRoles) {
       const QColor own = desktop.color(source, role);

@@ -3,11 +3,11 @@
 #include <QLabel>
 #include <QPainter>
 #include <QStyle>
-#include <QStyleOptionFocusRect>
 
 #include "platform/qt/accessible_role.h"
 #include "platform/qt/caption_fit.h"
 #include "platform/qt/qt_text.h"
+#include "platform/qt/visible_focus.h"
 
 namespace tessara {
 
@@ -32,16 +32,10 @@ class CaptionLabel : public QLabel {
     const int flags = static_cast<int>(alignment()) | Qt::TextShowMnemonic;
     style()->drawItemText(&painter, rect(), flags, palette(), isEnabled(), shown_,
                           foregroundRole());
-    if (hasFocus()) PaintFocus(painter);
+    PaintFocus(*this, rect(), painter);
   }
 
  private:
-  void PaintFocus(QPainter& painter) const {
-    QStyleOptionFocusRect option;
-    option.initFrom(this);
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, this);
-  }
-
   QString shown_;
 };
 

@@ -2,14 +2,13 @@
 
 #include <QCoreApplication>
 #include <QKeyEvent>
-#include <QStyle>
-#include <QStyleOptionFocusRect>
 #include <QVariant>
 #include <cmath>
 
 #include "platform/qt/accessible_role.h"
 #include "platform/qt/qt_canvas.h"
 #include "platform/qt/qt_text.h"
+#include "platform/qt/visible_focus.h"
 
 namespace tessara {
 
@@ -87,12 +86,8 @@ void PaintedView::Paint() {
   const double scroll = scrollBar_ == nullptr ? 0 : scrollBar_->value();
   As<PaintedControl>().Paint(canvas, SizeInPixels(), scroll);
   painter.restore();
-  if (!Widget().hasFocus()) return;
-  QStyleOptionFocusRect option;
-  option.initFrom(&Widget());
   constexpr int kInside = 3;
-  option.rect = Widget().rect().adjusted(kInside, kInside, -kInside, -kInside);
-  Widget().style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, &Widget());
+  PaintFocus(Widget(), Widget().rect().adjusted(kInside, kInside, -kInside, -kInside), painter);
 }
 
 void PaintedView::FitScrollBar() {

@@ -34,6 +34,19 @@ TEST_CASE("An option stays a radio button, and no Tab stop is lost, wherever the
   CHECK(RoleOf(Desk::Of("Option1(1)")) == QAccessible::RadioButton);
 }
 
+TEST_CASE("Each kind of control shows that it has the focus, before a key was pressed") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  const auto picture = [](const char* control) { return Desk::Of(control).grab().toImage(); };
+  for (const char* name : {"Command2", "Check1", "Option1(0)", "Combo1", "Painting1", "Text1"}) {
+    CAPTURE(name);
+    form.List1.SetFocus();
+    const QImage plain = picture(name);
+    Desk::Of(name).setFocus(Qt::OtherFocusReason);
+    CHECK(picture(name) != plain);
+  }
+}
+
 TEST_CASE("A link is a link, Tab gets to it, it shows the focus, and Return is its click") {
   Desk desk;
   desk.prepare = [](SampleForm& form) { form.Label1.SetLink(true); };

@@ -1,0 +1,68 @@
+#include <QLabel>
+#include <QPalette>
+#include <doctest/doctest.h>
+
+#include "platform/qt/contrast.h"
+#include "tests/desktop/desk.h"
+
+using namespace tessara;
+using namespace tessara::test;
+
+namespace {
+
+const QColor kLight(239, 239, 239);
+const QColor kDark(49, 54, 59);
+const QColor kBlue(0, 0, 255);
+
+/// The desktop's palette, for as long as a test takes.
+class Desktop {
+ public:
+  explicit Desktop(const QColor& ground) {
+    QPalette palette(ground);
+    palette.setColor(QPalette::Window, ground);
+    QApplication::setPalette(palette);
+  }
+  Desktop(const Desktop&) = delete;
+  Desktop& operator=(const Desktop&) = delete;
+  ~Desktop() { QApplication::setPalette(before_); }
+
+ private:
+  QPalette before_ = QApplication::palette();
+};
+
+QColor TextColorOf(const char* control) {
+  return Desk::Of(control).palette().color(QPalette::WindowText);
+}
+
+}  // namespace
+
+TEST_CASE("The contrast of two colours is counted from 1 to 21, whichever comes first") {
+  CHECK(ContrastOf(Qt::white, Qt::black) == doctest::Approx(21));
+  CHECK(ContrastOf(Qt::black, Qt::white) == doctest::Approx(21));
+  CHECK(ContrastOf(kBlue, kBlue) == doctest::Approx(1));
+  CHECK(ContrastOf(Qt::white, QColor(118, 118, 118)) == doctest::Approx(4.54).epsilon(0.01));
+}
+
+TEST_CASE("A colour that can be read stays; another keeps its hue and gets lighter or darker") {
+  CHECK(ReadableOn(kLight, kBlue) == kBlue);
+  const QColor colors[] = {kBlue,         {255, 0, 0},   {128, 0, 0}, {192, 0, 192},
+                           {128, 64, 0},  {0, 0, 238},   Qt::black,   Qt::white};
+  for (const QColor& ground : {kLight, kDark, QColor(Qt::black), QColor(Qt::white)}) {
+    for (const QColor& color : colors) {
+      CAPTURE(color.name().toStdString());
+      const QColor readable = ReadableOn(ground, color);
+      CHECK(ContrastOf(ground, readable) >= kReadableContrast);
+      if (color.hslHue() >= 0) CHECK(std::abs(readable.hslHue() - color.hslHue()) <= 2);
+    }
+  }
+}
+
+TEST_CASE("A control's own colour is read on a dark desktop, and is as told on a light one") {
+  for (const QColor& ground : {kLight, kDark}) {
+    const Desktop desktop(ground);
+    Desk desk;
+    desk.ShowChild().Label1.SetForeColor(FixedColor(0, 0, 255));
+    CHECK(ContrastOf(TextColorOf("Label1"), ground) >= kReadableContrast);
+    CHECK((TextColorOf("Label1") == kBlue) == (ground == kLight));
+  }
+}
