@@ -1,12 +1,15 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QDialogButtonBox>
+#include <QLineEdit>
 #include <QPrintDialog>
 #include <QPushButton>
 #include <QSpinBox>
 #include <QTest>
 #include <QTimer>
 #include <doctest/doctest.h>
+#include <filesystem>
+#include <functional>
 
 #include "platform/qt/lazy_print_surface.h"
 #include "platform/qt/qt_dialogs.h"
@@ -36,15 +39,30 @@ struct PaperDesk {
 
   /// Chooses the queue and the copies in the dialog, and prints all cards.
   std::string Print(const char* queue, Mode mode, int copies = 1) {
-    QTimer::singleShot(0, [=] {
+    Answer([=](QPrintDialog& dialog) {
+      dialog.findChild<QComboBox*>("printers")->setCurrentText(queue);
+      dialog.findChild<QSpinBox*>("copies")->setValue(copies);
+    });
+    return office.PressPrint(mode, copies);
+  }
+  std::string PrintToFile(const std::string& path, Mode mode) {
+    Answer([=](QPrintDialog& dialog) {
+      auto* printers = dialog.findChild<QComboBox*>("printers");
+      printers->setCurrentIndex(printers->count() - 1);
+      dialog.findChild<QLineEdit*>("filename")->setText(QString::fromStdString(path));
+    });
+    return office.PressPrint(mode);
+  }
+
+ private:
+  static void Answer(const std::function<void(QPrintDialog&)>& fill) {
+    QTimer::singleShot(0, [fill] {
       auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
       REQUIRE(dialog != nullptr);
-      dialog->findChild<QComboBox*>("printers")->setCurrentText(queue);
-      dialog->findChild<QSpinBox*>("copies")->setValue(copies);
+      fill(*dialog);
       auto* buttons = dialog->findChild<QDialogButtonBox*>();
       QTest::mouseClick(buttons->button(QDialogButtonBox::Ok), Qt::LeftButton);
     });
-    return office.PressPrint(mode, copies);
   }
 };
 
@@ -100,6 +118,19 @@ TEST_CASE("each copy of a listing is a job on the chosen queue's own paper") {
   }
   // A heading stands above the texts of the card behind it.
   CHECK(jobs[0].pages[0].Has("Card #1 F2 B2 Card #2 F3 B3"));
+}
+
+TEST_CASE("queue and file can be chosen in turn") {
+  PaperDesk desk(3);
+  for (const char* queue : {PrintServer::kQueue, PrintServer::kOtherQueue}) {
+    CAPTURE(queue);
+    REQUIRE(desk.PrintToFile(desk.office.PdfPath(), Mode::kFlat) == "PRINT");
+    CHECK(desk.office.Pages().size() == 1);
+    std::filesystem::remove(desk.office.PdfPath());
+    REQUIRE(desk.Print(queue, Mode::kFlat) == "PRINT");
+    CHECK(desk.queues.TakeJobs(queue, 1).front().pages.size() == 1);
+    CHECK_FALSE(std::filesystem::exists(desk.office.PdfPath()));
+  }
 }
 
 TEST_CASE("a queue that takes no jobs cancels the job, and the next one prints elsewhere") {
