@@ -22,8 +22,8 @@ TEST_CASE("every back lies behind its front when the sheet is turned") {
     int cards;
     bool flip;
   };
-  const Case cases[] = {{1, true},  {1, false}, {7, false},  {8, true},
-                        {9, false}, {16, true}, {17, false}, {17, true}};
+  const Case cases[] = {{1, true},  {1, false}, {7, false}, {8, true},
+                        {9, false}, {16, true}, {17, false}};
   for (const Case& c : cases) {
     CAPTURE(c.cards);
     CAPTURE(c.flip);
