@@ -1,9 +1,12 @@
+#include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <doctest/doctest.h>
 
 #include "platform/qt/qt_settings_store.h"
+#include "tests/support/killed_process.h"
 
 using namespace tessara;
 
@@ -12,7 +15,8 @@ namespace {
 /// A configuration folder of its own.
 struct ConfigFolder {
   QTemporaryDir folder;
-  ConfigFolder() {
+  explicit ConfigFolder(const QString& parent = QDir::tempPath() + '/')
+      : folder(parent + "tessara-XXXXXX") {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
   }
   [[nodiscard]] QString Path() const { return folder.filePath("Tessara.conf"); }
@@ -65,4 +69,33 @@ TEST_CASE("A store that can't be written stays as it is, silently") {
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/proc/no such folder");
   QtSettingsStore().Write(u"BackDrop", u"DESERT");
   CHECK_FALSE(QFile::exists("/proc/no such folder"));
+}
+
+TEST_CASE("A store whose writer is killed has the old value or the new one, and can be written") {
+  // In memory: each write waits for its disk.
+  const ConfigFolder config("/dev/shm/");
+  for (int stop = 1, ended = 0; ended == 0; ++stop) {
+    CAPTURE(stop);
+    QtSettingsStore().Write(u"BackDrop", u"DESERT");
+    ended = test::KilledAt(stop, [] { QtSettingsStore().Write(u"BackDrop", u"GRANITE"); }) ? 0 : 1;
+    const Text kept = QtSettingsStore().Read(u"BackDrop", u"");
+    CHECK((kept == u"DESERT" || kept == u"GRANITE"));
+  }
+  QtSettingsStore().Write(u"BackDrop", u"STUCCO");
+  CHECK(QtSettingsStore().Read(u"BackDrop", u"") == u"STUCCO");
+  CHECK_FALSE(QFile::exists(config.Path() + ".lock"));
+}
+
+TEST_CASE("A lock that a killed writer has left empty does not hold up the next one") {
+  const ConfigFolder config;
+  QFile lock(config.Path() + ".lock");
+  REQUIRE(lock.open(QIODevice::WriteOnly));
+  lock.close();
+  QElapsedTimer timer;
+  timer.start();
+  QtSettingsStore().Write(u"BackDrop", u"DESERT");
+  constexpr int kFarBelowTheHalfMinute = 10000;
+  CHECK(timer.elapsed() < kFarBelowTheHalfMinute);
+  CHECK(QtSettingsStore().Read(u"BackDrop", u"") == u"DESERT");
+  CHECK_FALSE(lock.exists());
 }
