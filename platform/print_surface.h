@@ -8,7 +8,7 @@ namespace tessara {
 /// A page to write on, line by line. All lengths are twips unless told otherwise.
 /// A document begins with the first thing written or asked about its page, and ends with
 /// EndDocument, which sends it and raises the errors of writing a file too; setting destination and
-/// copies begins none. Every operation may raise error 482 (printer).
+/// copies begins none. Every operation but one may raise error 482 (printer).
 class PrintSurface {
  public:
   virtual ~PrintSurface() = default;
@@ -33,7 +33,8 @@ class PrintSurface {
   [[nodiscard]] virtual double TextHeight(const Text& text) const = 0;
   virtual void NewPage() = 0;
   virtual void EndDocument() = 0;
-  /// Drops the document that an error broke off, if one has begun: nothing of it is printed.
+  /// Drops the document that an error broke off, if one has begun: nothing of it is printed. Raises
+  /// nothing.
   virtual void DropDocument() = 0;
 };
 

@@ -48,7 +48,8 @@ void LazyPrintSurface::EndDocument() {
   Surface().EndDocument();
 }
 void LazyPrintSurface::DropDocument() {
-  Surface().DropDocument();
+  // No document has begun without the module, which may not be there.
+  if (PrintModule* module = printing_.LoadedModule()) module->Surface().DropDocument();
 }
 
 }  // namespace tessara

@@ -32,6 +32,8 @@ class PrintModuleSource {
   explicit PrintModuleSource(const Text& folder);
   /// Raises error 482 where there is no module in the folder.
   [[nodiscard]] PrintModule& Module();
+  /// Null before the first use, and where there is none.
+  [[nodiscard]] PrintModule* LoadedModule() const { return module_.get(); }
 
  private:
   QLibrary library_;

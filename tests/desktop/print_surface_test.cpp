@@ -89,6 +89,32 @@ TEST_CASE("Nothing of a dropped document is printed, then or later") {
   CHECK(desk.Pages() == 1);
 }
 
+TEST_CASE("The documents of one job follow each other in its file, and the next job's is new") {
+  PdfDesk desk;
+  for (const int pages : {1, 2}) {
+    desk.surface.PrintLine(u"copy");
+    desk.surface.EndDocument();
+    CHECK(desk.Pages() == pages);
+  }
+  desk.surface.PrintLine(u"broken off");
+  desk.surface.NewPage();
+  desk.surface.DropDocument();
+  desk.surface.PrintLine(u"third copy");
+  desk.surface.EndDocument();
+  CHECK(desk.Pages() == 3);
+  desk.surface.SetDestination({u"", FromQString(desk.file)});
+  desk.surface.PrintLine(u"another job");
+  desk.surface.EndDocument();
+  CHECK(desk.Pages() == 1);
+}
+
+TEST_CASE("Without the print module there is no document to drop") {
+  PrintModuleSource printing{u"/nowhere"};
+  LazyPrintSurface surface{printing};
+  CHECK_THROWS_AS(surface.PrintLine(u"x"), RunTimeError);
+  CHECK_NOTHROW(surface.DropDocument());
+}
+
 TEST_CASE("A printer or a file that can't be written to is an error") {
   PdfDesk desk;
   SUBCASE("no such printer") {

@@ -45,6 +45,7 @@ QPageLayout LayoutOfQueue(const Text& queue) {
 
 void QtPrintSurface::SetDestination(const PrintDestination& destination) {
   destination_ = destination;
+  ended_ = 0;
   DropDocument();
 }
 
@@ -90,7 +91,7 @@ double QtPrintSurface::LineHeight() const {
 }
 
 QtPrintSurface::Page& QtPrintSurface::CurrentPage() {
-  if (pages_.empty()) pages_.emplace_back();
+  if (pages_.size() == ended_) pages_.emplace_back();
   return pages_.back();
 }
 
@@ -141,11 +142,13 @@ void QtPrintSurface::EndDocument() {
     DropDocument();
     throw;
   }
+  // A file has them all; a queue has taken this one.
+  if (!ToQueue()) ended_ = pages_.size();
   DropDocument();
 }
 
 void QtPrintSurface::DropDocument() {
-  pages_.clear();
+  pages_.resize(ended_);
   y_ = 0;
   document_.reset();
 }

@@ -15,7 +15,8 @@ class QPainter;
 namespace tessara {
 
 /// Writes for a print queue or into a PDF file. A document is kept until it ends and printed then,
-/// all at once: a dropped one leaves no trace, neither in the printer's queue nor on the disk.
+/// all at once: a dropped one leaves no trace, neither in the printer's queue nor on the disk. The
+/// documents of one destination follow each other in its file; in a queue each is a job.
 class QtPrintSurface : public PrintSurface {
  public:
   void SetDestination(const PrintDestination& destination) override;
@@ -59,7 +60,7 @@ class QtPrintSurface : public PrintSurface {
   [[nodiscard]] QFontMetricsF Metrics() const;
   [[nodiscard]] double LineHeight() const;
   [[nodiscard]] Page& CurrentPage();
-  /// The document as a PDF file.
+  /// All pages as a PDF file.
   [[nodiscard]] QByteArray PaintPages() const;
   void Send(const QByteArray& pdf) const;
   static void Paint(const Page& page, QPainter& painter);
@@ -69,7 +70,8 @@ class QtPrintSurface : public PrintSurface {
   mutable std::unique_ptr<Document> document_;
   QFont font_;
   std::vector<Page> pages_;
-  double y_ = 0;  ///< twips from the top of the page's drawing area
+  std::size_t ended_ = 0;  ///< how many of the pages are of documents that the file has already
+  double y_ = 0;           ///< twips from the top of the page's drawing area
 };
 
 }  // namespace tessara
