@@ -24,7 +24,7 @@ foreach(folder ${coreFolders})
 endforeach()
 headers_compile_alone(core tessara_core ${coreHeaders})
 headers_compile_alone(tests tessara_core tests/support/*.h tests/unit/*.h tests/unit/*/*.h)
-foreach(adapter posix qt libreoffice freedesktop)
+foreach(adapter posix cups qt libreoffice freedesktop)
   if(TARGET tessara_${adapter})
     # A loadable module cannot be linked; its headers need its include folders all the same.
     get_target_property(adapterLibraries tessara_${adapter} LINK_LIBRARIES)
