@@ -121,11 +121,11 @@ press alt+c
 menu $file n x
 builder 2
 enter 'Which number is prime?'
-press Tab Tab
+press Tab
 enter 'Four'
-press Tab Tab
+press Tab
 enter 'Seven'
-press Tab space
+press shift+Tab space
 take builder-question-new
 end_program
 
@@ -133,6 +133,12 @@ open "$science"
 builder
 press ctrl+Page_Down ctrl+Page_Down
 take builder-question-edit
+end_program
+
+open
+press alt+c
+menu $file u
+take setup
 end_program
 
 open "$capitals"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Runs a command on a virtual display of its own, with a window manager, and ends both after it.
-# usage: scripts/with_display.sh COMMAND...     exits with the status of the command
+# usage: [SCREEN=WIDTHxHEIGHT] scripts/with_display.sh COMMAND...     exits with the status of the command
 set -euo pipefail
 
 work=$(mktemp -d)
@@ -15,7 +15,7 @@ trap end_display EXIT
 # The server picks a free display and writes its number once it takes connections; should it die
 # instead, the pipe ends and the read fails.
 mkfifo "$work/number"
-Xvfb -displayfd 3 -screen 0 1280x1024x24 -nolisten tcp 3>"$work/number" >"$work/log" 2>&1 &
+Xvfb -displayfd 3 -screen 0 "${SCREEN:-1280x1024}x24" -nolisten tcp 3>"$work/number" >"$work/log" 2>&1 &
 started+=($!)
 if ! read -r number <"$work/number"; then
   echo "The virtual display did not start:" >&2

@@ -1,7 +1,7 @@
 #include "platform/qt/visible_focus.h"
 
+#include <QPalette>
 #include <QStyle>
-#include <QStyleOptionFocusRect>
 
 namespace tessara {
 
@@ -13,11 +13,14 @@ void ShowFocusAlways(QStyleOption& option) {
 
 void PaintFocus(const QWidget& widget, const QRect& place, QPainter& painter) {
   if (!widget.hasFocus()) return;
-  QStyleOptionFocusRect option;
-  option.initFrom(&widget);
-  ShowFocusAlways(option);
-  option.rect = place;
-  widget.style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &painter, &widget);
+  constexpr double kWidth = 2;
+  constexpr double kCorner = 4;
+  constexpr double kInside = kWidth / 2;
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(widget.palette().color(QPalette::Highlight), kWidth));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(QRectF(place).adjusted(kInside, kInside, -kInside, -kInside), kCorner,
+                          kCorner);
 }
 
 }  // namespace tessara

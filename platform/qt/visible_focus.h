@@ -9,8 +9,8 @@ namespace tessara {
 /// Styles show the focus from the first Tab on; here it is seen from the start.
 void ShowFocusAlways(QStyleOption& option);
 
-/// The style's own sign of the focus, along the edge of `place`; nothing where the focus is
-/// elsewhere.
+/// A line in the desktop's highlight colour along the edge of `place`, which a style would fill;
+/// nothing where the focus is elsewhere.
 void PaintFocus(const QWidget& widget, const QRect& place, QPainter& painter);
 
 }  // namespace tessara

@@ -125,7 +125,7 @@ class Program:
         self._root = wait_for("the program on the bus", self._application)
         for title, *keys in scene.steps:
             self.ready(title)
-            self.press(*keys) if len(keys) == 1 else self.choose(*keys)
+            self.press(*keys[0].split()) if len(keys) == 1 else self.choose(*keys)
         self.ready(scene.title)
 
     def ready(self, title):

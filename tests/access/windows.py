@@ -9,10 +9,12 @@ class Scene(typing.NamedTuple):
     name: str
     title: str  # of the window that it ends in
     deck: str | None = None  # a sample
-    # The window that must be in front, then a key or a menu and its entry.
+    # The window that must be in front, then keys, or a menu and its entry.
     steps: tuple = ()
     # Whether each Tab goes to another control: in a page it goes to the next link.
     tabs: bool = True
+    # What the card must say.
+    says: tuple = ()
 
 
 def standard(mode):
@@ -32,8 +34,8 @@ TEST_OF_QUESTIONS = (QUESTION, "Mode", "Test")
 BUILDER = ("File", "Create/Edit Card")
 
 SCENES = [
-    Scene("study-text", STUDY, "capitals"),
-    Scene("study-text-back", STUDY, "capitals", ((STUDY, "alt+s"),)),
+    Scene("study-text", STUDY, "capitals", says=("Front", "1 of 195", "What is the capital of Afghanistan?")),
+    Scene("study-text-back", STUDY, "capitals", ((STUDY, "alt+s"),), says=("Back", "1 of 195", "Kabul")),
     Scene("quiz-text", standard("QUIZ"), "capitals", (QUIZ_OF_TEXT,)),
     Scene("test-text", standard("TEST"), "capitals", (TEST_OF_TEXT,)),
     Scene("test-text-credit", standard("TEST"), "capitals", (TEST_OF_TEXT, (standard("TEST"), "alt+s"))),
@@ -41,7 +43,8 @@ SCENES = [
     Scene("quiz-question", extended("QUIZ"), "science", (QUIZ_OF_QUESTIONS,)),
     Scene("quiz-question-answer", extended("QUIZ"), "science", (QUIZ_OF_QUESTIONS, (extended("QUIZ"), "alt+s"))),
     Scene("test-question", extended("TEST"), "science", (TEST_OF_QUESTIONS,)),
-    Scene("test-question-judged", extended("TEST"), "science", (TEST_OF_QUESTIONS, (extended("TEST"), "Down"))),
+    Scene("test-question-judged", extended("TEST"), "science", (TEST_OF_QUESTIONS, (extended("TEST"), "Down")),
+          says=("Front", "1 of 60", "WRONG", "The Sun is a star.")),
     Scene("go-to", "Go To Card", "capitals", ((STUDY, "Utility", "<Go To Card >"),)),
     Scene("delete", "Delete Card # 1", "capitals", ((STUDY, "File", "Delete Card"),)),
     Scene("information", "Tessara Information", "capitals", ((STUDY, "Utility", "Tessara Information"),)),
@@ -50,6 +53,7 @@ SCENES = [
     Scene("builder-question", "Tessara", "science", ((QUESTION, *BUILDER),)),
     Scene("builder-choices", "Tessara", "science", ((QUESTION, "ctrl+Next"), (QUESTION, *BUILDER))),
     Scene("builder-text-new", "Tessara", None, ((NEW_DECK, *BUILDER),)),
+    Scene("builder-question-new", "Tessara", None, ((NEW_DECK, "alt+c"), (FRAME, "alt+f n x"), (NEW_DECK, *BUILDER))),
     Scene("empty", NEW_DECK),
     Scene("frame", FRAME, None, ((NEW_DECK, "alt+c"),)),
     Scene("set-up", "Set-Up", None, ((NEW_DECK, "alt+c"), (FRAME, "File", "Set Up"))),

@@ -1,8 +1,9 @@
+#include "platform/qt/contrast.h"
+
 #include <QLabel>
 #include <QPalette>
 #include <doctest/doctest.h>
 
-#include "platform/qt/contrast.h"
 #include "tests/desktop/desk.h"
 
 using namespace tessara;
@@ -45,8 +46,8 @@ TEST_CASE("The contrast of two colours is counted from 1 to 21, whichever comes 
 
 TEST_CASE("A colour that can be read stays; another keeps its hue and gets lighter or darker") {
   CHECK(ReadableOn(kLight, kBlue) == kBlue);
-  const QColor colors[] = {kBlue,         {255, 0, 0},   {128, 0, 0}, {192, 0, 192},
-                           {128, 64, 0},  {0, 0, 238},   Qt::black,   Qt::white};
+  const QColor colors[] = {kBlue,        {255, 0, 0}, {128, 0, 0}, {192, 0, 192},
+                           {128, 64, 0}, {0, 0, 238}, Qt::black,   Qt::white};
   for (const QColor& ground : {kLight, kDark, QColor(Qt::black), QColor(Qt::white)}) {
     for (const QColor& color : colors) {
       CAPTURE(color.name().toStdString());
