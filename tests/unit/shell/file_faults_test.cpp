@@ -178,6 +178,55 @@ TEST_CASE(
 }
 
 TEST_CASE(
+    "whatever fails in the save of any other command, success is told and the command goes on") {
+  struct Case {
+    const char* name;
+    Action command;
+    bool keepsCards;
+  };
+  const Case cases[] = {
+      {"Save As",
+       [](FaultDesk& desk) {
+         desk.Choose(u"/decks/other.tsr");
+         desk.Run([&desk] { desk.Deck().mnuSaveAs_Click(); });
+       },
+       true},
+      {"Yes to the question of a deck without a file",
+       [](FaultDesk& desk) {
+         desk.state.DeckFilePath.clear();
+         desk.fakes.messages.answers = {MessageAnswer::kYes};
+         desk.Choose(u"/decks/other.tsr");
+         desk.Choose(u"/decks/other.tsr");
+         desk.Run([&desk] { desk.Deck().mnuNCD_Click(); });
+       },
+       false},
+      {"Yes to the question of a deck with a file",
+       [](FaultDesk& desk) {
+         desk.fakes.messages.answers = {MessageAnswer::kYes};
+         desk.Run([&desk] { desk.Deck().mnuNCD_Click(); });
+       },
+       false},
+  };
+  const Action changedDeck = [](FaultDesk& desk) {
+    kPlainStart(desk);
+    desk.OpenFromMenu();
+    desk.state.DeckChanged = true;
+    desk.state.SaveOffered = true;
+  };
+  for (const Case& c : cases) {
+    CAPTURE(c.name);
+    const int operations =
+        FailEachInTurn(changedDeck, c.command, [&c](FaultDesk& desk, const Fault&) {
+          CHECK_FALSE(desk.HasEnded());
+          REQUIRE_FALSE(desk.fakes.messages.shown.empty());
+          CHECK(desk.fakes.messages.shown.back().title == u"Save");
+          CHECK(desk.state.HasCards() == c.keepsCards);
+        });
+    CHECK(operations >= 1 + kCards + 2);
+  }
+}
+
+TEST_CASE(
     "what fails in an import's look at the first line ends the program, what fails behind it "
     "the import") {
   for (const TextView path : {TextView(u"/decks/std.txt"), TextView(u"/decks/ext.txt")}) {
