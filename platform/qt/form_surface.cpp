@@ -6,6 +6,7 @@
 
 #include "platform/qt/make_view.h"
 #include "platform/qt/painted_pictures.h"
+#include "platform/qt/reading.h"
 
 namespace tessara {
 
@@ -35,6 +36,25 @@ void FormSurface::Follow(Control& control, Aspect aspect) {
   const bool holds =
       control.Kind() == ControlKind::kFrame || control.Kind() == ControlKind::kPictureBox;
   if (aspect == Aspect::kEnabled && holds) FollowColors();
+  const bool reads = aspect == Aspect::kContent || aspect == Aspect::kCaption ||
+                     (aspect == Aspect::kVisible && holds);
+  if (reads) TellReading();
+}
+
+/// A screen reader says what has the focus, not what has changed elsewhere: a new card is told
+/// with the control that the program has left the focus on, or moved it to. Tab adds nothing.
+void FormSurface::TellReading() {
+  if (form_ == nullptr) return;
+  const QString reading = ReadingOf(*form_);
+  const Control* focused = WantedFocus();
+  if (reading.isEmpty() || focused == nullptr) return;
+  QWidget& widget = ViewOf(*focused).Widget();
+  if (told_ != nullptr && told_ != &widget) told_->setAccessibleDescription({});
+  // What paints itself says so by itself.
+  told_ = focused->Kind() == ControlKind::kPainted ? nullptr : &widget;
+  if (told_ != nullptr && told_->accessibleDescription() != reading) {
+    told_->setAccessibleDescription(reading);
+  }
 }
 
 void FormSurface::FollowForm() {
@@ -62,7 +82,9 @@ Control* FormSurface::WantedFocus() const {
 
 void FormSurface::TakeFocus() {
   Control* wanted = WantedFocus();
-  if (wanted != nullptr) ViewOf(*wanted).Widget().setFocus(Qt::OtherFocusReason);
+  if (wanted == nullptr || ViewOf(*wanted).Widget().hasFocus()) return;
+  TellReading();
+  ViewOf(*wanted).Widget().setFocus(Qt::OtherFocusReason);
 }
 
 void FormSurface::Detach() {

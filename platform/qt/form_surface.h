@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QPointer>
 #include <QWidget>
 #include <unordered_map>
 
@@ -31,11 +32,13 @@ class FormSurface : public QWidget {
   void MakeViews();
   void FollowColors();
   [[nodiscard]] Control* WantedFocus() const;
+  void TellReading();
   [[nodiscard]] ControlView& ViewOf(const Control& control) const;
 
   Form* form_;
   const ViewContext& context_;
   std::unordered_map<const Control*, ControlView*> views_;
+  QPointer<QWidget> told_;  ///< whose description is the window's reading
   bool pressed_ = false;
 };
 

@@ -47,6 +47,24 @@ TEST_CASE("Each kind of control shows that it has the focus, before a key was pr
   }
 }
 
+TEST_CASE("A new card is told with what the program leaves the focus on, or moves it to") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  const auto said = [](const char* name) { return Desk::Of(name).accessibleDescription(); };
+  form.Check1.SetFocus();
+  form.Painting1.Write(u"one", 10);
+  CHECK(said("Check1") == "one");
+  form.Painting1.Write(u"two", 10);
+  form.Command2.SetFocus();
+  CHECK(said("Command2") == "two");
+  CHECK(said("Check1").isEmpty());
+  QTest::keyClick(&Desk::Of("Command2"), Qt::Key_Tab);
+  CHECK(QApplication::focusWidget()->accessibleDescription().isEmpty());
+  form.Painting1.SetFocus();
+  CHECK(said("Painting1") == "two");
+  CHECK(said("Command2").isEmpty());
+}
+
 TEST_CASE("A link is a link, Tab gets to it, it shows the focus, and Return is its click") {
   Desk desk;
   desk.prepare = [](SampleForm& form) { form.Label1.SetLink(true); };
