@@ -10,8 +10,9 @@ namespace {
 constexpr const char* kRole = "tessaraAccessibleRole";
 
 QAccessibleInterface* MakeInterface(const QString& /*className*/, QObject* object) {
-  const QVariant role = object == nullptr ? QVariant() : object->property(kRole);
-  if (!role.isValid() || !object->isWidgetType()) return nullptr;
+  if (object == nullptr || !object->isWidgetType()) return nullptr;
+  const QVariant role = object->property(kRole);
+  if (!role.isValid()) return nullptr;
   return new QAccessibleWidget(static_cast<QWidget*>(object),
                                static_cast<QAccessible::Role>(role.toInt()));
 }
