@@ -37,15 +37,11 @@ class ProgramOnScreen {
 
   ScratchFolder folder;
 
-  ProgramOnScreen() {
-    StartAnew();
+  ProgramOnScreen() : ProgramOnScreen(nullptr) {
     fakes_.settings.values = {{u"ShowSplash", u"0"}, {u"FirstLoad", u"False"}};
-    messages_.SetWindows(program.Windows());
-    dialogs_.SetWindows(program.Windows());
-    program.Windows().SetRenderer(renderer_);
-    dialogTimer_.callOnTimeout([this] { AnswerDialog(); });
-    dialogTimer_.start(0);
   }
+  /// With settings of the test's own.
+  explicit ProgramOnScreen(SettingsStore& settings) : ProgramOnScreen(&settings) {}
 
   /// Starts with the deck of that name in the folder, or without one.
   void Start(const Text& deck = {}) {
@@ -143,6 +139,11 @@ class ProgramOnScreen {
   /// The texts of the boxes and the titles of the other dialogs since the last time.
   std::vector<std::string> TakeAsked() { return std::exchange(asked_, {}); }
 
+  /// Runs in each yield of the pause at the start.
+  void WhilePausing(std::function<void()> action) {
+    fakes_.desktop.whileYielding = std::move(action);
+  }
+
   static void Settle() {
     QApplication::processEvents();
     // No window manager brings the frame back when the last dialog has closed.
@@ -151,6 +152,16 @@ class ProgramOnScreen {
   }
 
  private:
+  explicit ProgramOnScreen(SettingsStore* settings)
+      : settings_(settings == nullptr ? fakes_.settings : *settings) {
+    StartAnew();
+    messages_.SetWindows(program.Windows());
+    dialogs_.SetWindows(program.Windows());
+    program.Windows().SetRenderer(renderer_);
+    dialogTimer_.callOnTimeout([this] { AnswerDialog(); });
+    dialogTimer_.start(0);
+  }
+
   static QWidget& KeysGoTo() {
     for (QWidget* receiver : {QApplication::activePopupWidget(), QApplication::focusWidget(),
                               QApplication::activeWindow()}) {
@@ -192,13 +203,14 @@ class ProgramOnScreen {
   }
 
   FakeMachine fakes_;
+  SettingsStore& settings_;
   PosixFileSystem files_;
   PrintModuleSource printing_{u"/nowhere"};
   QtMessageBoxes messages_;
   QtDialogs dialogs_{printing_};
   Machine machine_ = {messages_,
                       dialogs_,
-                      fakes_.settings,
+                      settings_,
                       files_,
                       fakes_.copies,
                       fakes_.clock,

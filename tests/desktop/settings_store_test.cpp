@@ -6,28 +6,11 @@
 #include <doctest/doctest.h>
 
 #include "platform/qt/qt_settings_store.h"
+#include "tests/desktop/config_folder.h"
 #include "tests/support/killed_process.h"
 
 using namespace tessara;
-
-namespace {
-
-/// A configuration folder of its own.
-struct ConfigFolder {
-  QTemporaryDir folder;
-  explicit ConfigFolder(const QString& parent = QDir::tempPath() + '/')
-      : folder(parent + "tessara-XXXXXX") {
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
-  }
-  [[nodiscard]] QString Path() const { return folder.filePath("Tessara.conf"); }
-  void Write(const char* content) const {
-    QFile file(Path());
-    REQUIRE(file.open(QIODevice::WriteOnly));
-    file.write(content);
-  }
-};
-
-}  // namespace
+using namespace tessara::test;
 
 TEST_CASE("A missing key gives the default, an empty value is a value") {
   const ConfigFolder config;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <tuple>
 #include <vector>
@@ -65,6 +66,7 @@ class FakeDesktop : public Desktop {
   int screenWidth = 1024;
   int screenHeight = 768;
   int yields = 0;
+  std::function<void()> whileYielding;  ///< runs in each yield
   std::vector<std::tuple<Text, Text, ShowState>> opened;
   std::vector<Text> helpShown;
   std::vector<MousePointer> pointers;
@@ -76,7 +78,10 @@ class FakeDesktop : public Desktop {
   }
   void ShowHelp(const Text& path) override { helpShown.push_back(path); }
   void SetMousePointer(MousePointer pointer) override { pointers.push_back(pointer); }
-  void Yield() override { ++yields; }
+  void Yield() override {
+    ++yields;
+    if (whileYielding) whileYielding();
+  }
   [[nodiscard]] int ScreenWidth() const override { return screenWidth; }
   [[nodiscard]] int ScreenHeight() const override { return screenHeight; }
 };

@@ -162,8 +162,15 @@ TEST_CASE("the splash is shown for 5000 yields where its setting is numerically 
   for (const Case& c : cases) {
     ProgramDesk desk;
     desk.fakes.settings.values[u"ShowSplash"] = c.value;
+    int yieldsWithSplash = 0;
+    desk.fakes.desktop.whileYielding = [&] {
+      for (const Form* form : desk.program.Windows().LoadedForms()) {
+        if (form->Name() == "Splash" && form->Visible()) ++yieldsWithSplash;
+      }
+    };
     desk.Start();
     CHECK(desk.fakes.desktop.yields == c.yields);
+    CHECK(yieldsWithSplash == c.yields);
     for (const Form* form : desk.program.Windows().LoadedForms()) CHECK(form->Name() != "Splash");
   }
 }
