@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
@@ -87,8 +88,9 @@ bool FrameWindow::OpenMenu(char16_t letter) {
   QAction* action = menus_ == nullptr ? nullptr : menus_->TopLevelFor(letter);
   if (action == nullptr || action->menu() == nullptr) return false;
   menuBar()->setActiveAction(action);
-  const auto entries = action->menu()->actions();
-  if (!entries.isEmpty()) action->menu()->setActiveAction(entries.first());
+  // By the key, the first entry becomes the active one without its submenu coming up.
+  QKeyEvent down(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+  QApplication::sendEvent(action->menu(), &down);
   return true;
 }
 
