@@ -1,5 +1,6 @@
 #include "platform/qt/text_line_view.h"
 
+#include <algorithm>
 #include <limits>
 
 #include "platform/qt/text_mapping.h"
@@ -37,13 +38,17 @@ void TextLineView::ShowText() {
   }
 }
 
-/// By an edit of its own, so that the user can still undo.
+/// The user's edit is taken back, and what is right goes in instead of it: an undo then never
+/// meets what was wrong.
 void TextLineView::CorrectTo(const QString& wanted) {
   const qsizetype behindCursor = Edit().text().size() - Edit().cursorPosition();
-  const ShownEdit edit = ChangeBetween(Edit().text(), wanted, wanted.size() - behindCursor);
+  const qsizetype cursor = std::clamp<qsizetype>(wanted.size() - behindCursor, 0, wanted.size());
   correcting_ = true;
+  Edit().undo();
+  const ShownEdit edit = ChangeBetween(Edit().text(), wanted, cursor);
   Edit().setSelection(static_cast<int>(edit.place), static_cast<int>(edit.removed));
   Edit().insert(edit.inserted);
+  Edit().setCursorPosition(static_cast<int>(cursor));
   correcting_ = false;
 }
 

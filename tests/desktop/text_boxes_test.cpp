@@ -26,6 +26,25 @@ void Commit(QWidget& box, const QString& text) {
   QApplication::sendEvent(&box, &event);
 }
 
+/// Composes text the way an input method does, behind what it commits.
+void Compose(QWidget& box, const QString& composed, const QString& committed = {}) {
+  QInputMethodEvent event(composed, {});
+  event.setCommitString(committed);
+  QApplication::sendEvent(&box, &event);
+}
+
+QString ComposedIn(const QPlainTextEdit& box) {
+  return box.textCursor().block().layout()->preeditAreaText();
+}
+
+void Undo(QWidget& box) {
+  QTest::keySequence(&box, QKeySequence::Undo);
+}
+
+void Redo(QWidget& box) {
+  QTest::keySequence(&box, QKeySequence::Redo);
+}
+
 void PutCursorAtEnd(QPlainTextEdit& box) {
   box.moveCursor(QTextCursor::End);
 }
@@ -109,6 +128,82 @@ TEST_CASE("A corrected paste can be undone") {
   CHECK(form.Text2.TextOf() == u"a?b");
   while (area.document()->isUndoAvailable()) area.undo();
   CHECK(form.Text2.TextOf().empty());
+}
+
+TEST_CASE("Undo takes back typing and a corrected paste, and redo brings them again") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  struct Kind {
+    const char* name;
+    TextBox& box;
+  };
+  for (const Kind& kind : {Kind{"Text1", form.Text1}, Kind{"Text2", form.Text2}}) {
+    CAPTURE(kind.name);
+    QWidget& widget = Desk::Of(kind.name);
+    QTest::keyClicks(&widget, "a");
+    Paste(widget, QStringLiteral("\u4E2Db"));
+    QTest::keyClicks(&widget, "c");
+    CHECK(kind.box.TextOf() == u"a?bc");
+    constexpr int kMostSteps = 4;
+    for (int step = 0; step < kMostSteps && !kind.box.TextOf().empty(); ++step) Undo(widget);
+    CHECK(kind.box.TextOf().empty());
+    for (int step = 0; step < kMostSteps; ++step) Redo(widget);
+    CHECK(kind.box.TextOf() == u"a?bc");
+  }
+}
+
+TEST_CASE("What was typed over the limit is not in the way of an undo") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  form.Text1.SetMaxLength(3);
+  auto& line = Desk::Of<QLineEdit>("Text1");
+  QTest::keyClicks(&line, "ad");
+  QTest::keyClick(&line, Qt::Key_Left);
+  QTest::keyClicks(&line, "bcc");
+  CHECK(form.Text1.TextOf() == u"abd");
+  CHECK(line.cursorPosition() == 2);
+  constexpr int kMostSteps = 3;
+  for (int step = 0; step < kMostSteps; ++step) Undo(line);
+  CHECK(form.Text1.TextOf().empty());
+}
+
+TEST_CASE("Composed text reaches the form when it is committed") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  auto& area = Desk::Of<QPlainTextEdit>("Text2");
+  for (const char* name : {"Text1", "Text2"}) {
+    CAPTURE(name);
+    TextBox& box = name == std::string("Text1") ? form.Text1 : form.Text2;
+    QWidget& widget = Desk::Of(name);
+    QTest::keyClicks(&widget, "a");
+    form.log.Take();
+    Compose(widget, "e");
+    Compose(widget, "e'");
+    CHECK(box.TextOf() == u"a");
+    CHECK(form.log.Take().empty());
+    Compose(widget, {}, QStringLiteral("\u00E9"));
+    CHECK(box.TextOf() == u"a\u00E9");
+  }
+  CHECK(ComposedIn(area).isEmpty());
+  // What is put right in the text before it leaves the composed text alone.
+  Compose(area, "zi", QStringLiteral("\u4E2D"));
+  CHECK(form.Text2.TextOf() == u"a\u00E9?");
+  CHECK(ComposedIn(area) == "zi");
+  Compose(area, {}, "z");
+  CHECK(form.Text2.TextOf() == u"a\u00E9?z");
+  CHECK(area.toPlainText() == QStringLiteral("a\u00E9?z"));
+}
+
+TEST_CASE("Pasted lines keep their breaks, whatever they are made of") {
+  for (const char* lines : {"one\ntwo\n", "one\r\ntwo\r\n", "one\rtwo\r"}) {
+    CAPTURE(lines);
+    Desk desk;
+    SampleForm& form = desk.ShowChild();
+    auto& area = Desk::Of<QPlainTextEdit>("Text2");
+    Paste(area, lines);
+    CHECK(form.Text2.TextOf() == u"one\r\ntwo\r\n");
+    CHECK(area.blockCount() == 3);
+  }
 }
 
 TEST_CASE("A lowered limit cuts nothing, and keeps more from coming in") {
