@@ -13,20 +13,44 @@ from PIL import ImageChops, ImageGrab
 
 SECONDS_TO_PAINT = 60
 SECONDS_BETWEEN_LOOKS = 0.1
+FRAME = "Tessara 1.0"
 
 
-def visible_window():
-    """The box (left, top, right, bottom) of the program's window without its border, or None."""
-    found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^Tessara"], capture_output=True, text=True)
-    if not found.stdout:
-        return None
-    told = subprocess.run(["xwininfo", "-id", found.stdout.split()[0]], capture_output=True, text=True).stdout
+class NotShown(Exception):
+    """The program's window does not come up, or not alone."""
+
+
+def windows_of(program):
+    """Numbers and titles of the windows of a process that are on screen."""
+    found = subprocess.run(["xdotool", "search", "--onlyvisible", "--all", "--pid", str(program.pid), "--name", "."],
+                           capture_output=True, text=True)
+    numbers = found.stdout.split()
+    titles = (subprocess.run(["xdotool", "getwindowname", number], capture_output=True, text=True).stdout.strip()
+              for number in numbers)
+    return dict(zip(numbers, titles))
+
+
+def box_of(window):
+    """Left, top, right and bottom of a window without its border; None once it has gone away."""
+    told = subprocess.run(["xwininfo", "-id", window], capture_output=True, text=True).stdout
     try:
         left, top, width, height = (int(re.search(rf"{name}: +(-?\d+)", told)[1]) for name in
                                     ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
-    except TypeError:  # the window went away meanwhile
+    except TypeError:
         return None
     return left, top, left + width, top + height
+
+
+def frame_box(program):
+    """The frame's place on screen, None while it is not there."""
+    return next((box_of(number) for number, title in windows_of(program).items() if title == FRAME), None)
+
+
+def refuse_boxes(program):
+    """A window beside the frame, once that is painted, is a box that keeps the card away."""
+    others = {title for title in windows_of(program).values() if title not in ("", FRAME)}
+    if others:
+        raise NotShown(f"The program shows a box instead of a card: {', '.join(sorted(others))}.")
 
 
 def is_painted(picture):
@@ -34,21 +58,23 @@ def is_painted(picture):
 
 
 def wait_for_painted(program):
-    """The first picture of the window that is not of one colour and no longer changes."""
+    """The first picture of the frame that is not of one colour and no longer changes."""
     earlier = None
     deadline = time.monotonic() + SECONDS_TO_PAINT
     while time.monotonic() < deadline:
         if program.poll() is not None:
-            sys.exit(f"The program ended with status {program.returncode} before its window was painted.")
-        box = visible_window()
+            raise NotShown(f"The program ended with status {program.returncode} before its window was painted.")
+        picture = None
+        box = frame_box(program)
         if box:
             picture = ImageGrab.grab(xdisplay=os.environ["DISPLAY"]).crop(box)
             if (earlier and earlier.size == picture.size and is_painted(picture)
                     and not ImageChops.difference(earlier, picture).getbbox()):
+                refuse_boxes(program)
                 return picture
-            earlier = picture
+        earlier = picture
         time.sleep(SECONDS_BETWEEN_LOOKS)
-    sys.exit(f"The program's window was not painted within {SECONDS_TO_PAINT} seconds.")
+    raise NotShown(f"The program's window was not painted within {SECONDS_TO_PAINT} seconds.")
 
 
 def main():
@@ -56,6 +82,8 @@ def main():
     program = subprocess.Popen(command)
     try:
         wait_for_painted(program).save(path)
+    except NotShown as missed:
+        sys.exit(str(missed))
     finally:
         program.terminate()
         program.wait()
