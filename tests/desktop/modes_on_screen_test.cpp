@@ -58,6 +58,20 @@ std::string Banner() {
   return ProgramOnScreen::Card("CardBanner");
 }
 
+/// Turns a page in study mode, forwards (1) or backwards (0).
+void Page(bool byKeys, int index) {
+  if (byKeys) return ProgramOnScreen::Key(index == 1 ? Qt::Key_PageDown : Qt::Key_PageUp);
+  ProgramOnScreen::Click(index == 1 ? "cmdMove(1)" : "cmdMove(0)");
+}
+
+bool CanPage(int index) {
+  return ProgramOnScreen::Of(index == 1 ? "cmdMove(1)" : "cmdMove(0)").isEnabled();
+}
+
+std::string AnswerShown() {
+  return ProgramOnScreen::Of("Label2").property("text").toString().toStdString();
+}
+
 /// On the card with the number: the text on show.
 std::string TextOnCard(const char* number) {
   CHECK(ProgramOnScreen::Card("CardNumber") == number);
@@ -69,6 +83,71 @@ bool Shown(const char* control) {
 }
 
 }  // namespace
+
+TEST_CASE("A text deck is studied, by the mouse and by the keyboard alone") {
+  for (const bool byKeys : {false, true}) {
+    CAPTURE(byKeys);
+    ProgramOnScreen desk;
+    desk.folder.Write("birds.tsr", DeckBytes(3));
+    desk.Start(u"birds.tsr");
+    const auto flip = [byKeys] {
+      byKeys ? ProgramOnScreen::Alt(Qt::Key_S) : ProgramOnScreen::Click("Command3(1)");
+    };
+    CHECK(TextOnCard("1") == "front 1");
+    CHECK(ProgramOnScreen::Card("CardTotal") == "3");
+    CHECK_FALSE(CanPage(0));
+    Page(byKeys, 0);
+    CHECK(TextOnCard("1") == "front 1");
+    flip();
+    CHECK(TextOnCard("1") == "back 1");
+    // The side stays.
+    Page(byKeys, 1);
+    CHECK(TextOnCard("2") == "back 2");
+    CHECK(CanPage(0));
+    CHECK(CanPage(1));
+    Page(byKeys, 1);
+    CHECK(TextOnCard("3") == "back 3");
+    CHECK_FALSE(CanPage(1));
+    Page(byKeys, 1);
+    CHECK(TextOnCard("3") == "back 3");
+    flip();
+    CHECK(TextOnCard("3") == "front 3");
+    Page(byKeys, 0);
+    Page(byKeys, 0);
+    CHECK(TextOnCard("1") == "front 1");
+    CHECK_FALSE(CanPage(0));
+    CHECK(desk.TakeAsked().empty());
+  }
+}
+
+TEST_CASE("Questions are studied with their answers, by the mouse and by the keyboard alone") {
+  const char* const answers[] = {"TRUE", "three", "FALSE", "one"};
+  for (const bool byKeys : {false, true}) {
+    CAPTURE(byKeys);
+    ProgramOnScreen desk;
+    desk.folder.Write("sky.tsr", QuestionDeckBytes());
+    desk.Start(u"sky.tsr");
+    CHECK_FALSE(ProgramOnScreen::Of("Command3(1)").isEnabled());
+    const auto check = [&answers](int card) {
+      const std::string number = std::to_string(card);
+      CHECK(TextOnCard(number.c_str()) == "question " + number);
+      CHECK(Shown("Picture1"));
+      CHECK(AnswerShown() == answers[card - 1]);
+      CHECK(CanPage(0) == (card != 1));
+      CHECK(CanPage(1) == (card != 4));
+    };
+    for (const int card : {1, 2, 3, 4}) {
+      check(card);
+      Page(byKeys, 1);
+    }
+    for (const int card : {4, 3, 2, 1}) {
+      check(card);
+      Page(byKeys, 0);
+    }
+    check(1);
+    CHECK(desk.TakeAsked().empty());
+  }
+}
 
 TEST_CASE("A quiz of a text deck is taken whole, by the mouse and by the keyboard alone") {
   for (const bool byKeys : {false, true}) {

@@ -1,10 +1,9 @@
 // Decks written in the whole program by the keyboard alone, saved, and read back byte for byte.
 
-#include <QLineEdit>
 #include <doctest/doctest.h>
 
 #include "deck/deck_file.h"
-#include "tests/desktop/program_on_screen.h"
+#include "tests/desktop/writing_by_keys.h"
 #include "tests/support/deck_bytes.h"
 
 using namespace tessara;
@@ -13,44 +12,6 @@ using namespace tessara::test;
 namespace {
 
 constexpr Qt::Key kA = Qt::Key_A, kC = Qt::Key_C, kN = Qt::Key_N;
-
-/// Tab by Tab.
-void GoTo(const char* control) {
-  constexpr int kMostTabs = 16;
-  for (int tabs = 0; ProgramOnScreen::Focus() != control && tabs < kMostTabs; ++tabs) {
-    ProgramOnScreen::Key(Qt::Key_Tab);
-  }
-  REQUIRE(ProgramOnScreen::Focus() == control);
-}
-
-void Write(const char* control, TextView text) {
-  GoTo(control);
-  ProgramOnScreen::Type(text);
-}
-
-void Pick(const char* option) {
-  GoTo(option);
-  ProgramOnScreen::Key(Qt::Key_Space);
-}
-
-void OpenBuilder() {
-  ProgramOnScreen::ChooseByKeys("mnuFile", "mnuACTTD");
-}
-
-/// Saves under the name, and takes the box that says so away.
-std::string SaveByKeys(ProgramOnScreen& desk, const char* command) {
-  desk.WhenAsked([&desk](QWidget&) {
-    auto* name = qobject_cast<QLineEdit*>(QApplication::focusWidget());
-    REQUIRE(name != nullptr);
-    QTest::keyClicks(name, QString::fromStdString((desk.folder / "new.tsr").string()));
-    QTest::keyClick(name, Qt::Key_Return);
-  });
-  desk.AnswerByKey(Qt::Key_Return);
-  ProgramOnScreen::ChooseByKeys("mnuFile", command);
-  CHECK(desk.TakeAsked().back() ==
-        "This file has been saved to " + (desk.folder / "new.tsr").string());
-  return desk.folder.Read("new.tsr");
-}
 
 /// Texts of the expected bytes are ASCII; this letter stands for é.
 constexpr char kAccented = '#';
@@ -66,6 +27,25 @@ std::string QuestionBytes(char type, const Text& question, int number,
   constexpr std::size_t kAnswerPlace = 1 + 444 + 2 + 4 * 75;
   bytes[kAnswerPlace] = answer;
   return bytes;
+}
+
+/// The empty deck window goes; the frame's own menu makes an extended deck.
+void StartQuestionDeck(ProgramOnScreen& desk) {
+  desk.Start();
+  ProgramOnScreen::Alt(kC);
+  ProgramOnScreen::Alt(Qt::Key_F);
+  ProgramOnScreen::Keys({kN, Qt::Key_X});
+  OpenBuilder();
+}
+
+/// From the one option of the two types to the other.
+void PickTrueFalse() {
+  GoTo("Option3(0)");
+  ProgramOnScreen::Key(Qt::Key_Right);
+}
+
+std::string AnswerShown() {
+  return ProgramOnScreen::Of("Label2").property("text").toString().toStdString();
 }
 
 /// The first file of a new deck has the information that the information window begins with.
@@ -129,36 +109,155 @@ TEST_CASE(
   CHECK(ProgramOnScreen::Card("CardTotal") == "2");
 }
 
-TEST_CASE("A deck of questions typed by keys alone is in its file byte for byte") {
-  ProgramOnScreen desk;
-  desk.Start();
-  // The empty deck window goes; the frame's own menu makes an extended deck.
-  ProgramOnScreen::Alt(kC);
-  ProgramOnScreen::Alt(Qt::Key_F);
-  ProgramOnScreen::Keys({kN, Qt::Key_X});
-  OpenBuilder();
-  Write("Text2", u"Which particle carries\na negative charge?");
-  Write("Text1(0)", u"proton");
-  Write("Text1(1)", u"neutron");
-  Write("Text1(2)", u"\u00E9lectron");
-  Write("Text1(3)", u"photon");
-  Pick("Option1(2)");
-  ProgramOnScreen::Alt(kA);
-  ProgramOnScreen::Alt(kN);
-  CHECK(ProgramOnScreen::Focus() == "Text2");
-  // The other type of card.
-  GoTo("Option3(0)");
-  ProgramOnScreen::Key(Qt::Key_Right);
-  CHECK(ProgramOnScreen::Focus() == "Text2");
-  ProgramOnScreen::Type(u"Spiders are insects.");
-  Pick("Option2(1)");
-  ProgramOnScreen::Alt(kA);
-  ProgramOnScreen::Alt(kC);
-  const std::string saved = SaveByKeys(desk, "mnuSave");
+TEST_CASE(
+    "A question deck typed by keys alone is in its file byte for byte, and back after a restart") {
+  std::string saved;
+  {
+    ProgramOnScreen desk;
+    StartQuestionDeck(desk);
+    Write("Text2", u"Which particle carries\na negative charge?");
+    Write("Text1(0)", u"proton");
+    Write("Text1(1)", u"neutron");
+    Write("Text1(2)", u"\u00E9lectron");
+    Write("Text1(3)", u"photon");
+    Pick("Option1(2)");
+    ProgramOnScreen::Alt(kA);
+    ProgramOnScreen::Alt(kN);
+    CHECK(ProgramOnScreen::Focus() == "Text2");
+    // The other type of card.
+    PickTrueFalse();
+    CHECK(ProgramOnScreen::Focus() == "Text2");
+    ProgramOnScreen::Type(u"Spiders are insects.");
+    Pick("Option2(1)");
+    ProgramOnScreen::Alt(kA);
+    ProgramOnScreen::Alt(kC);
+    saved = SaveByKeys(desk, "mnuSave");
+    CHECK(desk.TakeAsked().empty());
+  }
   CHECK(saved == WithAccents(InfoBytes(NewDeckOfType(u" Extended")) +
                              QuestionBytes('M', u"Which particle carries\r\na negative charge?", 1,
                                            {u"proton", u"neutron", u"#lectron", u"photon"}, 'C') +
                              QuestionBytes('T', u"Spiders are insects.", 2, {}, 'F') + EndBytes()));
+  ProgramOnScreen again;
+  again.folder.Write("new.tsr", saved);
+  again.Start(u"new.tsr");
+  CHECK(ProgramOnScreen::Card("CardText") == "Which particle carries\r\na negative charge?");
+  CHECK(AnswerShown() == "\u00E9lectron");
+  CHECK(ProgramOnScreen::Card("CardTotal") == "2");
+  ProgramOnScreen::Key(Qt::Key_PageDown);
+  CHECK(ProgramOnScreen::Card("CardText") == "Spiders are insects.");
+  CHECK(AnswerShown() == "FALSE");
+}
+
+TEST_CASE("Ten cards of each kind are typed one after the other, and each is in the file") {
+  constexpr int kCards = 10;
+  const auto text = [](TextView what, int card) { return Text(what) + u' ' + DecimalText(card); };
+  std::string expected;
+  ProgramOnScreen desk;
+  SUBCASE("texts") {
+    desk.Start();
+    OpenBuilder();
+    expected = InfoBytes(NewDeckOfType(u" Standard"));
+    for (int card = 1; card <= kCards; ++card) {
+      if (card > 1) ProgramOnScreen::Alt(kN);
+      Write("Text1(0)", text(u"front", card));
+      Write("Text1(1)", text(u"back", card));
+      ProgramOnScreen::Alt(kA);
+      expected += CardBytes(card, text(u"front", card), text(u"back", card));
+    }
+  }
+  SUBCASE("choices") {
+    StartQuestionDeck(desk);
+    expected = InfoBytes(NewDeckOfType(u" Extended"));
+    for (int card = 1; card <= kCards; ++card) {
+      if (card > 1) ProgramOnScreen::Alt(kN);
+      Write("Text2", text(u"question", card));
+      Write("Text1(0)", text(u"this", card));
+      Write("Text1(1)", text(u"that", card));
+      const bool first = card % 2 == 0;
+      Pick(first ? "Option1(0)" : "Option1(1)");
+      ProgramOnScreen::Alt(kA);
+      expected += QuestionBytes('M', text(u"question", card), card,
+                                {text(u"this", card), text(u"that", card)}, first ? 'A' : 'B');
+    }
+  }
+  SUBCASE("true or false") {
+    StartQuestionDeck(desk);
+    expected = InfoBytes(NewDeckOfType(u" Extended"));
+    PickTrueFalse();
+    for (int card = 1; card <= kCards; ++card) {
+      if (card > 1) ProgramOnScreen::Alt(kN);
+      Write("Text2", text(u"question", card));
+      const bool isTrue = card % 3 == 0;
+      Pick(isTrue ? "Option2(0)" : "Option2(1)");
+      ProgramOnScreen::Alt(kA);
+      expected += QuestionBytes('T', text(u"question", card), card, {}, isTrue ? 'T' : 'F');
+    }
+  }
+  ProgramOnScreen::Alt(kC);
+  CHECK(SaveByKeys(desk, "mnuSave") == expected + EndBytes());
+  CHECK(ProgramOnScreen::Card("CardTotal") == "10");
+  CHECK(desk.TakeAsked().empty());
+}
+
+TEST_CASE(
+    "Tab goes round a builder from text to buttons and arrows, once to each group of options") {
+  ProgramOnScreen desk;
+  const auto names = [] {
+    std::string met;
+    const std::string first = ProgramOnScreen::Focus();
+    constexpr int kMostTabs = 30;
+    for (int tabs = 0; tabs < kMostTabs; ++tabs) {
+      met += ProgramOnScreen::Focus() + " ";
+      ProgramOnScreen::Key(Qt::Key_Tab);
+      if (ProgramOnScreen::Focus() == first) break;
+    }
+    return met;
+  };
+  SUBCASE("texts") {
+    desk.folder.Write("deck.tsr", DeckBytes(3));
+    desk.Start(u"deck.tsr");
+    OpenBuilder();
+    ProgramOnScreen::Key(Qt::Key_PageDown, Qt::ControlModifier);
+    GoTo("Text1(0)");
+    ProgramOnScreen::Type(u"x");
+    CHECK(names() ==
+          "Text1(0) Text1(1) Command1(0) Command1(1) Command1(2) Command1(3) cmdMove(0) "
+          "cmdMove(1) ");
+  }
+  SUBCASE("questions") {
+    const std::array<Text, 4> choices = {u"one", u"two", u"three", u"four"};
+    std::string bytes = InfoBytes({});
+    for (int card = 1; card <= 3; ++card) bytes += QuestionBytes('M', u"?", card, choices, 'A');
+    desk.folder.Write("deck.tsr", bytes + EndBytes());
+    desk.Start(u"deck.tsr");
+    OpenBuilder();
+    ProgramOnScreen::Key(Qt::Key_PageDown, Qt::ControlModifier);
+    GoTo("Text2");
+    ProgramOnScreen::Type(u"x");
+    CHECK(
+        names() ==
+        "Text2 Option1(0) Text1(0) Text1(1) Text1(2) Text1(3) Command2(0) Command2(1) Command2(2) "
+        "Command2(3) cmdMove(0) cmdMove(1) ");
+  }
+}
+
+TEST_CASE("Nine lines on a back, wrapped ones counted, bring no notice, and the tenth does") {
+  ProgramOnScreen desk;
+  desk.Start();
+  OpenBuilder();
+  GoTo("Text1(1)");
+  // Two lines, for the box is narrower.
+  ProgramOnScreen::Type(Text(30, u'w') + u' ' + Text(30, u'w') + u"\n3\n4\n5\n6\n7\n8\n9");
+  CHECK(desk.TakeAsked().empty());
+  desk.AnswerByKey(Qt::Key_Return);
+  ProgramOnScreen::Type(u"\n");
+  CHECK(desk.TakeAsked() ==
+        std::vector<std::string>{
+            "You have reached the maximum number of lines that a card will show. Any further lines "
+            "which are added will not be seen."});
+  GoTo("Text1(0)");
+  ProgramOnScreen::Type(u"1\n2\n3\n4\n5\n6\n7\n8\n9\n10");
   CHECK(desk.TakeAsked().empty());
 }
 
