@@ -262,6 +262,51 @@ TEST_CASE("a save into a folder that is missing reports success all the same") {
   CHECK_FALSE(desk.fakes.files.Has(u"/nowhere/a.tsr"));
 }
 
+TEST_CASE("a save to a name that is or becomes a folder's reports success, and the next is whole") {
+  for (const bool onlyAfterDelete : {false, true}) {
+    CAPTURE(onlyAfterDelete);
+    LifeDesk desk;
+    desk.BuildDeck(2);
+    desk.state.DeckOnFile = true;
+    auto& files = desk.fakes.files;
+    if (onlyAfterDelete) {
+      files.Put(kPath, DeckBytes(9));
+      files.fault = [&files](MemoryFiles::Operation operation, const Text& path) {
+        if (operation == MemoryFiles::Operation::kOpen) files.folders.insert(path);
+        return std::optional<ErrorNumber>();
+      };
+    } else {
+      files.folders.insert(kPath);
+    }
+    Save(desk, kPath);
+    CHECK(desk.TakeBoxes() == Boxes{SavedBox(kPath)});
+    CHECK_FALSE(files.Has(kPath));
+    CHECK(files.folders.contains(kPath));
+    CHECK(desk.state.CardCount == 2);
+    CHECK(desk.state.Cell(2, kBackText) == u"back 2");
+    CHECK_FALSE(desk.fileNumber.IsOpen());
+    files.fault = nullptr;
+    files.folders.erase(kPath);
+    Save(desk, kPath);
+    CHECK(desk.File(kPath) == DeckBytes(2));
+  }
+}
+
+TEST_CASE("a file that goes away while it is kept and deleted is written anew") {
+  LifeDesk desk;
+  desk.BuildDeck(2);
+  desk.state.DeckOnFile = true;
+  auto& files = desk.fakes.files;
+  files.Put(kPath, DeckBytes(9));
+  files.fault = [&files](MemoryFiles::Operation operation, const Text& path) {
+    if (operation == MemoryFiles::Operation::kDelete) files.files.erase(path);
+    return std::optional<ErrorNumber>();
+  };
+  Save(desk, kPath);
+  CHECK(desk.TakeBoxes() == Boxes{SavedBox(kPath)});
+  CHECK(desk.File(kPath) == DeckBytes(2));
+}
+
 TEST_CASE("a file that an import left open is closed by the next save and not written to") {
   LifeDesk desk;
   desk.BuildDeck(1);

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "deck/deck_file.h"
+#include "tests/support/program_desk.h"
 #include "tests/unit/import/command_desk.h"
 
 namespace tessara::test {
@@ -141,12 +142,21 @@ TEST_CASE("after an unforeseen error the next import ends the program") {
   CHECK(desk.windows.ExitStatus() == 1);
 }
 
-TEST_CASE("after an unforeseen error a load fails") {
-  CommandDesk desk;
-  desk.Import("EXT\r\n1\r\n");
-  CHECK(ErrorOf([&] {
-          LoadDeckFromFile(u"/texts/deck.tsr", desk.state, desk.fileNumber, CodePage::Western());
-        }) == 55);
+TEST_CASE("after an unforeseen error a deck opened from either menu ends the program") {
+  for (const bool fromFrame : {false, true}) {
+    CAPTURE(fromFrame);
+    ProgramDesk desk;
+    desk.fakes.files.Put(kTextPath, "EXT\r\n1\r\n");
+    desk.fakes.files.Put(u"/texts/birds.tsr", ProgramDesk::DeckBytes(3));
+    desk.Start();
+    desk.fakes.dialogs.files = {kTextPath, u"/texts/birds.tsr"};
+    desk.Frame().mnuImportFile.Press();
+    CHECK(desk.fakes.messages.Take() == Boxes{UnforeseenError(u"Type mismatch")});
+    CHECK_FALSE(desk.program.Windows().ExitStatus());
+    (fromFrame ? desk.Frame().mnuOPenExisting : desk.Deck().mnuOCD).Press();
+    CHECK(desk.fakes.messages.Take() == Boxes{ErrorReport(u"55", u"File already open")});
+    CHECK(desk.program.Windows().ExitStatus() == 1);
+  }
 }
 
 TEST_CASE("after an unforeseen error a save writes nothing, says it did, and frees the file") {
