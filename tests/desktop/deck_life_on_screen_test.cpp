@@ -41,7 +41,8 @@ TEST_CASE("A deck is made, described, saved, closed, found again, changed and sa
   InfoTexts info = {.title = u" Capitals",
                     .author = u" Your Name Here",
                     .description = u" Deck Description Here"};
-  CHECK(SaveByKeys(desk, "mnuSave") == InfoBytes(info) + CardBytes(1, u"Norway", u"Oslo") + EndBytes());
+  CHECK(SaveByKeys(desk, "mnuSave") ==
+        InfoBytes(info) + CardBytes(1, u"Norway", u"Oslo") + EndBytes());
   CHECK(ProgramOnScreen::TitleOf("frmMain") == "new  [STUDY]");
 
   // The save has brought up the information.
@@ -89,7 +90,8 @@ TEST_CASE("A changed deck asks before it is closed, and No leaves its file as it
   desk.AnswerByKey(Qt::Key_N);
   desk.AnswerByKey(Qt::Key_Return);
   ProgramOnScreen::Alt(kC);
-  CHECK(desk.TakeAsked() ==
-        Asked{"There have been changes to this Tessara.Do you want to save them?", "ARE YOU SURE?"});
+  CHECK(
+      desk.TakeAsked() ==
+      Asked{"There have been changes to this Tessara.Do you want to save them?", "ARE YOU SURE?"});
   CHECK(desk.folder.Read("birds.tsr") == DeckBytes(1));
 }
