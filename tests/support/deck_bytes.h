@@ -41,6 +41,14 @@ inline std::string CardBytes(int row, const Text& front, const Text& back) {
   return RecordText('E', front, row, {}, back);
 }
 
+/// A question that is true.
+inline std::string TrueCardBytes(int row, const Text& question) {
+  std::string record = RecordText('T', question, row, {}, u"");
+  constexpr std::size_t kAnswerPlace = 1 + 444 + 2 + 4 * 75;
+  record[kAnswerPlace] = 'T';
+  return record;
+}
+
 inline std::string EndBytes() {
   return RecordText('X', u"", 0, {}, u"");
 }

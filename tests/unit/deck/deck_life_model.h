@@ -16,6 +16,7 @@ class DeckLifeModel {
   struct Card {
     Text front;
     Text back;
+    bool question = false;  ///< a true/false one, whose key is "T"
   };
   struct Strings {
     Text date, title, author, description;
@@ -32,6 +33,8 @@ class DeckLifeModel {
   Text title = u"New Deck";
   bool window = true;
   bool quiz = false;
+  bool extended = false;  ///< the view that the deck window is in
+  bool ended = false;
   Strings strings;
   std::optional<InfoTexts> info;  ///< what the information window shows while it is loaded
 
@@ -117,9 +120,46 @@ class DeckLifeModel {
     window = false;
   }
 
-  void Reopen() {
+  /// The frame's commands for a new deck.
+  void Reopen(bool asExtended) {
     window = true;
     title = u"New Deck";
+    extended = asExtended;
+  }
+
+  void OpenFromFrame() {
+    const Text chosen = Dialog();
+    if (NoName(chosen)) return;
+    if (!chosen.ends_with(u"tsr")) {
+      boxes.push_back(kNotADeckBox);
+      path.clear();
+      return;
+    }
+    path = chosen;
+    Load();
+    window = true;
+    title = Name(path) + u"  [STUDY]";
+    changed = offered = false;
+  }
+
+  void Import(const std::vector<Card>& imported) {
+    (void)Dialog();
+    Reopen(imported.front().question);
+    cards = imported;
+    count = static_cast<int>(cards.size());
+    current = 1;
+    const InfoTexts none;
+    strings.title = none.title;
+    strings.author = none.author;
+    strings.description = none.description;
+    changed = offered = true;
+  }
+
+  void CloseFrame() {
+    if (window) Close();
+    if (window) return;
+    info.reset();
+    ended = true;
   }
 
   void Quiz() {
@@ -213,9 +253,9 @@ class DeckLifeModel {
   void LoadInfo() {
     if (info) return;
     const InfoTexts none;
-    info =
-        InfoTexts{Shown(strings.date, none.date), u" Standard", Shown(strings.title, none.title),
-                  Shown(strings.author, none.author), Shown(strings.description, none.description)};
+    info = InfoTexts{Shown(strings.date, none.date), extended ? u" Extended" : u" Standard",
+                     Shown(strings.title, none.title), Shown(strings.author, none.author),
+                     Shown(strings.description, none.description)};
   }
 
   void Collect() {
@@ -247,7 +287,10 @@ class DeckLifeModel {
   [[nodiscard]] std::string FileBytes() const {
     std::string bytes = InfoBytes(*info);
     int row = 0;
-    for (const Card& card : cards) bytes += CardBytes(++row, card.front, card.back);
+    for (const Card& card : cards) {
+      bytes += card.question ? TrueCardBytes(++row, card.front)
+                             : CardBytes(++row, card.front, card.back);
+    }
     return bytes + EndBytes();
   }
 
@@ -265,9 +308,10 @@ class DeckLifeModel {
         strings = {Field(record, 447, 75), Field(record, 597, 75), Field(record, 672, 75),
                    Field(record, 748, 444)};
       } else {
-        cards.push_back({Field(record, 1, 444), Field(record, 748, 444)});
+        cards.push_back({Field(record, 1, 444), Field(record, 748, 444), record[0] == 'T'});
       }
     }
+    if (!cards.empty()) extended = cards.front().question;
     count = static_cast<int>(cards.size());
     current = 1;
   }
