@@ -14,6 +14,7 @@ import unittest
 
 SECONDS_TO_WAIT = 60
 SECONDS_BETWEEN_LOOKS = 0.1
+WINDOW_CLASS = '"tessara"'  # as the desktop entry tells it, which carries the program's icon to its window
 DECK_TYPE = "application/x-tessara-deck"
 
 build = pathlib.Path()
@@ -43,6 +44,12 @@ def titles_on_screen():
     return found.stdout.split("\n")[:-1]
 
 
+def frame_property(name):
+    """A property of the frame's window, as xprop writes it."""
+    window = said("xdotool", "search", "--onlyvisible", "--name", "^Tessara 1\\.0$")
+    return said("xprop", "-id", window, name).split(" = ")[-1]
+
+
 class Scratch(unittest.TestCase):
     """A scratch root with the program installed, and a home in which it has never run."""
 
@@ -67,12 +74,16 @@ class Scratch(unittest.TestCase):
                             if not name.startswith("XDG_") or name == "XDG_RUNTIME_DIR"}
         self.environment["HOME"] = str(home)
 
-    def start(self, *command):
-        """Starts a command that shows the frame and nothing else, and ends all of it."""
+    def start(self, *command, deck=None):
+        """Starts a command that shows the frame and nothing else, has the program got the deck; and ends all of it."""
         program = subprocess.Popen(command, env=self.environment, start_new_session=True)
         try:
             wait_for("The frame", titles_on_screen)
             self.assertEqual(titles_on_screen(), ["Tessara 1.0"])
+            self.assertIn(WINDOW_CLASS, frame_property("WM_CLASS").split(", "))
+            process = pathlib.Path("/proc", frame_property("_NET_WM_PID"))
+            arguments = process.joinpath("cmdline").read_bytes().decode().split("\0")[1:-1]
+            self.assertEqual(arguments, [str(deck)] if deck else [])
         finally:
             os.killpg(program.pid, 15)
             program.wait()
@@ -118,22 +129,21 @@ class Start(Scratch):
             with self.subTest(desktop=desktop):
                 self.environment["XDG_CURRENT_DESKTOP"] = desktop
                 self.assertEqual(self.ask("xdg-mime", "query", "filetype", self.deck), DECK_TYPE)
-                self.start("xdg-open", self.deck)
+                self.start("xdg-open", self.deck, deck=self.deck)
 
     def test_a_deck_is_opened_by_its_path_and_the_second_start_declares_nothing(self):
         self.settings.write_text("[Settings]\nFirstLoad=False\nShowSplash=0\n")
-        self.start(self.usr / "bin" / "tessara", self.deck)
+        self.start(self.usr / "bin" / "tessara", self.deck, deck=self.deck)
         self.assertFalse((self.data / "applications").exists())
         self.assertFalse((self.data / "mime").exists())
 
 
-class Package(unittest.TestCase):
+class Package(Scratch):
     """The Debian package."""
 
     @classmethod
     def setUpClass(cls):
-        cls.folder = pathlib.Path(tempfile.mkdtemp(prefix="tessara-package-"))
-        cls.addClassCleanup(shutil.rmtree, cls.folder)
+        super().setUpClass()
         said("cpack", "--config", build / "CPackConfig.cmake", "-G", "DEB", "-B", cls.folder)
         cls.package, = cls.folder.glob("*.deb")
 
@@ -148,6 +158,23 @@ class Package(unittest.TestCase):
         recommended = self.field("Recommends").split(", ")
         for name in ("libreoffice-calc", "xdg-utils", "shared-mime-info", "desktop-file-utils"):
             self.assertIn(name, recommended)
+
+    def test_it_holds_all_that_an_installation_has(self):
+        told = said("dpkg-deb", "--contents", self.package)
+        packed = {line.split(" ./", 1)[1].split(" -> ")[0].rstrip("/") for line in told.splitlines()
+                  if " ./" in line}
+        installed = {str(path.relative_to(self.root)) for path in self.root.rglob("*")}
+        self.assertLessEqual(installed, packed)
+        for name in ("bin/tessara", "lib/tessara/tessara", "lib/tessara/TessaraHelp.chm",
+                     "lib/tessara/samples/science.tsr", "share/applications/tessara.desktop",
+                     "share/mime/packages/tessara.xml", "share/icons/hicolor/48x48/apps/tessara.png",
+                     "share/metainfo/io.github.tessara.tessara.metainfo.xml", "share/man/man1/tessara.1.gz"):
+            self.assertIn(f"usr/{name}", packed)
+
+    def test_the_program_starts_from_what_is_unpacked(self):
+        unpacked = self.folder / "unpacked"
+        said("dpkg-deb", "--extract", self.package, unpacked)
+        self.start(unpacked / "usr" / "bin" / "tessara", self.deck, deck=self.deck)
 
     def test_lintian_finds_no_error(self):
         said("lintian", "--fail-on", "error", "--allow-root", self.package)

@@ -32,4 +32,19 @@ bool EndsWithLimit(int resource, rlim_t limit, const Action& action) {
   return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
+/// Asks in a process of its own that may do no more than any user, even where the administrator
+/// runs the tests: is it so?
+template <class Condition>
+bool HoldsForAnyUser(const Condition& condition) {
+  const pid_t child = fork();
+  if (child == 0) {
+    constexpr uid_t kNobody = 65534;
+    const bool anyUser = geteuid() != 0 || setuid(kNobody) == 0;
+    _exit(anyUser && condition() ? 0 : 1);
+  }
+  int status = 0;
+  waitpid(child, &status, 0);
+  return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+}
+
 }  // namespace tessara::test

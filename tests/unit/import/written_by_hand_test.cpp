@@ -1,6 +1,9 @@
 #include <doctest/doctest.h>
+#include <fstream>
+#include <iterator>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "tests/unit/import/command_desk.h"
@@ -219,7 +222,67 @@ void CheckAll(const HandWritten (&files)[count]) {
   }
 }
 
+std::string BytesOf(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  REQUIRE(file.is_open());
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+std::string WithoutEntities(std::string page) {
+  const std::pair<std::string, std::string> entities[] = {
+      {"&gt;", ">"}, {"&lt;", "<"}, {"&amp;", "&"}};
+  for (const auto& [entity, letter] : entities) {
+    for (auto at = page.find(entity); at != std::string::npos; at = page.find(entity, at + 1))
+      page.replace(at, entity.size(), letter);
+  }
+  return page;
+}
+
+/// The example that begins with that line, out of a help page or the README.
+std::string ExampleIn(const std::string& document, const std::string& firstLine) {
+  const std::string text = BytesOf(std::string(TESSARA_SAMPLE_TEXTS) + "/../../" + document);
+  const bool page = document.ends_with(".html");
+  const std::string begin = page ? "<pre>" : "```text\n";
+  const auto found = text.find(begin + firstLine + "\n");
+  REQUIRE(found != std::string::npos);
+  const auto start = found + begin.size();
+  const auto end = text.find(page ? "</pre>" : "```", start);
+  const std::string example = text.substr(start, end - start);
+  return page ? WithoutEntities(example) : example;
+}
+
 }  // namespace
+
+TEST_CASE("the examples of the documents become the cards that the documents tell") {
+  struct Case {
+    const char* document;
+    const char* firstLine;
+    std::vector<Text> cards;
+  };
+  const Case cases[] = {
+      {"data/help/import_standard.html",
+       "STD",
+       {u"E|What is the capital of Norway?|Oslo", u"E|Boiling point of water|100 degrees"}},
+      {"data/help/import_extended.html",
+       "EXT",
+       {u"T|The sun is a star|T", u"M|Which number is prime?|Four|Six|Seven|Eight|C",
+        u"T|Water is dry|F"}},
+      {"README.md",
+       "STD",
+       {u"E|What is the capital of Norway?|Oslo", u"E|What is the capital of Peru?|Lima"}},
+      {"README.md",
+       "EXT",
+       {u"T|The Sun is a star.|T",
+        u"M|Which particle carries a negative electric charge?|Proton|Neutron|Electron|C"}}};
+  for (const Case& c : cases) {
+    CAPTURE(c.document);
+    CAPTURE(c.firstLine);
+    CommandDesk desk;
+    desk.Import(ExampleIn(c.document, c.firstLine));
+    CHECK(desk.Told().empty());
+    CHECK(CardsOf(desk.state) == c.cards);
+  }
+}
 
 TEST_CASE("standard texts as people write them become decks or say what is wrong") {
   CheckAll(kStandardFiles);

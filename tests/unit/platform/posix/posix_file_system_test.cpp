@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include "deck/deck_file.h"
+#include "tests/support/limited_process.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/unit/deck/sample_deck.h"
 
@@ -26,6 +27,11 @@ void MakeSocket(const std::string& path) {
   REQUIRE(bind(socket, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0);
   close(socket);
 }
+
+/// One in which any user may make and delete files.
+struct OpenScratchFolder : ScratchFolder {
+  OpenScratchFolder() { std::filesystem::permissions(Path(), std::filesystem::perms::all); }
+};
 
 }  // namespace
 
@@ -81,13 +87,24 @@ TEST_CASE("a file without permission is refused") {
 }
 
 TEST_CASE("a file that is kept from being written is not deleted") {
-  if (geteuid() == 0) return;  // everything is permitted
-  const ScratchFolder folder;
+  const OpenScratchFolder folder;
   folder.Write("a", "x");
-  std::filesystem::permissions(folder / "a", std::filesystem::perms::owner_read);
-  PosixFileSystem files;
-  CHECK(ErrorOf([&] { files.Delete(folder.TextPath(u"a")); }) == 70);
+  std::filesystem::permissions(folder / "a", static_cast<std::filesystem::perms>(0444));
+  CHECK(HoldsForAnyUser([&] {
+    PosixFileSystem files;
+    return ErrorOf([&] { files.Delete(folder.TextPath(u"a")); }) == 70;
+  }));
   CHECK(folder.Read("a") == "x");
+}
+
+TEST_CASE("a file that is kept from being read is refused") {
+  const OpenScratchFolder folder;
+  folder.Write("a", "x");
+  std::filesystem::permissions(folder / "a", std::filesystem::perms::none);
+  CHECK(HoldsForAnyUser([&] {
+    PosixFileSystem files;
+    return ErrorOf([&] { (void)files.Open(folder.TextPath(u"a"), OpenMode::kRead); }) == 70;
+  }));
 }
 
 TEST_CASE("deleting and writing through a link keeps the link") {
