@@ -3,6 +3,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QMdiArea>
+#include <algorithm>
 #include <doctest/doctest.h>
 
 #include "platform/qt/qt_settings_store.h"
