@@ -63,8 +63,9 @@ long MemoryOfImport(std::string_view line, std::uint64_t size) {
   ImportDesk desk;
   const long before = ResidentBytes();
   ImportContext context = desk.Context();
-  const ImportContext ofDisk{context.state,    fileNumber,    context.messages,    context.codePage,
-                             context.today,    context.setCardTotal, context.showDeck};
+  const ImportContext ofDisk{context.state,    fileNumber,    context.messages,
+                             context.codePage, context.today, context.setCardTotal,
+                             context.showDeck};
   ImportStandard(kTextPath, ofDisk);
   CHECK(desk.state.Cell(1, kCardText).size() <= kLongestImportedText);
   return disk.mostResident - before;
