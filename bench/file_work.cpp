@@ -21,6 +21,8 @@ using namespace tessara;
 namespace {
 
 constexpr int kRuns = 201;
+/// Characters of text on a card of an import file.
+constexpr std::size_t kCardLength = 900;
 
 /// Microseconds of one run.
 double Timed(const std::function<void()>& work) {
@@ -63,8 +65,11 @@ class Bench {
   void Run() {
     FillDeck();
     Deck();
-    Import("import-standard", StandardText(), ImportStandard);
-    Import("import-extended", ExtendedText(), ImportExtended);
+    Import("import-standard", StandardText(kCardLength), ImportStandard);
+    Import("import-extended", ExtendedText(kCardLength), ImportExtended);
+    // The time is to grow with the length of the file, and no faster.
+    Import("standard-tenfold", StandardText(10 * kCardLength), ImportStandard);
+    Import("extended-tenfold", ExtendedText(10 * kCardLength), ImportExtended);
   }
 
  private:
@@ -99,7 +104,7 @@ class Bench {
           LoadDeckFromFile(PathOf("deck.tsr"), state, number_, page_);
           if (state.CardCount != kMostCards) std::abort();
         },
-        [&] { PlainRead("deck.tsr"); });
+        [&] { PlainRead("deck.tsr", size); });
   }
 
   void Import(const char* name, const std::string& text,
@@ -114,7 +119,7 @@ class Bench {
                   }});
           if (state.CardCount != kMostCards) std::abort();
         },
-        [&] { PlainRead(file); });
+        [&] { PlainRead(file, text.size()); });
   }
 
   void PlainWrite(const std::string& name, const std::string& bytes) {
@@ -122,27 +127,29 @@ class Bench {
   }
 
   /// Into memory of its own, as ours goes.
-  void PlainRead(const std::string& name) {
-    constexpr std::size_t kEnough = 262144;
-    std::vector<char> bytes(kEnough);
-    if (files_.Open(PathOf(name), OpenMode::kRead)->ReadAt(0, bytes) == 0) std::abort();
+  void PlainRead(const std::string& name, std::size_t size) {
+    std::vector<char> bytes(size);
+    if (files_.Open(PathOf(name), OpenMode::kRead)->ReadAt(0, bytes) != size) std::abort();
   }
 
-  static std::string StandardText() {
+  static std::string StandardText(std::size_t cardLength) {
+    const std::size_t side = cardLength / 2;
     std::string text = "STD\r\n";
     for (int card = 1; card <= kMostCards; ++card) {
-      text += std::to_string(card) + ".\r\n*>F\r\n" + std::string(440, 'f') + "\r\n*>B\r\n" +
-              std::string(440, 'b') + "\r\n\r\n";
+      text += std::to_string(card) + ".\r\n*>F\r\n" + std::string(side, 'f') + "\r\n*>B\r\n" +
+              std::string(side, 'b') + "\r\n\r\n";
     }
     return text;
   }
 
-  static std::string ExtendedText() {
+  static std::string ExtendedText(std::size_t cardLength) {
+    // The question is as long as its four choices.
+    const std::size_t half = cardLength / 2;
     std::string text = "EXT\r\n";
     for (int card = 1; card <= kMostCards; ++card) {
-      text += std::to_string(card) + "." + std::string(400, 'q') + "\r\n";
+      text += std::to_string(card) + "." + std::string(half, 'q') + "\r\n";
       for (const char letter : {'A', 'B', 'C', 'D'}) {
-        text += std::string(1, letter) + "." + std::string(120, 'c') + "\r\n";
+        text += std::string(1, letter) + "." + std::string(half / 4, 'c') + "\r\n";
       }
       text += "=C\r\n\r\n";
     }
