@@ -23,6 +23,7 @@
 #include "platform/qt/qt_renderer.h"
 #include "platform/qt/qt_settings_store.h"
 #include "platform/qt/qt_text.h"
+#include "platform/qt/visible_outlines.h"
 #include "shell/program.h"
 
 namespace tessara {
@@ -64,6 +65,7 @@ int RunTessara(int argc, char** argv) {
   FontsAhead fonts;
   QApplication application(argc, argv);
   fonts.Wait();
+  ShowOutlines();
   const fs::path folder = ProgramFolder();
   NameApplication(folder);
   const Text folderText = FromUtf8(folder.string());

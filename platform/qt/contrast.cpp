@@ -27,11 +27,11 @@ double ContrastOf(const QColor& one, const QColor& other) {
   return (lighter + 0.05) / (darker + 0.05);
 }
 
-QColor ReadableOn(const QColor& ground, const QColor& color) {
+QColor ReadableOn(const QColor& ground, const QColor& color, double contrast) {
   const int step = LuminanceOf(ground) < kMiddleLuminance ? 1 : -1;
   QColor readable = color;
   for (int lightness = color.lightness() + step;
-       ContrastOf(ground, readable) < kReadableContrast && lightness >= 0 && lightness <= kLightest;
+       ContrastOf(ground, readable) < contrast && lightness >= 0 && lightness <= kLightest;
        lightness += step) {
     readable = QColor::fromHsl(color.hslHue(), color.hslSaturation(), lightness);
   }

@@ -3,6 +3,8 @@
 #include <QPalette>
 #include <QStyle>
 
+#include "platform/qt/contrast.h"
+
 namespace tessara {
 
 void ShowFocusAlways(QStyleOption& option) {
@@ -17,7 +19,10 @@ void PaintFocus(const QWidget& widget, const QRect& place, QPainter& painter) {
   constexpr double kCorner = 4;
   constexpr double kInside = kWidth / 2;
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(widget.palette().color(QPalette::Highlight), kWidth));
+  const QPalette& palette = widget.palette();
+  painter.setPen(QPen(ReadableOn(palette.color(QPalette::Window),
+                                 palette.color(QPalette::Highlight), kVisibleContrast),
+                      kWidth));
   painter.setBrush(Qt::NoBrush);
   painter.drawRoundedRect(QRectF(place).adjusted(kInside, kInside, -kInside, -kInside), kCorner,
                           kCorner);

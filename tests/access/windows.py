@@ -32,6 +32,9 @@ TEST_OF_TEXT = (STUDY, "Mode", "Test")
 QUIZ_OF_QUESTIONS = (QUESTION, "Mode", "Quiz")
 TEST_OF_QUESTIONS = (QUESTION, "Mode", "Test")
 BUILDER = ("File", "Create/Edit Card")
+TO_SET_UP = ((NEW_DECK, "alt+c"), (FRAME, "File", "Set Up"))
+# The first card ticked, then the box for a flat sheet.
+PRINT_FLAT = ("space Tab Tab Tab space alt+p",)
 
 SCENES = [
     Scene("study-text", STUDY, "capitals", says=("Front", "1 of 195", "What is the capital of Afghanistan?")),
@@ -46,9 +49,16 @@ SCENES = [
     Scene("test-question-judged", extended("TEST"), "science", (TEST_OF_QUESTIONS, (extended("TEST"), "Down")),
           says=("Front", "1 of 60", "WRONG", "The Sun is a star.")),
     Scene("go-to", "Go To Card", "capitals", ((STUDY, "Utility", "<Go To Card >"),)),
+    Scene("open", "Open", None, ((NEW_DECK, "File", "Open Tessara"),)),
+    Scene("save-as", "Save As", "capitals", ((STUDY, "File", "Save As"),)),
     Scene("delete", "Delete Card # 1", "capitals", ((STUDY, "File", "Delete Card"),)),
     Scene("information", "Tessara Information", "capitals", ((STUDY, "Utility", "Tessara Information"),)),
+    Scene("information-unsaved", "Deck Information", "capitals",
+          ((STUDY, "Utility", "Tessara Information"), ("Tessara Information", "a alt+c"))),
+    Scene("unsaved", "Unsaved Changes: ", "capitals",
+          ((STUDY, "File", "Delete Card"), ("Delete Card # 1", "alt+y"), (STUDY, "File", "Close Tessara"))),
     Scene("print", "Print Cards", "capitals", ((STUDY, "File", "Print Deck"),)),
+    Scene("printer", "Print", "capitals", ((STUDY, "File", "Print Deck"), ("Print Cards", *PRINT_FLAT))),
     Scene("builder-text", "Tessara", "capitals", ((STUDY, *BUILDER),)),
     Scene("builder-question", "Tessara", "science", ((QUESTION, *BUILDER),)),
     Scene("builder-choices", "Tessara", "science", ((QUESTION, "ctrl+Next"), (QUESTION, *BUILDER))),
@@ -56,7 +66,10 @@ SCENES = [
     Scene("builder-question-new", "Tessara", None, ((NEW_DECK, "alt+c"), (FRAME, "alt+f n x"), (NEW_DECK, *BUILDER))),
     Scene("empty", NEW_DECK),
     Scene("frame", FRAME, None, ((NEW_DECK, "alt+c"),)),
-    Scene("set-up", "Set-Up", None, ((NEW_DECK, "alt+c"), (FRAME, "File", "Set Up"))),
+    Scene("set-up", "Set-Up", None, TO_SET_UP),
+    Scene("set-up-unsaved", "Set-Up Changes", None, (*TO_SET_UP, ("Set-Up", "space alt+c"))),
+    Scene("set-up-saved", "Save settings", None, (*TO_SET_UP, ("Set-Up", "space alt+a"))),
+    Scene("error", "Tessara", None, (*TO_SET_UP, ("Set-Up", "shift+Tab shift+Tab shift+Tab Home"))),
     Scene("about", "About", None, ((NEW_DECK, "Help", "About"),)),
     Scene("separating", "Separating The Cards", None, ((NEW_DECK, "Help", "Separating the cards"),)),
     Scene("help", "Tessara Help", None, ((NEW_DECK, "F1"),), tabs=False),

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QPalette>
+#include <algorithm>
 #include <doctest/doctest.h>
 
 #include "tests/desktop/desk.h"
@@ -30,6 +31,18 @@ class Desktop {
  private:
   QPalette before_ = QApplication::palette();
 };
+
+/// The most that any pixel at the left edge of a control, half way down, stands out from the
+/// ground.
+double ContrastOfEdge(const char* control, const QColor& ground) {
+  constexpr int kEdge = 3;
+  const QImage picture = Desk::Of(control).grab().toImage();
+  double most = 1;
+  for (int x = 0; x < kEdge; ++x) {
+    most = std::max(most, ContrastOf(picture.pixelColor(x, picture.height() / 2), ground));
+  }
+  return most;
+}
 
 QColor TextColorOf(const char* control) {
   return Desk::Of(control).palette().color(QPalette::WindowText);
@@ -65,5 +78,23 @@ TEST_CASE("A control's own colour is read on a dark desktop, and is as told on a
     desk.ShowChild().Label1.SetForeColor(FixedColor(0, 0, 255));
     CHECK(ContrastOf(TextColorOf("Label1"), ground) >= kReadableContrast);
     CHECK((TextColorOf("Label1") == kBlue) == (ground == kLight));
+  }
+}
+
+TEST_CASE("Unticked marks and the edges of what takes input are seen on every desktop") {
+  for (const QColor& ground : {kLight, kDark, QColor(Qt::black), QColor(Qt::white)}) {
+    CAPTURE(ground.name().toStdString());
+    const Desktop desktop(ground);
+    Desk desk;
+    desk.ShowChild();
+    for (const char* name :
+         {"Check1", "Option1(0)", "Command2", "Combo1", "Text1", "Text2", "List1"}) {
+      CAPTURE(std::string(name));
+      for (const bool focused : {false, true}) {
+        CAPTURE(focused);
+        if (focused) Desk::Of(name).setFocus(Qt::TabFocusReason);
+        CHECK(ContrastOfEdge(name, ground) >= kVisibleContrast);
+      }
+    }
   }
 }

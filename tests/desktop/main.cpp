@@ -2,10 +2,13 @@
 #include <QApplication>
 #include <doctest/doctest.h>
 
+#include "platform/qt/visible_outlines.h"
+
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   // The offscreen platform tells about each window what it cannot do.
   qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
   QApplication application(argc, argv);
+  tessara::ShowOutlines();
   return doctest::Context(argc, argv).run();
 }
