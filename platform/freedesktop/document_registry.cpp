@@ -1,6 +1,7 @@
 #include "platform/freedesktop/document_registry.h"
 
 #include <fstream>
+#include <sstream>
 #include <system_error>
 
 #include "platform/freedesktop/document_files.h"
@@ -14,10 +15,31 @@ namespace {
 constexpr int kDone = 0;
 constexpr int kNoSuchKey = 2;
 
+/// Empty where the file can't be read.
+std::string BytesOf(const fs::path& path) {
+  std::ostringstream bytes;
+  bytes << std::ifstream(path, std::ios::binary).rdbuf();
+  return bytes ? bytes.str() : std::string();
+}
+
+/// A file that was begun and can't be written whole is gone.
 void WriteFile(const fs::path& path, const std::string& content) {
   std::error_code ignored;
   fs::create_directories(path.parent_path(), ignored);
-  std::ofstream(path, std::ios::binary | std::ios::trunc) << content;
+  std::ofstream file(path, std::ios::binary | std::ios::trunc);
+  if (!file) return;
+  file << content;
+  file.close();
+  if (!file && fs::is_regular_file(path, ignored)) fs::remove(path, ignored);
+}
+
+/// Each file by itself: one that fails does not keep the others away.
+void CopyFiles(const fs::path& from, const fs::path& to) {
+  for (const fs::directory_entry& entry : fs::recursive_directory_iterator(from)) {
+    if (!entry.is_regular_file()) continue;
+    const std::string bytes = BytesOf(entry.path());
+    if (!bytes.empty()) WriteFile(to / entry.path().lexically_relative(from), bytes);
+  }
 }
 
 }  // namespace
@@ -48,9 +70,7 @@ void DocumentRegistry::WriteFiles() const {
                           (folders_.program / folders_.executable).string()};
   WriteFile(folders_.userData / "mime" / "packages" / "tessara.xml", MimePackage(type));
   WriteFile(folders_.userData / "applications" / kDesktopEntryName, DesktopEntry(type));
-  fs::create_directories(folders_.userData / "icons");
-  fs::copy(folders_.program / "icons" / "hicolor", folders_.userData / "icons" / "hicolor",
-           fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+  CopyFiles(folders_.program / "icons" / "hicolor", folders_.userData / "icons" / "hicolor");
 }
 
 void DocumentRegistry::Publish() {

@@ -10,11 +10,15 @@
 
 namespace tessara::test {
 
+/// Where files are in memory: nothing waits for a disk.
+inline constexpr const char* kInMemory = "/dev/shm";
+
 /// A folder of the test's own on the disk, gone with it.
 class ScratchFolder {
  public:
-  ScratchFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "tessara-test-XXXXXX").string();
+  explicit ScratchFolder(
+      const std::filesystem::path& parent = std::filesystem::temp_directory_path()) {
+    std::string name = (parent / "tessara-test-XXXXXX").string();
     path_ = mkdtemp(name.data());
   }
   ScratchFolder(const ScratchFolder&) = delete;

@@ -3,6 +3,7 @@
 // table.
 
 #include <algorithm>
+#include <array>
 #include <doctest/doctest.h>
 #include <set>
 
@@ -10,6 +11,7 @@
 #include "tests/support/faulty_files.h"
 #include "tests/support/killed_process.h"
 #include "tests/support/program_desk.h"
+#include "tests/support/refused_call.h"
 
 namespace tessara::test {
 
@@ -29,7 +31,7 @@ const std::string& OldDeck() {
 
 /// A folder with the old deck in it, and the program with that deck changed.
 struct ChangedDeck {
-  ScratchFolder folder;
+  ScratchFolder folder{kInMemory};
   PosixFileSystem disk;
   FaultyFiles faulty{disk};
   DiskDesk desk;
@@ -125,6 +127,25 @@ TEST_CASE("wherever a save is killed, the old deck can be taken back and the nex
     // Under the sanitizers the calls of two runs are not the same: a stage can be missed.
     CHECK(std::includes(expected.begin(), expected.end(), stages.begin(), stages.end()));
     CHECK(stages.count(*expected.begin()) + stages.count(*expected.rbegin()) == 2);
+  }
+}
+
+TEST_CASE("a copy and its folder are on the disk before the save touches the deck") {
+  for (const Opened opened : kBothWays) {
+    ChangedDeck deck(opened);
+    std::filesystem::create_directory(deck.folder / "copies");
+    std::vector<long> calls = FileCallsOf([&] {
+      deck.desk.Save();
+      return 0;
+    });
+    constexpr std::array kOfInterest = {SYS_fsync, SYS_linkat, SYS_unlink, SYS_pwrite64};
+    std::erase_if(calls, [&](long call) {
+      return std::count(kOfInterest.begin(), kOfInterest.end(), call) == 0;
+    });
+    calls.erase(std::unique(calls.begin(), calls.end()), calls.end());
+    std::vector<long> expected = {SYS_fsync, SYS_linkat, SYS_fsync, SYS_unlink, SYS_pwrite64};
+    if (opened == Opened::kAtTheStart) std::erase(expected, SYS_unlink);
+    CHECK(calls == expected);
   }
 }
 
