@@ -1,6 +1,11 @@
 #include "platform/qt/qt_settings_store.h"
 
+#include <QDateTime>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QSettings>
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
@@ -11,36 +16,63 @@ namespace tessara {
 
 namespace {
 
-/// A writer that was killed leaves its lock behind, and where it had not come to write its number
-/// into it, the next one would wait for half a minute.
-void RemoveAbandonedLock(const QString& settingsFile) {
-  const QByteArray lock = QFile::encodeName(settingsFile + QLatin1String(".lock"));
-  const int file = open(lock.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+const QLatin1String kLockEnding(".lock");
+
+/// New settings that never took the old ones' place, and are no older than the lock they were
+/// written under.
+void RemoveUnfinished(const QFileInfo& settings, const QDateTime& locked) {
+  const QString unfinished = settings.fileName() + QLatin1String(".??????");
+  for (const QFileInfo& file : settings.dir().entryInfoList({unfinished}, QDir::Files)) {
+    if (file.lastModified() >= locked) QFile::remove(file.filePath());
+  }
+}
+
+/// A writer that was killed leaves its lock behind, and perhaps what it was writing. Where it had
+/// not come to put its number into the lock, the next one would wait for half a minute.
+void RemoveLeftovers(const QString& settingsFile) {
+  const QString lock = settingsFile + kLockEnding;
+  const int file = open(QFile::encodeName(lock).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
   if (file < 0) return;
   // The lock of a writer that is alive can't be had.
-  if (flock(file, LOCK_EX | LOCK_NB) == 0) unlink(lock.constData());
+  if (flock(file, LOCK_EX | LOCK_NB) == 0) {
+    RemoveUnfinished(QFileInfo(settingsFile), QFileInfo(lock).lastModified());
+    QFile::remove(lock);
+  }
   close(file);
+}
+
+QString PathOf(const Text& key) {
+  return QLatin1String("Settings/") + ToQString(key);
+}
+
+/// Tessara.conf in the user's configuration folder.
+QString UserFile() {
+  return QSettings(QSettings::NativeFormat, QSettings::UserScope, QLatin1String("Tessara"))
+      .fileName();
 }
 
 }  // namespace
 
-QtSettingsStore::QtSettingsStore()
-    : settings_(QSettings::NativeFormat, QSettings::UserScope, QLatin1String("Tessara")) {
-  settings_.setFallbacksEnabled(false);
-  settings_.beginGroup(QLatin1String("Settings"));
+QtSettingsStore::QtSettingsStore() : path_(UserFile()) {
+  RemoveLeftovers(path_);
+  texts_ = ReadSettingsFile(path_).value_or(SettingsTexts());
 }
 
 Text QtSettingsStore::Read(const Text& key, const Text& defaultValue) const {
-  const QVariant value = settings_.value(ToQString(key));
-  if (!value.isValid()) return defaultValue;
-  // A text with a comma that somebody wrote into the file without quotes is taken for a list.
-  return FromQString(value.toStringList().join(u','));
+  const auto found = texts_.find(PathOf(key));
+  return found == texts_.end() ? defaultValue : FromQString(*found);
 }
 
 void QtSettingsStore::Write(const Text& key, const Text& value) {
-  RemoveAbandonedLock(settings_.fileName());
-  settings_.setValue(ToQString(key), ToQString(value));
-  settings_.sync();
+  texts_[PathOf(key)] = ToQString(value);
+  RemoveLeftovers(path_);
+  QLockFile lock(path_ + kLockEnding);
+  if (!lock.lock()) return;
+  // What somebody else has written meanwhile stays; what can't be read would be lost.
+  std::optional<SettingsTexts> stored = ReadSettingsFile(path_);
+  if (!stored) return;
+  (*stored)[PathOf(key)] = ToQString(value);
+  WriteSettingsFile(path_, *stored);
 }
 
 }  // namespace tessara

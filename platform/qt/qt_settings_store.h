@@ -1,7 +1,6 @@
 #pragma once
 
-#include <QSettings>
-
+#include "platform/qt/settings_file.h"
 #include "platform/settings_store.h"
 
 namespace tessara {
@@ -14,7 +13,8 @@ class QtSettingsStore : public SettingsStore {
   void Write(const Text& key, const Text& value) override;
 
  private:
-  QSettings settings_;
+  QString path_;
+  SettingsTexts texts_;
 };
 
 }  // namespace tessara

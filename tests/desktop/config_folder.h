@@ -11,11 +11,14 @@ namespace tessara::test {
 /// A configuration folder of its own.
 struct ConfigFolder {
   QTemporaryDir folder;
-  explicit ConfigFolder(const QString& parent = QDir::tempPath() + '/')
-      : folder(parent + "tessara-XXXXXX") {
+  explicit ConfigFolder(const QString& parent = QDir::tempPath())
+      : folder(parent + "/tessara-XXXXXX") {
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
   }
   [[nodiscard]] QString Path() const { return folder.filePath("Tessara.conf"); }
+  [[nodiscard]] QStringList Names() const {
+    return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+  }
   [[nodiscard]] QByteArray Read() const {
     QFile file(Path());
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();

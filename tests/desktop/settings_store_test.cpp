@@ -1,6 +1,7 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QLockFile>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <doctest/doctest.h>
@@ -8,6 +9,8 @@
 #include "platform/qt/qt_settings_store.h"
 #include "tests/desktop/config_folder.h"
 #include "tests/support/killed_process.h"
+#include "tests/support/refused_call.h"
+#include "tests/support/scratch_folder.h"
 
 using namespace tessara;
 using namespace tessara::test;
@@ -24,7 +27,8 @@ TEST_CASE("A missing key gives the default, an empty value is a value") {
 TEST_CASE("Texts come back as they were stored") {
   const ConfigFolder config;
   for (const Text& text : {Text(u"<NONE>"), Text(u"a, b,c"), Text(u" blanks "), Text(u"@Size(1 2)"),
-                           Text(u"\"quoted\"; %x \\ é\u20AC"), Text(u"False"), Text(u"1.0")}) {
+                           Text(u"\"quoted\"; %x \\ é\u20AC"), Text(u"False"), Text(u"1.0"),
+                           Text(u"\r\n\\n"), Text(u"\""), Text(u"[x]=y"), Text(u"# x")}) {
     QtSettingsStore().Write(u"BackDrop", text);
     CHECK(QtSettingsStore().Read(u"BackDrop", u"") == text);
   }
@@ -40,7 +44,7 @@ TEST_CASE("Settings stand in the user's file, in the section Settings") {
 
 TEST_CASE("Values that somebody wrote by hand are read as texts") {
   const ConfigFolder config;
-  config.Write("[Settings]\nBackDrop=a,b\nFirstLoad=true\nShowSplash=0\n");
+  config.Write("; mine\n[Settings]\r\nBackDrop = a,b\n\nFirstLoad=true\nShowSplash=0");
   const QtSettingsStore store;
   CHECK(store.Read(u"BackDrop", u"") == u"a,b");
   CHECK(store.Read(u"FirstLoad", u"") == u"true");
@@ -56,17 +60,69 @@ TEST_CASE("A store that can't be written stays as it is, silently") {
 
 TEST_CASE("A store whose writer is killed has the old value or the new one, and can be written") {
   // In memory: each write waits for its disk.
-  const ConfigFolder config("/dev/shm/");
+  const ConfigFolder config(kInMemory);
   for (int stop = 1, ended = 0; ended == 0; ++stop) {
     CAPTURE(stop);
     QtSettingsStore().Write(u"BackDrop", u"DESERT");
     ended = test::KilledAt(stop, [] { QtSettingsStore().Write(u"BackDrop", u"GRANITE"); }) ? 0 : 1;
     const Text kept = QtSettingsStore().Read(u"BackDrop", u"");
     CHECK((kept == u"DESERT" || kept == u"GRANITE"));
+    // The next start has removed what was left.
+    CHECK(config.Names() == QStringList("Tessara.conf"));
   }
-  QtSettingsStore().Write(u"BackDrop", u"STUCCO");
-  CHECK(QtSettingsStore().Read(u"BackDrop", u"") == u"STUCCO");
-  CHECK_FALSE(QFile::exists(config.Path() + ".lock"));
+}
+
+TEST_CASE("Files beside the settings that no killed writer has left stay") {
+  const ConfigFolder config;
+  QtSettingsStore().Write(u"BackDrop", u"DESERT");
+  const QStringList mine{"Tessara.conf.backup", "Tessara.conf.old", "Tessara.confirm"};
+  for (const QString& name : mine)
+    REQUIRE(QFile::copy(config.Path(), config.folder.filePath(name)));
+  const QtSettingsStore next;
+  CHECK(config.Names() == QStringList("Tessara.conf") + mine);
+}
+
+TEST_CASE("A writer that is alive keeps its lock and what it writes") {
+  const ConfigFolder config;
+  QtSettingsStore().Write(u"BackDrop", u"DESERT");
+  QLockFile lock(config.Path() + ".lock");
+  REQUIRE(lock.lock());
+  REQUIRE(QFile::copy(config.Path(), config.Path() + ".aBcDeF"));
+  const QtSettingsStore next;
+  CHECK(config.Names() ==
+        QStringList({"Tessara.conf", "Tessara.conf.aBcDeF", "Tessara.conf.lock"}));
+}
+
+TEST_CASE("Whichever call of a write is refused, every setting has its old value or the new one") {
+  const ConfigFolder config(kInMemory);
+  // Written anew, so that the store has to read it anew.
+  const auto prepare = [&] { config.Write("[Settings]\nBackDrop=DESERT\nShowSplash=0\n"); };
+  const auto write = [] {
+    QtSettingsStore().Write(u"BackDrop", u"GRANITE");
+    return 0;
+  };
+  const int calls = RefuseEachInTurn(prepare, write, [&](int result) {
+    CHECK(result == 0);
+    const QByteArray kept = config.Read();
+    const bool old = kept == "[Settings]\nBackDrop=DESERT\nShowSplash=0\n";
+    CHECK((old || kept == "[Settings]\nBackDrop=GRANITE\nShowSplash=0\n"));
+  });
+  CHECK(calls > 20);
+  prepare();
+  write();
+  CHECK(QtSettingsStore().Read(u"BackDrop", u"") == u"GRANITE");
+  CHECK(config.Names() == QStringList("Tessara.conf"));
+}
+
+TEST_CASE("Whichever call of a read is refused, the store gives its value or the default") {
+  const ConfigFolder config(kInMemory);
+  QtSettingsStore().Write(u"BackDrop", u"GRANITE");
+  const auto read = [] {
+    const Text kept = QtSettingsStore().Read(u"BackDrop", u"DEFAULT");
+    return kept == u"GRANITE" || kept == u"DEFAULT" ? 0 : 1;
+  };
+  CHECK(RefuseEachInTurn([] {}, read, [](int result) { CHECK(result == 0); }) > 1);
+  CHECK(QtSettingsStore().Read(u"BackDrop", u"DEFAULT") == u"GRANITE");
 }
 
 TEST_CASE("A lock that a killed writer has left empty does not hold up the next one") {
