@@ -69,6 +69,22 @@ class Home:
         return [name for name in new if not name.startswith(MEANT_TO_STAY)]
 
 
+class Display:
+    """A virtual display that can go away under a program."""
+
+    def __init__(self):
+        reads, writes = os.pipe()
+        self.server = subprocess.Popen(["Xvfb", "-displayfd", str(writes), "-nolisten", "tcp"], pass_fds=[writes],
+                                       stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        os.close(writes)
+        with os.fdopen(reads, encoding="ascii") as number:
+            self.name = ":" + number.readline().strip()
+
+    def end(self):
+        self.server.kill()
+        self.server.wait()
+
+
 def holds_lock(home):
     """The program takes its name among the system's sockets before it does anything else."""
     folder = os.stat(home.root / "runtime")
@@ -80,11 +96,12 @@ def end_by(number):
     return lambda process: process.send_signal(number)
 
 
-def complaints(tessara, name, deck, end):
+def complaints(tessara, name, deck, end, display=None):
     home = Home(deck)
+    on_display = {"DISPLAY": display.name, "QT_QPA_PLATFORM": "xcb"} if display else {}
     try:
-        process = subprocess.Popen([tessara, str(home.deck)], env=home.environment(), stdin=subprocess.DEVNULL,
-                                   stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        process = subprocess.Popen([tessara, str(home.deck)], env=home.environment() | on_display,
+                                   stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         # The settings file is written by the first start: by then the program is well under way.
         wait_for(lambda: holds_lock(home) and (home.root / "config" / "Tessara.conf").exists(), "the start")
         end(process)
@@ -105,9 +122,12 @@ def complaints(tessara, name, deck, end):
 def main():
     tessara, deck = sys.argv[1:]
     found = []
-    for number in (signal.SIGKILL, signal.SIGTERM, signal.SIGABRT):
-        for kind, path in (("a deck", deck), ("a broken deck", None)):
-            found += complaints(tessara, f"{number.name} with {kind}", path, end_by(number))
+    for number in (signal.SIGKILL, signal.SIGTERM, signal.SIGABRT, signal.SIGHUP, signal.SIGINT):
+        found += complaints(tessara, f"{number.name} with a deck", deck, end_by(number))
+    for number in (signal.SIGKILL, signal.SIGTERM):
+        found += complaints(tessara, f"{number.name} with a broken deck", None, end_by(number))
+    display = Display()
+    found += complaints(tessara, "the display gone", deck, lambda process: display.end(), display)
     print("\n".join(found))
     sys.exit(bool(found))
 
