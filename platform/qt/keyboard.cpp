@@ -69,9 +69,11 @@ bool Keyboard::eventFilter(QObject* watched, QEvent* event) {
   return true;
 }
 
-/// A key that the frame gets is for the child in front.
+/// A key that the frame gets is for the child in front. The frame's boxes and dialogs have their
+/// keys for themselves.
 Form* Keyboard::FormFor(QWidget& receiver) const {
-  const FormWindow* window = WindowAround(&receiver);
+  const bool inBox = dynamic_cast<FormWindow*>(receiver.window()) == nullptr;
+  const FormWindow* window = inBox ? nullptr : WindowAround(&receiver);
   if (window == nullptr) return nullptr;
   Form* form = window->FormOf();
   const bool childInFront =

@@ -13,7 +13,7 @@ import unittest
 from accessible_program import Program
 from windows import STUDY, Scene
 
-SAVED = Scene("save", "Save", "capitals", ((STUDY, "File", "Delete Card"), ("Delete Card # 1", "Return"),
+SAVED = Scene("save", "Save", "capitals", ((STUDY, "File", "Delete Card"), ("Delete Card # 1", "alt+y"),
                                            (STUDY, "File", "Save")))
 
 tessara = samples = ""

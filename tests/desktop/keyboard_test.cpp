@@ -1,7 +1,9 @@
 #include <QApplication>
 #include <QMenu>
+#include <QTimer>
 #include <doctest/doctest.h>
 
+#include "platform/qt/qt_message_boxes.h"
 #include "tests/desktop/desk.h"
 
 using namespace tessara;
@@ -67,6 +69,27 @@ TEST_CASE("In a text box Page Up and Page Down need Ctrl") {
   CHECK(form.log.Take().empty());
   QTest::keyClick(&Focused(), Qt::Key_PageDown, Qt::ControlModifier);
   CHECK(form.log.Take() == "forth");
+}
+
+TEST_CASE("A box has its keys for itself, and the window behind it none") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  form.log.Take();
+  QTimer::singleShot(0, [] {
+    QWidget* const box = QApplication::activeModalWidget();
+    CHECK(QTest::qWaitFor([&] { return QApplication::activeWindow() == box; }));
+    QWidget& button = *box->focusWidget();
+    for (const Qt::Key key : {Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_F1, Qt::Key_Escape}) {
+      QTest::keyClick(&button, key);
+    }
+    QTest::keyClick(&button, Qt::Key_F4, Qt::ControlModifier);
+    QTest::keyClick(&button, Qt::Key_D, Qt::AltModifier);
+    CHECK(box->isVisible());
+    QTest::keyClick(&button, Qt::Key_N, Qt::AltModifier);
+  });
+  QtMessageBoxes boxes;
+  CHECK(boxes.Show(u"?", kYesNo, u"") == MessageAnswer::kNo);
+  CHECK(form.log.Take() == "");
 }
 
 TEST_CASE("Return and Escape press a window's default and cancel button") {
