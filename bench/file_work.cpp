@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <fcntl.h>
 #include <functional>
 #include <memory>
 #include <string>
@@ -14,7 +15,9 @@
 #include "deck/deck_file.h"
 #include "import/TextImport.h"
 #include "import/TextImport2.h"
+#include "platform/posix/new_file.h"
 #include "platform/posix/posix_file_system.h"
+#include "platform/posix/posix_safety_copies.h"
 
 using namespace tessara;
 
@@ -60,7 +63,7 @@ struct SilentMessages : MessageBoxes {
 
 class Bench {
  public:
-  explicit Bench(std::string folder) : folder_(std::move(folder)) {}
+  explicit Bench(std::string folder) : folder_(std::move(folder)), copies_(folder_ + "/copies") {}
 
   void Run() {
     FillDeck();
@@ -98,6 +101,13 @@ class Bench {
     Compare(
         "deck-save", [this](ProgramState&) { WriteDeck(); },
         [&] { PlainWrite("plain.tsr", std::string(size, 'x')); });
+    // The records are written one by one: what that alone costs.
+    Compare(
+        "deck-save-calls", [this](ProgramState&) { WriteDeck(); }, [this] { PlainWriteRecords(); });
+    // What the user waits for before that: the copy of the old deck, on the disk.
+    Compare(
+        "safety-copy", [this](ProgramState&) { copies_.Keep(PathOf("deck.tsr")); },
+        [&] { PlainCopyToDisk("deck.tsr", size); });
     Compare(
         "deck-load",
         [this](ProgramState& state) {
@@ -124,6 +134,23 @@ class Bench {
 
   void PlainWrite(const std::string& name, const std::string& bytes) {
     files_.Open(PathOf(name), OpenMode::kReadAndWrite)->WriteAt(0, bytes);
+  }
+
+  void PlainWriteRecords() {
+    const auto file = files_.Open(PathOf("plain.tsr"), OpenMode::kReadAndWrite);
+    const std::string record(kRecordSize, 'x');
+    for (std::uint64_t at = 0; at < kMostCards + 2; ++at) file->WriteAt(at * kRecordSize, record);
+  }
+
+  /// A copy under a name of its own, the copy and its folder forced to the disk.
+  void PlainCopyToDisk(const std::string& name, std::size_t size) {
+    std::string bytes(size, ' ');
+    (void)files_.Open(PathOf(name), OpenMode::kRead)->ReadAt(0, bytes);
+    const std::string copy = folder_ + "/copy" + std::to_string(++plainCopies_);
+    const Descriptor file(open(copy.c_str(), O_WRONLY | O_CREAT | O_EXCL, 0600));
+    if (write(file.Get(), bytes.data(), size) != static_cast<ssize_t>(size)) std::abort();
+    fsync(file.Get());
+    SyncFolder(folder_);
   }
 
   /// Into memory of its own, as ours goes.
@@ -157,6 +184,8 @@ class Bench {
   }
 
   std::string folder_;
+  PosixSafetyCopies copies_;
+  int plainCopies_ = 0;
   PosixFileSystem files_;
   FileNumber number_{files_};
   const CodePage& page_ = CodePage::Western();

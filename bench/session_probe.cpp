@@ -1,12 +1,19 @@
 // Linked into a program, it waits for the first card, then moves through the deck and opens
-// windows by their menu entries. It prints the median and the longest time of a card move, from
-// the key to the repainted card, and of each window, from the command to its first paint, in
-// milliseconds; then the growth of the resident memory over the moves, in kB; then it ends the
-// program. Modal windows are closed by their own key.
+// windows by their menu entries. It prints a line for the card move, from the key to the repainted
+// card, and for each window, from the command to its first paint: the first one, then the median
+// and the longest of those that follow, and the median of the floor, in milliseconds. The floor is
+// taken in turn: a plain widget that paints the same picture, a window of the same plain widgets.
+// Last comes the growth of the resident memory over the moves, in kB; then it ends the program.
+// BENCH_DECK tells what deck the program has been started with: "standard" or "extended".
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QFileDialog>
+#include <QInputDialog>
 #include <QKeyEvent>
+#include <QMdiArea>
+#include <QMessageBox>
 #include <QTimer>
 #include <QWidget>
 #include <algorithm>
@@ -14,38 +21,78 @@
 #include <cstdio>
 #include <cstdlib>
 #include <functional>
+#include <optional>
 #include <vector>
 
+#include "bench/plain_window.h"
 #include "bench/resident_memory.h"
 
 namespace {
 
 constexpr int kMoves = 2000;
 constexpr int kOpenings = 15;
+constexpr int kSettleMilliseconds = 20;
+constexpr int kPatience = 2000;
 
 using Clock = std::chrono::steady_clock;
+using Times = std::vector<double>;
 
 double MillisecondsSince(Clock::time_point start) {
   return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-void Print(const char* name, std::vector<double> times) {
+double Median(Times times) {
   std::sort(times.begin(), times.end());
-  std::printf("%s %.2f %.2f\n", name, times[times.size() / 2], times.back());
+  return times[times.size() / 2];
+}
+
+void Print(const char* name, double first, const Times& times, const Times& floor) {
+  std::printf("%s %.2f %.2f %.2f %.2f\n", name, first, Median(times),
+              *std::max_element(times.begin(), times.end()), Median(floor));
+  std::fflush(stdout);
+}
+
+void CloseWindow(QWidget& window) {
+  window.close();
+}
+
+void SayNo(QWidget& window) {
+  static_cast<QMessageBox&>(window).button(QMessageBox::No)->click();
 }
 
 struct Opening {
-  const char* entry;   ///< of the deck window's menus
-  const char* window;  ///< whose first paint counts
-  Qt::Key close;       ///< with Alt where it is a letter
+  const char* menus;  ///< the window whose menus have the entry
+  const char* entry;
+  const char* window;  ///< name or class of the window whose first paint counts
+  void (*close)(QWidget& window);
 };
 
-constexpr Opening kWindows[] = {
-    {"mnuACTTD", "frmEssay", Qt::Key_C},
-    {"mnuCDI", "frmInfo", Qt::Key_C},
-    {"mnuAbout", "frmAbout", Qt::Key_Escape},
-    {"mnuSC", "frmInstruct", Qt::Key_C},
+constexpr Opening kWithStandardDeck[] = {
+    {"frmMain", "mnuACTTD", "frmEssay", CloseWindow},
+    {"frmMain", "mnuCDI", "frmInfo", CloseWindow},
+    {"frmMain", "mnuPrint", "PrintCard", CloseWindow},
+    {"frmMain", "mnuAbout", "frmAbout", CloseWindow},
+    {"frmMain", "mnuSC", "frmInstruct", CloseWindow},
+    {"frmMain", "mnuHelpTopic", "HelpViewer", CloseWindow},
+    {"frmMain", "mnuGTP", "QInputDialog", CloseWindow},
+    {"frmMain", "mnuOCD", "QFileDialog", CloseWindow},
+    {"frmMain", "mnuDelete", "QMessageBox", SayNo},
 };
+constexpr Opening kQuestionBuilder = {"frmMain", "mnuACTTD", "frmQuestion", CloseWindow};
+constexpr Opening kSetUp = {"MDIForm1", "mnuSetup", "FrmSetUp", CloseWindow};
+
+bool Is(const QObject& object, const char* nameOrClass) {
+  return object.objectName() == QLatin1String(nameOrClass) || object.inherits(nameOrClass);
+}
+
+/// Qt's own dialogs have themselves for a floor.
+template <class Dialog>
+QWidget* ShowPlain(Dialog* dialog) {
+  dialog->setObjectName("plain");
+  dialog->setAttribute(Qt::WA_DeleteOnClose);
+  dialog->show();
+  return dialog;
+}
 
 class SessionProbe : public QObject {
  public:
@@ -57,93 +104,172 @@ class SessionProbe : public QObject {
   }
 
  private:
-  void Painted(const QObject& watched) {
+  void Painted(QObject& watched) {
     if (!started_ && watched.objectName() == "NoteletCtl1") {
       started_ = true;
       QTimer::singleShot(200, this, [this] { Run(); });
     }
-    if (!awaited_.isEmpty() && IsIn(watched, awaited_)) {
-      awaited_.clear();
-      // A zero timer runs when the paint has reached the screen's buffer.
-      QTimer::singleShot(0, this, [this] { onPaint_(); });
-    }
+    if (awaited_ == nullptr) return;
+    QWidget* window = AwaitedAround(watched);
+    if (window == nullptr) return;
+    awaited_ = nullptr;
+    // A zero timer runs when the paint has reached the screen's buffer.
+    QTimer::singleShot(0, this, [this, window] { onPaint_(*window); });
   }
 
-  static bool IsIn(const QObject& widget, const QString& name) {
-    for (const QObject* at = &widget; at != nullptr; at = at->parent()) {
-      if (at->objectName() == name) return true;
+  QWidget* AwaitedAround(QObject& widget) const {
+    for (QObject* at = &widget; at != nullptr; at = at->parent()) {
+      if (Is(*at, awaited_)) return qobject_cast<QWidget*>(at);
     }
-    return false;
+    return nullptr;
   }
 
   void Run() {
-    const long long before = ResidentKilobytes();
-    std::vector<double> moves;
-    while (moves.size() < kMoves) Move(moves);
-    const long long growth = ResidentKilobytes() - before;
-    Print("card-move", moves);
-    for (const Opening& window : kWindows) OpenOften(window);
-    std::printf("growth-kb %lld\n", growth);
+    if (qgetenv("BENCH_DECK") == "extended") {
+      Compare(kQuestionBuilder);
+      CloseDeck();
+      Compare(kSetUp);
+    } else {
+      RunMoves();
+      for (const Opening& window : kWithStandardDeck) Compare(window);
+      std::printf("growth-kb %lld\n", growth_);
+    }
     std::fflush(stdout);
     std::_Exit(0);
   }
 
-  /// To the end of the deck and back, over and over.
-  void Move(std::vector<double>& moves) {
-    const bool forward = moves.size() / 150 % 2 == 0;
-    const auto start = Clock::now();
-    bool painted = false;
-    Await("NoteletCtl1", [&] { painted = true; });
-    Press(forward ? Qt::Key_PageDown : Qt::Key_PageUp, Qt::NoModifier);
-    while (!painted) QCoreApplication::processEvents();
-    moves.push_back(MillisecondsSince(start));
+  /// Yes, we are sure.
+  static void CloseDeck() {
+    QTimer::singleShot(kSettleMilliseconds, [] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      if (box != nullptr) box->button(QMessageBox::Yes)->click();
+    });
+    Named("frmMain").close();
+    Settle();
   }
 
-  void OpenOften(const Opening& window) {
-    std::vector<double> times;
-    while (times.size() < kOpenings) {
-      const auto start = Clock::now();
-      bool closed = false;
-      Await(window.window, [&] {
-        times.push_back(MillisecondsSince(start));
-        Close(window.close);
-        closed = true;
-      });
-      Entry(window.entry).trigger();
-      while (!closed) QCoreApplication::processEvents();
+  void RunMoves() {
+    QWidget& card = Named("NoteletCtl1");
+    PlainCard plain(card.grab(), &Named("MDIForm1"));
+    const long long before = ResidentKilobytes();
+    const double first = Move(0);
+    Times times;
+    Times floor;
+    for (int move = 1; move <= kMoves; ++move) {
+      times.push_back(Move(move));
+      floor.push_back(TimedKey("plain", plain, Qt::Key_Space));
+    }
+    growth_ = ResidentKilobytes() - before;
+    Print("card-move", first, times, floor);
+  }
+
+  /// To the end of the deck and back, over and over.
+  double Move(int move) {
+    const bool forward = move / 150 % 2 == 0;
+    return TimedKey("NoteletCtl1", FocusOrWindow(), forward ? Qt::Key_PageDown : Qt::Key_PageUp);
+  }
+
+  double TimedKey(const char* painted, QWidget& receiver, Qt::Key key) {
+    return Timed(
+        painted,
+        [&] {
+          QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+          QCoreApplication::sendEvent(&receiver, &press);
+        },
+        [](QWidget&) {});
+  }
+
+  /// Our window and its floor in turn, behind one opening that is told by itself.
+  void Compare(const Opening& opening) {
+    std::function<QWidget*()> showPlain;
+    const double first = Open(opening, [&](QWidget& window) { showPlain = PlainOf(window); });
+    Times times;
+    Times floor;
+    for (int round = 0; round < kOpenings; ++round) {
+      Settle();
+      times.push_back(Open(opening, [](QWidget&) {}));
+      Settle();
+      floor.push_back(Timed(
+          "plain", [&] { (void)showPlain(); }, CloseWindow));
+    }
+    Print(opening.window, first, times, floor);
+  }
+
+  double Open(const Opening& opening, const std::function<void(QWidget&)>& look) {
+    QAction& entry = Entry(opening);
+    return Timed(
+        opening.window, [&] { entry.trigger(); },
+        [&](QWidget& window) {
+          look(window);
+          opening.close(window);
+        });
+  }
+
+  static std::function<QWidget*()> PlainOf(const QWidget& window) {
+    QWidget* frame = &Named("MDIForm1");
+    if (const auto* box = qobject_cast<const QMessageBox*>(&window)) {
+      return [=, text = box->text(), buttons = box->standardButtons()] {
+        return ShowPlain(new QMessageBox(QMessageBox::Question, "", text, buttons, frame));
+      };
+    }
+    if (window.inherits("QInputDialog")) return [=] { return ShowPlain(new QInputDialog(frame)); };
+    if (window.inherits("QFileDialog")) return [=] { return ShowPlain(new QFileDialog(frame)); };
+    return [plain = PlainWindow(window)] { return plain.Show(); };
+  }
+
+  /// Milliseconds from the beginning of the action to the paint of what is named; what is done then
+  /// does not count. A modal window is closed inside the action.
+  double Timed(const char* painted, const std::function<void()>& action,
+               const std::function<void(QWidget&)>& then) {
+    const auto start = Clock::now();
+    std::optional<double> time;
+    awaited_ = painted;
+    onPaint_ = [&](QWidget& window) {
+      const double took = MillisecondsSince(start);
+      then(window);
+      time = took;
+    };
+    action();
+    while (!time) QCoreApplication::processEvents();
+    return *time;
+  }
+
+  /// What has been closed goes, and the window manager has told that the frame is in front again.
+  static void Settle() {
+    const auto start = Clock::now();
+    const auto waits = [&] {
+      return QApplication::activeWindow() == nullptr && MillisecondsSince(start) < kPatience;
+    };
+    while (MillisecondsSince(start) < kSettleMilliseconds || waits()) {
       QCoreApplication::processEvents();
     }
-    Print(window.window, times);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
 
-  void Await(const char* window, std::function<void()> then) {
-    awaited_ = window;
-    onPaint_ = std::move(then);
-  }
-
-  static void Close(Qt::Key key) {
-    Press(key, key == Qt::Key_Escape ? Qt::NoModifier : Qt::AltModifier);
-  }
-
-  static void Press(Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  static QWidget& FocusOrWindow() {
     QWidget* receiver = QApplication::focusWidget();
     if (receiver == nullptr) receiver = QApplication::activeWindow();
     if (receiver == nullptr) std::abort();
-    QKeyEvent press(QEvent::KeyPress, key, modifiers);
-    QCoreApplication::sendEvent(receiver, &press);
+    return *receiver;
   }
 
-  static QAction& Entry(const char* name) {
+  static QWidget& Named(const char* name) {
     for (QWidget* widget : QApplication::allWidgets()) {
-      if (widget->objectName() != "frmMain") continue;
-      for (QAction* action : widget->findChildren<QAction*>(name)) return *action;
+      if (widget->objectName() == QLatin1String(name)) return *widget;
     }
     std::abort();
   }
 
+  static QAction& Entry(const Opening& opening) {
+    const auto entries = Named(opening.menus).findChildren<QAction*>(opening.entry);
+    if (entries.isEmpty()) std::abort();
+    return *entries.front();
+  }
+
   bool started_ = false;
-  QString awaited_;
-  std::function<void()> onPaint_;
+  long long growth_ = 0;
+  const char* awaited_ = nullptr;
+  std::function<void(QWidget&)> onPaint_;
 };
 
 void InstallProbe() {

@@ -22,14 +22,17 @@ def main():
         with open(f"{home}/.config/Tessara.conf", "w", encoding="utf-8") as settings:
             settings.write("[Settings]\nShowSplash=0\nFirstLoad=False\n")
         files = lines_of([f"{build}/bench_files", home])
-        session = lines_of([f"{build}/bench_session", f"{build}/samples/capitals.tsr"], HOME=home,
-                           XDG_CONFIG_HOME=f"{home}/.config", XDG_RUNTIME_DIR=home, LANG="C.UTF-8")
+        session = []
+        for deck, sample in ("standard", "capitals"), ("extended", "science"):
+            session += lines_of([f"{build}/bench_session", f"{build}/samples/{sample}.tsr"], HOME=home, BENCH_DECK=deck,
+                                XDG_CONFIG_HOME=f"{home}/.config", XDG_RUNTIME_DIR=home, LANG="C.UTF-8")
     print(f"{'200 cards':18}{'us':>10}{'plain us':>10}{'ratio':>8}")
     for name, ours, floor in files:
         print(f"{name:18}{ours:>10}{floor:>10}{float(ours) / float(floor):8.1f}")
-    print(f"\n{'':18}{'median ms':>10}{'longest':>10}")
+    print(f"\n{'':18}{'first ms':>10}{'median':>10}{'longest':>10}{'plain':>10}{'ratio':>8}")
     for name, *figures in session:
-        print(f"{name:18}" + "".join(f"{figure:>10}" for figure in figures))
+        ratio = f"{float(figures[1]) / float(figures[3]):8.1f}" if len(figures) > 1 else ""
+        print(f"{name:18}" + "".join(f"{figure:>10}" for figure in figures) + ratio)
 
 
 main()

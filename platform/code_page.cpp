@@ -1,5 +1,7 @@
 #include "platform/code_page.h"
 
+#include <algorithm>
+
 #include "platform/ascii.h"
 
 namespace tessara {
@@ -59,9 +61,9 @@ Text CodePage::Decode(std::string_view bytes) const {
 }
 
 std::string CodePage::Encode(TextView text) const {
-  std::string bytes;
-  bytes.reserve(text.size());
-  for (const char16_t character : text) bytes += ByteOf(character);
+  std::string bytes(text.size(), '\0');
+  std::transform(text.begin(), text.end(), bytes.begin(),
+                 [this](char16_t character) { return ByteOf(character); });
   return bytes;
 }
 
