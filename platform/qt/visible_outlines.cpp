@@ -1,8 +1,10 @@
 #include "platform/qt/visible_outlines.h"
 
 #include <QApplication>
+#include <QCache>
 #include <QProxyStyle>
 #include <QStyleOption>
+#include <utility>
 
 #include "platform/qt/contrast.h"
 
@@ -46,13 +48,29 @@ QPalette OutliningPalette(const QPalette& palette, int darkening) {
   return outlining;
 }
 
+/// The same palette for the same one each time: the style keeps what it has drawn, by palette.
+class OutliningPalettes {
+ public:
+  const QPalette& Of(const QPalette& palette, int darkening) {
+    const Key key{palette.cacheKey(), palette.currentColorGroup() * kMostDarkening + darkening};
+    if (!made_.contains(key)) made_.insert(key, new QPalette(OutliningPalette(palette, darkening)));
+    return *made_.object(key);
+  }
+
+ private:
+  using Key = std::pair<qint64, int>;
+  static constexpr int kMostDarkening = 1000;
+  QCache<Key, QPalette> made_;
+};
+
 /// Draws elements with a copy of the option, if it is one of the kind.
 template <class Option, class Draw>
-bool DrawOutlined(const QStyleOption& option, int darkening, const Draw& draw) {
+bool DrawOutlined(const QStyleOption& option, int darkening, OutliningPalettes& palettes,
+                  const Draw& draw) {
   const auto* own = qstyleoption_cast<const Option*>(&option);
   if (own == nullptr) return false;
   Option outlined(*own);
-  outlined.palette = OutliningPalette(own->palette, darkening);
+  outlined.palette = palettes.Of(own->palette, darkening);
   draw(outlined);
   return true;
 }
@@ -68,10 +86,13 @@ class OutlineStyle : public QProxyStyle {
     };
     const int darkening = DarkeningOf(element);
     const bool outlined =
-        darkening != 0 && (DrawOutlined<QStyleOptionButton>(*option, darkening, draw) ||
-                           DrawOutlined<QStyleOptionFrame>(*option, darkening, draw));
+        darkening != 0 && (DrawOutlined<QStyleOptionButton>(*option, darkening, palettes_, draw) ||
+                           DrawOutlined<QStyleOptionFrame>(*option, darkening, palettes_, draw));
     if (!outlined) draw(*option);
   }
+
+ private:
+  mutable OutliningPalettes palettes_;
 };
 
 }  // namespace
