@@ -5,8 +5,11 @@
 #include <QTimer>
 #include <doctest/doctest.h>
 
+#include "platform/qt/help_loader.h"
+#include "platform/qt/print_module.h"
 #include "platform/qt/qt_renderer.h"
 #include "tests/desktop/event_loops.h"
+#include "tests/desktop/program_on_screen.h"
 #include "tests/support/memory_use.h"
 #include "tests/support/program_desk.h"
 #include "tests/support/window_tour.h"
@@ -25,10 +28,10 @@ struct SessionOnScreen {
   QtRenderer renderer{program.Windows(), TESSARA_TEST_PICTURES};
   WindowTour tour{program, fakes, [this] { CloseInstructionsSoon(); }};
 
-  SessionOnScreen() {
+  explicit SessionOnScreen(const Text& showSplash = u"0") {
     StartAnew();
     program.Windows().SetRenderer(renderer);
-    fakes.settings.values = {{u"ShowSplash", u"0"}, {u"FirstLoad", u"False"}};
+    fakes.settings.values = {{u"ShowSplash", showSplash}, {u"FirstLoad", u"False"}};
     fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(20));
     fakes.files.Put(u"/decks/other.tsr", ProgramDesk::DeckBytes(200, u"T"));
     program.Main(u"/decks/birds.tsr");
@@ -40,6 +43,53 @@ struct SessionOnScreen {
     QTimer::singleShot(0, qApp, [this] { program.Instructions()->UserClose(); });
   }
 };
+
+/// The windows that are Qt's own, or are no forms: boxes, dialogs and the help.
+struct BoxesOnScreen : ProgramOnScreen {
+  PrintModuleSource printing{FromUtf8(TESSARA_TEST_MODULES)};
+  int closed = 0;
+
+  BoxesOnScreen() {
+    folder.Write("birds.tsr", ProgramDesk::DeckBytes(20));
+    Start(u"birds.tsr");
+  }
+
+  void GoRound() {
+    frmMain& deck = program.DeckWindowOf().Loaded();
+    Leave([&] { deck.mnuGTP.Press(); });
+    Leave([&] { deck.mnuOCD.Press(); });
+    Leave([&] { deck.mnuSaveAs.Press(); });
+    Leave([&] { (void)printing.Module().AskPrinter(&Top("MDIForm1")); });
+    Leave([&] { deck.mnuDelete.Press(); });
+    // Asking alone counts as a change, which the next opening would ask about.
+    state.DeckChanged = false;
+    ShowHelpWithModule(FromUtf8(TESSARA_TEST_MODULES), FromUtf8(TESSARA_TEST_HELP));
+    closed += Top("HelpViewer").close() ? 1 : 0;
+    Settle();
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+
+ private:
+  void Leave(const std::function<void()>& ask) {
+    WhenAsked([](QWidget& dialog) {
+      auto* box = qobject_cast<QMessageBox*>(&dialog);
+      if (box != nullptr) {
+        box->button(QMessageBox::No)->click();
+      } else {
+        dialog.close();
+      }
+    });
+    ask();
+    closed += static_cast<int>(TakeAsked().size());
+  }
+};
+
+/// Boxes take their time: TESSARA_LONG_SESSION is how often a long session opens them.
+int BoxRounds() {
+  constexpr int kUsually = 10;
+  const int asked = qEnvironmentVariableIntValue("TESSARA_LONG_SESSION");
+  return asked > 0 ? asked : kUsually;
+}
 
 /// Bytes in memory that are left of the work after it has been done once to warm up.
 template <class Work>
@@ -68,6 +118,32 @@ TEST_CASE("Every window opened and closed a hundred times leaves no widget behin
   CHECK(GrowthOf(goRounds) < kMegabyte);
   CHECK(session.tour.visits == kRounds * kVisitsOfRound);
   CHECK(QApplication::allWidgets().size() == widgets);
+}
+
+TEST_CASE("Every box and the help opened and closed over and over leave no widget behind") {
+  // Save As has something to say when it is left.
+  constexpr int kBoxesOfRound = 7;
+  const int rounds = BoxRounds();
+  BoxesOnScreen session;
+  const auto goRounds = [&] {
+    for (int round = 0; round < rounds / 2; ++round) session.GoRound();
+  };
+  session.GoRound();
+  const auto widgets = QApplication::allWidgets().size();
+  session.closed = 0;
+  CHECK(GrowthOf(goRounds) < kMegabyte);
+  CHECK(session.closed == rounds * kBoxesOfRound);
+  CHECK(QApplication::allWidgets().size() == widgets);
+}
+
+TEST_CASE("A program with its splash started and ended a hundred times leaves nothing behind") {
+  const auto start = [] {
+    for (int count = 0; count < 50; ++count) {
+      SessionOnScreen session(u"1");
+      CHECK(session.fakes.desktop.yields > 0);
+    }
+  };
+  CHECK(GrowthOf(start) < kMegabyte);
 }
 
 TEST_CASE("Ten thousand card moves on screen leave nothing behind") {
