@@ -4,8 +4,11 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLabel>
+#include <QSizeGrip>
+#include <QSplitter>
 
 #include "forms/window_system.h"
+#include "platform/qt/accessible_role.h"
 #include "platform/qt/qt_text.h"
 #include "platform/run_time_error.h"
 
@@ -31,6 +34,19 @@ void SetMode(QFileDialog& dialog, const FileDialogRequest& request) {
   dialog.setOption(QFileDialog::DontConfirmOverwrite);
 }
 
+/// What Qt leaves nameless in a dialog of its own; the desktop's has none of it.
+void NameParts(QFileDialog& dialog) {
+  auto* panes = dialog.findChild<QSplitter*>();
+  if (panes != nullptr) {
+    panes->setAccessibleName(QStringLiteral("Places and files"));
+    WithRole(*panes->handle(1), QAccessible::Grip).setAccessibleName(QStringLiteral("Divider"));
+  }
+  auto* corner = dialog.findChild<QSizeGrip*>();
+  if (corner != nullptr) {
+    WithRole(*corner, QAccessible::Grip).setAccessibleName(QStringLiteral("Size of the dialog"));
+  }
+}
+
 }  // namespace
 
 void QtDialogs::LeaveIfEnded() const {
@@ -45,6 +61,7 @@ Text QtDialogs::AskFile(const FileDialogRequest& request) {
   const qsizetype chosen = request.filterIndex - 1;
   if (chosen >= 0 && chosen < filters.size()) dialog.selectNameFilter(filters[chosen]);
   dialog.setDirectory(ToQString(request.initialFolder));
+  NameParts(dialog);
   const bool accepted = dialog.exec() == QDialog::Accepted;
   LeaveIfEnded();
   const QStringList files = dialog.selectedFiles();

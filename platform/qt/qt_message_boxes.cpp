@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QLabel>
 #include <QMessageBox>
 
 #include "forms/window_system.h"
@@ -50,6 +51,25 @@ QMessageBox::Icon IconOf(int flags) {
   }
 }
 
+QString NameOf(QMessageBox::Icon icon) {
+  switch (icon) {
+    case QMessageBox::Critical:
+      return QStringLiteral("Error");
+    case QMessageBox::Question:
+      return QStringLiteral("Question");
+    case QMessageBox::Warning:
+      return QStringLiteral("Warning");
+    default:
+      return QStringLiteral("Information");
+  }
+}
+
+/// The icon as a screen reader says it.
+void NameIcon(const QMessageBox& box) {
+  auto* icon = box.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label"));
+  if (icon != nullptr) icon->setAccessibleName(NameOf(box.icon()));
+}
+
 /// In the order that the number of the default button counts by.
 QList<QMessageBox::StandardButton> ButtonsOf(int flags) {
   switch (flags & kButtonBits) {
@@ -85,6 +105,7 @@ MessageAnswer QtMessageBoxes::Show(const Text& text, int flags, const Text& titl
   box.setText(LinesForQt(text.substr(0, kLongestMessage)));
   box.setWindowTitle(TitleForQt(title));
   box.setIcon(IconOf(flags));
+  NameIcon(box);
   const auto buttons = ButtonsOf(flags);
   for (const auto button : buttons) box.addButton(button);
   const bool second = (flags & kSecondButtonDefault) != 0 && buttons.size() > 1;

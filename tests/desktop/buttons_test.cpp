@@ -35,6 +35,28 @@ TEST_CASE("A long caption is made to fit its button and keeps its text") {
   CHECK(button.size() == QSize(97, 33));
 }
 
+TEST_CASE("A caption's accelerator is underlined, and its mark is not seen") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  const std::pair<CaptionedControl*, const char*> captioned[] = {{&form.Command2, "Command2"},
+                                                                 {&form.Check1, "Check1"},
+                                                                 {&form.Option1[0], "Option1(0)"},
+                                                                 {&form.Label1, "Label1"}};
+  for (const auto& [control, name] : captioned) {
+    CAPTURE(std::string(name));
+    const auto picture = [&control = control, &name = name](TextView caption) {
+      control->SetCaption(Text(caption));
+      return Desk::Of(name).grab().toImage();
+    };
+    const QImage plain = picture(u"ill");
+    const QImage marked = picture(u"&ill");
+    CHECK(marked != plain);
+    // All that changes is below the letters.
+    const int middle = plain.height() / 2;
+    CHECK(marked.copy(0, 0, plain.width(), middle) == plain.copy(0, 0, plain.width(), middle));
+  }
+}
+
 TEST_CASE("An option that a form clears is cleared on screen") {
   Desk desk;
   SampleForm& form = desk.ShowChild();

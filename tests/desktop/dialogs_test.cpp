@@ -7,6 +7,8 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSizeGrip>
+#include <QSplitter>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -85,6 +87,21 @@ TEST_CASE("A message box has its text, title, icon and buttons, all as they stan
   }
 }
 
+TEST_CASE("A message box's icon has a name for a screen reader") {
+  const std::pair<int, const char*> cases[] = {{kStopIcon, "Error"},
+                                               {kQuestionIcon, "Question"},
+                                               {kExclamationIcon, "Warning"},
+                                               {kInformationIcon, "Information"}};
+  for (const auto& [flags, name] : cases) {
+    WhenUp<QMessageBox>([&name = name](QMessageBox& box) {
+      CHECK(box.findChild<QLabel*>("qt_msgboxex_icon_label")->accessibleName() == name);
+      Press(box, QMessageBox::Ok);
+    });
+    QtMessageBoxes boxes;
+    boxes.Show(u"text", flags, u"title");
+  }
+}
+
 TEST_CASE("A message without end is shown as far as a message box goes") {
   QtMessageBoxes messages;
   WhenUp<QMessageBox>([](QMessageBox& box) {
@@ -150,6 +167,18 @@ TEST_CASE("Saving over a file is not asked about by the dialog") {
     QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
   });
   CHECK(desk.dialogs.AskFile(request) == FromQString(path));
+}
+
+TEST_CASE("A file dialog's panes and grips have names for a screen reader") {
+  NoPrinting desk;
+  WhenUp<QFileDialog>([](QFileDialog& dialog) {
+    auto& panes = *dialog.findChild<QSplitter*>();
+    CHECK(panes.accessibleName() == "Places and files");
+    CHECK(panes.handle(1)->accessibleName() == "Divider");
+    CHECK(dialog.findChild<QSizeGrip*>()->accessibleName() == "Size of the dialog");
+    dialog.reject();
+  });
+  desk.dialogs.AskFile({});
 }
 
 TEST_CASE("A cancelled file dialog names no file, and opening wants one that exists") {

@@ -125,6 +125,7 @@ TEST_CASE("The start-up picture is on screen during the pause and gone with it")
     CHECK(splash.isVisible());
     CHECK(splash.windowFlags().testFlag(Qt::FramelessWindowHint));
     CHECK(Shows(ProgramOnScreen::Of("Image1", "Splash"), "splash.png"));
+    CHECK(ProgramOnScreen::Of("Image1", "Splash").accessibleName() == "Tessara 1.0");
     ++pictures;
   });
   desk.Start();
