@@ -13,7 +13,7 @@ import shlex
 import subprocess
 import sys
 
-PROGRAMS = {"cmake", "cp", "cpack", "gdb"}
+PROGRAMS = {"cmake", "cp", "cpack", "env", "gdb"}
 STARTS_A_COMMAND = re.compile(r"(\./|scripts/\w|build/\w+/|(cmake|gdb) -)")
 FENCE = re.compile(r"^```sh\n(.*?)^```$", re.MULTILINE | re.DOTALL)
 IN_BACKTICKS = re.compile(r"`([^`\n]+)`")

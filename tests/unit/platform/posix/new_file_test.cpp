@@ -6,6 +6,7 @@
 
 #include "tests/support/disk_desk.h"
 #include "tests/support/killed_process.h"
+#include "tests/support/refused_call.h"
 
 namespace tessara::test {
 
@@ -82,6 +83,16 @@ TEST_CASE("a hidden file of a killed process of the same number is no obstacle")
   WriteNew(folder, NewFile::Kind::kHidden);
   CHECK(NamesIn(folder.Path()) == std::vector<std::string>{"name"});
   CHECK(folder.Read("name") == "whole");
+}
+
+TEST_CASE("each folder that is made is on the disk before the next one is") {
+  const ScratchFolder folder;
+  std::vector<long> calls = FileCallsOf([&] {
+    MakeFolders(folder / "a/b");
+    return 0;
+  });
+  std::erase_if(calls, [](long call) { return call != SYS_mkdir && call != SYS_fsync; });
+  CHECK(calls == std::vector<long>{SYS_mkdir, SYS_fsync, SYS_mkdir, SYS_fsync});
 }
 
 TEST_CASE("missing folders are made for their owner only; those that are there stay as they are") {

@@ -2,7 +2,9 @@
 // import and an association in turn, with each error.
 
 #include <algorithm>
+#include <array>
 #include <doctest/doctest.h>
+#include <set>
 
 #include "platform/freedesktop/document_registry.h"
 #include "tests/support/disk_desk.h"
@@ -104,6 +106,28 @@ TEST_CASE("whichever call of a save is refused, success is told and no deck is l
         });
     CHECK(calls > 2 * (kCards + 2));
   }
+}
+
+TEST_CASE("a call of a save that a signal cuts short is made again") {
+  ChangedDesk changed(true);
+  const auto save = [&] {
+    changed.desk.Save();
+    return 0;
+  };
+  constexpr std::array kCutShort = {SYS_read, SYS_write, SYS_pwrite64, SYS_fsync};
+  std::set<long> met;
+  const std::vector<long> calls = FileCallsOf(save);
+  const std::string newDeck = changed.folder.Read(DiskDesk::kDeckName);
+  for (std::size_t at = 0; at < calls.size(); ++at) {
+    if (std::count(kCutShort.begin(), kCutShort.end(), calls[at]) == 0) continue;
+    CAPTURE(at);
+    met.insert(calls[at]);
+    PutOldDeck(changed.folder);
+    CHECK(ResultWithRefusal(static_cast<int>(at) + 1, EINTR, save) == 0);
+    CHECK(changed.folder.Read(DiskDesk::kDeckName) == newDeck);
+    CHECK(KeptIn(changed.folder) == std::vector<std::string>{OldDeck()});
+  }
+  CHECK(met.size() == kCutShort.size());
 }
 
 TEST_CASE("whichever call of a load is refused, the deck is there whole or its end is reported") {
