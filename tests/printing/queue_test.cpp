@@ -120,6 +120,16 @@ TEST_CASE("each copy of a listing is a job on the chosen queue's own paper") {
   CHECK(jobs[0].pages[0].Has("Card #1 F2 B2 Card #2 F3 B3"));
 }
 
+TEST_CASE("a listing on its way to a queue makes no temporary file") {
+  PaperDesk desk(3);
+  const QByteArray before = qgetenv("TMPDIR");
+  qputenv("TMPDIR", "/nowhere");
+  const std::string told = desk.Print(PrintServer::kQueue, Mode::kFlat);
+  before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
+  CHECK(told == "PRINT");
+  CHECK(desk.queues.TakeJobs(PrintServer::kQueue, 1).front().pages.size() == 1);
+}
+
 TEST_CASE("queue and file can be chosen in turn") {
   PaperDesk desk(3);
   for (const char* queue : {PrintServer::kQueue, PrintServer::kOtherQueue}) {

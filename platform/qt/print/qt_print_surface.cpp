@@ -1,15 +1,15 @@
 #include "platform/qt/print/qt_print_surface.h"
 
-#include <QFile>
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QPrinter>
 #include <QPrinterInfo>
-#include <QTemporaryFile>
 #include <algorithm>
+#include <sys/mman.h>
 #include <utility>
 
 #include "platform/cups/print_queue.h"
+#include "platform/posix/system_call.h"
 #include "platform/posix/write_file.h"
 #include "platform/qt/qt_text.h"
 #include "platform/run_time_error.h"
@@ -159,13 +159,14 @@ void QtPrintSurface::Send(const QByteArray& pdf) const {
     WriteFile(ToUtf8(destination_.pdfFile), pdf.toStdString());
     return;
   }
-  QTemporaryFile file;
-  const bool written = file.open() && file.write(pdf) == pdf.size() && file.flush();
-  if (!written) throw RunTimeError(ErrorNumber::kPrinterError);
+  // In memory: a program that is killed meanwhile leaves no file.
+  const Descriptor file(memfd_create("Tessara", MFD_CLOEXEC));
+  if (file.Get() == kFailed) throw RunTimeError(ErrorNumber::kPrinterError);
+  const std::string path = "/proc/self/fd/" + std::to_string(file.Get());
+  WriteFile(path, pdf.toStdString());
   const std::string copies = std::to_string(copies_);
   const QueueOption options[] = {{"copies", copies.c_str()}};
-  PrintOnQueue(ToUtf8(destination_.printer), QFile::encodeName(file.fileName()).toStdString(),
-               options);
+  PrintOnQueue(ToUtf8(destination_.printer), path, options);
 }
 
 QByteArray QtPrintSurface::PaintPages() const {
