@@ -114,8 +114,12 @@ QWidget* PlainWindow::Show() const {
   return window;
 }
 
-PlainCard::PlainCard(const QPixmap& picture, QWidget* parent) : QWidget(parent), picture_(picture) {
+PlainCard::PlainCard(const QPixmap& picture, QWidget* parent)
+    : QWidget(parent),
+      picture_(QPixmap::fromImage(picture.toImage().convertToFormat(QImage::Format_RGB32))) {
   setObjectName("plain");
+  // Nothing behind it is painted too.
+  setAttribute(Qt::WA_OpaquePaintEvent);
   setFixedSize(picture.deviceIndependentSize().toSize());
   show();
 }
