@@ -11,16 +11,14 @@ namespace tessara {
 
 namespace {
 
-constexpr int kWindowHeight = 4350;
-constexpr int kWindowWidth = 6330;
 constexpr int kApply = 1;
 
 }  // namespace
 
 FrmSetUp::FrmSetUp(AppContext& app)
     : Form(app.windows, "FrmSetUp", FormKind::kChild, u"Set-Up"), app_(app) {
-  SetWidth(kWindowWidth);
-  SetHeight(kWindowHeight);
+  SetWidth(kWidth);
+  SetHeight(kHeight);
   PlaceControls();
   WireControls();
 }
@@ -114,7 +112,7 @@ void FrmSetUp::SelectBackDrop() {
 }
 
 void FrmSetUp::Form_Resize() {
-  HoldWindowSize(kWindowHeight, kWindowWidth, *this);
+  HoldWindowSize(kHeight, kWidth, *this);
 }
 
 void FrmSetUp::MarkChanged() {

@@ -9,6 +9,10 @@ namespace tessara {
 /// The set-up window: changes the settings, and stores them on Apply or at the close.
 class FrmSetUp : public Form {
  public:
+  /// Outer size in twips.
+  static constexpr int kHeight = 4350;
+  static constexpr int kWidth = 6330;
+
   explicit FrmSetUp(AppContext& app);
 
   ControlArray<Frame, 3> Frame1;

@@ -90,7 +90,7 @@ void MDIForm1::ShowAbout() {
 }
 
 void MDIForm1::ShowInstructions() {
-  windows_.instructions->Show(Modality::kModal);
+  mnuSC_Click(windows_.instructions);
 }
 
 void MDIForm1::mnuStdTessara_Click() {
@@ -129,7 +129,7 @@ void MDIForm1::mnuOPenExisting_Click() {
 }
 
 void MDIForm1::mnuSetup_Click() {
-  PlaceInFrame(windows_.setUp.Slot(), 4350, 6330, app_.frame);
+  PlaceInFrame(windows_.setUp.Slot(), FrmSetUp::kHeight, FrmSetUp::kWidth, app_.frame);
 }
 
 void MDIForm1::mnuImportFile_Click() {
