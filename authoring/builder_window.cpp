@@ -8,6 +8,13 @@
 
 namespace tessara {
 
+namespace {
+
+constexpr TextView kAddCaption = u"&Add to deck";
+constexpr TextView kCancelCaption = u"&Cancel";
+
+}  // namespace
+
 BuilderWindow::BuilderWindow(AppContext& app, std::string name, Window<frmMain> deck)
     : Form(app.windows, std::move(name), FormKind::kChild, u"Tessara"), app_(app), deck_(deck) {
   cmdMove.Wire(&Button::onClick, [this](int Index) { cmdMove_Click(Index); });
@@ -65,8 +72,8 @@ void BuilderWindow::SetBuilderState(BuilderState xState) {
   buttons[kAddButton].SetEnabled(false);
   if (xState == BuilderState::kNew) {
     buttons[kNewButton].SetEnabled(false);
-    buttons[kAddButton].SetCaption(u"&Add to deck");
-    buttons[kCancelButton].SetCaption(u"&Cancel");
+    buttons[kAddButton].SetCaption(Text(kAddCaption));
+    buttons[kCancelButton].SetCaption(Text(kCancelCaption));
     for (Button& arrow : cmdMove) arrow.SetEnabled(false);
   } else {
     buttons[kNewButton].SetEnabled(State().CardCount < kMostCards);
@@ -79,7 +86,7 @@ void BuilderWindow::SetBuilderState(BuilderState xState) {
 
 void BuilderWindow::PrepareNewCard() {
   ButtonsOf()[kNewButton].SetEnabled(false);
-  ButtonsOf()[kAddButton].SetCaption(u"&Add to deck");
+  ButtonsOf()[kAddButton].SetCaption(Text(kAddCaption));
   ClearForm();
   FirstBox().SetFocus();
   ShowNextNumber();
@@ -93,6 +100,20 @@ void BuilderWindow::StartNewCard() {
   SetBuilderState(BuilderState::kNew);
   ButtonsOf()[kCancelButton].SetEnabled(true);
   State().CurrentCard = static_cast<std::int16_t>(State().CardCount + 1);
+}
+
+void BuilderWindow::AddOrChange() {
+  if (Adding()) {
+    AddCard();
+    ShowBuilderCard(State().CurrentCard);
+    SetBuilderState(BuilderState::kOld);
+    deck_->SetGoToMenu();
+  } else {
+    ChangeCard();
+    ButtonsOf()[kAddButton].SetEnabled(false);
+  }
+  State().DeckChanged = true;
+  State().SaveOffered = true;
 }
 
 void BuilderWindow::CancelOrDelete() {
@@ -125,13 +146,20 @@ void BuilderWindow::WaitForFirstCard() {
   FirstBox().SetFocus();
 }
 
-bool BuilderWindow::AskYesNo(const Text& question, int flags, const Text& title) {
-  return app_.machine.messages.Show(question, flags + kYesNo, title) == MessageAnswer::kYes;
+bool BuilderWindow::Adding() {
+  return ButtonsOf()[kAddButton].Caption() == kAddCaption;
+}
+
+bool BuilderWindow::Cancelling() {
+  return ButtonsOf()[kCancelButton].Caption() == kCancelCaption;
+}
+
+bool BuilderWindow::AskYesNo(const Text& question, const Text& title) {
+  return app_.machine.messages.Show(question, kQuestionIcon + kYesNo, title) == MessageAnswer::kYes;
 }
 
 bool BuilderWindow::AskAboutChangedCard() {
-  return AskYesNo(u"You have changed this card, do you want to save changes?", kQuestionIcon,
-                  u"Changed Card");
+  return AskYesNo(u"You have changed this card, do you want to save changes?", u"Changed Card");
 }
 
 void BuilderWindow::EnsureCurrentCard() {

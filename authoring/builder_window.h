@@ -48,7 +48,8 @@ class BuilderWindow : public Form {
   virtual void ClearForm() = 0;
   virtual void ShowBuilderCard(int xRec) = 0;
   virtual void AskSaveChanged() = 0;
-  virtual void AddOrChange() = 0;
+  virtual void AddCard() = 0;
+  virtual void ChangeCard() = 0;
   virtual void Cancel() = 0;
   virtual void Close() = 0;
 
@@ -59,17 +60,17 @@ class BuilderWindow : public Form {
   /// An empty form with the number behind the last card's; the guard is off then.
   virtual void PrepareNewCard();
   virtual void StartNewCard();
+  /// The add button: what it does to the table is told by its caption.
+  virtual void AddOrChange();
 
   void Button_Click(int Index);
-  void Delete();
   /// A new card in a deck without cards: nothing to cancel yet.
   void WaitForFirstCard();
 
   void ShowNumber(const Text& number) { NumberLabel().SetCaption(u"Card: " + number); }
   void ShowNextNumber() { ShowNumber(DecimalText(State().CardCount + 1)); }
-  [[nodiscard]] bool Adding() { return ButtonsOf()[kAddButton].Caption() == u"&Add to deck"; }
   /// Asks with Yes and No. True for Yes.
-  bool AskYesNo(const Text& question, int flags, const Text& title);
+  bool AskYesNo(const Text& question, const Text& title);
   bool AskAboutChangedCard();
   /// Runs writes to the boxes that are not to count as edits.
   template <class Writes>
@@ -80,12 +81,15 @@ class BuilderWindow : public Form {
   }
   /// Makes card 1 the current one where there is none yet.
   void EnsureCurrentCard();
-  /// Where the deck's printing stands by the number of cards.
+  /// A deck with a card can be printed.
   void EnablePrinting() { deck_->mnuPrint.SetEnabled(State().CardCount >= 1); }
 
  private:
-  [[nodiscard]] bool Cancelling() { return ButtonsOf()[kCancelButton].Caption() == u"&Cancel"; }
+  // The captions are the state.
+  [[nodiscard]] bool Adding();
+  [[nodiscard]] bool Cancelling();
   void CancelOrDelete();
+  void Delete();
   /// Runs the command of a button. Where the button goes off by it with the focus on it, the
   /// focus goes to the first of the others that is on, and not to where the desktop throws it.
   template <class Command>

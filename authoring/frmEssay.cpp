@@ -120,20 +120,12 @@ void frmEssay::WarnAboutLines() {
       kInformationIcon, u"Maximum Lines Reached!");
 }
 
-void frmEssay::AddOrChange() {
-  State().DeckChanged = true;
-  if (Adding()) {
-    SaveCard(kTextCard);
-    ShowBuilderCard(State().CurrentCard);
-    Command1[kNewButton].SetEnabled(true);
-    Command1[kAddButton].SetEnabled(false);
-    SetBuilderState(BuilderState::kOld);
-    Deck()->SetGoToMenu();
-  } else {
-    ChangeCurrentCard(State().CurrentCard, kTextCard);
-    Command1[kAddButton].SetEnabled(false);
-  }
-  State().SaveOffered = true;
+void frmEssay::AddCard() {
+  SaveCard(kTextCard);
+}
+
+void frmEssay::ChangeCard() {
+  ChangeCurrentCard(State().CurrentCard, kTextCard);
 }
 
 void frmEssay::Cancel() {
@@ -168,7 +160,7 @@ void frmEssay::SaveBeforeClose() {
   const bool save = AskYesNo(
       u"The last card added or changed was not saved. Would you like to return and save your "
       u"changes before closing this window?",
-      kQuestionIcon, u"Unsaved Card");
+      u"Unsaved Card");
   if (save) {
     SaveCard(kTextCard);
     App().machine.messages.Show(u"Card is saved", kOkOnly, u"Save");

@@ -36,7 +36,8 @@ class frmEssay : public BuilderWindow {
   void ClearForm() override { ClrFrm(); }
   void ShowBuilderCard(int xRec) override;
   void AskSaveChanged() override;
-  void AddOrChange() override;
+  void AddCard() override;
+  void ChangeCard() override;
   void Cancel() override;
   void Close() override;
 

@@ -193,20 +193,15 @@ void frmQuestion::Cancel() {
 void frmQuestion::AddOrChange() {
   bool refused = false;
   CheckAnswerLines(refused);
-  if (refused) return;
-  if (Adding()) {
-    SaveCard_Gen();
-    ShowBuilderCard(State().CurrentCard);
-    Command2[kNewButton].SetEnabled(true);
-    Command2[kAddButton].SetEnabled(false);
-    SetBuilderState(BuilderState::kOld);
-    Deck()->SetGoToMenu();
-  } else {
-    ChangeCurrentCard(State().CurrentCard, ChosenType());
-    Command2[kAddButton].SetEnabled(false);
-  }
-  State().DeckChanged = true;
-  State().SaveOffered = true;
+  if (!refused) BuilderWindow::AddOrChange();
+}
+
+void frmQuestion::AddCard() {
+  SaveCard_Gen();
+}
+
+void frmQuestion::ChangeCard() {
+  ChangeCurrentCard(State().CurrentCard, ChosenType());
 }
 
 void frmQuestion::Close() {

@@ -45,6 +45,8 @@ class frmQuestion : public BuilderWindow {
   void SaveCard_Gen();
   void MarkCorrAns(const Text& xAns);
   void MarkQuestType(const Text& QuestType);
+  /// The type that the form shows: "M" or, where it is not multiple choice, "T".
+  [[nodiscard]] Text ChosenType() const;
   void ChangeCurrentCard(int xRecNbr, const Text& QuestType);
   void SaveMultipleChoice(const Text& xQuestType);
 
@@ -70,6 +72,8 @@ class frmQuestion : public BuilderWindow {
   void PrepareNewCard() override;
   void StartNewCard() override;
   void AddOrChange() override;
+  void AddCard() override;
+  void ChangeCard() override;
   void Cancel() override;
   void Close() override;
 
@@ -90,7 +94,6 @@ class frmQuestion : public BuilderWindow {
   [[nodiscard]] bool TextOnClosedLine();
   [[nodiscard]] bool PlaceholderLeft();
 
-  [[nodiscard]] Text ChosenType() const;
   void WriteCard(int row, const Text& QuestType);
 };
 

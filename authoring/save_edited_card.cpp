@@ -28,7 +28,7 @@ bool SaveEditedCard(const Button& button, AppContext& app, const Save& save) {
 bool SaveEditedQuestion(frmQuestion& builder, AppContext& app) {
   const Button& button = builder.Command2[kAddButton];
   return SaveEditedCard(button, app, [&] {
-    builder.ChangeCurrentCard(app.state.CurrentCard, builder.Option3[0].Selected() ? u"M" : u"T");
+    builder.ChangeCurrentCard(app.state.CurrentCard, builder.ChosenType());
     if (button.Caption() != u"&Change") ++app.state.CardCount;
   });
 }
