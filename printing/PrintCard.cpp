@@ -1,38 +1,23 @@
 #include "printing/PrintCard.h"
 
-#include <algorithm>
-
-#include "deck/deck_name.h"
-#include "platform/conversion.h"
 #include "platform/message_box.h"
-#include "platform/run_time_error.h"
-#include "printing/card_sheet.h"
-#include "viewer/answer_text.h"
 
 namespace tessara {
 
 namespace {
 
+// Twips.
 constexpr int kWidth = 8685;
 constexpr int kHeight = 5565;
-
-constexpr int kNumberColumn = 1;
-constexpr int kTextColumn = 2;
 constexpr int kScrollBarWidth = 300;
 
-constexpr int kToggleButton = 0;
-constexpr int kPrintButton = 1;
-constexpr int kCloseButton = 2;
-
-constexpr TextView kSelectAll = u"Select All";
-constexpr TextView kDeselectAll = u"Deselect All";
+// Columns of the list.
+constexpr int kNumberColumn = 1;
+constexpr int kTextColumn = 2;
 
 constexpr Color kMagenta = FixedColor(192, 0, 192);
 constexpr Color kBlue = FixedColor(0, 0, 255);
 constexpr Color kBrown = FixedColor(128, 64, 0);
-
-constexpr TextView kUnspecifiedError =
-    u"An unspecified printing error has occured. Ensure that the printer is ready.";
 
 }  // namespace
 
@@ -47,63 +32,25 @@ PrintCard::PrintCard(AppContext& app, SpreadsheetJob& job, Window<Form> frmMain)
 }
 
 void PrintCard::PlaceControls() {
+  constexpr TextView kSelect = u"Select cards to be printed";
+  constexpr TextView kSelected = u"Number of cards selected for print: 0";
+  constexpr TextView kFlatOnly = u"FLAT SHEET PRINTING ONLY";
+  constexpr TextView kListName = u"Cards to be printed";
   constexpr TextView kPictureName = u"How the back reads against the front";
   Place({
-      {&Label1,
-       "Label1",
-       kNoIndex,
-       nullptr,
-       u"Select cards to be printed",
-       {120, 120, 2175, 255},
-       u""},
+      {&Label1, "Label1", kNoIndex, nullptr, kSelect, {120, 120, 2175, 255}, u""},
       {&Label6, "Label6", kNoIndex, nullptr, u"Available Cards:", {3240, 120, 1695, 255}, u""},
-      {&Label3,
-       "Label3",
-       kNoIndex,
-       nullptr,
-       u"Number of cards selected for print: 0",
-       {5160, 120, 3015, 255},
-       u""},
-      {&ListView1,
-       "ListView1",
-       kNoIndex,
-       nullptr,
-       u"",
-       {120, 360, 8175, 2655},
-       u"Cards to be printed"},
+      {&Label3, "Label3", kNoIndex, nullptr, kSelected, {5160, 120, 3015, 255}, u""},
+      {&ListView1, "ListView1", kNoIndex, nullptr, u"", {120, 360, 8175, 2655}, kListName},
       {&Label2, "Label2", kNoIndex, nullptr, u"BACK  OF CARD", {120, 3480, 1815, 255}, u""},
       {&Text1, "Text1", kNoIndex, nullptr, u"", {120, 3840, 3495, 1215}, u"Back of card"},
       {&Check2, "Check2", kNoIndex, nullptr, u"FLIP PRINT CARD", {4080, 3360, 2055, 255}, u""},
       {&Check1, "Check1", kNoIndex, nullptr, u"PRINT FLAT SHEET", {4080, 3600, 2295, 375}, u""},
       {&Picture1, "Picture1", kNoIndex, nullptr, u"", {6360, 3375, 1815, 615}, kPictureName},
-      {&Label4,
-       "Label4",
-       kNoIndex,
-       nullptr,
-       u"FLAT SHEET PRINTING ONLY",
-       {4110, 4155, 3870, 255},
-       u""},
-      {&Command1[kToggleButton],
-       "Command1",
-       kToggleButton,
-       nullptr,
-       kSelectAll,
-       {3825, 4455, 1455, 615},
-       u""},
-      {&Command1[kPrintButton],
-       "Command1",
-       kPrintButton,
-       nullptr,
-       u"&Print",
-       {5400, 4440, 1455, 615},
-       u""},
-      {&Command1[kCloseButton],
-       "Command1",
-       kCloseButton,
-       nullptr,
-       u"&Close",
-       {6975, 4440, 1335, 615},
-       u""},
+      {&Label4, "Label4", kNoIndex, nullptr, kFlatOnly, {4110, 4155, 3870, 255}, u""},
+      {&Command1[0], "Command1", 0, nullptr, kSelectAll, {3825, 4455, 1455, 615}, u""},
+      {&Command1[1], "Command1", 1, nullptr, u"&Print", {5400, 4440, 1455, 615}, u""},
+      {&Command1[2], "Command1", 2, nullptr, u"&Close", {6975, 4440, 1335, 615}, u""},
       {&Line1[0], "Line1", 0, nullptr, u"", {3960, 3240, 4335, 0}, u""},
       {&Line1[1], "Line1", 1, nullptr, u"", {3960, 4425, 4335, 0}, u""},
       {&Line2, "Line2", kNoIndex, nullptr, u"", {3960, 3240, 0, 1185}, u""},
@@ -175,46 +122,6 @@ void PrintCard::ShowPicture(TextView key) {
   Picture1.SetPicture(app_.frame.imgWallPaper().At(key).picture);
 }
 
-bool PrintCard::AllChecked() const {
-  return CountChecks() == ListView1.Count();
-}
-
-std::int16_t PrintCard::CountChecks() const {
-  std::int16_t ticked = 0;
-  for (int item = 1; item <= ListView1.Count(); ++item) {
-    if (ListView1.Item(item).checked) ++ticked;
-  }
-  return ticked;
-}
-
-void PrintCard::SelectAll() {
-  SetAllChecks(true);
-}
-
-void PrintCard::DeselectAll() {
-  SetAllChecks(false);
-}
-
-void PrintCard::SetAllChecks(bool checked) {
-  for (int item = 1; item <= ListView1.Count(); ++item) ListView1.SetChecked(item, checked);
-  if (Check1.Ticked()) Command1[kPrintButton].SetEnabled(checked);
-}
-
-bool PrintCard::PrnButEn() const {
-  const bool canPrint = Check1.Ticked() || app_.state.CanPrintCards;
-  return canPrint && CountChecks() > 0;
-}
-
-Text PrintCard::GetCardText(const Text& CardSide, std::int16_t Lcnt) const {
-  const ProgramState& state = app_.state;
-  const bool knownType = state.DeckType == kStandardDeck || state.DeckType == kExtendedDeck;
-  if (!knownType) return {};
-  if (CardSide == kFront) return state.Cell(Lcnt, kCardText);
-  if (CardSide != kBack) return {};
-  if (state.DeckType == kStandardDeck) return state.Cell(Lcnt, kBackText);
-  return AnswerText(state.Cell(Lcnt, kAnswer), Lcnt, state);
-}
-
 void PrintCard::FlatPrintOnly() {
   Check2.SetEnabled(false);
   ShowPicture(u"FlipDisabled");
@@ -251,87 +158,6 @@ void PrintCard::Command1_Click(int Index) {
   if (Index == kPrintButton && !RunJob()) return;
   ShowCountForPrint();
   Command1[kPrintButton].SetEnabled(PrnButEn());
-}
-
-void PrintCard::ToggleAll() {
-  Button& toggle = Command1[kToggleButton];
-  if (toggle.Caption() == kSelectAll) {
-    SelectAll();
-    toggle.SetCaption(Text(kDeselectAll));
-  } else {
-    DeselectAll();
-    toggle.SetCaption(Text(kSelectAll));
-  }
-}
-
-/// False where the window is not to be brought up to date after the job.
-bool PrintCard::RunJob() {
-  return Check1.Ticked() ? RunFlatJob() : RunCardJob();
-}
-
-bool PrintCard::RunFlatJob() {
-  PrintFlatSheetDialog();
-  // A cancel stays set: the next flat job ends here too, until a card job clears it.
-  if (app_.state.PrintCancelled) return false;
-  AnnounceEnd();
-  return true;
-}
-
-bool PrintCard::RunCardJob() {
-  try {
-    job_.Open();
-    PrintCardsDialog();
-    job_.Close();
-  } catch (const RunTimeError& error) {
-    ReportJobFailure(error);
-    return false;
-  }
-  if (!app_.state.PrintCancelled) AnnounceEnd();
-  app_.state.PrintCancelled = false;
-  return true;
-}
-
-void PrintCard::AnnounceEnd() {
-  app_.machine.messages.Show(DeckNameOf(app_.state.DeckFilePath) + u" has finished printing.",
-                             kInformationIcon, u"PRINT");
-}
-
-void PrintCard::ReportJobFailure(const RunTimeError& error) {
-  const bool notFound = error.Number() == ErrorNumber::kAutomationClassNotFound;
-  Command1[kPrintButton].SetEnabled(false);
-  app_.machine.messages.Show(notFound ? u"Printing requires Excel 97." : Text(kUnspecifiedError),
-                             kStopIcon, u"Error Printing Cards");
-}
-
-void PrintCard::ListView1_Click() {
-  ShowBack(IntegerOf(ListView1.SelectedItem().text));
-  ShowToggleCaption();
-  ShowCountForPrint();
-  ShowAvailable();
-  Command1[kPrintButton].SetEnabled(PrnButEn());
-}
-
-/// After a key the box shows the card below, and the print button stays as it is.
-void PrintCard::ListView1_KeyUp() {
-  ShowBack(static_cast<std::int16_t>(IntegerOf(ListView1.SelectedItem().text) + 1));
-  ShowToggleCaption();
-  Label3.SetCaption(u"Number of cards to print: " + DecimalText(CountChecks()));
-}
-
-void PrintCard::ShowBack(std::int16_t row) {
-  Text1.SetText(GetCardText(Text(kBack), row));
-}
-
-void PrintCard::ShowToggleCaption() {
-  Command1[kToggleButton].SetCaption(Text(AllChecked() ? kDeselectAll : kSelectAll));
-}
-
-void PrintCard::ShowCountForPrint() {
-  Label3.SetCaption(u"Number of cards selected for print: " + DecimalText(CountChecks()));
-}
-
-void PrintCard::ShowAvailable() {
-  Label6.SetCaption(u"Available Cards: " + DecimalText(ListView1.Count()));
 }
 
 void mnuPrint_Click(AppContext& app, const Window<PrintCard>& printCard) {

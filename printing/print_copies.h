@@ -4,6 +4,7 @@
 
 #include "platform/dialogs.h"
 #include "platform/machine.h"
+#include "platform/text.h"
 
 namespace tessara {
 
@@ -13,6 +14,10 @@ PrinterChoice ChoosePrinter(Machine& machine);
 
 /// Runs the pass once for each copy. Before each but the first the user is asked; a No ends it.
 void PrintCopies(Machine& machine, int copies, const std::function<void()>& pass);
+
+/// What is told where the error itself says nothing to the user.
+inline constexpr TextView kUnspecifiedError =
+    u"An unspecified printing error has occured. Ensure that the printer is ready.";
 
 /// The box for a cancel and for most errors of printing.
 void TellCancelled(Machine& machine);

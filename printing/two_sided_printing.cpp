@@ -1,6 +1,8 @@
 #include "platform/conversion.h"
 #include "platform/message_box.h"
 #include "platform/run_time_error.h"
+#include "platform/skip_errors.h"
+#include "platform/spreadsheet.h"
 #include "printing/PrintCard.h"
 #include "printing/card_sheet.h"
 #include "printing/print_copies.h"
@@ -20,20 +22,9 @@ Text TurningMark(const CheckBox& Check2, const Text& side) {
   return Check2.Ticked() ? u"VV" : u"^^";
 }
 
-/// The sheets that the server has taken stay printed, whatever went wrong with the next one.
-void FinishAfterError(SpreadsheetServer& server) {
-  try {
-    server.FinishDestination();
-  } catch (const RunTimeError&) {
-    // The first error is the one to tell.
-  }
-}
-
 void TellPrintingError(Machine& machine, const RunTimeError& error) {
   if (error.Number() == ErrorNumber::kObjectRequired) {
-    machine.messages.Show(
-        u"An unspecified printing error has occured. Ensure that the printer is ready.", kOkOnly,
-        u"Error Printing Cards");
+    machine.messages.Show(Text(kUnspecifiedError), kOkOnly, u"Error Printing Cards");
   } else {
     TellCancelled(machine);
   }
@@ -61,7 +52,8 @@ void PrintCard::PrintCardCopies(const PrinterChoice& choice) {
       PrintCards(Text(kBack));
     });
   } catch (const RunTimeError&) {
-    FinishAfterError(server);
+    // The sheets that the server has taken stay printed. The first error is the one to tell.
+    SkipErrors([&server] { server.FinishDestination(); });
     throw;
   }
   server.FinishDestination();
