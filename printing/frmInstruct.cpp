@@ -1,5 +1,7 @@
 #include "printing/frmInstruct.h"
 
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace tessara {
@@ -34,20 +36,8 @@ frmInstruct::frmInstruct(WindowSystem& windows)
       {&Picture1, "Picture1", kNoIndex, nullptr, u"", {120, 120, 4575, 4095}, u"Step"},
       {&Image1, "Image1", kNoIndex, &Picture1, u"", {720, 600, 5400, 5400}, u"How it is done"},
       {&Label1, "Label1", kNoIndex, &Picture1, u"Label1", {120, 3240, 4335, 735}, u""},
-      {&Command1[kBackButton],
-       "Command1",
-       kBackButton,
-       nullptr,
-       u"<<",
-       {120, 4320, 1455, 495},
-       u"Previous step"},
-      {&Command1[kForwardButton],
-       "Command1",
-       kForwardButton,
-       nullptr,
-       u">>",
-       {1680, 4320, 1455, 495},
-       u"Next step"},
+      {&Command1[0], "Command1", 0, nullptr, u"<<", {120, 4320, 1455, 495}, u"Previous step"},
+      {&Command1[1], "Command1", 1, nullptr, u">>", {1680, 4320, 1455, 495}, u"Next step"},
       {&Command2, "Command2", kNoIndex, nullptr, u"&Close", {3240, 4320, 1455, 495}, u""},
   });
   Picture1.SetBackColor({.role = Color::Role::kWindow});

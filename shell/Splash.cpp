@@ -13,13 +13,8 @@ constexpr int kYields = 5000;
 Splash::Splash(WindowSystem& system) : Form(system, "Splash", FormKind::kSplash, u"Tessara") {
   SetWidth(kClientWidth + kBorderAcross);
   SetHeight(kClientHeight + kBorderDown);
-  Place({{&Image1,
-          "Image1",
-          kNoIndex,
-          nullptr,
-          u"",
-          {0, 0, kClientWidth, kClientHeight},
-          u"Tessara 1.0"}});
+  constexpr Bounds kWholeClient = {0, 0, kClientWidth, kClientHeight};
+  Place({{&Image1, "Image1", kNoIndex, nullptr, u"", kWholeClient, u"Tessara 1.0"}});
   Image1.SetPicture({"splash.png", 414, 196});
 }
 

@@ -8,6 +8,7 @@ namespace {
 
 constexpr int kWidth = 5220;
 constexpr int kHeight = 3690;
+constexpr TextView kCredit = u"Flash cards by the Tessara developers";
 constexpr Color kLinkBlue = FixedColor(0, 0, 238);
 
 }  // namespace
@@ -26,13 +27,7 @@ frmAbout::frmAbout(AppContext& app)
       {&Line3[2], "Line3", 2, nullptr, u"", {180, 180, 15, 2940}, u""},
       {&Line3[3], "Line3", 3, nullptr, u"", {4905, 180, 15, 2940}, u""},
       {&Label1[0], "Label1", 0, nullptr, u"Tessara 1.0", {300, 420, 4500, 450}, u""},
-      {&Label1[1],
-       "Label1",
-       1,
-       nullptr,
-       u"Flash cards by the Tessara developers",
-       {300, 1020, 4500, 300},
-       u""},
+      {&Label1[1], "Label1", 1, nullptr, kCredit, {300, 1020, 4500, 300}, u""},
       {&cmdOK, "cmdOK", kNoIndex, nullptr, u"OK", {1890, 2400, 1320, 480}, u""},
       {&Label2, "Label2", kNoIndex, nullptr, u"email author", {1500, 1500, 2100, 300}, u""},
       {&Image1, "Image1", kNoIndex, nullptr, u"", {3780, 1410, 480, 480}, u"Envelope"},
