@@ -28,7 +28,7 @@ class FrameWindow final : public QMainWindow, public FormWindow {
   /// Opens the top-level menu that carries the accelerator. False where none does.
   bool OpenMenu(char16_t letter);
 
-  /// Size that the client area opens with, in twips.
+  /// Size that the window opens with, in pixels of the desktop, without border and title.
   [[nodiscard]] static QSize OpeningSize(const PixelScale& scale);
 
  protected:
