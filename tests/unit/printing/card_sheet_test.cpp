@@ -11,9 +11,6 @@ namespace {
 struct Sheet {
   test::RecordingSpreadsheet server;
   std::shared_ptr<Worksheet> worksheet = server.Bind(u"")->ActiveSheet();
-
-  // It belongs to no window, so it can't be ticked: the choice between the two ways of turning
-  // is tested with the print window.
   CheckBox Check2;
   CardSheet cards{*worksheet, Check2};
 
@@ -58,6 +55,15 @@ TEST_CASE("each placement sets the fonts of its side anew before it writes") {
   sheet.cards.PlaceBackFlipped(u"back", 2);
   expected.back() = "A7 = back";
   CHECK(sheet.server.record.Take() == expected);
+}
+
+TEST_CASE("the box chooses the way of turning, and is read at each placement") {
+  Sheet sheet;
+  for (const bool flips : {false, true, false}) {
+    sheet.Check2.SetTicked(flips);
+    sheet.cards.PlaceBackText(u"x", kFirstSlot);
+    CHECK(sheet.server.record.Take().back() == (flips ? "A7 = x" : "C1 = x"));
+  }
 }
 
 TEST_CASE("a position that is no slot sets the fonts and writes no cell") {
