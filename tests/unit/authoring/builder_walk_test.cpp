@@ -1,9 +1,11 @@
 // Random walks through both builders, step by step against a model of what must come of them.
 
+#include <array>
 #include <doctest/doctest.h>
 #include <random>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "tests/unit/authoring/essay_model.h"
 #include "tests/unit/authoring/question_model.h"
@@ -108,6 +110,49 @@ std::string Difference(const BuilderModel& model, const ProgramState& state) {
   return "";
 }
 
+/// Takes a step that both builders have, in the model; `takeOwn` takes every other.
+template <class Model, class TakeOwn>
+void TakeIn(Model& model, const Step& step, const TakeOwn& takeOwn) {
+  switch (step.kind) {
+    case Step::kMove:
+      return model.Move(step.place % 2);
+    case Step::kNew:
+      return model.PressNew();
+    case Step::kAddCard:
+      return model.PressAdd();
+    case Step::kCancelCard:
+      return model.PressCancel();
+    case Step::kClose:
+      return model.PressClose();
+    case Step::kCloseBox:
+      return model.Reopen();
+    default:
+      return takeOwn();
+  }
+}
+
+/// The same at the window.
+template <class TakeOwn>
+void TakeAt(BuilderWindow& window, BuilderWindow::Buttons& buttons, const Step& step,
+            const TakeOwn& takeOwn) {
+  switch (step.kind) {
+    case Step::kMove:
+      return window.cmdMove[step.place % 2].Press();
+    case Step::kNew:
+      return buttons[kNewButton].Press();
+    case Step::kAddCard:
+      return buttons[kAddButton].Press();
+    case Step::kCancelCard:
+      return buttons[kCancelButton].Press();
+    case Step::kClose:
+      return buttons[kCloseButton].Press();
+    case Step::kCloseBox:
+      return window.UserClose();
+    default:
+      return takeOwn();
+  }
+}
+
 struct EssayWalk {
   using Model = EssayModel;
   static std::vector<Step::Kind> Kinds() {
@@ -118,41 +163,12 @@ struct EssayWalk {
   static void Open(BuilderDesk& desk, int cards) { desk.OpenEssay(cards); }
 
   static void Take(const Step& step, EssayModel& model) {
-    switch (step.kind) {
-      case Step::kMove:
-        return model.Move(step.place % 2);
-      case Step::kNew:
-        return model.PressNew();
-      case Step::kAddCard:
-        return model.PressAdd();
-      case Step::kCancelCard:
-        return model.PressCancel();
-      case Step::kClose:
-        return model.PressClose();
-      case Step::kCloseBox:
-        return model.Reopen();
-      default:
-        return model.Write(step.place % 2, TextOf(step));
-    }
+    TakeIn(model, step, [&] { model.Write(step.place % 2, TextOf(step)); });
   }
   static void Take(const Step& step, BuilderDesk& desk) {
     frmEssay& window = desk.essay.Loaded();
-    switch (step.kind) {
-      case Step::kMove:
-        return window.cmdMove[step.place % 2].Press();
-      case Step::kNew:
-        return window.Command1[kNewButton].Press();
-      case Step::kAddCard:
-        return window.Command1[kAddButton].Press();
-      case Step::kCancelCard:
-        return window.Command1[kCancelButton].Press();
-      case Step::kClose:
-        return window.Command1[kCloseButton].Press();
-      case Step::kCloseBox:
-        return window.UserClose();
-      default:
-        return Replace(window.Text1[step.place % 2], TextOf(step));
-    }
+    TakeAt(window, window.Command1, step,
+           [&] { Replace(window.Text1[step.place % 2], TextOf(step)); });
   }
   static const Text& TextOf(const Step& step) {
     return EssayModel::Texts()[step.text % EssayModel::Texts().size()].first;
@@ -180,11 +196,15 @@ struct QuestionWalk {
   static void Open(BuilderDesk& desk, int cards) { desk.OpenQuestion(cards); }
 
   static void Take(const Step& step, QuestionModel& model) {
+    TakeIn(model, step, [&] { TakeOwn(step, model); });
+  }
+  static void Take(const Step& step, BuilderDesk& desk) {
+    frmQuestion& window = desk.question.Loaded();
+    TakeAt(window, window.Command2, step, [&] { TakeOwn(step, window); });
+  }
+  static void TakeOwn(const Step& step, QuestionModel& model) {
     const int line = step.place % 4;
     switch (step.kind) {
-      case Step::kWrite:
-        return step.place == 4 ? model.WriteQuestion(TextOf(step))
-                               : model.WriteLine(line, TextOf(step));
       case Step::kKey:
         return model.TypeKey(line, KeyOf(step));
       case Step::kVisit:
@@ -195,26 +215,14 @@ struct QuestionWalk {
         return model.PickTrueFalse(step.place % 2);
       case Step::kType:
         return model.PickType(step.place % 2);
-      case Step::kMove:
-        return model.Move(step.place % 2);
-      case Step::kNew:
-        return model.PressNew();
-      case Step::kAddCard:
-        return model.PressAdd();
-      case Step::kCancelCard:
-        return model.PressCancel();
-      case Step::kClose:
-        return model.PressClose();
       default:
-        return model.Reopen();
+        return step.place == 4 ? model.WriteQuestion(TextOf(step))
+                               : model.WriteLine(line, TextOf(step));
     }
   }
-  static void Take(const Step& step, BuilderDesk& desk) {
-    frmQuestion& window = desk.question.Loaded();
+  static void TakeOwn(const Step& step, frmQuestion& window) {
     const int line = step.place % 4;
     switch (step.kind) {
-      case Step::kWrite:
-        return Replace(step.place == 4 ? window.Text2 : window.Text1[line], TextOf(step));
       case Step::kKey:
         return Type(window.Text1[line], Text(1, KeyOf(step)));
       case Step::kVisit:
@@ -226,18 +234,8 @@ struct QuestionWalk {
         return window.Option2[step.place % 2].Press();
       case Step::kType:
         return window.Option3[step.place % 2].Press();
-      case Step::kMove:
-        return window.cmdMove[step.place % 2].Press();
-      case Step::kNew:
-        return window.Command2[kNewButton].Press();
-      case Step::kAddCard:
-        return window.Command2[kAddButton].Press();
-      case Step::kCancelCard:
-        return window.Command2[kCancelButton].Press();
-      case Step::kClose:
-        return window.Command2[kCloseButton].Press();
       default:
-        return window.UserClose();
+        return Replace(step.place == 4 ? window.Text2 : window.Text1[line], TextOf(step));
     }
   }
   static const Text& TextOf(const Step& step) {
