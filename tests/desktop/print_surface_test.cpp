@@ -2,7 +2,9 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <csignal>
 #include <doctest/doctest.h>
+#include <sys/resource.h>
 
 #include "platform/qt/lazy_print_surface.h"
 #include "platform/qt/qt_text.h"
@@ -31,6 +33,27 @@ struct PdfDesk {
     return pdf.open(QIODevice::ReadOnly) ? pdf.readAll() : QByteArray();
   }
   [[nodiscard]] int Pages() const { return static_cast<int>(Written().count("/Type /Page\n")); }
+};
+
+/// For its life no file can grow beyond so many bytes, as on a disk that has no more room.
+class FullDisk {
+ public:
+  explicit FullDisk(qsizetype bytes) {
+    // Too long a file is then an error of the write alone.
+    std::signal(SIGXFSZ, SIG_IGN);
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit limit{static_cast<rlim_t>(bytes), before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+  ~FullDisk() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, SIG_DFL);
+  }
+
+ private:
+  rlimit before_{};
 };
 
 }  // namespace
@@ -106,6 +129,21 @@ TEST_CASE("The documents of one job follow each other in its file, and the next 
   desk.surface.PrintLine(u"another job");
   desk.surface.EndDocument();
   CHECK(desk.Pages() == 1);
+}
+
+TEST_CASE("A document that finds no room leaves those before it in the file") {
+  PdfDesk desk;
+  desk.surface.PrintLine(u"first copy");
+  desk.surface.EndDocument();
+  {
+    const FullDisk disk(desk.Written().size());
+    desk.surface.PrintLine(u"second copy");
+    CHECK_THROWS_AS(desk.surface.EndDocument(), RunTimeError);
+  }
+  CHECK(desk.Pages() == 1);
+  desk.surface.PrintLine(u"second copy, with room for it");
+  desk.surface.EndDocument();
+  CHECK(desk.Pages() == 2);
 }
 
 TEST_CASE("Without the print module there is no document to drop") {

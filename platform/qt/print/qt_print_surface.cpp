@@ -13,6 +13,7 @@
 #include "platform/posix/write_file.h"
 #include "platform/qt/qt_text.h"
 #include "platform/run_time_error.h"
+#include "platform/skip_errors.h"
 
 namespace tessara {
 
@@ -140,11 +141,19 @@ void QtPrintSurface::EndDocument() {
     Send(PaintPages());
   } catch (const RunTimeError&) {
     DropDocument();
+    WriteEndedAgain();
     throw;
   }
   // A file has them all; a queue has taken this one.
   if (!ToQueue()) ended_ = pages_.size();
   DropDocument();
+}
+
+/// The file is gone with what it had no room for; what it held before still finds room.
+void QtPrintSurface::WriteEndedAgain() {
+  if (ended_ == 0) return;
+  SkipErrors([this] { Send(PaintPages()); });
+  document_.reset();
 }
 
 void QtPrintSurface::DropDocument() {

@@ -16,7 +16,8 @@ namespace tessara {
 
 /// Writes for a print queue or into a PDF file. A document is kept until it ends and printed then,
 /// all at once: a dropped one leaves no trace, neither in the printer's queue nor on the disk. The
-/// documents of one destination follow each other in its file; in a queue each is a job.
+/// documents of one destination follow each other in its file, and stay there when a later one
+/// finds no room; in a queue each is a job.
 class QtPrintSurface : public PrintSurface {
  public:
   void SetDestination(const PrintDestination& destination) override;
@@ -63,6 +64,7 @@ class QtPrintSurface : public PrintSurface {
   /// All pages as a PDF file.
   [[nodiscard]] QByteArray PaintPages() const;
   void Send(const QByteArray& pdf) const;
+  void WriteEndedAgain();
   static void Paint(const Page& page, QPainter& painter);
 
   PrintDestination destination_;
