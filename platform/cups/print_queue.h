@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <span>
 #include <string>
 
@@ -11,9 +12,14 @@ struct QueueOption {
   const char* value = nullptr;
 };
 
+/// Most that the printing system may keep the program waiting for each of its answers.
+inline constexpr std::chrono::seconds kQueuePatience{10};
+
 /// Sends a PDF file to a print queue, with the user's own options for the queue but for
-/// those given here. Raises error 482 where there is no such queue or it takes no job.
+/// those given here. Raises error 482 where there is no such queue, it takes no job, or the
+/// printing system does not answer.
 void PrintOnQueue(const std::string& queue, const std::string& pdfPath,
-                  std::span<const QueueOption> options);
+                  std::span<const QueueOption> options,
+                  std::chrono::seconds patience = kQueuePatience);
 
 }  // namespace tessara
