@@ -120,9 +120,12 @@ void OfficeProcess::Start() {
 }
 
 bool OfficeProcess::Running() {
+  constexpr pid_t kStillRunning = 0;
   const std::lock_guard lock(mutex_);
   int status = 0;
-  if (process_ != 0 && waitpid(process_, &status, WNOHANG) == process_) {
+  // Where the program has inherited that its children's ends are ignored, an ended one is no child
+  // any more: the wait fails.
+  if (process_ != 0 && waitpid(process_, &status, WNOHANG) != kStillRunning) {
     process_ = 0;
     const int code = WIFEXITED(status) ? WEXITSTATUS(status) : 0;
     if (code == kRestart || code == kRestartAfterCrash) Start();
