@@ -1,15 +1,14 @@
 // The program is killed with a job on: what is left is looked at by a process that outlives it.
 
 #include <array>
-#include <chrono>
 #include <csignal>
 #include <doctest/doctest.h>
 #include <sys/wait.h>
-#include <thread>
 #include <unistd.h>
 
 #include "platform/posix/loaded_spreadsheet.h"
 #include "tests/printing/server_processes.h"
+#include "tests/support/wait_for.h"
 
 namespace tessara {
 namespace {
@@ -51,13 +50,9 @@ class JobProcess {
   pid_t process_ = 0;
 };
 
-void CheckNothingIsLeftOf(const JobProcess& job, pid_t server) {
-  constexpr std::chrono::seconds kPatience{20};
-  const auto end = std::chrono::steady_clock::now() + kPatience;
-  const auto left = [&] { return test::Runs(server) || !test::FilesOf(job.Number()).empty(); };
-  while (left() && std::chrono::steady_clock::now() < end) std::this_thread::yield();
-  CHECK_FALSE(test::Runs(server));
-  CHECK(test::FilesOf(job.Number()).empty());
+void WaitUntilNothingIsLeftOf(const JobProcess& job, pid_t server) {
+  test::WaitFor("the server to end", [&] { return !test::Runs(server); });
+  test::WaitFor("its files to go", [&] { return test::FilesOf(job.Number()).empty(); });
 }
 
 TEST_CASE("a job that waits" * doctest::skip()) {
@@ -74,14 +69,14 @@ TEST_CASE("a program killed in the middle of a job leaves no server and no file"
   // The folder, and the pipe beside it.
   CHECK(test::FilesOf(job.Number()).size() == 2);
   job.Kill();
-  CheckNothingIsLeftOf(job, server);
+  WaitUntilNothingIsLeftOf(job, server);
 }
 
 TEST_CASE("a program killed while its server starts leaves no server and no file") {
   const JobProcess job;
   const pid_t server = test::WaitForServer(job.Number());
   job.Kill();
-  CheckNothingIsLeftOf(job, server);
+  WaitUntilNothingIsLeftOf(job, server);
 }
 
 }  // namespace

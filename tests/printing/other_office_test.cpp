@@ -1,8 +1,7 @@
 #include <csignal>
-#include <cstdlib>
+#include <cstdio>
 #include <doctest/doctest.h>
 #include <filesystem>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include "platform/posix/office_location.h"

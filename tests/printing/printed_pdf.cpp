@@ -3,6 +3,7 @@
 #include <cstdio>
 #include <memory>
 #include <regex>
+#include <sstream>
 #include <stdexcept>
 
 namespace tessara::test {

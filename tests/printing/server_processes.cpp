@@ -2,10 +2,9 @@
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
-#include <system_error>
-#include <thread>
 #include <unistd.h>
+
+#include "tests/support/wait_for.h"
 
 namespace tessara::test {
 
@@ -49,11 +48,12 @@ std::vector<pid_t> ServerProcesses() {
 }
 
 pid_t WaitForServer(pid_t program) {
-  for (;;) {
-    const std::vector<pid_t> servers = ServersOf(program);
-    if (!servers.empty()) return servers.front();
-    std::this_thread::yield();
-  }
+  std::vector<pid_t> servers;
+  WaitFor("a server", [&] {
+    servers = ServersOf(program);
+    return !servers.empty();
+  });
+  return servers.front();
 }
 
 bool Runs(pid_t process) {
