@@ -1,6 +1,6 @@
 // Any text as a number: held against the C library's reading of it.
 
-#include <clocale>
+#include <algorithm>
 #include <cmath>
 #include <cstdlib>
 #include <limits>

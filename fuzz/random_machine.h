@@ -1,5 +1,8 @@
 #pragma once
 
+#include <memory>
+#include <optional>
+
 #include "fuzz/byte_source.h"
 #include "tests/support/fake_machine.h"
 

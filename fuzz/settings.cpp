@@ -3,6 +3,8 @@
 
 #include "shell/settings.h"
 
+#include <map>
+
 #include "fuzz/byte_source.h"
 #include "fuzz/require.h"
 #include "tests/support/program_desk.h"

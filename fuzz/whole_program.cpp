@@ -3,6 +3,7 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <vector>
 
 #include "fuzz/random_files.h"
 #include "fuzz/random_machine.h"

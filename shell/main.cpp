@@ -4,6 +4,9 @@
 #include <QIcon>
 #include <clocale>
 #include <filesystem>
+#include <optional>
+#include <string>
+#include <system_error>
 
 #include "platform/freedesktop/document_registry.h"
 #include "platform/freedesktop/update_tools.h"

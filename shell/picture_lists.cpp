@@ -1,5 +1,9 @@
 #include "shell/picture_lists.h"
 
+#include <string>
+#include <utility>
+#include <vector>
+
 namespace tessara {
 
 namespace {

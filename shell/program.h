@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "authoring/frmEssay.h"
 #include "authoring/frmQuestion.h"
 #include "deck/app_context.h"

@@ -6,6 +6,7 @@
 #include <com/sun/star/lang/XComponent.hpp>
 #include <com/sun/star/uno/Exception.hpp>
 #include <com/sun/star/uno/XComponentContext.hpp>
+#include <filesystem>
 #include <string>
 
 #include "platform/libreoffice/office_process.h"

@@ -4,6 +4,8 @@
 #include <QKeyEvent>
 #include <QVariant>
 #include <cmath>
+#include <utility>
+#include <variant>
 
 #include "platform/qt/accessible_role.h"
 #include "platform/qt/qt_canvas.h"

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+
 #include "platform/dialogs.h"
 #include "platform/qt/print_module.h"
 

@@ -13,6 +13,7 @@
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
+#include <utility>
 
 #include "platform/qt/help/chm_file.h"
 #include "platform/qt/help/help_book.h"

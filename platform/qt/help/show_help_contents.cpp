@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QPointer>
 #include <type_traits>
+#include <utility>
 
 #include "platform/qt/help/chm_file.h"
 #include "platform/qt/help/help_book.h"
