@@ -1,5 +1,6 @@
 // Decks written in the whole program by the keyboard alone, saved, and read back byte for byte.
 
+#include <algorithm>
 #include <doctest/doctest.h>
 
 #include "deck/deck_file.h"
@@ -55,7 +56,7 @@ InfoTexts NewDeckOfType(const Text& type) {
   return info;
 }
 
-/// All bytes but NUL in an order of their own, a NUL among them, none of the blanks at an end.
+/// Every byte there is, between marks: a blank at an end would be trimmed.
 std::string EveryByte() {
   std::string bytes = "<";
   for (int byte = 0; byte < 256; ++byte) bytes += static_cast<char>(byte);
@@ -264,15 +265,14 @@ TEST_CASE("Nine lines on a back, wrapped ones counted, bring no notice, and the 
 TEST_CASE("Cards of every byte, looked at in a builder, moved over and saved, stay as they are") {
   const std::string text = Field(EveryByte(), 444);
   const std::string shortText = Field(EveryByte().substr(0, 74) + ">", 75);
-  const std::string ascii(444, ' ');
   for (const char type : {'E', 'M'}) {
     CAPTURE(type);
     std::string card = std::string(1, type) + text + std::string("\1\0", 2);
     const bool textCard = type == 'E';
     for (int choice = 0; choice < 4; ++choice) card += textCard ? std::string(75, ' ') : shortText;
     card += textCard ? " " + text : "B" + std::string(444, ' ');
-    std::string next = textCard ? CardBytes(2, u"front", u"back")
-                                : QuestionBytes('M', u"question", 2, {u"a", u"b"}, 'A');
+    const std::string next = textCard ? CardBytes(2, u"front", u"back")
+                                      : QuestionBytes('M', u"question", 2, {u"a", u"b"}, 'A');
     const std::string cards = card + next + EndBytes();
     ProgramOnScreen desk;
     desk.folder.Write("all.tsr", InfoBytes({}) + cards);
