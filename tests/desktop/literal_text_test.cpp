@@ -10,7 +10,6 @@
 #include <QTreeWidget>
 #include <doctest/doctest.h>
 
-#include "deck/deck_file.h"
 #include "platform/qt/qt_renderer.h"
 #include "platform/qt/qt_text.h"
 #include "tests/desktop/event_loops.h"
@@ -23,20 +22,7 @@ namespace {
 
 const Text kDeck = u"/decks/birds.tsr";
 
-/// A deck of one card that says the text in every field.
-std::string DeckSaying(const Text& text, TextView type) {
-  std::string bytes;
-  for (const DeckRecord& record :
-       {DeckRecord{u"I", u"", 0, {text, text, text, text}, u"", text},
-        DeckRecord{Text(type), text, 1, {text, text, text, text}, u"A", text},
-        DeckRecord{u"X", u"", 0, {}, u"", u""}}) {
-    const RecordBytes encoded = EncodeRecord(record, CodePage::Western());
-    bytes.append(encoded.begin(), encoded.end());
-  }
-  return bytes;
-}
-
-/// The whole program on screen with that deck.
+/// The whole program on screen with a deck that says the text.
 struct Screen {
   FakeMachine fakes;
   Machine machine = fakes.Get();

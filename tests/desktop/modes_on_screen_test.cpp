@@ -2,7 +2,6 @@
 
 #include <doctest/doctest.h>
 
-#include "deck/deck_file.h"
 #include "tests/desktop/program_on_screen.h"
 #include "tests/support/deck_bytes.h"
 
@@ -11,18 +10,13 @@ using namespace tessara::test;
 
 namespace {
 
-std::string QuestionBytes(const DeckRecord& record) {
-  const RecordBytes bytes = EncodeRecord(record, CodePage::Western());
-  return {bytes.begin(), bytes.end()};
-}
-
 /// Two true/false questions and two of four choices, in turn. The keys are T, C, F, A.
 std::string QuestionDeckBytes() {
   const std::array<Text, 4> choices = {u"one", u"two", u"three", u"four"};
-  return InfoBytes({}) + QuestionBytes({u"T", u"question 1", 1, {}, u"T", u""}) +
-         QuestionBytes({u"M", u"question 2", 2, choices, u"C", u""}) +
-         QuestionBytes({u"T", u"question 3", 3, {}, u"F", u""}) +
-         QuestionBytes({u"M", u"question 4", 4, choices, u"A", u""}) + EndBytes();
+  return InfoBytes({}) + QuestionBytes('T', u"question 1", 1, {}, 'T') +
+         QuestionBytes('M', u"question 2", 2, choices, 'C') +
+         QuestionBytes('T', u"question 3", 3, {}, 'F') +
+         QuestionBytes('M', u"question 4", 4, choices, 'A') + EndBytes();
 }
 
 /// A user with one way to press things.

@@ -22,14 +22,6 @@ std::string WithAccents(std::string bytes) {
   return bytes;
 }
 
-std::string QuestionBytes(char type, const Text& question, int number,
-                          const std::array<Text, 4>& choices, char answer) {
-  std::string bytes = RecordText(type, question, number, choices, u"");
-  constexpr std::size_t kAnswerPlace = 1 + 444 + 2 + 4 * 75;
-  bytes[kAnswerPlace] = answer;
-  return bytes;
-}
-
 /// The empty deck window goes; the frame's own menu makes an extended deck.
 void StartQuestionDeck(ProgramOnScreen& desk) {
   desk.Start();

@@ -41,12 +41,17 @@ inline std::string CardBytes(int row, const Text& front, const Text& back) {
   return RecordText('E', front, row, {}, back);
 }
 
+inline std::string QuestionBytes(char type, const Text& question, int row,
+                                 const std::array<Text, 4>& choices, char answer) {
+  std::string record = RecordText(type, question, row, choices, u"");
+  constexpr std::size_t kAnswerPlace = 1 + 444 + 2 + 4 * 75;
+  record[kAnswerPlace] = answer;
+  return record;
+}
+
 /// A question that is true.
 inline std::string TrueCardBytes(int row, const Text& question) {
-  std::string record = RecordText('T', question, row, {}, u"");
-  constexpr std::size_t kAnswerPlace = 1 + 444 + 2 + 4 * 75;
-  record[kAnswerPlace] = 'T';
-  return record;
+  return QuestionBytes('T', question, row, {}, 'T');
 }
 
 inline std::string EndBytes() {

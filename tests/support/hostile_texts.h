@@ -1,5 +1,9 @@
 #pragma once
 
+#include <string>
+
+#include "deck/deck_file.h"
+#include "platform/code_page.h"
 #include "platform/text.h"
 
 namespace tessara::test {
@@ -21,7 +25,22 @@ inline const Text kHostileTexts[] = {
     u"[*] \\n \\u0041 {\\rtf1 \\b x}",
 };
 
-/// The same in names of files, where "/" can't be.
+/// A deck of two cards that says the text in every field.
+inline std::string DeckSaying(const Text& text, TextView type) {
+  const Text answer = type == u"M" ? u"A" : u"";
+  std::string bytes;
+  for (const DeckRecord& record :
+       {DeckRecord{u"I", text, 0, {text, text, text, text}, u"", text},
+        DeckRecord{Text(type), text, 1, {text, text, text, text}, answer, text},
+        DeckRecord{Text(type), text, 2, {text, text, text, text}, answer, text},
+        DeckRecord{u"X", u"", 0, {}, u"", u""}}) {
+    const RecordBytes encoded = EncodeRecord(record, CodePage::Western());
+    bytes.append(encoded.begin(), encoded.end());
+  }
+  return bytes;
+}
+
+/// Such texts in names of files, where "/" can't be.
 inline const Text kHostileNames[] = {
     u"<b>bold<b>.tsr", u"&File && more.tsr", u"%s%n %1 {0}.tsr", u"$(id) `id` $HOME.tsr",
     u"=1+1.tsr",       u"[x] [*].tsr",       u"-rf --help.tsr",

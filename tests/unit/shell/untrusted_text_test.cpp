@@ -16,21 +16,6 @@ namespace {
 
 const Text kDeck = u"/decks/birds.tsr";
 
-/// A deck that says the text in every field.
-std::string DeckSaying(const Text& text, TextView type) {
-  std::string bytes;
-  const auto add = [&bytes](const DeckRecord& record) {
-    const RecordBytes encoded = EncodeRecord(record, CodePage::Western());
-    bytes.append(encoded.begin(), encoded.end());
-  };
-  const Text key = type == u"M" ? u"A" : u"";
-  add({u"I", text, 0, {text, text, text, text}, u"", text});
-  add({Text(type), text, 1, {text, text, text, text}, key, text});
-  add({Text(type), text, 2, {text, text, text, text}, key, text});
-  add({u"X", u"", 0, {}, u"", u""});
-  return bytes;
-}
-
 /// The program, with a note of every path that it has asked the disk about.
 struct WatchedDesk : ProgramDesk {
   std::set<Text> paths;
