@@ -17,13 +17,10 @@ namespace fs = std::filesystem;
 
 constexpr const char* kPrefix = "tessara-print-";
 
-/// The address of a pipe below the folder is at most 108 bytes long.
-constexpr std::size_t kLongestParent = 40;
-
 fs::path Parent() {
   std::error_code error;
-  fs::path parent = fs::temp_directory_path(error);
-  return error || parent.native().size() > kLongestParent ? fs::path("/tmp") : parent;
+  const fs::path parent = fs::temp_directory_path(error);
+  return error ? fs::path("/tmp") : parent;
 }
 
 /// True for a folder whose name carries the number of a process that is gone.
