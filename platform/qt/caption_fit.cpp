@@ -33,20 +33,33 @@ QString Wrapped(const QString& caption, const QFont& font, double width) {
   return lines;
 }
 
-QFont Smaller(const QFont& font, double share) {
-  QFont smaller(font);
-  smaller.setPixelSize(qRound(font.pixelSize() * share));
-  return smaller;
+/// Letters of a share of the font's size, and of a width in per cent of their own.
+struct Letters {
+  double size;
+  int width;
+};
+
+/// A little narrower is hardly seen beside other captions, where a little smaller is.
+constexpr int kOwnWidth = 100;
+constexpr int kNarrow = 86;
+constexpr std::array kLetters = {Letters{1, kOwnWidth},       Letters{1, kNarrow},
+                                 Letters{11.0 / 12, kNarrow}, Letters{10.0 / 12, kNarrow},
+                                 Letters{9.0 / 12, kNarrow},  Letters{8.0 / 12, kNarrow}};
+
+QFont With(const Letters& letters, const QFont& font) {
+  QFont changed(font);
+  changed.setPixelSize(qRound(font.pixelSize() * letters.size));
+  if (letters.width != kOwnWidth) changed.setStretch(letters.width);
+  return changed;
 }
 
 }  // namespace
 
 FittedCaption FitCaption(const QString& caption, const QFont& font, QSizeF room) {
-  constexpr std::array kShares = {1.0, 11.0 / 12, 10.0 / 12, 9.0 / 12, 8.0 / 12};
   FittedCaption fitted{caption, font};
   if (Fits(fitted, room)) return fitted;
-  for (const double share : kShares) {
-    fitted.font = Smaller(font, share);
+  for (const Letters& letters : kLetters) {
+    fitted.font = With(letters, font);
     fitted.text = caption;
     if (Fits(fitted, room)) return fitted;
     fitted.text = Wrapped(caption, fitted.font, room.width());

@@ -6,7 +6,7 @@
 
 namespace tessara {
 
-/// A caption made to fit its control: smaller, or on several lines, but whole.
+/// A caption made to fit its control: narrower, smaller or on several lines, but whole.
 struct FittedCaption {
   QString text;  ///< with line feeds where it wraps, accelerator marks in place
   QFont font;

@@ -4,6 +4,7 @@
 #include <QRadioButton>
 #include <doctest/doctest.h>
 
+#include "platform/qt/caption_fit.h"
 #include "tests/desktop/desk.h"
 
 using namespace tessara;
@@ -33,6 +34,20 @@ TEST_CASE("A long caption is made to fit its button and keeps its text") {
   auto& button = Desk::Of<QPushButton>("Command2");
   CHECK(button.text() == "&Delete form deck");
   CHECK(button.size() == QSize(97, 33));
+}
+
+TEST_CASE("A caption a little too long is narrowed before its letters become smaller") {
+  const QString caption = "Show the back";
+  QFont font;
+  font.setPixelSize(12);
+  const QSizeF whole = QFontMetricsF(font).size(Qt::TextShowMnemonic, caption);
+  CHECK(FitCaption(caption, font, whole).font == font);
+  const FittedCaption narrowed = FitCaption(caption, font, {whole.width() * 0.95, whole.height()});
+  CHECK(narrowed.text == caption);
+  CHECK(narrowed.font.stretch() < 100);
+  CHECK(narrowed.font.pixelSize() == 12);
+  const FittedCaption smaller = FitCaption(caption, font, {whole.width() * 0.8, whole.height()});
+  CHECK(smaller.font.pixelSize() < 12);
 }
 
 TEST_CASE("A caption's accelerator is underlined, and its mark is not seen") {

@@ -38,11 +38,14 @@ class WindowTour {
   }
 
   int visits = 0;
+  /// Runs whenever a window that is no modal one has come up.
+  std::function<void()> atWindow = [] {};
 
  private:
   template <class F>
   void Visit(MenuEntry& command, Window<F> window) {
     command.Press();
+    atWindow();
     if (!window.IsLoaded()) return;
     ++visits;
     // Whatever a window asks on its way: no.
