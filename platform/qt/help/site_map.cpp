@@ -7,16 +7,23 @@ namespace tessara {
 
 namespace {
 
-/// The value of an attribute within a tag, without quotes and entities; empty where it is not
-/// there.
-QString Attribute(const QString& tag, const QString& name) {
-  const QRegularExpression attribute(
-      QStringLiteral(R"re(\b%1\s*=\s*(?:"([^"]*)"|'([^']*)'|([^\s>]+)))re").arg(name),
+/// What finds an attribute within a tag, and its value.
+QRegularExpression PatternOf(const QString& attribute) {
+  return QRegularExpression(
+      QStringLiteral(R"re(\b%1\s*=\s*(?:"([^"]*)"|'([^']*)'|([^\s>]+)))re").arg(attribute),
       QRegularExpression::CaseInsensitiveOption);
-  const QRegularExpressionMatch found = attribute.match(tag);
-  const QString value =
-      found.captured(found.lastCapturedIndex() < 1 ? 1 : found.lastCapturedIndex());
-  return QTextDocumentFragment::fromHtml(value).toPlainText();
+}
+
+/// Without entities. Few values have any, and reading HTML takes its time.
+QString PlainText(const QString& value) {
+  const bool plain = !value.contains(u'&') && !value.contains(u'<') && value.simplified() == value;
+  return plain ? value : QTextDocumentFragment::fromHtml(value).toPlainText();
+}
+
+/// The value that the pattern finds within a tag, without quotes; empty where it is not there.
+QString Attribute(const QString& tag, const QRegularExpression& pattern) {
+  const QRegularExpressionMatch found = pattern.match(tag);
+  return PlainText(found.captured(found.lastCapturedIndex() < 1 ? 1 : found.lastCapturedIndex()));
 }
 
 bool Is(const QString& name, const char* other) {
@@ -30,8 +37,9 @@ class SiteMapReader {
     if (Is(element, "ul")) {
       depth_ += isEnd ? -1 : 1;
     } else if (Is(element, "param")) {
-      TakeParameter(Attribute(tag, QStringLiteral("name")),
-                    Attribute(tag, QStringLiteral("value")));
+      static const QRegularExpression name = PatternOf(QStringLiteral("name"));
+      static const QRegularExpression value = PatternOf(QStringLiteral("value"));
+      TakeParameter(Attribute(tag, name), Attribute(tag, value));
     } else if (isEnd) {
       FinishEntry();
     } else {
