@@ -150,7 +150,7 @@ void PrintCard::Check2_Click() {
 }
 
 void PrintCard::Command1_Click(int Index) {
-  if (Index == kCloseButton) {
+  if (Index == kLeaveButton) {
     Unload();
     return;
   }

@@ -70,7 +70,7 @@ class PrintCard : public Form {
 
  private:
   /// The members of Command1.
-  enum CommandButton : int { kToggleButton = 0, kPrintButton = 1, kCloseButton = 2 };
+  enum CommandButton : int { kToggleButton = 0, kPrintButton = 1, kLeaveButton = 2 };
   /// The caption of the toggle button while not every card is ticked.
   static constexpr TextView kSelectAll = u"Select All";
 
