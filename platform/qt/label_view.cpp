@@ -32,7 +32,7 @@ class CaptionLabel : public QLabel {
     const int flags = static_cast<int>(alignment()) | Qt::TextShowMnemonic;
     style()->drawItemText(&painter, rect(), flags, palette(), isEnabled(), shown_,
                           foregroundRole());
-    PaintFocus(*this, rect(), painter);
+    PaintFocus(*this, rect(), palette().color(QPalette::Window), painter);
   }
 
  private:

@@ -89,7 +89,9 @@ void PaintedView::Paint() {
   As<PaintedControl>().Paint(canvas, SizeInPixels(), scroll);
   painter.restore();
   constexpr int kInside = 3;
-  PaintFocus(Widget(), Widget().rect().adjusted(kInside, kInside, -kInside, -kInside), painter);
+  // What paints itself is paper, on every desktop.
+  PaintFocus(Widget(), Widget().rect().adjusted(kInside, kInside, -kInside, -kInside), Qt::white,
+             painter);
 }
 
 void PaintedView::FitScrollBar() {

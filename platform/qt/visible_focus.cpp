@@ -13,16 +13,15 @@ void ShowFocusAlways(QStyleOption& option) {
   }
 }
 
-void PaintFocus(const QWidget& widget, const QRect& place, QPainter& painter) {
+void PaintFocus(const QWidget& widget, const QRect& place, const QColor& ground,
+                QPainter& painter) {
   if (!widget.hasFocus()) return;
   constexpr double kWidth = 2;
   constexpr double kCorner = 4;
   constexpr double kInside = kWidth / 2;
   painter.setRenderHint(QPainter::Antialiasing);
-  const QPalette& palette = widget.palette();
-  painter.setPen(QPen(ReadableOn(palette.color(QPalette::Window),
-                                 palette.color(QPalette::Highlight), kVisibleContrast),
-                      kWidth));
+  const QColor highlight = widget.palette().color(QPalette::Highlight);
+  painter.setPen(QPen(ReadableOn(ground, highlight, kVisibleContrast), kWidth));
   painter.setBrush(Qt::NoBrush);
   painter.drawRoundedRect(QRectF(place).adjusted(kInside, kInside, -kInside, -kInside), kCorner,
                           kCorner);

@@ -19,9 +19,11 @@ const QColor kBlue(0, 0, 255);
 /// The desktop's palette, for as long as a test takes.
 class Desktop {
  public:
-  explicit Desktop(const QColor& ground) {
+  explicit Desktop(const QColor& ground) : Desktop(ground, QPalette(ground).highlight().color()) {}
+  Desktop(const QColor& ground, const QColor& highlight) {
     QPalette palette(ground);
     palette.setColor(QPalette::Window, ground);
+    palette.setColor(QPalette::Highlight, highlight);
     QApplication::setPalette(palette);
   }
   Desktop(const Desktop&) = delete;
@@ -97,4 +99,16 @@ TEST_CASE("Unticked marks and the edges of what takes input are seen on every de
       }
     }
   }
+}
+
+TEST_CASE("The focus of a card is seen on its paper, whatever the desktop's highlight") {
+  const Desktop desktop(kDark, QColor(61, 174, 233));
+  Desk desk;
+  desk.ShowChild();
+  QWidget& card = Desk::Of("Painting1");
+  card.setFocus(Qt::TabFocusReason);
+  const QImage picture = card.grab().toImage();
+  constexpr int kInLine = 4;
+  const QColor line = picture.pixelColor(kInLine, picture.height() / 2);
+  CHECK(ContrastOf(line, Qt::white) >= kVisibleContrast);
 }
