@@ -8,9 +8,9 @@ namespace {
 
 constexpr TextView kSeparators = u"/\\";
 
-/// "C:", or nothing.
+/// "C:", or nothing. A native path can have a folder whose name begins with ":".
 Text DriveOf(const Text& path) {
-  const bool drive = path.size() > 1 && path[1] == u':';
+  const bool drive = path.size() > 1 && path[1] == u':' && path[0] != u'/';
   return drive ? path.substr(0, 2) : Text();
 }
 

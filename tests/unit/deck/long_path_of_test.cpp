@@ -31,6 +31,7 @@ TEST_CASE("each name of a path is taken as it stands in its folder") {
       {u"c:\\decks\\a b.tsr", u"c:\\DECKS\\A B.TSR"},
       {u"C:\\decks/a.tsr", u"C:\\DECKS/A.TSR"},
       {u"//server/a.tsr", u"//SERVER/A.TSR"},
+      {u"/:odd/a.tsr", u"/:ODD/A.TSR"},
       {u"/a.tsr", u"/A.TSR"},
       {u"/a.tsr/", u"/A.TSR"},
       {u"/", u""},
