@@ -82,16 +82,13 @@ class Image : public Control {
  public:
   [[nodiscard]] ControlKind Kind() const override { return ControlKind::kImage; }
   [[nodiscard]] const Picture& PictureOf() const { return picture_; }
-  /// A picture that is not stretched gives the image its size.
+  /// The image takes the picture's size.
   void SetPicture(const Picture& picture);
-  [[nodiscard]] bool Stretched() const { return stretched_; }
-  void SetStretched(bool stretched) { stretched_ = stretched; }
   void UserClick();
   std::function<void()> onClick;
 
  private:
   Picture picture_;
-  bool stretched_ = false;
 };
 
 class Label : public CaptionedControl {

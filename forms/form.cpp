@@ -119,11 +119,9 @@ void Form::ComeUp() {
 void Form::EnsureLoaded() {
   if (loaded_) return;
   loaded_ = true;
-  loading_ = true;
   system_.Add(*this);
   system_.Shown().FormLoading(*this);
   system_.Run([this] { Form_Load(); });
-  loading_ = false;
   if (loaded_ && ShowsOnLoad()) Show();
 }
 

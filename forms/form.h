@@ -76,7 +76,8 @@ class Form {
   void Hide() { SetVisible(false); }
 
   [[nodiscard]] bool Loaded() const { return loaded_; }
-  /// Runs Form_Load where the window is not loaded and not loading.
+  /// Runs Form_Load where the window is not loaded; one whose Form_Load is running counts as
+  /// loaded.
   void EnsureLoaded();
   /// Runs Form_Unload, which may cancel. True where the window is gone.
   bool Unload();
@@ -168,7 +169,6 @@ class Form {
   bool visible_ = false;
   bool enabled_ = true;
   bool loaded_ = false;
-  bool loading_ = false;
   bool shownBefore_ = false;
   std::vector<Control*> controls_;
   std::vector<MenuEntry*> menus_;

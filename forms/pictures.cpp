@@ -11,7 +11,7 @@ void PictureBox::SetPicture(const Picture& picture) {
 void Image::SetPicture(const Picture& picture) {
   if (picture_ == picture) return;
   picture_ = picture;
-  if (!stretched_ && !picture.Empty()) {
+  if (!picture.Empty()) {
     SetPlace({Place().left, Place().top, picture.width * kTwipsPerPixel,
               picture.height * kTwipsPerPixel});
   }

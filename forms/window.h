@@ -21,7 +21,6 @@ class WindowSlot {
 
   /// The window, made where it was gone, not loaded by this.
   Form& Instance();
-  [[nodiscard]] bool Exists() const { return form_ != nullptr; }
   [[nodiscard]] bool IsLoaded() const { return form_ != nullptr && form_->Loaded(); }
   /// Unloads where it is loaded. True where it is gone.
   bool Unload();

@@ -6,10 +6,9 @@ namespace tessara {
 
 namespace {
 
-void Show(const Picture& picture, bool stretched, QWidget& widget, const ViewContext& context) {
+void Show(const Picture& picture, QWidget& widget, const ViewContext& context) {
   static_cast<PictureWidget&>(widget).Show(context.pictures.PixmapOf(picture),
-                                           context.scale.FromPixels(picture.width, picture.height),
-                                           stretched);
+                                           context.scale.FromPixels(picture.width, picture.height));
 }
 
 }  // namespace
@@ -18,7 +17,7 @@ PictureBoxView::PictureBoxView(PictureBox& box, QWidget& parent, const ViewConte
     : ControlView(box, *new PictureWidget(&parent), context) {}
 
 void PictureBoxView::FollowOwn(Aspect aspect) {
-  if (aspect == Aspect::kPicture) Show(As<PictureBox>().PictureOf(), false, Widget(), Context());
+  if (aspect == Aspect::kPicture) Show(As<PictureBox>().PictureOf(), Widget(), Context());
   if (aspect == Aspect::kColor)
     Widget().setAutoFillBackground(As<PictureBox>().BackColor() != Color{});
 }
@@ -30,8 +29,7 @@ ImageView::ImageView(Image& image, QWidget& parent, const ViewContext& context)
 
 void ImageView::FollowOwn(Aspect aspect) {
   if (aspect != Aspect::kPicture) return;
-  const Image& image = As<Image>();
-  Show(image.PictureOf(), image.Stretched(), Widget(), Context());
+  Show(As<Image>().PictureOf(), Widget(), Context());
 }
 
 }  // namespace tessara

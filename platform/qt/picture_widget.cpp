@@ -4,9 +4,8 @@
 
 namespace tessara {
 
-void PictureWidget::Show(const QPixmap& picture, QSize size, bool stretched) {
+void PictureWidget::Show(const QPixmap& picture, QSize size) {
   size_ = size;
-  stretched_ = stretched;
   setPixmap(picture);
   update();
 }
@@ -17,7 +16,7 @@ void PictureWidget::paintEvent(QPaintEvent* event) {
   if (picture.isNull()) return;
   QPainter painter(this);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  painter.drawPixmap(QRect(QPoint(), stretched_ ? this->size() : size_), picture, picture.rect());
+  painter.drawPixmap(QRect(QPoint(), size_), picture, picture.rect());
 }
 
 }  // namespace tessara

@@ -4,20 +4,19 @@
 
 namespace tessara {
 
-/// A picture at its top left corner, or stretched over the whole widget.
+/// A picture at its top left corner.
 class PictureWidget : public QLabel {
  public:
   using QLabel::QLabel;
 
   /// `size` is the picture's own, in the desktop's pixels.
-  void Show(const QPixmap& picture, QSize size, bool stretched);
+  void Show(const QPixmap& picture, QSize size);
 
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
   QSize size_;
-  bool stretched_ = false;
 };
 
 }  // namespace tessara
