@@ -1,25 +1,17 @@
-#include "forms/controls.h"
+#include "forms/buttons.h"
+
+#include "forms/assign.h"
 #include "forms/form.h"
-#include "forms/window_system.h"
 #include "platform/run_time_error.h"
 
 namespace tessara {
 
-namespace {
-
-bool UserReaches(const Control& control) {
-  return control.Reachable() && control.Owner().TakesInput();
-}
-
-}  // namespace
-
 void Button::Press() {
-  if (UserReaches(*this)) Raise(onClick);
+  if (TakesInput()) Raise(onClick);
 }
 
 void OptionButton::SetSelected(bool selected) {
-  if (selected_ == selected) return;
-  selected_ = selected;
+  if (!Assign(selected_, selected)) return;
   Changed(Aspect::kValue);
   if (!selected) return;
   for (Control* other : Owner().Controls()) {
@@ -31,7 +23,7 @@ void OptionButton::SetSelected(bool selected) {
 }
 
 void OptionButton::Press() {
-  if (!UserReaches(*this)) return;
+  if (!TakesInput()) return;
   if (selected_) {
     Raise(onClick);
   } else {
@@ -41,22 +33,13 @@ void OptionButton::Press() {
 
 void CheckBox::SetValue(int value) {
   if (value < 0 || value > 2) throw RunTimeError(ErrorNumber::kInvalidPropertyValue);
-  if (value_ == value) return;
-  value_ = value;
+  if (!Assign(value_, value)) return;
   Changed(Aspect::kValue);
   Raise(onClick);
 }
 
 void CheckBox::Press() {
-  if (UserReaches(*this)) SetTicked(!Ticked());
-}
-
-void Image::UserClick() {
-  if (UserReaches(*this)) Raise(onClick);
-}
-
-void Label::UserClick() {
-  if (UserReaches(*this)) Raise(onClick);
+  if (TakesInput()) SetTicked(!Ticked());
 }
 
 }  // namespace tessara

@@ -1,5 +1,6 @@
-#include "forms/controls.h"
-#include "forms/form.h"
+#include "forms/combo_box.h"
+
+#include "forms/assign.h"
 #include "platform/run_time_error.h"
 
 namespace tessara {
@@ -22,10 +23,7 @@ const Text& ComboBox::Item(int index) const {
 
 void ComboBox::SetListIndex(int index) {
   if (index < -1 || index >= Count()) throw RunTimeError(ErrorNumber::kInvalidPropertyValue);
-  if (listIndex_ != index) {
-    listIndex_ = index;
-    Changed(Aspect::kSelection);
-  }
+  if (Assign(listIndex_, index)) Changed(Aspect::kSelection);
   Raise(onClick);
 }
 
@@ -34,7 +32,7 @@ Text ComboBox::TextOf() const {
 }
 
 void ComboBox::UserSelect(int index) {
-  if (Reachable() && Owner().TakesInput() && index >= 0 && index < Count()) SetListIndex(index);
+  if (TakesInput() && index >= 0 && index < Count()) SetListIndex(index);
 }
 
 }  // namespace tessara

@@ -1,23 +1,11 @@
 #include "forms/control.h"
 
-#include <utility>
-
+#include "forms/assign.h"
 #include "forms/form.h"
 #include "forms/window_system.h"
 #include "platform/run_time_error.h"
 
 namespace tessara {
-
-namespace {
-
-template <class T>
-bool Assign(T& member, const T& value) {
-  if (member == value) return false;
-  member = value;
-  return true;
-}
-
-}  // namespace
 
 void Control::SetPlace(const Bounds& bounds) {
   if (Assign(bounds_, bounds)) Changed(Aspect::kBounds);
@@ -58,6 +46,10 @@ bool Control::Reachable() const {
   return OnShow() && owner_->Enabled();
 }
 
+bool Control::TakesInput() const {
+  return Reachable() && owner_->TakesInput();
+}
+
 void Control::SetFont(const Font& font) {
   if (Assign(font_, font)) Changed(Aspect::kFont);
 }
@@ -77,21 +69,21 @@ void Control::SetBackColor(const Color& color) {
 }
 
 void Control::SetFocus() {
-  if (owner_ == nullptr || !Reachable()) throw RunTimeError(ErrorNumber::kInvalidProcedureCall);
+  if (!Reachable()) throw RunTimeError(ErrorNumber::kInvalidProcedureCall);
   owner_->MoveFocus(this);
 }
 
 void Control::UserMouseMove() {
-  if (Reachable() && owner_->TakesInput()) Raise(onMouseMove);
+  if (TakesInput()) Raise(onMouseMove);
 }
 
 void Control::UserKeyPress(char16_t character) {
-  if (!Reachable() || !owner_->TakesInput() || !onKeyPress) return;
+  if (!TakesInput() || !onKeyPress) return;
   Raise([this, character] { onKeyPress(character); });
 }
 
 void Control::UserKeyUp() {
-  if (Reachable() && owner_->TakesInput()) Raise(onKeyUp);
+  if (TakesInput()) Raise(onKeyUp);
 }
 
 void Control::Changed(Aspect aspect) {
@@ -103,8 +95,7 @@ void Control::Raise(const std::function<void()>& handler) const {
 }
 
 void CaptionedControl::SetCaption(const Text& caption) {
-  if (!Assign(caption_, caption)) return;
-  Changed(Aspect::kCaption);
+  if (Assign(caption_, caption)) Changed(Aspect::kCaption);
 }
 
 char16_t CaptionedControl::Accelerator() const {

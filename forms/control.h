@@ -84,6 +84,8 @@ class Control {
   [[nodiscard]] bool OnShow() const;
   /// True where the user can reach it: on show, and everything down to it is enabled.
   [[nodiscard]] bool Reachable() const;
+  /// True where the user's input reaches it: reachable, in a window that takes input.
+  [[nodiscard]] bool TakesInput() const;
 
   [[nodiscard]] const Font& FontOf() const { return font_; }
   void SetFont(const Font& font);

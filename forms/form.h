@@ -1,8 +1,6 @@
 #pragma once
 
-#include <functional>
 #include <initializer_list>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -15,6 +13,7 @@ namespace tessara {
 
 class WindowSlot;
 class WindowSystem;
+enum class FormAspect;
 
 enum class FormKind {
   kFrame,      ///< the one top-level window that holds the children
@@ -154,9 +153,10 @@ class Form {
 
   void ComeUp();
   void ShowModal();
-  void ControlChanged(Control& control, Aspect aspect);
-  void Resize(const Bounds& bounds);
+  void SetBounds(const Bounds& bounds);
   void CheckMovable() const;
+  void Changed(FormAspect aspect);
+  void ControlChanged(Control& control, Aspect aspect);
   void MoveFocus(Control* control);
 
   WindowSystem& system_;

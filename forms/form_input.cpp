@@ -72,7 +72,7 @@ void Form::UserMove(int left, int top) {
 }
 
 void Form::UserFocus(Control& control) {
-  if (control.Reachable() && control.TakesFocus() && TakesInput()) {
+  if (control.TakesInput() && control.TakesFocus()) {
     system_.Run([this, &control] { MoveFocus(&control); });
   }
 }

@@ -1,5 +1,8 @@
-#include "forms/controls.h"
-#include "forms/form.h"
+#include "forms/list_view.h"
+
+#include <utility>
+
+#include "forms/assign.h"
 #include "platform/run_time_error.h"
 
 namespace tessara {
@@ -48,24 +51,25 @@ const ListItem& ListView::SelectedItem() const {
   return Item(selected_);
 }
 
+void ListView::Select(int index) {
+  if (Assign(selected_, index)) Changed(Aspect::kSelection);
+}
+
 void ListView::UserClick(int index, HitPart part) {
-  if (!Reachable() || !Owner().TakesInput()) return;
+  if (!TakesInput()) return;
   if (Has(index)) {
     if (part == HitPart::kCheckBox) SetChecked(index, !Item(index).checked);
-    UserSelectByKey(index);
+    Select(index);
   }
   Raise(onClick);
 }
 
 void ListView::UserSelectByKey(int index) {
-  if (!Reachable() || !Owner().TakesInput() || !Has(index) || selected_ == index) return;
-  selected_ = index;
-  Changed(Aspect::kSelection);
+  if (TakesInput() && Has(index)) Select(index);
 }
 
 void ListView::UserToggleByKey() {
-  if (!Reachable() || !Owner().TakesInput() || selected_ == 0) return;
-  SetChecked(selected_, !SelectedItem().checked);
+  if (TakesInput() && selected_ != 0) SetChecked(selected_, !SelectedItem().checked);
 }
 
 }  // namespace tessara

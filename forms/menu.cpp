@@ -1,5 +1,6 @@
 #include "forms/menu.h"
 
+#include "forms/assign.h"
 #include "forms/form.h"
 #include "forms/renderer.h"
 #include "forms/window_system.h"
@@ -7,21 +8,15 @@
 namespace tessara {
 
 void MenuEntry::SetEnabled(bool enabled) {
-  if (enabled_ == enabled) return;
-  enabled_ = enabled;
-  Changed();
+  if (Assign(enabled_, enabled)) Changed();
 }
 
 void MenuEntry::SetVisible(bool visible) {
-  if (visible_ == visible) return;
-  visible_ = visible;
-  Changed();
+  if (Assign(visible_, visible)) Changed();
 }
 
 void MenuEntry::SetChecked(bool checked) {
-  if (checked_ == checked) return;
-  checked_ = checked;
-  Changed();
+  if (Assign(checked_, checked)) Changed();
 }
 
 bool MenuEntry::Reachable() const {

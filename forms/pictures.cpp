@@ -1,21 +1,24 @@
-#include "forms/controls.h"
+#include "forms/pictures.h"
+
+#include "forms/assign.h"
 
 namespace tessara {
 
 void PictureBox::SetPicture(const Picture& picture) {
-  if (picture_ == picture) return;
-  picture_ = picture;
-  Changed(Aspect::kPicture);
+  if (Assign(picture_, picture)) Changed(Aspect::kPicture);
 }
 
 void Image::SetPicture(const Picture& picture) {
-  if (picture_ == picture) return;
-  picture_ = picture;
+  if (!Assign(picture_, picture)) return;
   if (!picture.Empty()) {
     SetPlace({Place().left, Place().top, picture.width * kTwipsPerPixel,
               picture.height * kTwipsPerPixel});
   }
   Changed(Aspect::kPicture);
+}
+
+void Image::UserClick() {
+  if (TakesInput()) Raise(onClick);
 }
 
 }  // namespace tessara

@@ -1,6 +1,9 @@
-#include <algorithm>
+#include "forms/text_box.h"
 
-#include "forms/controls.h"
+#include <algorithm>
+#include <utility>
+
+#include "forms/assign.h"
 #include "forms/form.h"
 #include "forms/window_system.h"
 #include "platform/code_page.h"
@@ -37,22 +40,17 @@ Text CutToRoom(Text inserted, std::size_t room) {
 }  // namespace
 
 void TextBox::SetText(const Text& text) {
-  if (text_ == text) return;
-  text_ = text;
+  if (!Assign(text_, text)) return;
   Changed(Aspect::kText);
   Raise(onChange);
 }
 
 void TextBox::SetMaxLength(int maxLength) {
-  if (maxLength_ == maxLength) return;
-  maxLength_ = maxLength;
-  Changed(Aspect::kLimit);
+  if (Assign(maxLength_, maxLength)) Changed(Aspect::kLimit);
 }
 
 void TextBox::SetLocked(bool locked) {
-  if (locked_ == locked) return;
-  locked_ = locked;
-  Changed(Aspect::kEnabled);
+  if (Assign(locked_, locked)) Changed(Aspect::kEnabled);
 }
 
 int TextBox::LineCount() const {
@@ -60,7 +58,7 @@ int TextBox::LineCount() const {
 }
 
 void TextBox::UserEdit(const TextEdit& edit) {
-  if (locked_ || !Reachable() || !Owner().TakesInput()) return;
+  if (locked_ || !TakesInput()) return;
   const std::size_t place = std::min(edit.place, text_.size());
   const std::size_t removed = std::min(edit.removed, text_.size() - place);
   Text inserted = Owner().System().CodePageOf().Representable(edit.inserted);

@@ -28,8 +28,9 @@ class WindowSystem {
   [[nodiscard]] const CodePage& CodePageOf() const { return codePage_; }
 
   /// Runs an event. A run-time error that it lets out is shown in the error report box, and then
-  /// the program ends with status 1: ProgramEnded leaves all events but the outermost, which
-  /// tells the renderer. Nothing is ever thrown out of the outermost event.
+  /// the program ends with status 1: the renderer is told, and ProgramEnded leaves all events but
+  /// the outermost. Neither error ever leaves that one. Once the program has ended, a new
+  /// outermost event does not run.
   void Run(const std::function<void()>& event);
   /// The exit status once the program has ended.
   [[nodiscard]] std::optional<int> ExitStatus() const { return exitStatus_; }

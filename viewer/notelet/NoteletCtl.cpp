@@ -1,5 +1,7 @@
 #include "viewer/notelet/NoteletCtl.h"
 
+#include "forms/assign.h"
+
 namespace tessara {
 
 namespace {
@@ -29,32 +31,30 @@ void DrawAcross(Canvas& canvas, const Rect& card, double y, const Color& color) 
 }  // namespace
 
 template <class T>
-void NoteletCtl::Assign(T& member, const T& value) {
-  if (member == value) return;
-  member = value;
-  Changed(Aspect::kContent);
+void NoteletCtl::Change(T& member, const T& value) {
+  if (Assign(member, value)) Changed(Aspect::kContent);
 }
 
 void NoteletCtl::SetCardBanner(const Text& banner) {
-  Assign(cardBanner_, banner);
+  Change(cardBanner_, banner);
 }
 void NoteletCtl::SetCardColor(const Text& color) {
-  Assign(cardColor_, color);
+  Change(cardColor_, color);
 }
 void NoteletCtl::SetFrontRule(bool on) {
-  Assign(frontRule_, on);
+  Change(frontRule_, on);
 }
 void NoteletCtl::SetFrontLines(bool on) {
-  Assign(frontLines_, on);
+  Change(frontLines_, on);
 }
 void NoteletCtl::SetCardText(const Text& text) {
-  Assign(cardText_, text);
+  Change(cardText_, text);
 }
 void NoteletCtl::SetCardNumber(const Text& number) {
-  Assign(cardNumber_, number);
+  Change(cardNumber_, number);
 }
 void NoteletCtl::SetCardTotal(const Text& total) {
-  Assign(cardTotal_, total);
+  Change(cardTotal_, total);
 }
 
 Text NoteletCtl::DisplayedText() const {

@@ -38,7 +38,7 @@ class NoteletCtl : public PaintedControl, public CardFace {
 
  private:
   template <class T>
-  void Assign(T& member, const T& value);
+  void Change(T& member, const T& value);
   void PaintPaper(Canvas& canvas, const Rect& size) const;
   void PaintBanner(Canvas& canvas, const Rect& place) const;
   void PaintNumber(Canvas& canvas, const Rect& place) const;

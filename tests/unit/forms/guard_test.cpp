@@ -54,6 +54,14 @@ TEST_CASE("nothing runs after the program has ended") {
   CHECK(clicks == 0);
 }
 
+TEST_CASE("a modal window during which an error ends the program is not modal any more") {
+  RulesDesk desk;
+  desk.renderer.whileModal = [&](Form&) { desk.windows.Run(RaiseSubscript); };
+  desk.windows.Run([&] { desk.first->Show(Modality::kModal); });
+  CHECK(desk.windows.ExitStatus() == 1);
+  CHECK(desk.windows.ModalForm() == nullptr);
+}
+
 TEST_CASE("an error that the routine handles by number goes no further") {
   RulesDesk desk;
   desk.windows.Run([] {
