@@ -18,6 +18,7 @@
 #include "platform/posix/new_file.h"
 #include "platform/posix/posix_file_system.h"
 #include "platform/posix/posix_safety_copies.h"
+#include "platform/utf8.h"
 
 using namespace tessara;
 

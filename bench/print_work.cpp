@@ -8,6 +8,7 @@
 #include <string>
 
 #include "platform/qt/lazy_print_surface.h"
+#include "platform/utf8.h"
 #include "tests/printing/office_desk.h"
 
 using namespace tessara;

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/run_time_error.h"
+#include "platform/utf8.h"
 
 namespace tessara {
 

@@ -22,10 +22,4 @@ inline constexpr TextView kLineBreak = u"\r\n";
 /// The decimal digits of a whole number, with a minus sign where it is negative.
 [[nodiscard]] Text DecimalText(long value);
 
-/// UTF-8 and back, without loss of a byte: one that is no UTF-8 becomes the lone surrogate
-/// U+DC80 + (byte - 0x80), and that surrogate becomes the byte again. Any other lone surrogate
-/// becomes U+FFFD. Paths use it.
-[[nodiscard]] Text FromUtf8(std::string_view bytes);
-[[nodiscard]] std::string ToUtf8(TextView text);
-
 }  // namespace tessara

@@ -27,6 +27,7 @@
 #include "platform/qt/qt_settings_store.h"
 #include "platform/qt/qt_text.h"
 #include "platform/qt/visible_outlines.h"
+#include "platform/utf8.h"
 #include "shell/program.h"
 
 namespace tessara {

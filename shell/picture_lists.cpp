@@ -4,6 +4,8 @@
 #include <utility>
 #include <vector>
 
+#include "platform/utf8.h"
+
 namespace tessara {
 
 namespace {

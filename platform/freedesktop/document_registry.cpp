@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "platform/freedesktop/document_files.h"
+#include "platform/utf8.h"
 
 namespace tessara {
 

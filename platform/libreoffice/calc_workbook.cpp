@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "platform/libreoffice/calc_worksheet.h"
+#include "platform/utf8.h"
 
 namespace tessara {
 

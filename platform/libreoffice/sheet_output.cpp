@@ -7,6 +7,7 @@
 #include "platform/cups/print_queue.h"
 #include "platform/libreoffice/join_pdf.h"
 #include "platform/posix/write_file.h"
+#include "platform/utf8.h"
 
 namespace tessara {
 

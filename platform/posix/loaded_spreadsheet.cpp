@@ -6,6 +6,7 @@
 
 #include "platform/posix/office_location.h"
 #include "platform/run_time_error.h"
+#include "platform/utf8.h"
 
 namespace tessara {
 

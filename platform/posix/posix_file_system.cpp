@@ -13,6 +13,7 @@
 #include "platform/posix/system_call.h"
 #include "platform/posix/system_error.h"
 #include "platform/run_time_error.h"
+#include "platform/utf8.h"
 
 namespace tessara {
 

@@ -9,6 +9,7 @@
 
 #include "platform/posix/copy_name.h"
 #include "platform/posix/new_file.h"
+#include "platform/utf8.h"
 
 namespace tessara {
 

@@ -12,6 +12,7 @@
 
 #include "platform/qt/qt_renderer.h"
 #include "platform/qt/qt_text.h"
+#include "platform/utf8.h"
 #include "tests/desktop/event_loops.h"
 #include "tests/support/hostile_texts.h"
 #include "tests/support/program_desk.h"

@@ -10,6 +10,7 @@
 #include "forms/form.h"
 #include "forms/painted_control.h"
 #include "forms/window.h"
+#include "platform/utf8.h"
 
 namespace tessara::test {
 

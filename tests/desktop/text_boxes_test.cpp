@@ -7,6 +7,7 @@
 #include <doctest/doctest.h>
 
 #include "platform/qt/text_area_view.h"
+#include "platform/utf8.h"
 #include "tests/desktop/desk.h"
 
 using namespace tessara;

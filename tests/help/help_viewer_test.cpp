@@ -14,6 +14,7 @@
 #include "platform/qt/help/help_page.h"
 #include "platform/qt/help/show_help_contents.h"
 #include "platform/qt/help_loader.h"
+#include "platform/utf8.h"
 #include "tests/help/help_desk.h"
 
 namespace tessara::test {

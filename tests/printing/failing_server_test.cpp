@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/run_time_error.h"
+#include "platform/utf8.h"
 #include "tests/printing/office_desk.h"
 #include "tests/printing/server_processes.h"
 

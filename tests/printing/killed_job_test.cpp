@@ -7,6 +7,7 @@
 #include <unistd.h>
 
 #include "platform/posix/loaded_spreadsheet.h"
+#include "platform/utf8.h"
 #include "tests/printing/server_processes.h"
 #include "tests/support/wait_for.h"
 

@@ -7,6 +7,7 @@
 #include "deck/app_context.h"
 #include "forms/window.h"
 #include "platform/posix/loaded_spreadsheet.h"
+#include "platform/utf8.h"
 #include "printing/PrintCard.h"
 #include "printing/spreadsheet_job.h"
 #include "tests/printing/printed_pdf.h"

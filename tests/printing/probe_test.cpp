@@ -9,6 +9,7 @@
 #include "platform/posix/loaded_spreadsheet.h"
 #include "platform/posix/office_location.h"
 #include "platform/run_time_error.h"
+#include "platform/utf8.h"
 #include "tests/printing/server_processes.h"
 #include "tests/support/scratch_folder.h"
 

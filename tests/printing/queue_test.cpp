@@ -13,6 +13,7 @@
 
 #include "platform/qt/lazy_print_surface.h"
 #include "platform/qt/qt_dialogs.h"
+#include "platform/utf8.h"
 #include "tests/printing/office_desk.h"
 #include "tests/printing/print_server.h"
 #include "tests/printing/server_processes.h"

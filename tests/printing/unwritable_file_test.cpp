@@ -3,6 +3,7 @@
 #include <sys/mount.h>
 
 #include "platform/qt/lazy_print_surface.h"
+#include "platform/utf8.h"
 #include "tests/printing/office_desk.h"
 
 namespace tessara {

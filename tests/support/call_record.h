@@ -8,6 +8,7 @@
 
 #include "platform/dialogs.h"
 #include "platform/run_time_error.h"
+#include "platform/utf8.h"
 
 namespace tessara::test {
 

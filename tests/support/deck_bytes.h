@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/text.h"
+#include "platform/utf8.h"
 
 namespace tessara::test {
 

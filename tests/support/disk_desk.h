@@ -6,6 +6,7 @@
 
 #include "platform/posix/posix_file_system.h"
 #include "platform/posix/posix_safety_copies.h"
+#include "platform/utf8.h"
 #include "shell/program.h"
 #include "tests/support/fake_machine.h"
 #include "tests/support/headless_renderer.h"

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/message_box.h"
+#include "platform/utf8.h"
 
 namespace tessara::test {
 

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/print_surface.h"
+#include "platform/utf8.h"
 #include "tests/support/call_record.h"
 
 namespace tessara::test {

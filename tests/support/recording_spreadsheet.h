@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/spreadsheet.h"
+#include "platform/utf8.h"
 #include "tests/support/call_record.h"
 
 namespace tessara::test {

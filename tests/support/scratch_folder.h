@@ -7,6 +7,7 @@
 #include <string>
 
 #include "platform/text.h"
+#include "platform/utf8.h"
 
 namespace tessara::test {
 

@@ -14,6 +14,7 @@
 #include "platform/qt/qt_text.h"
 #include "platform/run_time_error.h"
 #include "platform/skip_errors.h"
+#include "platform/utf8.h"
 
 namespace tessara {
 

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/utf8.h"
 #include "tests/unit/authoring/essay_model.h"
 #include "tests/unit/authoring/question_model.h"
 

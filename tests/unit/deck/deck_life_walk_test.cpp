@@ -2,6 +2,7 @@
 #include <doctest/doctest.h>
 #include <random>
 
+#include "platform/utf8.h"
 #include "tests/support/life_program.h"
 #include "tests/unit/deck/deck_life_model.h"
 

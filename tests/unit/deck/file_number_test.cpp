@@ -3,6 +3,7 @@
 #include <array>
 #include <doctest/doctest.h>
 
+#include "platform/utf8.h"
 #include "tests/unit/deck/sample_deck.h"
 
 namespace tessara::test {

@@ -3,6 +3,7 @@
 #include <doctest/doctest.h>
 #include <string>
 
+#include "platform/utf8.h"
 #include "tests/unit/import/import_desk.h"
 
 namespace tessara::test {

@@ -6,6 +6,7 @@
 #include "import/TextImport.h"
 #include "import/TextImport2.h"
 #include "import/import_common.h"
+#include "platform/utf8.h"
 #include "tests/support/fake_messages.h"
 #include "tests/unit/deck/sample_deck.h"
 #include "tests/unit/import/text_file.h"

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "deck/deck_file.h"
+#include "platform/utf8.h"
 #include "tests/support/program_desk.h"
 #include "tests/unit/import/command_desk.h"
 

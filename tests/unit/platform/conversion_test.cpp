@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platform/run_time_error.h"
+#include "platform/utf8.h"
 
 namespace tessara::test {
 

@@ -3,6 +3,7 @@
 
 #include "platform/file_system.h"
 #include "platform/posix/posix_file_system.h"
+#include "platform/utf8.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/scratch_folder.h"
 

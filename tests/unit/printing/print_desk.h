@@ -5,6 +5,7 @@
 
 #include "deck/app_context.h"
 #include "forms/window.h"
+#include "platform/utf8.h"
 #include "printing/PrintCard.h"
 #include "printing/spreadsheet_job.h"
 #include "tests/support/fake_machine.h"

@@ -1,5 +1,6 @@
 #include <doctest/doctest.h>
 
+#include "platform/utf8.h"
 #include "tests/support/program_desk.h"
 
 namespace tessara::test {

@@ -4,6 +4,7 @@
 #include <set>
 
 #include "deck/double_amps.h"
+#include "platform/utf8.h"
 #include "tests/support/hostile_texts.h"
 #include "tests/support/program_desk.h"
 #include "tests/support/window_tour.h"

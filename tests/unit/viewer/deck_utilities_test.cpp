@@ -1,6 +1,7 @@
 #include <doctest/doctest.h>
 #include <optional>
 
+#include "platform/utf8.h"
 #include "tests/support/deck_desk.h"
 
 namespace tessara::test {

@@ -10,6 +10,7 @@
 #include <unistd.h>
 
 #include "deck/deck_file.h"
+#include "platform/utf8.h"
 #include "tests/support/limited_process.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/unit/deck/sample_deck.h"

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include "platform/posix/copy_name.h"
+#include "platform/utf8.h"
 #include "tests/support/disk_desk.h"
 
 namespace tessara::test {

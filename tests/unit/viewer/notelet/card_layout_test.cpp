@@ -4,6 +4,7 @@
 #include <doctest/doctest.h>
 #include <random>
 
+#include "platform/utf8.h"
 #include "tests/support/fake_canvas.h"
 
 namespace tessara::test {
