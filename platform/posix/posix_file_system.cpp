@@ -9,6 +9,7 @@
 #include <unistd.h>
 #include <utility>
 
+#include "platform/posix/posix_file.h"
 #include "platform/posix/read_ahead.h"
 #include "platform/posix/system_call.h"
 #include "platform/posix/system_error.h"
@@ -44,41 +45,6 @@ std::string FolderOf(const std::string& path) {
 void RequireRegularFile(const struct stat& status) {
   if (!S_ISREG(status.st_mode)) throw RunTimeError(ErrorNumber::kPathFileAccess);
 }
-
-class PosixFile : public File {
- public:
-  explicit PosixFile(int descriptor) : descriptor_(descriptor) {}
-
-  std::size_t ReadAt(std::uint64_t offset, std::span<char> buffer) override {
-    std::size_t done = 0;
-    while (done < buffer.size()) {
-      const auto count = Uninterrupted([&] {
-        return pread(descriptor_.Get(), buffer.data() + done, buffer.size() - done,
-                     static_cast<off_t>(offset + done));
-      });
-      if (count == kFailed) throw RunTimeError(TransferError(errno));
-      if (count == 0) break;
-      done += static_cast<std::size_t>(count);
-    }
-    return done;
-  }
-
-  void WriteAt(std::uint64_t offset, std::span<const char> bytes) override {
-    std::size_t done = 0;
-    while (done < bytes.size()) {
-      const auto count = Uninterrupted([&] {
-        return pwrite(descriptor_.Get(), bytes.data() + done, bytes.size() - done,
-                      static_cast<off_t>(offset + done));
-      });
-      if (count == kFailed) throw RunTimeError(TransferError(errno));
-      if (count == 0) throw RunTimeError(ErrorNumber::kDiskFull);
-      done += static_cast<std::size_t>(count);
-    }
-  }
-
- private:
-  Descriptor descriptor_;
-};
 
 /// Without waiting: opening a pipe would wait for a peer, a terminal for its line.
 int FlagsOf(OpenMode mode) {

@@ -58,14 +58,6 @@ int OpenForReading(const fs::path& path) {
   return Checked(Uninterrupted([&] { return open(path.c_str(), kFlags); }));
 }
 
-void WriteAll(int file, const char* bytes, std::size_t count) {
-  while (count > 0) {
-    const auto done = Checked(Uninterrupted([&] { return write(file, bytes, count); }));
-    bytes += done;
-    count -= static_cast<std::size_t>(done);
-  }
-}
-
 /// Gives up, by an error, on a file that grows too large meanwhile.
 void CopyBytes(int from, int to) {
   std::array<char, 65536> buffer{};
@@ -76,7 +68,7 @@ void CopyBytes(int from, int to) {
     if (count == 0) return;
     copied += static_cast<std::uintmax_t>(count);
     if (copied > kLargestFile) throw std::system_error(EFBIG, std::generic_category());
-    WriteAll(to, buffer.data(), static_cast<std::size_t>(count));
+    WriteAll(to, {buffer.data(), static_cast<std::size_t>(count)});
   }
 }
 

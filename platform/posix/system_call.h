@@ -1,8 +1,10 @@
 #pragma once
 
 #include <cerrno>
+#include <string_view>
 #include <system_error>
 #include <unistd.h>
+#include <utility>
 
 namespace tessara {
 
@@ -35,9 +37,14 @@ class Descriptor {
   }
 
   [[nodiscard]] int Get() const { return descriptor_; }
+  /// Closes it now. kFailed where what was written to it has not all arrived.
+  [[nodiscard]] int Close() { return close(std::exchange(descriptor_, kFailed)); }
 
  private:
   int descriptor_;
 };
+
+/// Writes all of the bytes. A failed write raises its error code as std::system_error.
+void WriteAll(int descriptor, std::string_view bytes);
 
 }  // namespace tessara

@@ -2,6 +2,7 @@
 
 #include <doctest/doctest.h>
 
+#include "tests/support/error_of.h"
 #include "tests/unit/deck/sample_deck.h"
 
 namespace tessara::test {

@@ -4,6 +4,7 @@
 #include <doctest/doctest.h>
 #include <random>
 
+#include "tests/support/error_of.h"
 #include "tests/unit/deck/sample_deck.h"
 
 namespace tessara::test {

@@ -4,6 +4,7 @@
 #include <doctest/doctest.h>
 
 #include "platform/utf8.h"
+#include "tests/support/error_of.h"
 #include "tests/unit/deck/sample_deck.h"
 
 namespace tessara::test {

@@ -5,17 +5,6 @@
 
 namespace tessara::test {
 
-/// The number of the run-time error that the action raises; 0 where it raises none.
-template <class Action>
-int ErrorOf(const Action& action) {
-  try {
-    action();
-  } catch (const RunTimeError& error) {
-    return static_cast<int>(error.Number());
-  }
-  return 0;
-}
-
 /// Puts a text card into the row, as a builder does.
 inline void PutCard(ProgramState& state, int row, const Text& front, const Text& back) {
   state.CardGrid.Set(row, kCardType, u"E");

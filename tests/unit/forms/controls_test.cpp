@@ -1,24 +1,10 @@
 #include <doctest/doctest.h>
 
 #include "forms/image_list.h"
-#include "platform/run_time_error.h"
+#include "tests/support/error_of.h"
 #include "tests/unit/forms/test_windows.h"
 
 namespace tessara::test {
-
-namespace {
-
-template <class Action>
-int ErrorOf(Action action) {
-  try {
-    action();
-  } catch (const RunTimeError& error) {
-    return static_cast<int>(error.Number());
-  }
-  return 0;
-}
-
-}  // namespace
 
 TEST_CASE("controls carry their names, array members with their index") {
   RulesDesk desk;

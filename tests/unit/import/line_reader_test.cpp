@@ -4,6 +4,7 @@
 #include <doctest/doctest.h>
 #include <vector>
 
+#include "tests/support/error_of.h"
 #include "tests/unit/deck/sample_deck.h"
 #include "tests/unit/import/text_file.h"
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/run_time_error.h"
 #include "platform/utf8.h"
+#include "tests/support/error_of.h"
 
 namespace tessara::test {
 
@@ -65,16 +65,6 @@ const NumberCase kNumbers[] = {
     {u"1e999", 0, kOverflow},
     {u"&HFFFFFFFFFFFFFFFFF", 0, kOverflow},
 };
-
-template <class Action>
-int ErrorOf(Action action) {
-  try {
-    static_cast<void>(action());
-  } catch (const RunTimeError& error) {
-    return static_cast<int>(error.Number());
-  }
-  return 0;
-}
 
 }  // namespace
 

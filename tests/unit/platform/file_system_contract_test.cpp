@@ -4,6 +4,7 @@
 #include "platform/file_system.h"
 #include "platform/posix/posix_file_system.h"
 #include "platform/utf8.h"
+#include "tests/support/error_of.h"
 #include "tests/support/memory_files.h"
 #include "tests/support/scratch_folder.h"
 
@@ -32,16 +33,6 @@ struct MemoryDisk {
   [[nodiscard]] std::string Bytes(const Text& name) const { return files.Bytes(Path(name)); }
   void MakeFolder(const Text& name) { files.folders.insert(Path(name)); }
 };
-
-template <class Action>
-int ErrorOf(const Action& action) {
-  try {
-    action();
-  } catch (const RunTimeError& error) {
-    return static_cast<int>(error.Number());
-  }
-  return 0;
-}
 
 std::string Read(File& file, std::uint64_t offset, std::size_t count) {
   std::string buffer(count, '?');

@@ -1,7 +1,7 @@
 #include <doctest/doctest.h>
 
-#include "platform/run_time_error.h"
 #include "tests/support/deck_desk.h"
+#include "tests/support/error_of.h"
 #include "viewer/card_picture.h"
 
 namespace tessara::test {
@@ -58,17 +58,9 @@ TEST_CASE("pictures are found by key in either list, and the missing ones are er
   const TestFrame frame;
   CHECK(CardPicture(u"Flip", kWallPaperList, frame).file == "print/flip.png");
   CHECK(CardPicture(u"DESERT", kBackdropList, frame).width == 160);
-  const auto errorOf = [&](TextView key, int list) {
-    try {
-      static_cast<void>(CardPicture(key, list, frame));
-    } catch (const RunTimeError& error) {
-      return error.Number();
-    }
-    return ErrorNumber{};
-  };
-  CHECK(errorOf(u"<NONE>", kWallPaperList) == ErrorNumber::kImageListIndex);
-  CHECK(errorOf(u"<NONE>", kBackdropList) == ErrorNumber::kImageListIndex);
-  CHECK(errorOf(u"PLAID", kBackdropList) == ErrorNumber::kImageListKey);
+  CHECK(ErrorOf([&] { return CardPicture(u"<NONE>", kWallPaperList, frame); }) == 35600);
+  CHECK(ErrorOf([&] { return CardPicture(u"<NONE>", kBackdropList, frame); }) == 35600);
+  CHECK(ErrorOf([&] { return CardPicture(u"PLAID", kBackdropList, frame); }) == 35601);
 }
 
 TEST_CASE("the shapes of a deck type and a mode") {

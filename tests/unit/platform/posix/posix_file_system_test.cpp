@@ -11,6 +11,7 @@
 
 #include "deck/deck_file.h"
 #include "platform/utf8.h"
+#include "tests/support/error_of.h"
 #include "tests/support/limited_process.h"
 #include "tests/support/scratch_folder.h"
 #include "tests/unit/deck/sample_deck.h"
