@@ -14,8 +14,8 @@ inline constexpr int kColumns = 10;
 inline constexpr int kMostCards = 200;
 inline constexpr int kInfoRow = 0;
 
-/// Columns of a card's row. An "E" card has its back in kLongText; "T" and "M" cards have their
-/// choices in the short fields.
+/// Columns of a card's row. Type "E" is a text card, with a back; "T" a true/false and "M" a
+/// multiple-choice question, with an answer key and the choices of the latter.
 enum Column : int {
   kStray = 0,  ///< not stored in the file; an import's answer lines of unknown letter end here
   kCardType = 1,

@@ -3,7 +3,7 @@
 #include <doctest/doctest.h>
 
 #include "tests/support/life_desk.h"
-#include "tests/unit/deck/sample_deck.h"
+#include "tests/support/sample_deck.h"
 
 namespace tessara::test {
 

@@ -5,7 +5,7 @@
 #include "tests/support/error_of.h"
 #include "tests/support/fake_card_face.h"
 #include "tests/support/fake_messages.h"
-#include "tests/unit/deck/sample_deck.h"
+#include "tests/support/sample_deck.h"
 
 namespace tessara::test {
 

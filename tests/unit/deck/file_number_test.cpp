@@ -5,7 +5,7 @@
 
 #include "platform/utf8.h"
 #include "tests/support/error_of.h"
-#include "tests/unit/deck/sample_deck.h"
+#include "tests/support/sample_deck.h"
 
 namespace tessara::test {
 

@@ -8,7 +8,7 @@
 #include "import/import_common.h"
 #include "platform/utf8.h"
 #include "tests/support/fake_messages.h"
-#include "tests/unit/deck/sample_deck.h"
+#include "tests/support/sample_deck.h"
 #include "tests/unit/import/text_file.h"
 
 namespace tessara::test {

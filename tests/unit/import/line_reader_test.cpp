@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "tests/support/error_of.h"
-#include "tests/unit/deck/sample_deck.h"
+#include "tests/support/sample_deck.h"
 #include "tests/unit/import/text_file.h"
 
 namespace tessara::test {

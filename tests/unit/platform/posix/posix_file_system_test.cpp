@@ -14,7 +14,7 @@
 #include "tests/support/error_of.h"
 #include "tests/support/limited_process.h"
 #include "tests/support/scratch_folder.h"
-#include "tests/unit/deck/sample_deck.h"
+#include "tests/support/sample_deck.h"
 
 namespace tessara::test {
 

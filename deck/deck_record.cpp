@@ -1,0 +1,86 @@
+#include "deck/deck_record.h"
+
+#include <algorithm>
+#include <string_view>
+
+namespace tessara {
+
+namespace {
+
+/// A field of a record: where it begins and its width, in bytes.
+struct Field {
+  std::size_t offset;
+  std::size_t width;
+};
+
+constexpr Field kTypeField = {0, 1};
+constexpr Field kTextField = {1, 444};
+constexpr Field kNumberField = {445, 2};
+constexpr std::array<Field, 4> kShortFields = {{{447, 75}, {522, 75}, {597, 75}, {672, 75}}};
+constexpr Field kAnswerField = {747, 1};
+constexpr Field kLongField = {748, 444};
+static_assert(kLongField.offset + kLongField.width == kRecordSize);
+static_assert(kNumberField.offset + kNumberField.width == kLeastRecord);
+
+void PutText(RecordBytes& bytes, Field field, const Text& text, const CodePage& codePage) {
+  const std::string stored = codePage.Encode(TextView(text).substr(0, field.width));
+  std::copy(stored.begin(), stored.end(), bytes.data() + field.offset);
+}
+
+/// Most of a field is blanks: they go in long strides.
+std::string_view WithoutBlanksBehind(std::string_view bytes) {
+  constexpr std::string_view kStride = "        ";
+  while (bytes.ends_with(kStride)) bytes.remove_suffix(kStride.size());
+  while (bytes.ends_with(kBlank)) bytes.remove_suffix(1);
+  return bytes;
+}
+
+Text TextAt(RecordView bytes, Field field, const CodePage& codePage) {
+  std::string_view text = WithoutBlanksBehind({bytes.data() + field.offset, field.width});
+  while (text.starts_with(kBlank)) text.remove_prefix(1);
+  return text.empty() ? Text() : codePage.Decode(text);
+}
+
+/// Little-endian, whatever the machine.
+void PutNumber(RecordBytes& bytes, std::int16_t number) {
+  const auto bits = static_cast<std::uint16_t>(number);
+  bytes[kNumberField.offset] = static_cast<char>(bits & 0xFFU);
+  bytes[kNumberField.offset + 1] = static_cast<char>(bits >> 8U);
+}
+
+std::int16_t NumberAt(RecordView bytes) {
+  const auto low = static_cast<unsigned char>(bytes[kNumberField.offset]);
+  const auto high = static_cast<unsigned char>(bytes[kNumberField.offset + 1]);
+  return static_cast<std::int16_t>(low | (high << 8U));
+}
+
+}  // namespace
+
+RecordBytes EncodeRecord(const DeckRecord& record, const CodePage& codePage) {
+  RecordBytes bytes;
+  bytes.fill(kBlank);
+  PutText(bytes, kTypeField, record.cardType, codePage);
+  PutText(bytes, kTextField, record.text, codePage);
+  PutNumber(bytes, record.number);
+  for (std::size_t at = 0; at < kShortFields.size(); ++at) {
+    PutText(bytes, kShortFields[at], record.shortFields[at], codePage);
+  }
+  PutText(bytes, kAnswerField, record.answer, codePage);
+  PutText(bytes, kLongField, record.longText, codePage);
+  return bytes;
+}
+
+DeckRecord DecodeRecord(RecordView bytes, const CodePage& codePage) {
+  DeckRecord record;
+  record.cardType = TextAt(bytes, kTypeField, codePage);
+  record.text = TextAt(bytes, kTextField, codePage);
+  record.number = NumberAt(bytes);
+  for (std::size_t at = 0; at < kShortFields.size(); ++at) {
+    record.shortFields[at] = TextAt(bytes, kShortFields[at], codePage);
+  }
+  record.answer = TextAt(bytes, kAnswerField, codePage);
+  record.longText = TextAt(bytes, kLongField, codePage);
+  return record;
+}
+
+}  // namespace tessara
