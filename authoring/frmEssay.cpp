@@ -149,7 +149,7 @@ void frmEssay::Close() {
   Deck()->NoteletCtl1.SetCardTotal(DecimalText(state.CardCount));
   if (state.CurrentCard > state.CardCount) state.CurrentCard = state.CardCount;
   Deck()->NoteletCtl1.SetCardNumber(DecimalText(state.CurrentCard));
-  Deck()->Command3[1].SetEnabled(state.HasCards());
+  Deck()->Command3[frmMain::kFlip].SetEnabled(state.HasCards());
   Deck()->NoteletCtl1.SetCardText(DoubleAmps(state.Cell(state.CurrentCard, kBackText)));
   EnablePrinting();
   SetBuilderState(BuilderState::kOld);

@@ -7,6 +7,7 @@
 #include "forms/controls.h"
 #include "forms/form.h"
 #include "forms/window.h"
+#include "platform/dialogs.h"
 
 namespace tessara {
 
@@ -15,12 +16,17 @@ class frmInfo;
 /// The deck window as the life of a deck knows it: its menus, the buttons and labels that hang
 /// on the deck's state, and the commands from new to close. What it looks like and how cards are
 /// taken is told by the window that derives from it.
+///
+/// The commands are told in open_deck.cpp, save_deck.cpp and close_deck.cpp.
 class DeckWindow : public Form {
  public:
   DeckWindow(AppContext& app, FileNumber& fileNumber, Window<frmInfo> info);
 
   MoveButtons cmdMove;
+  /// The buttons of Command3 by what they do.
+  enum : int { kNextOrScore = 0, kFlip = 1, kCloseDeck = 2 };
   ControlArray<Button, 3> Command3;
+  /// The answer to a question, on the answer card.
   Label Label2;
 
   MenuEntry mnuFile, mnuNCD, mnuOCD, mnuDelete, mnu4, mnuSave, mnuSaveAs, mnuACTTD, mnuPrint, mnu1,
@@ -62,16 +68,22 @@ class DeckWindow : public Form {
   /// leaves everything as it was.
   void OpenViewOfFirstCard();
   /// The deck's name, two blanks and the mode in brackets.
-  void ShowTitle(TextView mode);
+  void ShowTitle(Mode mode);
 
-  /// Unloaded by mnuExit: the question builder.
+  /// The question builder, which mnuExit unloads too.
   void SetQuestionBuilder(WindowSlot& slot) { questionBuilder_ = &slot; }
 
+  /// Brings the window up in the shape for text cards, or for questions, and sets the deck's type.
   virtual void OpenStandardView() = 0;
   virtual void OpenExtendedView() = 0;
+  /// Writes the texts of card 1 to the window; `xType` is a DeckKind.
   virtual void ShowFirstCard(std::int32_t xType) = 0;
+  /// The save command follows DeckChanged.
   virtual void ConfigSaveMenu() = 0;
+  /// Sets the mode menu by the type of card 1; an unknown type leaves it.
   virtual void AutoModeMenu() = 0;
+  /// Paints the card on show anew from the table, and sets the commands that hang on it;
+  /// `Typecard` is a DeckKind.
   virtual void AfterEditShow(std::int32_t Typecard) = 0;
 
  protected:
@@ -85,8 +97,9 @@ class DeckWindow : public Form {
   [[nodiscard]] Window<frmInfo> Info() const { return info_; }
 
  private:
-  /// True where a save was not given a name; says so.
-  bool RefusedAnswer(const Text& path);
+  [[nodiscard]] Text AskDeckFile(FileDialogMode mode);
+  /// Asks for the file that the deck is to be saved to. False where there is no answer; says so.
+  bool ChooseFile();
 
   AppContext& app_;
   FileNumber& fileNumber_;

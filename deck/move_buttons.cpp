@@ -4,8 +4,8 @@ namespace tessara {
 
 void SetMoveButtons(MoveButtons& owner, const ProgramState& state) {
   const bool hasCards = state.CardCount != 0;
-  owner[0].SetEnabled(hasCards && state.CurrentCard != 1);
-  owner[1].SetEnabled(hasCards && state.CurrentCard < state.CardCount);
+  owner[kPreviousCard].SetEnabled(hasCards && state.CurrentCard != 1);
+  owner[kNextCard].SetEnabled(hasCards && state.CurrentCard < state.CardCount);
 }
 
 }  // namespace tessara

@@ -6,7 +6,8 @@
 
 namespace tessara {
 
-/// The two arrow buttons of a window that shows cards: back, and on.
+/// The two arrow buttons of a window that shows cards, by where they lead.
+enum Arrow : int { kPreviousCard = 0, kNextCard = 1 };
 using MoveButtons = ControlArray<Button, 2>;
 
 /// Brings the arrows of a builder in line with the place in the deck; with no cards both are off.

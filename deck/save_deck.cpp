@@ -1,4 +1,4 @@
-// The save. Errors on its way skip the statement that failed and are not reported.
+// How a deck comes from the window into a file.
 
 #include "deck/ask_file_name.h"
 #include "deck/deck_file.h"
@@ -11,6 +11,60 @@
 
 namespace tessara {
 
+namespace {
+
+constexpr TextView kNotSaved = u"File Not Saved";
+
+}  // namespace
+
+void DeckWindow::mnuSave_Click() {
+  ProgramState& state = State();
+  if (Caption().starts_with(u"New") && state.SaveOffered) {
+    if (!ChooseFile()) return;
+    state.SaveOffered = false;
+  }
+  SaveTessaraToFile(state.DeckFilePath);
+  state.DeckOnFile = true;
+  state.DeckChanged = false;
+}
+
+void DeckWindow::mnuSaveAs_Click() {
+  ProgramState& state = State();
+  if (!ChooseFile()) return;
+  SaveTessaraToFile(state.DeckFilePath);
+  state.DeckChanged = false;
+  state.SaveOffered = false;
+}
+
+bool DeckWindow::ChooseFile() {
+  const Text path = AskDeckFile(FileDialogMode::kSave);
+  if (NoAnswer(path)) {
+    App().machine.messages.Show(u"This file was not saved.", kInformationIcon, Text(kNotSaved));
+    return false;
+  }
+  State().DeckFilePath = path;
+  return true;
+}
+
+void DeckWindow::ChkSave() {
+  ProgramState& state = State();
+  MessageBoxes& messages = App().machine.messages;
+  if (!state.DeckChanged || !state.HasCards()) return;
+  const MessageAnswer answer =
+      messages.Show(u"There have been changes to this Tessara.Do you want to save them?",
+                    kQuestionIcon + kYesNo, u"Unsaved Changes: ");
+  if (answer != MessageAnswer::kYes) return;
+  const bool asks = state.DeckFilePath.empty();
+  if (asks) state.DeckFilePath = AskDeckFile(FileDialogMode::kSave);
+  if (asks && NoAnswer(state.DeckFilePath)) {
+    messages.Show(u"This file was not saved", kInformationIcon, Text(kNotSaved));
+  } else {
+    SaveTessaraToFile(state.DeckFilePath);
+  }
+  state.DeckChanged = false;
+}
+
+// Errors on its way skip the statement that failed and are not reported.
 void DeckWindow::SaveTessaraToFile(const Text& xFilename) {
   ProgramState& state = State();
   Machine& machine = App().machine;
@@ -21,7 +75,7 @@ void DeckWindow::SaveTessaraToFile(const Text& xFilename) {
   }
   if (xFilename.empty()) {
     // The answer is not used: a deck without a path has nowhere to go.
-    static_cast<void>(AskFileName(FileDialogMode::kSave, kDeckFilter, App()));
+    static_cast<void>(AskDeckFile(FileDialogMode::kSave));
   }
   machine.copies.Keep(xFilename);
   if (state.DeckOnFile) SkipErrors([&] { machine.files.Delete(xFilename); });
@@ -30,7 +84,7 @@ void DeckWindow::SaveTessaraToFile(const Text& xFilename) {
   WriteRecords(state, fileNumber_, machine.codePage);
   fileNumber_.Close();
   machine.messages.Show(u"This file has been saved to " + state.DeckFilePath, kOkOnly, u"Save");
-  ShowTitle(u"[STUDY]");
+  ShowTitle(kStudyMode);
 }
 
 }  // namespace tessara

@@ -97,14 +97,14 @@ void MDIForm1::mnuStdTessara_Click() {
   windows_.deck->OpenStandardView();
   app_.state.DeckType = kStandardDeck;
   app_.state.CardMode = kStudyMode;
-  windows_.deck->Command3[1].SetCaption(u"&Show Back");
+  windows_.deck->Command3[DeckWindow::kFlip].SetCaption(u"&Show Back");
   windows_.deck->SetGoToMenu();
 }
 
 void MDIForm1::mnuExtTessara_Click() {
   windows_.deck->OpenExtendedView();
   app_.state.DeckType = kExtendedDeck;
-  windows_.deck->Command3[1].SetCaption(u"&Hide Answer");
+  windows_.deck->Command3[DeckWindow::kFlip].SetCaption(u"&Hide Answer");
   app_.state.CardMode = kStudyMode;
   windows_.deck->SetGoToMenu();
 }
@@ -122,7 +122,7 @@ void MDIForm1::mnuOPenExisting_Click() {
   state.CurrentCard = 1;
   deck.NoteletCtl1.SetCardTotal(DecimalText(state.CardCount));
   SetMoveButtons(deck.cmdMove, state);
-  deck.ShowTitle(u"[STUDY]");
+  deck.ShowTitle(kStudyMode);
   state.DeckChanged = false;
   state.SaveOffered = false;
   state.CardMode = kStudyMode;

@@ -95,10 +95,10 @@ void Program::PlaceEmptyDeckWindow() {
   deck.SetTop((ScaleHeight() - deck.Height()) / 2);
   deck.Show();
   deck.ConfigureStandardCard(kStudyMode);
-  deck.Command3[1].SetCaption(u"&Show Answer");
-  deck.Command3[1].SetEnabled(false);
+  deck.Command3[DeckWindow::kFlip].SetCaption(u"&Show Answer");
+  deck.Command3[DeckWindow::kFlip].SetEnabled(false);
   deck.ConfigureStandardCard(kStudyMode);
-  deck.Command3[1].SetCaption(u"&Show Back");
+  deck.Command3[DeckWindow::kFlip].SetCaption(u"&Show Back");
   state_.DeckType = kStandardDeck;
   deck.mnuMode.SetEnabled(false);
   deck.mnuGTP.SetEnabled(false);

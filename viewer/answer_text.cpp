@@ -23,4 +23,11 @@ int AnswerIndex(TextView xAns) {
   return xAns == u"F" ? 1 : 0;
 }
 
+TextView KeyOfChoice(int choice, TextView cardType) {
+  if (cardType == u"M" || choice >= 2)
+    return kChoiceKeys.substr(static_cast<std::size_t>(choice), 1);
+  if (cardType == u"T") return choice == 0 ? u"T" : u"F";
+  return {};
+}
+
 }  // namespace tessara

@@ -12,4 +12,8 @@ namespace tessara {
 /// The place of an answer key among the choices, 0 to 3; 0 for a key that is none.
 [[nodiscard]] int AnswerIndex(TextView xAns);
 
+/// The answer key that a choice, 0 to 3, of a card of that type stands for. Empty for the first
+/// two choices of a card that is no question.
+[[nodiscard]] TextView KeyOfChoice(int choice, TextView cardType);
+
 }  // namespace tessara

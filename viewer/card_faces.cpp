@@ -33,13 +33,13 @@ void frmMain::ConfigureStandardCard(std::int32_t xMode) {
     SetFlipCaption(u"&Show Back");
   }
   if (xMode == kQuizMode) {
-    cmdMove[0].SetEnabled(false);
+    cmdMove[kPreviousCard].SetEnabled(false);
     NoteletCtl1.SetCardText(State().Cell(1, kCardText));
     ShowCardBack(false);
   } else if (xMode == kTestMode) {
     Frame1.SetVisible(true);
   }
-  Command3[1].SetEnabled(State().HasCards());
+  Command3[kFlip].SetEnabled(State().HasCards());
 }
 
 void frmMain::ConfigureExtendedCard(std::int32_t xMode) {
@@ -50,19 +50,19 @@ void frmMain::ConfigureExtendedCard(std::int32_t xMode) {
   switch (xMode) {
     case kStudyMode:
       Picture1.SetVisible(true);
-      Command3[1].SetEnabled(false);
+      Command3[kFlip].SetEnabled(false);
       SetFlipCaption(u"&Hide Answer");
       enableMoves(true);
       break;
     case kQuizMode:
       Picture1.SetVisible(false);
       SetFlipCaption(u"&Show Answer");
-      Command3[1].SetEnabled(true);
+      Command3[kFlip].SetEnabled(true);
       enableMoves(true);
       break;
     case kTestMode:
       Frame2.SetVisible(true);
-      Command3[1].SetEnabled(false);
+      Command3[kFlip].SetEnabled(false);
       enableMoves(false);
       break;
     default:

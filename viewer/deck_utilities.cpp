@@ -11,6 +11,16 @@
 
 namespace tessara {
 
+namespace {
+
+Text NoSuchCard(const Text& answer, int cards) {
+  const bool one = cards == 1;
+  return u"Card # " + answer + u" does not exist there " + (one ? u"is only " : u"are only ") +
+         DecimalText(cards) + (one ? u" card" : u" cards") + u" in this deck. Please try again";
+}
+
+}  // namespace
+
 void frmMain::mnuDelete_Click() {
   ProgramState& state = State();
   DeleteCardRow(state.CurrentCard, cmdMove, NoteletCtl1, state, App().machine.messages);
@@ -20,24 +30,21 @@ void frmMain::mnuDelete_Click() {
   state.DeckChanged = true;
   mnuSave.SetEnabled(true);
   if (state.CardCount < 1) {
-    MenuOp(false);
-    Command3[1].SetEnabled(false);
-    ShowCardBack(false);
-    mnuGTP.SetEnabled(false);
+    CardDel_Std();
   } else {
     MenuOp(true);
-    Command3[1].SetEnabled(true);
+    Command3[kFlip].SetEnabled(true);
     SetGoToMenu();
   }
   mnuPrint.SetEnabled(state.CardCount >= 1);
-  if (state.DeckType == kExtendedDeck) Command3[1].SetEnabled(state.CardMode != kStudyMode);
+  if (state.DeckType == kExtendedDeck) Command3[kFlip].SetEnabled(state.CardMode != kStudyMode);
   KeepFocusInReach();
 }
 
 void frmMain::CardDel_Std() {
   const bool hasCards = State().CardCount >= 1;
   MenuOp(hasCards);
-  Command3[1].SetEnabled(false);
+  Command3[kFlip].SetEnabled(false);
   if (!hasCards) ShowCardBack(false);
   mnuGTP.SetEnabled(hasCards);
 }
@@ -55,30 +62,26 @@ void frmMain::mnuGTP_Click() {
 }
 
 void frmMain::GoToCard(const Text& answer) {
-  ProgramState& state = State();
+  const int cards = State().CardCount;
   MessageBoxes& messages = App().machine.messages;
   const std::int16_t number = IntegerOf(answer);
-  if (number > state.CardCount) {
-    if (state.CardCount < 1) return;
-    const bool one = state.CardCount == 1;
-    messages.Show(
-        u"Card # " + answer +
-            (one ? u" does not exist there is only " : u" does not exist there are only ") +
-            DecimalText(state.CardCount) +
-            (one ? u" card in this deck. Please try again"
-                 : u" cards in this deck. Please try again"),
-        kStopIcon, u"Go To card # " + answer);
-  } else if (number >= 1) {
-    state.CurrentCard = number;
-    ShowCardText(number, kCardText);
-    SelectCardOp_Mode(number);
-    UpdateMoveButtons();
-    NoteletCtl1.SetCardTotal(DecimalText(state.CardCount));
-    ShowCardNumber();
-    KeepFocusInReach();
-  } else {
+  if (number > cards) {
+    if (cards >= 1) messages.Show(NoSuchCard(answer, cards), kStopIcon, u"Go To card # " + answer);
+  } else if (number < 1) {
     messages.Show(answer + u" is not a valid card number.", kStopIcon, u"Invalid Entry");
+  } else {
+    ShowCard(number);
   }
+}
+
+void frmMain::ShowCard(std::int16_t number) {
+  State().CurrentCard = number;
+  ShowCardText(number, kCardText);
+  SelectCardOp_Mode(number);
+  UpdateMoveButtons();
+  NoteletCtl1.SetCardTotal(DecimalText(State().CardCount));
+  ShowCardNumber();
+  KeepFocusInReach();
 }
 
 }  // namespace tessara

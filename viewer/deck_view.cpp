@@ -33,7 +33,7 @@ void frmMain::OpenStandardView() {
   State().DeckType = kStandardDeck;
   SetFlipCaption(u"&Show Back");
   ChkModeMenu(kStudyMode);
-  OfferNext({&Command3[1]});
+  OfferNext({&Command3[kFlip]});
 }
 
 void frmMain::OpenExtendedView() {
@@ -42,7 +42,7 @@ void frmMain::OpenExtendedView() {
   State().DeckType = kExtendedDeck;
   SetFlipCaption(u"&Show Answer");
   ChkModeMenu(kStudyMode);
-  OfferNext({&cmdMove[1]});
+  OfferNext({&cmdMove[kNextCard]});
 }
 
 void frmMain::ShowFirstCard(std::int32_t xType) {

@@ -17,7 +17,7 @@ constexpr int kWindowWidth = 7230;
 constexpr int kInfoHeight = 4650;
 constexpr int kInfoWidth = 6270;
 /// Both captions that the button takes in a test; it starts without one.
-constexpr TextView kNextOrScore = u"Next Question, Show Score";
+constexpr TextView kNextOrScoreName = u"Next Question, Show Score";
 constexpr Bounds kUnderTheCard = {120, 3855, 4860, 1635};
 
 }  // namespace
@@ -50,12 +50,12 @@ void frmMain::PlaceControls() {
       {&Frame3, "Frame3", kNoIndex, nullptr, u"", {5085, 3840, 1905, 1965}, u"Buttons"},
       {&cmdMove[0], "cmdMove", 0, &Frame3, u"<<", {135, 240, 780, 390}, u"Previous card"},
       {&cmdMove[1], "cmdMove", 1, &Frame3, u">>", {975, 240, 780, 390}, u"Next card"},
-      {&Command3[0], "Command3", 0, &Frame3, u"", {135, 720, 1620, 375}, kNextOrScore},
+      {&Command3[0], "Command3", 0, &Frame3, u"", {135, 720, 1620, 375}, kNextOrScoreName},
       {&Command3[1], "Command3", 1, &Frame3, u"&Show Answer", {135, 1080, 1620, 375}, u""},
       {&Command3[2], "Command3", 2, &Frame3, u"&Close Deck", {135, 1440, 1620, 375}, u""},
   });
   Shape1.SetBackColor({Color::Role::kInactiveTitle});
-  Command3[0].SetEnabled(false);
+  Command3[kNextOrScore].SetEnabled(false);
   Label2.SetFont({u"MS Sans Serif", 9.75});
   Label2.SetForeColor(FixedColor(29, 49, 82));
   Picture1.SetPicture(App().frame.imgWallPaper().At(u"White 3D").picture);
@@ -135,14 +135,9 @@ void frmMain::Form_Activate() {
   ProgramState& state = State();
   AfterEditShow(state.DeckType);
   ConfigSaveMenu();
-  if (state.HasCards()) {
-    UpdateMoveButtons();
-  } else {
-    for (Button& button : cmdMove) button.SetEnabled(false);
-  }
+  UpdateMoveButtons();
   mnuMode.SetEnabled(state.HasCards());
   mnuNCD.SetEnabled(state.HasCards());
-  UpdateMoveButtons();
   mnuPrint.SetEnabled(state.CardCount >= 1);
 }
 
@@ -179,7 +174,8 @@ void frmMain::OfferNext(std::initializer_list<Control*> controls) {
 
 void frmMain::KeepFocusInReach() {
   const Control* focused = FocusedControl();
-  if (focused == nullptr || !focused->Reachable()) OfferNext({&cmdMove[1], &cmdMove[0]});
+  if (focused != nullptr && focused->Reachable()) return;
+  OfferNext({&cmdMove[kNextCard], &cmdMove[kPreviousCard]});
 }
 
 }  // namespace tessara

@@ -17,12 +17,19 @@ class frmMain : public DeckWindow {
  public:
   frmMain(AppContext& app, FileNumber& fileNumber, Window<frmInfo> info);
 
+  /// The shadow of the card, and the card.
   Shape Shape1;
   NoteletCtl NoteletCtl1;
+  /// The panel of buttons.
   Frame Frame3;
+  /// The answer card.
   PictureBox Picture1;
+  /// The panel on which the user grades himself.
   Frame Frame1;
+  /// The buttons of Command1 by the credit that they give.
+  enum : int { kNoCredit = 0, kFullCredit = 1, kPartialCredit = 2 };
   ControlArray<Button, 3> Command1;
+  /// The panel of choices.
   Frame Frame2;
   ControlArray<OptionButton, 4> Option1;
 
@@ -103,8 +110,13 @@ class frmMain : public DeckWindow {
   void ShowCardText(int row, int column);
   void ShowAnswer(int row);
   void ShowCardNumber();
-  [[nodiscard]] const Text& FlipCaption() const { return Command3[1].Caption(); }
-  void SetFlipCaption(TextView caption) { Command3[1].SetCaption(Text(caption)); }
+  [[nodiscard]] const Text& FlipCaption() const { return Command3[kFlip].Caption(); }
+  void SetFlipCaption(TextView caption) { Command3[kFlip].SetCaption(Text(caption)); }
+
+  // Steps of the mode entries.
+  /// What all entries have in common: card 1, no points, the mark, the title and the menus.
+  void EnterMode(Mode mode);
+  void TurnNextOrScoreOff();
 
   // Steps of the buttons.
   void NextQuestionOrScore();
@@ -114,8 +126,8 @@ class frmMain : public DeckWindow {
   void NextStandardTestCard();
   void NoteEndOfQuiz(TextView banner);
   void QuizNextCard();
-  [[nodiscard]] Text ChosenKey(int Index) const;
   void GoToCard(const Text& answer);
+  void ShowCard(std::int16_t number);
 
   /// The focus goes to the first of these that the user can reach: what the next step needs.
   void OfferNext(std::initializer_list<Control*> controls);

@@ -1,4 +1,4 @@
-// The mode menu: which modes are offered, and which one is marked.
+// The mode menu: which modes are offered, which one is marked, and what entering one begins with.
 
 #include "viewer/frmMain.h"
 
@@ -18,6 +18,24 @@ void frmMain::ChkModeMenu(std::int32_t xMode) {
   mnuQuiz.SetChecked(xMode == kQuizMode);
   mnuStudy.SetChecked(xMode == kStudyMode);
   mnuTest.SetChecked(xMode == kTestMode);
+}
+
+void frmMain::EnterMode(Mode mode) {
+  ProgramState& state = State();
+  ChkModeMenu(mode);
+  state.CardMode = mode;
+  state.CurrentCard = 1;
+  state.TestPoints = 0;
+  ShowCardNumber();
+  ShowTitle(mode);
+  NoteletCtl1.SetCardBanner(u"");
+  mnuFile.SetEnabled(mode == kStudyMode);
+  mnuUtility.SetEnabled(mode == kStudyMode);
+}
+
+void frmMain::TurnNextOrScoreOff() {
+  Command3[kNextOrScore].SetEnabled(false);
+  Command3[kNextOrScore].SetCaption(u"");
 }
 
 void frmMain::AutoModeMenu() {

@@ -5,28 +5,17 @@
 namespace tessara {
 
 void frmMain::mnuQuiz_Click() {
-  ProgramState& state = State();
-  ChkModeMenu(kQuizMode);
-  if (state.DeckType == kExtendedDeck) {
+  EnterMode(kQuizMode);
+  if (State().DeckType == kExtendedDeck) {
     ConfigureExtendedCard(kQuizMode);
-  } else if (state.DeckType == kStandardDeck) {
+  } else if (State().DeckType == kStandardDeck) {
     ConfigureStandardCard(kQuizMode);
   }
-  state.CardMode = kQuizMode;
-  UpdateMoveButtons();
-  state.CurrentCard = 1;
   ShowCardText(1, kCardText);
-  NoteletCtl1.SetCardNumber(u"1");
-  cmdMove[0].SetEnabled(false);
-  cmdMove[1].SetEnabled(true);
-  ShowTitle(u"[QUIZ]");
-  Command3[0].SetEnabled(false);
-  Command3[0].SetCaption(u"");
-  state.TestPoints = 0;
-  mnuFile.SetEnabled(false);
-  mnuUtility.SetEnabled(false);
-  NoteletCtl1.SetCardBanner(u"");
-  OfferNext({&Command3[1]});
+  cmdMove[kPreviousCard].SetEnabled(false);
+  cmdMove[kNextCard].SetEnabled(true);
+  TurnNextOrScoreOff();
+  OfferNext({&Command3[kFlip]});
 }
 
 void frmMain::QuizModeScroll() {
@@ -51,20 +40,20 @@ void frmMain::QuizModeScroll_Ext() {
 
 void frmMain::QuizNextCard() {
   ProgramState& state = State();
-  cmdMove[0].SetEnabled(false);
+  cmdMove[kPreviousCard].SetEnabled(false);
   ++state.CurrentCard;
   ShowCardText(state.CurrentCard, kCardText);
   ShowCardNumber();
-  cmdMove[1].SetEnabled(state.CurrentCard < state.CardCount);
-  OfferNext({&Command3[1]});
+  cmdMove[kNextCard].SetEnabled(state.CurrentCard < state.CardCount);
+  OfferNext({&Command3[kFlip]});
 }
 
 void frmMain::NoteEndOfQuiz(TextView banner) {
   if (State().CurrentCard != State().CardCount) {
-    OfferNext({&cmdMove[1]});
+    OfferNext({&cmdMove[kNextCard]});
     return;
   }
-  cmdMove[1].SetEnabled(false);
+  cmdMove[kNextCard].SetEnabled(false);
   NoteletCtl1.SetCardBanner(Text(banner));
 }
 

@@ -91,10 +91,8 @@ void frmMain::ExtCardOp_Flip() {
 }
 
 void frmMain::mnuStudy_Click() {
-  ProgramState& state = State();
-  ChkModeMenu(kStudyMode);
-  state.CurrentCard = 1;
-  NoteletCtl1.SetCardNumber(u"1");
+  const ProgramState& state = State();
+  EnterMode(kStudyMode);
   if (state.DeckType == kStandardDeck) {
     ShowFirstCard(kStandardDeck);
     ConfigureStandardCard(kStudyMode);
@@ -104,15 +102,7 @@ void frmMain::mnuStudy_Click() {
     ConfigureExtendedCard(kStudyMode);
   }
   UpdateMoveButtons();
-  state.CardMode = kStudyMode;
-  NoteletCtl1.SetCardBanner(u"");
-  ShowTitle(u"[STUDY]");
-  Command3[0].SetEnabled(false);
-  Command3[0].SetCaption(u"");
-  state.TestPoints = 0;
-  mnuFile.SetEnabled(true);
-  mnuUtility.SetEnabled(true);
-  NoteletCtl1.SetCardBanner(u"");
+  TurnNextOrScoreOff();
   // Undoubled: until the next move an ampersand in a choice marks an accelerator.
   Label2.SetCaption(AnswerText(state.Cell(state.CurrentCard, kAnswer), state.CurrentCard, state));
   KeepFocusInReach();

@@ -11,41 +11,30 @@ namespace {
 
 /// The head of the score line is what keeps the last card from being graded twice.
 constexpr TextView kComplete = u"Complete";
-constexpr double kFullCredit = 1.0;
-constexpr double kPartialCredit = 0.5;
 constexpr Color kRightChoiceBlue = FixedColor(0, 0, 255);
 
 }  // namespace
 
 void frmMain::mnuTest_Click() {
-  ProgramState& state = State();
-  ChkModeMenu(kTestMode);
+  EnterMode(kTestMode);
   OpDefaultForeColor();
-  state.CurrentCard = 1;
-  NoteletCtl1.SetCardNumber(u"1");
-  ShowCardText(state.CurrentCard, kCardText);
+  ShowCardText(1, kCardText);
   ClrAnsOptions();
-  if (state.DeckType == kStandardDeck) {
+  if (State().DeckType == kStandardDeck) {
     ConfigureStandardCard(kTestMode);
     Frame1.SetEnabled(false);
-    Command3[0].SetCaption(u"");
+    Command3[kNextOrScore].SetCaption(u"");
     SetFlipCaption(u"&Show Back");
-    cmdMove[1].SetEnabled(false);
-    cmdMove[0].SetEnabled(false);
+    cmdMove[kNextCard].SetEnabled(false);
+    cmdMove[kPreviousCard].SetEnabled(false);
     ShowCardBack(false);
-  } else if (state.DeckType == kExtendedDeck) {
+  } else if (State().DeckType == kExtendedDeck) {
     ConfigureExtendedCard(kTestMode);
     Frame2.SetEnabled(true);
-    Command3[0].SetCaption(u"Next Question");
+    Command3[kNextOrScore].SetCaption(u"Next Question");
   }
-  FillChoices(state.CurrentCard);
-  state.CardMode = kTestMode;
-  ShowTitle(u"[TEST]");
-  state.TestPoints = 0;
-  NoteletCtl1.SetCardBanner(u"");
-  mnuFile.SetEnabled(false);
-  mnuUtility.SetEnabled(false);
-  OfferNext({&Command3[1]});
+  FillChoices(1);
+  OfferNext({&Command3[kFlip]});
   OfferChoices();
 }
 
@@ -87,8 +76,8 @@ void frmMain::TestModeFlip() {
 
 void frmMain::Command1_Click(int Index) {
   ProgramState& state = State();
-  if (Index == 1) state.TestPoints += kFullCredit;
-  if (Index == 2) state.TestPoints += kPartialCredit;
+  if (Index == kFullCredit) state.TestPoints += 1;
+  if (Index == kPartialCredit) state.TestPoints += 0.5;
   Frame1.SetEnabled(false);
   if (state.CurrentCard >= state.CardCount) {
     EndStandardTest();
@@ -104,7 +93,7 @@ void frmMain::EndStandardTest() {
       kOkOnly, u"Test Complete");
   NoteletCtl1.SetCardBanner(u"Complete: You scored " + PointsText(State().TestPoints) +
                             u" points out of a possible " + DecimalText(State().CardCount));
-  OfferNext({&Command3[1]});
+  OfferNext({&Command3[kFlip]});
 }
 
 void frmMain::NextStandardTestCard() {
@@ -113,35 +102,26 @@ void frmMain::NextStandardTestCard() {
   SetFlipCaption(u"&Show Back");
   ShowCardText(State().CurrentCard, kCardText);
   ShowCardNumber();
-  OfferNext({&Command3[1]});
-}
-
-Text frmMain::ChosenKey(int Index) const {
-  if (Index == 2) return u"C";
-  if (Index == 3) return u"D";
-  const Text& cardType = State().Cell(State().CurrentCard, kCardType);
-  if (cardType == u"M") return Index == 0 ? u"A" : u"B";
-  if (cardType == u"T") return Index == 0 ? u"T" : u"F";
-  return {};
+  OfferNext({&Command3[kFlip]});
 }
 
 void frmMain::Option1_Click(int Index) {
   ProgramState& state = State();
   if (state.CardMode != kTestMode) return;
   const TextView key = Trimmed(state.Cell(state.CurrentCard, kAnswer));
-  const bool right = ChosenKey(Index) == key;
+  const bool right = KeyOfChoice(Index, state.Cell(state.CurrentCard, kCardType)) == key;
   if (state.CardCount > 0) {
     NoteletCtl1.SetCardBanner(right ? u"CORRECT" : u"WRONG");
     Frame2.SetEnabled(false);
     if (right) {
-      state.TestPoints += kFullCredit;
+      state.TestPoints += 1;
     } else {
       Option1[AnswerIndex(key)].SetForeColor(kRightChoiceBlue);
     }
   }
-  Command3[0].SetEnabled(true);
-  if (state.CurrentCard == state.CardCount) Command3[0].SetCaption(u"Show Score");
-  OfferNext({&Command3[0]});
+  Command3[kNextOrScore].SetEnabled(true);
+  if (state.CurrentCard == state.CardCount) Command3[kNextOrScore].SetCaption(u"Show Score");
+  OfferNext({&Command3[kNextOrScore]});
 }
 
 void frmMain::NextQuestionOrScore() {
@@ -155,7 +135,7 @@ void frmMain::NextQuestionOrScore() {
 
 void frmMain::NextQuestion() {
   ++State().CurrentCard;
-  Command3[0].SetEnabled(false);
+  Command3[kNextOrScore].SetEnabled(false);
   ShowCardText(State().CurrentCard, kCardText);
   ShowCardNumber();
   FillChoices(State().CurrentCard);
@@ -169,7 +149,7 @@ void frmMain::ShowPercentage() {
   const Text score = WholeNumberText(State().TestPoints / State().CardCount * 100);
   App().machine.messages.Show(u" Your score is " + score + u"% please return to STUDY mode.",
                               kOkOnly, u"Test Complete");
-  Command3[0].SetEnabled(false);
+  Command3[kNextOrScore].SetEnabled(false);
   NoteletCtl1.SetCardBanner(u"SCORE: " + score + u"% ... RETURN TO STUDY MODE");
   OfferNext({&NoteletCtl1});  // to be read
 }
