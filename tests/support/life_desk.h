@@ -9,6 +9,15 @@ namespace tessara::test {
 
 using Boxes = std::vector<FakeMessages::Shown>;
 
+/// What tells the states of the deck window apart.
+struct DeckFlags {
+  Text path;
+  bool changed = false;
+  bool offered = false;
+  bool onFile = false;
+  friend bool operator==(const DeckFlags&, const DeckFlags&) = default;
+};
+
 /// A desk for the life of a deck: a folder /decks, dialogs answered in short, boxes compared.
 struct LifeDesk : DeckDesk {
   LifeDesk() { fakes.files.folders.insert(u"/decks"); }
@@ -40,6 +49,34 @@ struct LifeDesk : DeckDesk {
     state.CommandLineFile = path;
     deck.Loaded();
     state.DeckFromCommandLine = false;
+  }
+
+  [[nodiscard]] DeckFlags FlagsNow() const {
+    return {state.DeckFilePath, state.DeckChanged, state.SaveOffered, state.DeckOnFile};
+  }
+
+  // The commands of the deck window.
+  void Clear() {
+    Run([this] { deck->mnuNCD_Click(); });
+  }
+  void Save() {
+    Run([this] { deck->mnuSave_Click(); });
+  }
+  void SaveAs(const Text& path) {
+    Choose(path);
+    Run([this] { deck->mnuSaveAs_Click(); });
+  }
+  void CheckSave() {
+    Run([this] { deck->ChkSave(); });
+  }
+  void Exit() {
+    Run([this] { deck->mnuExit_Click(); });
+  }
+  void Close() { deck->Command3[DeckWindow::kCloseDeck].Press(); }
+  /// Deletes the card on show.
+  void DeleteCard() {
+    Answer(MessageAnswer::kYes);
+    Run([this] { deck->mnuDelete_Click(); });
   }
 
   /// What the user does in the next file dialogs and questions.

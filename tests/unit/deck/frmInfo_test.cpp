@@ -25,8 +25,8 @@ struct InfoDesk : LifeDesk {
     TextBox& edited = info->Text1[box];
     edited.UserEdit({0, edited.TextOf().size(), text});
   }
-  void Close() { info->Command1[0].Press(); }
-  void Save() { info->Command1[1].Press(); }
+  void CloseInfo() { info->Command1[0].Press(); }
+  void SaveInfo() { info->Command1[1].Press(); }
 };
 
 }  // namespace
@@ -110,7 +110,7 @@ TEST_CASE("the deck window takes no input while the information window is open")
   desk.OpenInfo();
   CHECK_FALSE(desk.deck->Enabled());
   CHECK(desk.windows.ActiveForm() == &desk.info.Loaded());
-  desk.Close();
+  desk.CloseInfo();
   CHECK(desk.deck->Enabled());
   CHECK_FALSE(desk.info.IsLoaded());
   CHECK(desk.TakeBoxes().empty());
@@ -134,7 +134,7 @@ TEST_CASE("saving the information fills row 0 and the strings, and leaves the de
   desk.Type(0, u"Capitals");
   desk.Type(1, u"Me");
   desk.Type(2, u"All\r\nof them");
-  desk.Save();
+  desk.SaveInfo();
   CHECK_FALSE(desk.info->Command1[1].Enabled());
   CHECK(desk.state.DeckChanged);
   const TextView row[] = {u"",          u"I",        u"",   u"0", u" 2/3/1999",
@@ -156,11 +156,11 @@ TEST_CASE("closing with edits asks; Yes stays, No drops them and leaves the deck
   desk.OpenInfo();
   desk.Type(0, u"Capitals");
   desk.Answer(MessageAnswer::kYes);
-  desk.Close();
+  desk.CloseInfo();
   CHECK(desk.info.IsLoaded());
   CHECK(desk.info->Text1[0].TextOf() == u"Capitals");
   desk.Answer(MessageAnswer::kNo);
-  desk.Close();
+  desk.CloseInfo();
   CHECK_FALSE(desk.info.IsLoaded());
   CHECK(desk.TakeBoxes() == Boxes{kReturnBox, kReturnBox});
   CHECK(desk.state.DeckChanged);
@@ -183,9 +183,9 @@ TEST_CASE("a box that was emptied is stored empty and shows its default the next
   desk.state.DeckTitle = u"Capitals";
   desk.OpenInfo();
   desk.Type(0, u"");
-  desk.Save();
+  desk.SaveInfo();
   CHECK(desk.state.Cell(kInfoRow, kInfoTitle).empty());
-  desk.Close();
+  desk.CloseInfo();
   desk.OpenInfo();
   CHECK(desk.info->Text1[0].TextOf() == u"Enter Title Here");
 }
@@ -196,7 +196,7 @@ TEST_CASE("each opening and saving of the window adds a blank") {
     desk.OpenInfo();
     CHECK(desk.info->Text1[0].TextOf() == title);
     CollectDeckInfo(desk.state, desk.info.Loaded());
-    desk.Close();
+    desk.CloseInfo();
   }
 }
 
@@ -218,7 +218,7 @@ TEST_CASE("a click on the window closes the About box") {
 TEST_CASE("the window comes on screen when a save loads it") {
   InfoDesk desk;
   desk.Choose(u"/decks/a.tsr");
-  desk.Run([&] { desk.deck->mnuSave_Click(); });
+  desk.Save();
   CHECK(desk.info.IsLoaded());
   CHECK(desk.info->Visible());
   CHECK(desk.windows.ActiveForm() == &desk.info.Loaded());

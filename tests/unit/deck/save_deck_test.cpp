@@ -11,7 +11,7 @@ const Text kPath = u"/decks/a.tsr";
 
 using Kept = std::vector<std::pair<Text, std::string>>;
 
-void Save(LifeDesk& desk, const Text& path) {
+void SaveTo(LifeDesk& desk, const Text& path) {
   desk.state.DeckFilePath = path;
   desk.Run([&] { desk.deck->SaveTessaraToFile(path); });
 }
@@ -22,7 +22,7 @@ TEST_CASE("a save writes the deck with the default information and says so") {
   for (const int cards : {1, 10, 200}) {
     LifeDesk desk;
     desk.BuildDeck(cards);
-    Save(desk, kPath);
+    SaveTo(desk, kPath);
     CHECK(desk.File(kPath) == DeckBytes(cards));
     CHECK(desk.File(kPath).size() == static_cast<std::size_t>(cards + 2) * 1192);
     CHECK(desk.TakeBoxes() == Boxes{SavedBox(kPath)});
@@ -36,7 +36,7 @@ TEST_CASE("a save leaves the flags to its callers") {
     LifeDesk desk;
     desk.BuildDeck(1);
     desk.state.DeckChanged = desk.state.DeckOnFile = desk.state.SaveOffered = flag;
-    Save(desk, kPath);
+    SaveTo(desk, kPath);
     CHECK(desk.state.DeckChanged == flag);
     CHECK(desk.state.DeckOnFile == flag);
     CHECK(desk.state.SaveOffered == flag);
@@ -61,7 +61,7 @@ TEST_CASE(
   desk.state.DeckOnFile = true;
   desk.state.DeckTitle = u"title";
   desk.AddTextCard(u"", u"back");
-  Save(desk, kPath);
+  SaveTo(desk, kPath);
   CHECK(desk.TakeBoxes() == Boxes{kEmptyDeckBox});
   CHECK(desk.File(kPath) == "old");
   CHECK(desk.state.DeckTitle.empty());
@@ -77,7 +77,7 @@ TEST_CASE("a save without a path asks for one, does not use it, and reports no n
     LifeDesk desk;
     desk.BuildDeck(1);
     desk.Choose(Text(chosen));
-    Save(desk, u"");
+    SaveTo(desk, u"");
     REQUIRE(desk.fakes.dialogs.fileRequests.size() == 1);
     CHECK(desk.fakes.dialogs.fileRequests[0].mode == FileDialogMode::kSave);
     CHECK(desk.fakes.dialogs.fileRequests[0].filter == u"Study Cards|*.tsr");
@@ -93,7 +93,7 @@ TEST_CASE("a deck that is on file is deleted before it is written") {
   desk.BuildDeck(3);
   desk.state.DeckOnFile = true;
   desk.fakes.files.Put(kPath, DeckBytes(10));
-  Save(desk, kPath);
+  SaveTo(desk, kPath);
   CHECK(desk.File(kPath) == DeckBytes(3));
 }
 
@@ -101,7 +101,7 @@ TEST_CASE("a deck that is not on file is written over the old one, whose end sta
   LifeDesk desk;
   desk.BuildDeck(3);
   desk.fakes.files.Put(kPath, DeckBytes(10));
-  Save(desk, kPath);
+  SaveTo(desk, kPath);
   const std::string expected = DeckBytes(3);
   CHECK(desk.File(kPath) == expected + DeckBytes(10).substr(expected.size()));
 }
@@ -110,7 +110,7 @@ TEST_CASE("a missing file does not stop a save that deletes it first") {
   LifeDesk desk;
   desk.BuildDeck(1);
   desk.state.DeckOnFile = true;
-  Save(desk, kPath);
+  SaveTo(desk, kPath);
   CHECK(desk.File(kPath) == DeckBytes(1));
 }
 
@@ -123,7 +123,7 @@ TEST_CASE("the information on screen goes into the file, whatever deck it was lo
   desk.info.Loaded();
   desk.OpenFile(u"/decks/second.tsr");
   CHECK(desk.state.DeckTitle == u"second title");
-  desk.Run([&] { desk.deck->mnuSave_Click(); });
+  desk.Save();
   const InfoTexts blankBefore = {u" 1/5/2026", u" Standard", u" first title", u" Your Name Here",
                                  u" Deck Description Here"};
   CHECK(desk.File(u"/decks/second.tsr") == DeckBytes(2, blankBefore));
@@ -134,7 +134,7 @@ TEST_CASE("a save keeps the date that the file had") {
   desk.PutDeck(kPath, 1, {.date = u"7/8/1999"});
   desk.NewDeck();
   desk.OpenFile(kPath);
-  desk.Run([&] { desk.deck->mnuSave_Click(); });
+  desk.Save();
   CHECK(desk.File(kPath).substr(447, 10) == " 7/8/1999 ");
 }
 
@@ -146,7 +146,7 @@ TEST_CASE("a file is kept as it was before a save deletes it or writes over it")
     desk.BuildDeck(3);
     desk.state.DeckOnFile = onFile;
     desk.fakes.files.Put(kPath, DeckBytes(10));
-    Save(desk, kPath);
+    SaveTo(desk, kPath);
     CHECK(desk.fakes.copies.kept == Kept{{kPath, DeckBytes(10)}});
   }
 }
@@ -156,14 +156,14 @@ TEST_CASE("a save that writes no file keeps none") {
   desk.NewDeck();
   desk.fakes.files.Put(kPath, DeckBytes(10));
   desk.state.DeckOnFile = true;
-  Save(desk, kPath);
+  SaveTo(desk, kPath);
   CHECK(desk.fakes.copies.kept.empty());
 }
 
 TEST_CASE("a save to a new file keeps none") {
   LifeDesk desk;
   desk.BuildDeck(3);
-  Save(desk, kPath);
+  SaveTo(desk, kPath);
   CHECK(desk.fakes.copies.kept.empty());
 }
 
@@ -183,8 +183,7 @@ TEST_CASE("the file that a save under another name deletes is kept") {
   desk.fakes.files.Put(u"/decks/letter.txt", "a letter");
   desk.NewDeck();
   desk.OpenFile(u"/decks/mine.tsr");
-  desk.Choose(u"/decks/letter.txt");
-  desk.Run([&] { desk.deck->mnuSaveAs_Click(); });
+  desk.SaveAs(u"/decks/letter.txt");
   CHECK(desk.fakes.copies.kept == Kept{{u"/decks/letter.txt", "a letter"}});
 }
 
@@ -229,7 +228,7 @@ TEST_CASE("whichever operation of a save fails, the others are done and success 
     desk.state.DeckOnFile = true;
     desk.fakes.files.Put(kPath, DeckBytes(9));
     const OneFault fault(desk, failing);
-    Save(desk, kPath);
+    SaveTo(desk, kPath);
     CHECK(desk.TakeBoxes() == Boxes{SavedBox(kPath)});
     CHECK(desk.deck->Caption() == u"a  [STUDY]");
     CHECK(desk.File(kPath) == ExpectedAfterFault(failing));
@@ -248,7 +247,7 @@ TEST_CASE("every number that an operation can fail with is skipped") {
     desk.fakes.files.fault = [number](MemoryFiles::Operation, const Text&) {
       return std::optional(number);
     };
-    Save(desk, kPath);
+    SaveTo(desk, kPath);
     CHECK(desk.TakeBoxes() == Boxes{SavedBox(kPath)});
     CHECK_FALSE(desk.fakes.files.Has(kPath));
   }
@@ -257,7 +256,7 @@ TEST_CASE("every number that an operation can fail with is skipped") {
 TEST_CASE("a save into a folder that is missing reports success all the same") {
   LifeDesk desk;
   desk.BuildDeck(1);
-  Save(desk, u"/nowhere/a.tsr");
+  SaveTo(desk, u"/nowhere/a.tsr");
   CHECK(desk.TakeBoxes() == Boxes{SavedBox(u"/nowhere/a.tsr")});
   CHECK_FALSE(desk.fakes.files.Has(u"/nowhere/a.tsr"));
 }
@@ -278,7 +277,7 @@ TEST_CASE("a save to a name that is or becomes a folder's reports success, and t
     } else {
       files.folders.insert(kPath);
     }
-    Save(desk, kPath);
+    SaveTo(desk, kPath);
     CHECK(desk.TakeBoxes() == Boxes{SavedBox(kPath)});
     CHECK_FALSE(files.Has(kPath));
     CHECK(files.folders.contains(kPath));
@@ -287,7 +286,7 @@ TEST_CASE("a save to a name that is or becomes a folder's reports success, and t
     CHECK_FALSE(desk.fileNumber.IsOpen());
     files.fault = nullptr;
     files.folders.erase(kPath);
-    Save(desk, kPath);
+    SaveTo(desk, kPath);
     CHECK(desk.File(kPath) == DeckBytes(2));
   }
 }
@@ -302,7 +301,7 @@ TEST_CASE("a file that goes away while it is kept and deleted is written anew") 
     if (operation == MemoryFiles::Operation::kDelete) files.files.erase(path);
     return std::optional<ErrorNumber>();
   };
-  Save(desk, kPath);
+  SaveTo(desk, kPath);
   CHECK(desk.TakeBoxes() == Boxes{SavedBox(kPath)});
   CHECK(desk.File(kPath) == DeckBytes(2));
 }
@@ -312,12 +311,12 @@ TEST_CASE("a file that an import left open is closed by the next save and not wr
   desk.BuildDeck(1);
   desk.fakes.files.Put(u"/decks/import.txt", "EXT");
   desk.fileNumber.OpenInput(u"/decks/import.txt");
-  Save(desk, kPath);
+  SaveTo(desk, kPath);
   CHECK(desk.TakeBoxes() == Boxes{SavedBox(kPath)});
   CHECK_FALSE(desk.fakes.files.Has(kPath));
   CHECK(desk.File(u"/decks/import.txt") == "EXT");
   CHECK_FALSE(desk.fileNumber.IsOpen());
-  Save(desk, kPath);
+  SaveTo(desk, kPath);
   CHECK(desk.File(kPath) == DeckBytes(1));
 }
 

@@ -13,8 +13,8 @@
 #include "platform/utf8.h"
 #include "tests/support/error_of.h"
 #include "tests/support/limited_process.h"
-#include "tests/support/scratch_folder.h"
 #include "tests/support/sample_deck.h"
+#include "tests/support/scratch_folder.h"
 
 namespace tessara::test {
 
