@@ -26,8 +26,9 @@ std::string EscapedForXml(const std::string& text) {
   return escaped;
 }
 
-/// What the rules reserve: an argument of Exec with one of these stands in quotes.
-constexpr std::string_view kReserved = " \t\n\"'\\<>~|&;$*?#()`";
+/// An argument of Exec with one of these stands in quotes: what the rules reserve, and any break
+/// of the line.
+constexpr std::string_view kReserved = " \t\n\r\"'\\<>~|&;$*?#()`";
 
 }  // namespace
 
@@ -49,7 +50,8 @@ std::string MimePackage(const DocumentType& type) {
 std::string QuotedForExec(const std::string& path) {
   // Without need there are no quotes: some of those who open files do not read them.
   const std::string quote = path.find_first_of(kReserved) == std::string::npos ? "" : "\"";
-  // Two layers: the entry's value doubles a backslash, the quoted argument escapes four characters.
+  // Two layers: the entry's value doubles a backslash and holds no break of the line, the quoted
+  // argument escapes four characters.
   std::string quoted = quote;
   for (const char c : path) {
     switch (c) {
@@ -64,6 +66,12 @@ std::string QuotedForExec(const std::string& path) {
         break;
       case '%':
         quoted += "%%";
+        break;
+      case '\n':
+        quoted += R"(\n)";
+        break;
+      case '\r':
+        quoted += R"(\r)";
         break;
       default:
         quoted += c;

@@ -19,7 +19,7 @@ struct DocumentType {
 /// A package of the shared MIME-info database (freedesktop.org, version 0.21).
 [[nodiscard]] std::string MimePackage(const DocumentType& type);
 
-/// A desktop entry (freedesktop.org) that opens one file: `Exec=... %f`.
+/// A desktop entry (freedesktop.org, version 1.0) that opens one file: `Exec=... %f`.
 [[nodiscard]] std::string DesktopEntry(const DocumentType& type);
 
 /// The path as an argument of Exec: in quotes where the rules want them, and escaped.

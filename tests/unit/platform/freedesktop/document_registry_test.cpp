@@ -15,12 +15,19 @@ const DocumentRegistry::Tools kNoTools = [](const std::filesystem::path&) {};
 }  // namespace
 
 TEST_CASE("a path in a desktop entry is quoted by its rules") {
-  CHECK(QuotedForExec("/opt/tessara/tessara") == "/opt/tessara/tessara");
-  CHECK(QuotedForExec("/my decks/t") == R"("/my decks/t")");
-  CHECK(QuotedForExec("/100%/t") == "/100%%/t");
-  CHECK(QuotedForExec("/a$b/t") == R"("/a\\$b/t")");
-  CHECK(QuotedForExec("/a\"b`c/t") == R"("/a\\"b\\`c/t")");
-  CHECK(QuotedForExec("/a\\b/t") == R"("/a\\\\b/t")");
+  struct Case {
+    const char* path;
+    const char* quoted;
+  };
+  for (const Case& c : {Case{"/opt/tessara/tessara", "/opt/tessara/tessara"},
+                        {"/my decks/t", R"("/my decks/t")"},
+                        {"/100%/t", "/100%%/t"},
+                        {"/a$b/t", R"("/a\\$b/t")"},
+                        {"/a\"b`c/t", R"("/a\\"b\\`c/t")"},
+                        {"/a\\b/t", R"("/a\\\\b/t")"},
+                        {"/a\nTerminal=true\rb/t", R"("/a\nTerminal=true\rb/t")"}}) {
+    CHECK(QuotedForExec(c.path) == c.quoted);
+  }
 }
 
 TEST_CASE("the desktop entry opens one file and names the deck type") {
