@@ -5,6 +5,7 @@
 #include <random>
 
 #include "tests/support/error_of.h"
+#include "tests/support/every_byte.h"
 #include "tests/support/sample_deck.h"
 
 namespace tessara::test {
@@ -31,8 +32,7 @@ ProgramState SampleDeck(int cards) {
 }  // namespace
 
 TEST_CASE("all 256 bytes of a text survive a load and a save") {
-  std::string every;
-  for (int byte = 0; byte < 256; ++byte) every += static_cast<char>(byte);
+  const std::string every = EveryByte();
   ProgramState state = SampleDeck(1);
   state.CardGrid.Set(1, kCardText, u"|" + kWestern.Decode(every) + u"|");
   DeckDisk disk;

@@ -3,17 +3,9 @@
 #include <doctest/doctest.h>
 #include <set>
 
+#include "tests/support/every_byte.h"
+
 namespace tessara::test {
-
-namespace {
-
-std::string EveryByte() {
-  std::string bytes;
-  for (int byte = 0; byte < 256; ++byte) bytes += static_cast<char>(byte);
-  return bytes;
-}
-
-}  // namespace
 
 TEST_CASE("every byte comes back as it was, whatever the code page leaves unassigned") {
   CodePage::UpperHalf greek{};

@@ -1,48 +1,16 @@
 #include "platform/posix/code_page_of_locale.h"
 
-#include <cstdlib>
 #include <doctest/doctest.h>
+#include <optional>
 #include <set>
+#include <string>
+
+#include "tests/support/environment_variable.h"
+#include "tests/support/every_byte.h"
 
 namespace tessara::test {
 
 namespace {
-
-/// Sets the three variables that tell the locale, and puts them back.
-class LocaleVariables {
- public:
-  LocaleVariables(const char* all, const char* characters, const char* language)
-      : all_("LC_ALL", all), characters_("LC_CTYPE", characters), language_("LANG", language) {}
-
- private:
-  class Variable {
-   public:
-    Variable(const char* name, const char* value) : name_(name) {
-      const char* const before = std::getenv(name);
-      wasSet_ = before != nullptr;
-      before_ = wasSet_ ? before : "";
-      Set(value);
-    }
-    Variable(const Variable&) = delete;
-    Variable& operator=(const Variable&) = delete;
-    ~Variable() { Set(wasSet_ ? before_.c_str() : nullptr); }
-
-   private:
-    void Set(const char* value) const {
-      if (value == nullptr) {
-        unsetenv(name_);
-      } else {
-        setenv(name_, value, 1);
-      }
-    }
-    const char* name_;
-    bool wasSet_ = false;
-    std::string before_;
-  };
-  Variable all_;
-  Variable characters_;
-  Variable language_;
-};
 
 const char* const kNames[] = {"WINDOWS-1250", "WINDOWS-1251", "WINDOWS-1252", "WINDOWS-1253",
                               "WINDOWS-1254", "WINDOWS-1255", "WINDOWS-1256", "WINDOWS-1257",
@@ -87,26 +55,27 @@ TEST_CASE("the code page follows the language of the locale") {
 
 TEST_CASE("the first variable that is set tells the locale") {
   struct Case {
-    const char* all;
-    const char* characters;
-    const char* language;
+    std::optional<std::string> all;
+    std::optional<std::string> characters;
+    std::optional<std::string> language;
     char16_t held;
   };
   const Case cases[] = {
       {"ru_RU.UTF-8", "el_GR.UTF-8", "pl_PL.UTF-8", u'\u0436'},
-      {nullptr, "el_GR.UTF-8", "pl_PL.UTF-8", u'\u03B1'},
+      {std::nullopt, "el_GR.UTF-8", "pl_PL.UTF-8", u'\u03B1'},
       {"", "", "pl_PL.UTF-8", u'\u0142'},
-      {nullptr, nullptr, nullptr, u'\u00E9'},
+      {std::nullopt, std::nullopt, std::nullopt, u'\u00E9'},
   };
   for (const Case& c : cases) {
-    const LocaleVariables variables(c.all, c.characters, c.language);
+    const EnvironmentVariable all("LC_ALL", c.all);
+    const EnvironmentVariable characters("LC_CTYPE", c.characters);
+    const EnvironmentVariable language("LANG", c.language);
     CHECK(CodePageOfLocale().Holds(c.held));
   }
 }
 
 TEST_CASE("every byte of every code page comes back as it was") {
-  std::string every;
-  for (int byte = 0; byte < 256; ++byte) every += static_cast<char>(byte);
+  const std::string every = EveryByte();
   for (const char* const name : kNames) {
     CAPTURE(name);
     const CodePage codePage = CodePageNamed(name);
@@ -125,8 +94,7 @@ TEST_CASE("the system's tables have the letters of their languages") {
 }
 
 TEST_CASE("the system's western table is the built-in one") {
-  std::string every;
-  for (int byte = 0; byte < 256; ++byte) every += static_cast<char>(byte);
+  const std::string every = EveryByte();
   CHECK(CodePageNamed("WINDOWS-1252").Decode(every) == CodePage::Western().Decode(every));
 }
 

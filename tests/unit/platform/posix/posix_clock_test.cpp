@@ -1,10 +1,11 @@
 #include "platform/posix/posix_clock.h"
 
 #include <cstdio>
-#include <cstdlib>
 #include <ctime>
 #include <doctest/doctest.h>
 #include <string>
+
+#include "tests/support/environment_variable.h"
 
 namespace tessara::test {
 
@@ -28,7 +29,7 @@ std::string TextOf(const Date& date) {
 
 TEST_CASE("today is the day of the user's own time zone") {
   for (const char* zone : {"UTC", "UTC+12", "UTC-12"}) {
-    setenv("TZ", zone, 1);
+    const EnvironmentVariable timeZone("TZ", zone);
     tzset();
     std::string before;
     std::string today;
@@ -38,7 +39,6 @@ TEST_CASE("today is the day of the user's own time zone") {
     } while (before != DateText());
     CHECK(today == before);
   }
-  unsetenv("TZ");
   tzset();
 }
 

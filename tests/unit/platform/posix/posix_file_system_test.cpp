@@ -13,6 +13,7 @@
 #include "platform/utf8.h"
 #include "tests/support/error_of.h"
 #include "tests/support/limited_process.h"
+#include "tests/support/open_files.h"
 #include "tests/support/sample_deck.h"
 #include "tests/support/scratch_folder.h"
 
@@ -160,19 +161,15 @@ TEST_CASE("a huge file is read at the places asked for") {
 
 TEST_CASE("an open file is not handed on to programs that are started") {
   const ScratchFolder folder;
-  const int lowest = dup(0);
-  close(lowest);
+  const int lowest = LowestFreeDescriptor();
   const auto file = PosixFileSystem().Open(folder.TextPath(u"a"), OpenMode::kReadAndWrite);
   CHECK((fcntl(lowest, F_GETFD) & FD_CLOEXEC) != 0);
 }
 
 TEST_CASE("a file that was refused is not left open") {
-  const int lowest = dup(0);
-  close(lowest);
+  const int lowest = LowestFreeDescriptor();
   CHECK(ErrorOf([] { (void)PosixFileSystem().Open(u"/dev/null", OpenMode::kRead); }) == 75);
-  const int next = dup(0);
-  close(next);
-  CHECK(next == lowest);
+  CHECK(LowestFreeDescriptor() == lowest);
 }
 
 }  // namespace tessara::test

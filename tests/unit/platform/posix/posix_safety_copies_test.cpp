@@ -8,6 +8,7 @@
 #include "platform/posix/copy_name.h"
 #include "platform/utf8.h"
 #include "tests/support/disk_desk.h"
+#include "tests/support/open_files.h"
 
 namespace tessara::test {
 
@@ -201,13 +202,10 @@ TEST_CASE("a copy that can't be kept is silent") {
 TEST_CASE("nothing stays open behind a copy") {
   CopyDesk desk;
   desk.folder.Write("verbs.tsr", "deck");
-  const int lowest = dup(0);
-  close(lowest);
+  const int lowest = LowestFreeDescriptor();
   desk.Keep(u"verbs.tsr");
   desk.Keep(u"missing");
-  const int next = dup(0);
-  close(next);
-  CHECK(next == lowest);
+  CHECK(LowestFreeDescriptor() == lowest);
 }
 
 }  // namespace tessara::test

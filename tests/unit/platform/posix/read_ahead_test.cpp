@@ -6,10 +6,11 @@
 
 #include "platform/run_time_error.h"
 
-using namespace tessara;
+namespace tessara::test {
 
 namespace {
 
+/// A file that counts its reads, the first `fails` of which fail.
 struct CountedFile : File {
   std::string bytes;
   int reads = 0;
@@ -66,8 +67,9 @@ TEST_CASE("a file read ahead gives the bytes of the file, whatever the pieces") 
 
 TEST_CASE("small pieces one after the other take few reads of the file") {
   Desk desk(238400);
-  for (std::uint64_t record = 0; record < 200; ++record)
+  for (std::uint64_t record = 0; record < 200; ++record) {
     CHECK(desk.Read(record * 1192, 1192).size() == 1192);
+  }
   CHECK(desk.counted->reads <= 5);
 }
 
@@ -94,3 +96,5 @@ TEST_CASE("what is written is read back") {
   desk.file.WriteAt(0, std::string("xy"));
   CHECK(desk.Read(0, 2) == "xy");
 }
+
+}  // namespace tessara::test

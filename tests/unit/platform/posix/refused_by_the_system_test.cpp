@@ -6,6 +6,7 @@
 #include "platform/freedesktop/document_registry.h"
 #include "tests/support/disk_desk.h"
 #include "tests/support/limited_process.h"
+#include "tests/support/open_files.h"
 #include "tests/support/program_desk.h"
 
 namespace tessara::test {
@@ -13,12 +14,6 @@ namespace tessara::test {
 namespace {
 
 constexpr int kCards = 3;
-
-int LowestFreeDescriptor() {
-  const int lowest = dup(0);
-  close(lowest);
-  return lowest;
-}
 
 void DeclareDocuments(const ScratchFolder& folder) {
   DocumentRegistry registry({folder / "data", folder / "program", "tessara"},
