@@ -38,6 +38,7 @@ class frmInfo : public Form {
 
   AppContext& app_;
   Window<DeckWindow> deck_;
+  /// From Form_Load to Form_Activate: changes of the load itself are no edits.
   bool InfoLoading = false;
 };
 

@@ -73,7 +73,6 @@ void Form::EnsureLoaded() {
   if (loaded_) return;
   loaded_ = true;
   system_.Add(*this);
-  system_.Shown().FormLoading(*this);
   system_.Run([this] { Form_Load(); });
   if (loaded_ && ShowsOnLoad()) Show();
 }

@@ -9,6 +9,7 @@ inline constexpr int kTwipsPerPixel = 15;
 inline constexpr int kBorderAcross = 120;
 inline constexpr int kBorderDown = 390;
 
+/// A place and a size in twips.
 struct Bounds {
   int left = 0;
   int top = 0;

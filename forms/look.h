@@ -29,6 +29,7 @@ constexpr Color FixedColor(std::uint8_t red, std::uint8_t green, std::uint8_t bl
   return {Color::Role::kFixed, red, green, blue};
 }
 
+/// A font; what it leaves open the desktop decides.
 struct Font {
   Text family;        ///< empty: the desktop's own
   double points = 0;  ///< 0: the desktop's own size; else relative to the classic 8.25

@@ -8,13 +8,12 @@ namespace tessara {
 
 enum class FormAspect { kCaption, kBounds, kVisible, kEnabled, kState, kPicture };
 
-/// Whoever shows forms. It follows what the forms tell, asks nothing of the user's behalf, and
-/// reports what the user did through the User... operations of forms, controls and menus.
+/// Whoever shows forms. It follows what the loaded forms tell, decides nothing on the user's
+/// behalf, and reports what the user did through the User... operations of forms and controls and
+/// the Press of buttons and menu entries.
 class Renderer {
  public:
   virtual ~Renderer() = default;
-  /// The form has its controls and menus; Form_Load has not run yet.
-  virtual void FormLoading(Form& form) = 0;
   virtual void FormUnloaded(Form& form) = 0;
   virtual void FormChanged(Form& form, FormAspect aspect) = 0;
   virtual void ControlChanged(Control& control, Aspect aspect) = 0;

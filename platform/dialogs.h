@@ -11,11 +11,12 @@ enum class FileDialogMode : int { kOpen = 0, kSave = 1 };
 /// Flags of a file dialog. There is no flag for a question before overwriting: none is asked.
 enum FileDialogFlags : int { kHideReadOnly = 4, kFileMustExist = 4096 };
 
+/// What a file dialog is to ask for.
 struct FileDialogRequest {
   FileDialogMode mode = FileDialogMode::kOpen;
   /// Pairs of a description and a pattern: "Study Cards|*.tsr".
   Text filter;
-  int filterIndex = 1;
+  int filterIndex = 1;  ///< which pair is chosen at first, from 1
   int flags = 0;
   Text initialFolder;
 };
@@ -30,9 +31,10 @@ struct PrintDestination {
 
 struct PrinterChoice {
   PrintDestination destination;
-  int copies = 1;
+  int copies = 1;  ///< 1 or more
 };
 
+/// The desktop's dialogs for a file, a text and a printer.
 class Dialogs {
  public:
   virtual ~Dialogs() = default;

@@ -30,8 +30,8 @@ class File {
 class FileSystem {
  public:
   virtual ~FileSystem() = default;
-  /// Raises 53 (not found), 70 (permission), 75 (a folder, a pipe without a peer, an empty path),
-  /// 76 (no such folder). Never waits for a peer.
+  /// Raises 53 (not found), 67 (too many open files), 70 (permission), 75 (no regular file, an
+  /// empty path), 76 (no such folder). Never waits for a pipe's peer.
   virtual std::unique_ptr<File> Open(const Text& path, OpenMode mode) = 0;
   /// Raises 53 where there is none, 70, 75.
   virtual void Delete(const Text& path) = 0;

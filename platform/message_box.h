@@ -22,6 +22,7 @@ enum class MessageAnswer : int { kOk = 1, kCancel = 2, kYes = 6, kNo = 7 };
 /// The title that a message box without one of its own carries.
 inline constexpr TextView kProgramName = u"Tessara";
 
+/// The boxes in which the program tells the user something, or asks.
 class MessageBoxes {
  public:
   virtual ~MessageBoxes() = default;

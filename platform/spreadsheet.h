@@ -20,6 +20,7 @@ class Worksheet {
   virtual void PrintOut() = 0;
 };
 
+/// An open workbook.
 class Workbook {
  public:
   virtual ~Workbook() = default;

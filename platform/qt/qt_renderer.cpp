@@ -43,11 +43,6 @@ QtRenderer::~QtRenderer() {
   for (const auto& [form, window] : left) delete &window->Top();
 }
 
-void QtRenderer::FormLoading(Form& form) {
-  // Nothing is on screen before the form says so.
-  (void)form;
-}
-
 FormWindow* QtRenderer::WindowOf(const Form& form) const {
   const auto found = shown_.find(&form);
   return found == shown_.end() ? nullptr : found->second;

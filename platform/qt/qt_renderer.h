@@ -22,7 +22,6 @@ class QtRenderer : public Renderer {
   QtRenderer(const QtRenderer&) = delete;
   QtRenderer& operator=(const QtRenderer&) = delete;
 
-  void FormLoading(Form& form) override;
   void FormUnloaded(Form& form) override;
   void FormChanged(Form& form, FormAspect aspect) override;
   void ControlChanged(Control& control, Aspect aspect) override;

@@ -22,7 +22,6 @@ class HeadlessRenderer : public Renderer {
   /// What the user does while a modal window is up; unloads it where nothing is set.
   std::function<void(Form&)> whileModal;
 
-  void FormLoading(Form&) override {}
   void FormUnloaded(Form&) override {}
   void FormChanged(Form&, FormAspect) override {}
   void ControlChanged(Control&, Aspect) override {}
