@@ -5,6 +5,7 @@
 
 #include "deck/frmInfo.h"
 #include "forms/window.h"
+#include "tests/support/cards.h"
 #include "tests/support/test_desk.h"
 #include "viewer/frmMain.h"
 
@@ -27,24 +28,15 @@ struct DeckDesk : TestDesk {
     state.SmallCard3D = u"1";
   }
 
-  /// A text card in the row behind the last one.
+  /// Cards behind the last one.
   void AddTextCard(const Text& front, const Text& back) {
-    const int row = NewRow(u"E");
-    state.CardGrid.Set(row, kCardText, front);
-    state.CardGrid.Set(row, kBackText, back);
+    AddCard(state, {.text = front, .back = back});
   }
   void AddTrueFalse(const Text& question, const Text& key) {
-    const int row = NewRow(u"T");
-    state.CardGrid.Set(row, kCardText, question);
-    state.CardGrid.Set(row, kAnswer, key);
+    AddCard(state, {.type = u"T", .text = question, .key = key});
   }
   void AddChoice(const Text& question, const std::vector<Text>& choices, const Text& key) {
-    const int row = NewRow(u"M");
-    state.CardGrid.Set(row, kCardText, question);
-    for (std::size_t at = 0; at < choices.size(); ++at) {
-      state.CardGrid.Set(row, kChoiceA + static_cast<int>(at), choices[at]);
-    }
-    state.CardGrid.Set(row, kAnswer, key);
+    AddCard(state, {.type = u"M", .text = question, .choices = choices, .key = key});
   }
 
   /// Cards "front 1", "back 1" and on, on show in study mode.
@@ -80,15 +72,6 @@ struct DeckDesk : TestDesk {
     deck->UpdateMoveButtons();
     deck->AutoModeMenu();
     deck->AfterEditShow(kind);
-  }
-
- private:
-  int NewRow(const Text& type) {
-    const int row = ++state.CardCount;
-    state.CardGrid.Set(row, kCardType, type);
-    state.CardGrid.Set(row, kRowNumber, DecimalText(row));
-    state.CardPresent.Set(row, 1);
-    return row;
   }
 };
 

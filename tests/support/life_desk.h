@@ -29,10 +29,7 @@ struct LifeDesk : DeckDesk {
   void NewDeck() { deck->OpenStandardView(); }
   /// Adds a text card as a builder does.
   void BuildCard(const Text& front, const Text& back) {
-    AddTextCard(front, back);
-    state.CurrentCard = state.CardCount;
-    state.DeckChanged = true;
-    state.SaveOffered = true;
+    test::BuildCard(state, {.text = front, .back = back});
   }
   /// A new deck of text cards that has no file.
   void BuildDeck(int cards) {

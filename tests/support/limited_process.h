@@ -14,37 +14,38 @@ inline constexpr bool kOpenFilesCanBeLimited = false;
 inline constexpr bool kOpenFilesCanBeLimited = true;
 #endif
 
-/// Runs the action in a process of its own in which the system refuses what is over the limit:
-/// RLIMIT_FSIZE bytes of a file, RLIMIT_NOFILE open files. True where it came to its end.
-template <class Action>
-bool EndsWithLimit(int resource, rlim_t limit, const Action& action) {
+/// True where the condition holds in a process of its own.
+template <class Condition>
+bool HoldsInProcess(const Condition& condition) {
   const pid_t child = fork();
-  if (child == 0) {
-    // Too long a file is then an error of the write alone.
-    std::signal(SIGXFSZ, SIG_IGN);
-    const rlimit limits{limit, limit};
-    setrlimit(static_cast<__rlimit_resource>(resource), &limits);
-    action();
-    _exit(0);
-  }
+  if (child == 0) _exit(condition() ? 0 : 1);
   int status = 0;
   waitpid(child, &status, 0);
   return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
-/// Asks in a process of its own that may do no more than any user, even where the administrator
-/// runs the tests: is it so?
+/// Runs the action in a process in which the system refuses what is over the limit: RLIMIT_FSIZE
+/// bytes of a file, RLIMIT_NOFILE open files. True where it came to its end.
+template <class Action>
+bool EndsWithLimit(int resource, rlim_t limit, const Action& action) {
+  return HoldsInProcess([&] {
+    // Too long a file is then an error of the write alone.
+    std::signal(SIGXFSZ, SIG_IGN);
+    const rlimit limits{limit, limit};
+    setrlimit(static_cast<__rlimit_resource>(resource), &limits);
+    action();
+    return true;
+  });
+}
+
+/// Asks in a process that may do no more than any user, even where the administrator runs the
+/// tests: is it so?
 template <class Condition>
 bool HoldsForAnyUser(const Condition& condition) {
-  const pid_t child = fork();
-  if (child == 0) {
+  return HoldsInProcess([&] {
     constexpr uid_t kNobody = 65534;
-    const bool anyUser = geteuid() != 0 || setuid(kNobody) == 0;
-    _exit(anyUser && condition() ? 0 : 1);
-  }
-  int status = 0;
-  waitpid(child, &status, 0);
-  return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+    return (geteuid() != 0 || setuid(kNobody) == 0) && condition();
+  });
 }
 
 }  // namespace tessara::test

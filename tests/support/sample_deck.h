@@ -1,18 +1,10 @@
 #pragma once
 
 #include "deck/deck_file.h"
+#include "tests/support/cards.h"
 #include "tests/support/memory_files.h"
 
 namespace tessara::test {
-
-/// Puts a text card into the row, as a builder does.
-inline void PutCard(ProgramState& state, int row, const Text& front, const Text& back) {
-  state.CardGrid.Set(row, kCardType, u"E");
-  state.CardGrid.Set(row, kCardText, front);
-  state.CardGrid.Set(row, kRowNumber, DecimalText(row));
-  state.CardGrid.Set(row, kBackText, back);
-  state.CardPresent.Set(row, 1);
-}
 
 /// Cards "front 1", "back 1" and so on, behind an information row.
 inline void FillDeck(ProgramState& state, int cards) {
@@ -21,7 +13,8 @@ inline void FillDeck(ProgramState& state, int cards) {
   state.CardGrid.Set(kInfoRow, kInfoTitle, u"A title");
   state.CardPresent.Set(kInfoRow, 1);
   for (int row = 1; row <= cards; ++row) {
-    PutCard(state, row, u"front " + DecimalText(row), u"back " + DecimalText(row));
+    PutCard(state, row,
+            {.text = u"front " + DecimalText(row), .back = u"back " + DecimalText(row)});
   }
   state.CardCount = static_cast<std::int16_t>(cards);
 }

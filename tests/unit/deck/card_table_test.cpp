@@ -65,9 +65,9 @@ TEST_CASE("clearing all cards empties the present rows down to 200 and keeps the
 
 TEST_CASE("clearing all cards leaves rows alone whose flag is not 1") {
   ProgramState state;
-  PutCard(state, 1, u"absent", u"");
+  PutCard(state, 1, {.text = u"absent"});
   state.CardPresent.Set(1, 0);
-  PutCard(state, 2, u"odd", u"");
+  PutCard(state, 2, {.text = u"odd"});
   state.CardPresent.Set(2, -1);
   ClearAllCards(state);
   CHECK(state.Cell(1, kCardText) == u"absent");

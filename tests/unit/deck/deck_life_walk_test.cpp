@@ -203,7 +203,10 @@ class Walk {
     const DeckLifeModel::Card card = {AnyText(), model_.extended ? Text() : AnyText(),
                                       model_.extended};
     model_.Build(card);
-    desk_.BuildCard(card.question ? u"T" : u"E", card.front, card.back, card.question ? u"T" : u"");
+    BuildCard(desk_.state, {.type = card.question ? u"T" : u"E",
+                            .text = card.front,
+                            .back = card.back,
+                            .key = card.question ? u"T" : u""});
     return "build";
   }
 

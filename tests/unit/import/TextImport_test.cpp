@@ -367,7 +367,7 @@ TEST_CASE("a question or choice without end is kept up to the bound of an import
 
 TEST_CASE("an import does not empty the rows that it fills") {
   ImportDesk desk;
-  PutCard(desk.state, 1, u"front", u"back");
+  PutCard(desk.state, 1, {.text = u"front", .back = u"back"});
   desk.Extended(Lines({"1.Q", "=T"}));
   CHECK(desk.state.Cell(1, kBackText) == u"back");
 }
