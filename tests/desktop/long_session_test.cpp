@@ -8,6 +8,7 @@
 #include "platform/qt/help_loader.h"
 #include "platform/qt/print_module.h"
 #include "platform/qt/qt_renderer.h"
+#include "platform/utf8.h"
 #include "tests/desktop/event_loops.h"
 #include "tests/desktop/program_on_screen.h"
 #include "tests/support/memory_use.h"
