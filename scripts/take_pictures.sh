@@ -93,6 +93,19 @@ import -window root -crop "$place" +repage -strip "$pictures/frame.png"
 press Escape
 end_program
 
+mkdir "$HOME/Texts"
+cp "$root"/data/samples/*.txt "$HOME/Texts"
+open
+press alt+c
+menu $file Up Up Return
+shown '^Open'
+enter "$HOME/Texts"
+press Return
+enter capitals.txt
+take import
+press Escape
+end_program
+
 open "$capitals"
 frame=$window
 press F1
