@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
+#include <doctest/doctest.h>
 #include <iterator>
 #include <optional>
 #include <stdexcept>
