@@ -12,10 +12,10 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402  after the version is chosen
 
-SECONDS_TO_WAIT = 8
+SECONDS_TO_WAIT = 30
 SECONDS_BETWEEN_LOOKS = 0.01
-# A key that moves nothing is taken for done after this time.
-SECONDS_FOR_A_KEY = 1
+# A key that moves nothing in this time is taken for one without effect.
+SECONDS_FOR_A_KEY = 5
 
 SETTINGS = "[Settings]\nShowSplash=0\nFirstLoad=False\n"
 FOLDERS = ("XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME", "XDG_CACHE_HOME")
