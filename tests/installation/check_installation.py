@@ -38,6 +38,14 @@ def wait_for(what, look):
     return found
 
 
+def remove(folder):
+    """Until nothing is left: the desktop's tools, which a first start has started, may still write there."""
+    def removed():
+        shutil.rmtree(folder, ignore_errors=True)
+        return not folder.exists()
+    wait_for("The end of the scratch folder", removed)
+
+
 def titles_on_screen():
     found = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^Tessara", "getwindowname", "%@"],
                            stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
@@ -56,7 +64,7 @@ class Scratch(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         cls.folder = pathlib.Path(tempfile.mkdtemp(prefix="tessara-installation-"))
-        cls.addClassCleanup(shutil.rmtree, cls.folder)
+        cls.addClassCleanup(remove, cls.folder)
         cls.root = cls.folder / "root"
         said("cmake", "--install", build, "--prefix", "/usr", env={**os.environ, "DESTDIR": str(cls.root)})
         cls.usr = cls.root / "usr"
