@@ -57,9 +57,11 @@ TEST_CASE("A caption's accelerator is underlined, and its mark is not seen") {
                                                                  {&form.Check1, "Check1"},
                                                                  {&form.Option1[0], "Option1(0)"},
                                                                  {&form.Label1, "Label1"}};
-  for (const auto& [control, name] : captioned) {
+  for (const auto& row : captioned) {
+    CaptionedControl* const control = row.first;
+    const char* const name = row.second;
     CAPTURE(std::string(name));
-    const auto picture = [&control = control, &name = name](TextView caption) {
+    const auto picture = [control, name](TextView caption) {
       control->SetCaption(Text(caption));
       return Desk::Of(name).grab().toImage();
     };
