@@ -1,11 +1,13 @@
 # The Qt renderer, the freedesktop adapters and the executable.
 find_package(Qt6 6.4 COMPONENTS Core Gui Widgets PrintSupport Test)
 find_package(Fontconfig REQUIRED)
+find_package(PkgConfig REQUIRED)
+pkg_check_modules(GLIB REQUIRED IMPORTED_TARGET glib-2.0)
 file(GLOB qtSources CONFIGURE_DEPENDS platform/qt/*.cpp)
 if(Qt6_FOUND AND qtSources)
   add_library(tessara_qt STATIC ${qtSources})
   target_link_libraries(tessara_qt PRIVATE tessara_warnings
-    PUBLIC tessara_core Qt6::Core Qt6::Gui Qt6::Widgets PRIVATE Fontconfig::Fontconfig)
+    PUBLIC tessara_core Qt6::Core Qt6::Gui Qt6::Widgets PkgConfig::GLIB PRIVATE Fontconfig::Fontconfig)
 endif()
 
 # Print queues: linked into the modules that print, not into the executable that starts.

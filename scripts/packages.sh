@@ -5,8 +5,8 @@ set -euo pipefail
 scripts=$(dirname "${BASH_SOURCE[0]}")
 
 declare -A packages=(
-  [build]="g++ cmake ninja-build ccache python3 qt6-base-dev libfontconfig-dev libgl1-mesa-dev libchm-dev fp-utils-3.2.2
-    libreoffice-calc libreoffice-dev libcups2-dev libqpdf-dev"
+  [build]="g++ cmake ninja-build ccache pkgconf python3 qt6-base-dev libfontconfig-dev libgl1-mesa-dev libglib2.0-dev
+    libchm-dev fp-utils-3.2.2 libreoffice-calc libreoffice-dev libcups2-dev libqpdf-dev"
   [run]="fonts-dejavu-core fonts-liberation libreoffice-calc"
   [wayland]="qt6-wayland"
   [virtual-display]="xvfb openbox xdotool x11-utils python3-pil"

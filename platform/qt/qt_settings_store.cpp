@@ -5,10 +5,13 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QLockFile>
-#include <QSettings>
+#include <QSaveFile>
+#include <QStandardPaths>
 #include <fcntl.h>
+#include <optional>
 #include <sys/file.h>
 #include <unistd.h>
+#include <utility>
 
 #include "platform/qt/qt_text.h"
 
@@ -41,38 +44,66 @@ void RemoveLeftovers(const QString& settingsFile) {
   close(file);
 }
 
-QString PathOf(const Text& key) {
-  return QLatin1String("Settings/") + ToQString(key);
-}
-
 /// Tessara.conf in the user's configuration folder.
 QString UserFile() {
-  return QSettings(QSettings::NativeFormat, QSettings::UserScope, QLatin1String("Tessara"))
-      .fileName();
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+  return folder + QLatin1String("/Tessara.conf");
+}
+
+/// Empty where there is no file; nothing where there is one that can't be read.
+std::optional<QByteArray> BytesOf(const QString& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) {
+    return file.exists() ? std::nullopt : std::optional(QByteArray());
+  }
+  const QByteArray bytes = file.readAll();
+  return file.error() == QFile::NoError ? std::optional(bytes) : std::nullopt;
+}
+
+/// What somebody has broken by hand keeps its bytes, under a name of its own.
+[[nodiscard]] bool SetAside(const QString& path) {
+  const QString aside = path + QLatin1String(".unreadable");
+  QFile::remove(aside);
+  return QFile::rename(path, aside);
+}
+
+/// The file then has all the bytes, or what it had before where that fails.
+void Replace(const QString& path, const QByteArray& bytes) {
+  QDir().mkpath(QFileInfo(path).path());
+  QSaveFile file(path);
+  if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) return;
+  // By itself, commit would not notice that the last bytes can't be written.
+  if (file.flush()) file.commit();
 }
 
 }  // namespace
 
 QtSettingsStore::QtSettingsStore() : path_(UserFile()) {
   RemoveLeftovers(path_);
-  texts_ = ReadSettingsFile(path_).value_or(SettingsTexts());
+  std::optional<SettingsFile> stored = SettingsFile::Parse(BytesOf(path_).value_or(QByteArray()));
+  if (stored) known_ = std::move(*stored);
 }
 
 Text QtSettingsStore::Read(const Text& key, const Text& defaultValue) const {
-  const auto found = texts_.find(PathOf(key));
-  return found == texts_.end() ? defaultValue : FromQString(*found);
+  const std::optional<QString> found = known_.Find(ToQString(key));
+  return found ? FromQString(*found) : defaultValue;
 }
 
 void QtSettingsStore::Write(const Text& key, const Text& value) {
-  texts_[PathOf(key)] = ToQString(value);
+  known_.Set(ToQString(key), ToQString(value));
   RemoveLeftovers(path_);
   QLockFile lock(path_ + kLockEnding);
   if (!lock.lock()) return;
   // What somebody else has written meanwhile stays; what can't be read would be lost.
-  std::optional<SettingsTexts> stored = ReadSettingsFile(path_);
-  if (!stored) return;
-  (*stored)[PathOf(key)] = ToQString(value);
-  WriteSettingsFile(path_, *stored);
+  const std::optional<QByteArray> bytes = BytesOf(path_);
+  if (!bytes) return;
+  std::optional<SettingsFile> stored = SettingsFile::Parse(*bytes);
+  if (!stored) {
+    if (!SetAside(path_)) return;
+    stored.emplace();
+  }
+  stored->Set(ToQString(key), ToQString(value));
+  Replace(path_, stored->Bytes());
 }
 
 }  // namespace tessara

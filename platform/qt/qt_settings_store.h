@@ -5,7 +5,8 @@
 
 namespace tessara {
 
-/// Settings in the user's configuration folder: Tessara.conf, section [Settings], texts only.
+/// Settings in the user's configuration folder: Tessara.conf, section [Settings], texts only. The
+/// folder is that of the XDG Base Directory Specification.
 class QtSettingsStore : public SettingsStore {
  public:
   QtSettingsStore();
@@ -14,7 +15,7 @@ class QtSettingsStore : public SettingsStore {
 
  private:
   QString path_;
-  SettingsTexts texts_;
+  SettingsFile known_;
 };
 
 }  // namespace tessara

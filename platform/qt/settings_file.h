@@ -1,21 +1,31 @@
 #pragma once
 
-#include <QMap>
+#include <QByteArray>
 #include <QString>
+#include <glib.h>
+#include <memory>
 #include <optional>
 
 namespace tessara {
 
-/// The texts of a settings file by section and key: "Settings/BackDrop".
-using SettingsTexts = QMap<QString, QString>;
+/// What a settings file holds: a key file, as the Desktop Entry Specification has it under "Basic
+/// format of the file". Its values are texts and nothing else. Comments and other sections stay.
+class SettingsFile {
+ public:
+  /// Of no file: it holds nothing.
+  SettingsFile();
+  /// Nothing where the bytes are no key file.
+  [[nodiscard]] static std::optional<SettingsFile> Parse(const QByteArray& bytes);
+  /// Nothing where the section [Settings] has no such key, or its value is no text.
+  [[nodiscard]] std::optional<QString> Find(const QString& key) const;
+  void Set(const QString& key, const QString& text);
+  [[nodiscard]] QByteArray Bytes() const;
 
-// The file has sections in brackets, and lines of key, "=" and text, which stands in quotes where
-// it needs them.
-
-/// Empty where there is no file; nothing where there is one that can't be read.
-[[nodiscard]] std::optional<SettingsTexts> ReadSettingsFile(const QString& path);
-
-/// Writes the file anew: it then has all the texts, or what it had before where that fails.
-void WriteSettingsFile(const QString& path, const SettingsTexts& texts);
+ private:
+  struct Unref {
+    void operator()(GKeyFile* keyFile) const { g_key_file_unref(keyFile); }
+  };
+  std::unique_ptr<GKeyFile, Unref> keyFile_;
+};
 
 }  // namespace tessara

@@ -2,25 +2,26 @@
 
 #include <QDir>
 #include <QFile>
-#include <QSettings>
 #include <QTemporaryDir>
 #include <stdexcept>
+
+#include "tests/support/environment_variable.h"
 
 namespace tessara::test {
 
 /// A configuration folder of its own.
 struct ConfigFolder {
   QTemporaryDir folder;
+  EnvironmentVariable variable;
   explicit ConfigFolder(const QString& parent = QDir::tempPath())
-      : folder(parent + "/tessara-XXXXXX") {
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder.path());
-  }
+      : folder(parent + "/tessara-XXXXXX"),
+        variable("XDG_CONFIG_HOME", folder.path().toStdString()) {}
   [[nodiscard]] QString Path() const { return folder.filePath("Tessara.conf"); }
   [[nodiscard]] QStringList Names() const {
     return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
   }
-  [[nodiscard]] QByteArray Read() const {
-    QFile file(Path());
+  [[nodiscard]] QByteArray Read(const char* name = "Tessara.conf") const {
+    QFile file(folder.filePath(name));
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
   }
   void Write(const char* content) const {

@@ -2,7 +2,6 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLockFile>
-#include <QSettings>
 #include <QTemporaryDir>
 #include <doctest/doctest.h>
 
@@ -44,16 +43,48 @@ TEST_CASE("Settings stand in the user's file, in the section Settings") {
 
 TEST_CASE("Values that somebody wrote by hand are read as texts") {
   const ConfigFolder config;
-  config.Write("; mine\n[Settings]\r\nBackDrop = a,b\n\nFirstLoad=true\nShowSplash=0");
+  config.Write("# mine\n[Settings]\r\nBackDrop = a,b\n\nFirstLoad=true\nShowSplash=0");
   const QtSettingsStore store;
   CHECK(store.Read(u"BackDrop", u"") == u"a,b");
   CHECK(store.Read(u"FirstLoad", u"") == u"true");
   CHECK(store.Read(u"ShowSplash", u"") == u"0");
 }
 
-TEST_CASE("A store that can't be written stays as it is, silently") {
+TEST_CASE("What else somebody wrote by hand stays when a setting is written") {
   const ConfigFolder config;
-  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/proc/no such folder");
+  config.Write("# mine\n\n[Settings]\nBackDrop=DESERT\n# blue\nMine=1\n\n[Other]\nBackDrop=x;y\n");
+  QtSettingsStore().Write(u"BackDrop", u"GRANITE");
+  CHECK(config.Read() ==
+        "# mine\n\n[Settings]\nBackDrop=GRANITE\n# blue\nMine=1\n\n[Other]\nBackDrop=x;y\n");
+}
+
+TEST_CASE("Settings that are no key file give the defaults, and are set aside by the next write") {
+  for (const char* const broken : {"BackDrop=DESERT\n", "[Settings]\nBackDrop=DESERT\nnonsense\n",
+                                   "[Settings", "\xFF\xFE[\n"}) {
+    CAPTURE(broken);
+    const ConfigFolder config;
+    config.Write(broken);
+    CHECK(QtSettingsStore().Read(u"BackDrop", u"DEFAULT") == u"DEFAULT");
+    CHECK(config.Read() == broken);
+    QtSettingsStore().Write(u"BackDrop", u"GRANITE");
+    CHECK(config.Read() == "[Settings]\nBackDrop=GRANITE\n");
+    CHECK(config.Names() == QStringList({"Tessara.conf", "Tessara.conf.unreadable"}));
+    CHECK(config.Read("Tessara.conf.unreadable") == broken);
+  }
+}
+
+TEST_CASE("Nothing in a value is interpreted, and one that is no text gives the default") {
+  const ConfigFolder config;
+  config.Write("[Settings]\nBackDrop=\xFF\nShowSplash=\\x\nFirstLoad=@Variant(\\0\\0)\nMine=1\n");
+  const QtSettingsStore store;
+  CHECK(store.Read(u"BackDrop", u"DEFAULT") == u"DEFAULT");
+  CHECK(store.Read(u"ShowSplash", u"1") == u"\\x");
+  CHECK(store.Read(u"FirstLoad", u"True") == u"@Variant(\\0\\0)");
+  CHECK(store.Read(u"Mine", u"") == u"1");
+}
+
+TEST_CASE("A store that can't be written stays as it is, silently") {
+  const EnvironmentVariable config("XDG_CONFIG_HOME", "/proc/no such folder");
   QtSettingsStore().Write(u"BackDrop", u"DESERT");
   CHECK_FALSE(QFile::exists("/proc/no such folder"));
 }
@@ -112,6 +143,22 @@ TEST_CASE("Whichever call of a write is refused, every setting has its old value
   write();
   CHECK(QtSettingsStore().Read(u"BackDrop", u"") == u"GRANITE");
   CHECK(config.Names() == QStringList("Tessara.conf"));
+}
+
+TEST_CASE("Whichever call of a write is refused, what was broken by hand is not lost") {
+  const ConfigFolder config(kInMemory);
+  const char* const kAside = "Tessara.conf.unreadable";
+  const auto prepare = [&] {
+    config.Write("nonsense");
+    QFile::remove(config.folder.filePath(kAside));
+  };
+  const auto write = [] {
+    QtSettingsStore().Write(u"BackDrop", u"GRANITE");
+    return 0;
+  };
+  RefuseEachInTurn(prepare, write, [&](int) {
+    CHECK((config.Read() == "nonsense" || config.Read(kAside) == "nonsense"));
+  });
 }
 
 TEST_CASE("Whichever call of a read is refused, the store gives its value or the default") {
