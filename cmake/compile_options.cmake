@@ -5,15 +5,21 @@ target_compile_options(tessara_warnings INTERFACE
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # A false alarm of this compiler about the sum of a literal and a string.
   target_compile_options(tessara_warnings INTERFACE -Wno-restrict)
+elseif(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+  target_compile_options(tessara_warnings INTERFACE -Wreserved-identifier)
 endif()
 
 add_library(tessara_sanitizers INTERFACE)
 if(TESSARA_SANITIZE)
-  target_compile_options(tessara_sanitizers INTERFACE
-    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  target_link_options(tessara_sanitizers INTERFACE -fsanitize=address,undefined)
+  set(sanitizers address,undefined)
+elseif(TESSARA_FUZZ)
+  set(sanitizers fuzzer-no-link,address,undefined)
 endif()
-if(TESSARA_FUZZ)
+if(sanitizers)
+  target_compile_definitions(tessara_sanitizers INTERFACE TESSARA_SANITIZED)
   target_compile_options(tessara_sanitizers INTERFACE
-    -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all)
+    -fsanitize=${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+endif()
+if(TESSARA_SANITIZE)
+  target_link_options(tessara_sanitizers INTERFACE -fsanitize=${sanitizers})
 endif()

@@ -13,7 +13,7 @@ declare -A packages=(
   [test]="doctest-dev at-spi2-core cups-daemon dbus-daemon gdb gir1.2-atspi-2.0 poppler-utils python3-gi"
   [package]="appstream desktop-file-utils dpkg-dev libfile-mimeinfo-perl libglib2.0-bin lintian shared-mime-info xdg-utils"
   [lint]="clang-format-14 clang-tidy-14"
-  [fuzz]="clang-14 libclang-rt-14-dev"
+  [sanitizers]="clang-14 libclang-rt-14-dev"
 )
 
 missing_packages() {

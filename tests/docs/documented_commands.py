@@ -48,7 +48,7 @@ RUN_BY = {
     "./test quick": ("test", "run_tests release \"$behaviourTests\""),
     "cmake --preset release": ("test", "cmake --preset \"$preset\""),
     "cmake --build --preset release": ("test", "cmake --build --preset \"$preset\""),
-    "scripts/packages.sh build run test package lint fuzz virtual-display":
+    "scripts/packages.sh build run test package lint sanitizers virtual-display":
         ("test", "scripts/packages.sh \"${groups[@]}\""),
     "scripts/tidy.py build/release": ("test", "scripts/tidy.py build/release"),
     "fuzz/run [SECONDS [NAME...]]": ("test", "fuzz/run $fuzzSeconds"),

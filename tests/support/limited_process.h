@@ -8,7 +8,7 @@
 namespace tessara::test {
 
 /// False under the sanitizers: their own checks open files.
-#ifdef __SANITIZE_ADDRESS__
+#ifdef TESSARA_SANITIZED
 inline constexpr bool kOpenFilesCanBeLimited = false;
 #else
 inline constexpr bool kOpenFilesCanBeLimited = true;

@@ -9,7 +9,7 @@ namespace tessara::test {
 /// Bytes that the process has on the heap. 0 under the address sanitizer, whose own report of
 /// leaks takes the place of the comparison.
 inline long HeapBytes() {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef TESSARA_SANITIZED
   return 0;
 #else
   return static_cast<long>(mallinfo2().uordblks);
@@ -19,7 +19,7 @@ inline long HeapBytes() {
 /// Bytes of the process that are in memory; 0 under the address sanitizer, which gives nothing
 /// back.
 inline long ResidentBytes() {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef TESSARA_SANITIZED
   return 0;
 #else
   long all = 0;

@@ -18,7 +18,7 @@ namespace tessara::test {
 
 /// What the system says where it refuses a call on a file. Under the sanitizers one of these has to
 /// do: a process takes them long to start.
-#ifdef __SANITIZE_ADDRESS__
+#ifdef TESSARA_SANITIZED
 inline constexpr int kRefusals[] = {EIO};
 #else
 inline constexpr int kRefusals[] = {EACCES, ENOSPC, EIO, EINTR, ENOENT, EMFILE, EROFS};
