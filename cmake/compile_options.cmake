@@ -6,7 +6,7 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   # A false alarm of this compiler about the sum of a literal and a string.
   target_compile_options(tessara_warnings INTERFACE -Wno-restrict)
 elseif(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
-  target_compile_options(tessara_warnings INTERFACE -Wreserved-identifier)
+  target_compile_options(tessara_warnings INTERFACE -Wreserved-identifier -Wsuggest-override -Wzero-as-null-pointer-constant -Wrange-loop-analysis)
 endif()
 
 add_library(tessara_sanitizers INTERFACE)
