@@ -24,7 +24,8 @@ constexpr int kRestart = 81;
 
 constexpr const char* kProfile = "profile";
 
-constexpr unsigned kFirstOwnFile = 3;
+/// The first one behind standard input, output and error.
+constexpr unsigned kFirstFileToClose = 3;
 
 /// A command with its environment as the system wants them: made before the fork, because behind
 /// it nothing may be allocated.
@@ -80,7 +81,7 @@ std::vector<std::string> Environment(const std::string& folder) {
   dup2(nothing, STDIN_FILENO);
   dup2(nothing, STDOUT_FILENO);
   dup2(nothing, STDERR_FILENO);
-  close_range(kFirstOwnFile, ~0U, 0);
+  close_range(kFirstFileToClose, ~0U, 0);
   command.Execute();
   _exit(1);
 }

@@ -17,18 +17,19 @@ const QColor kDark(49, 54, 59);
 const QColor kBlue(0, 0, 255);
 
 /// The desktop's palette, for as long as a test takes.
-class Desktop {
+class DesktopOfColor {
  public:
-  explicit Desktop(const QColor& ground) : Desktop(ground, QPalette(ground).highlight().color()) {}
-  Desktop(const QColor& ground, const QColor& highlight) {
+  explicit DesktopOfColor(const QColor& ground)
+      : DesktopOfColor(ground, QPalette(ground).highlight().color()) {}
+  DesktopOfColor(const QColor& ground, const QColor& highlight) {
     QPalette palette(ground);
     palette.setColor(QPalette::Window, ground);
     palette.setColor(QPalette::Highlight, highlight);
     QApplication::setPalette(palette);
   }
-  Desktop(const Desktop&) = delete;
-  Desktop& operator=(const Desktop&) = delete;
-  ~Desktop() { QApplication::setPalette(before_); }
+  DesktopOfColor(const DesktopOfColor&) = delete;
+  DesktopOfColor& operator=(const DesktopOfColor&) = delete;
+  ~DesktopOfColor() { QApplication::setPalette(before_); }
 
  private:
   QPalette before_ = QApplication::palette();
@@ -75,7 +76,7 @@ TEST_CASE("A colour that can be read stays; another keeps its hue and gets light
 
 TEST_CASE("A control's own colour is read on a dark desktop, and is as told on a light one") {
   for (const QColor& ground : {kLight, kDark}) {
-    const Desktop desktop(ground);
+    const DesktopOfColor desktop(ground);
     Desk desk;
     desk.ShowChild().Label1.SetForeColor(FixedColor(0, 0, 255));
     CHECK(ContrastOf(TextColorOf("Label1"), ground) >= kReadableContrast);
@@ -86,7 +87,7 @@ TEST_CASE("A control's own colour is read on a dark desktop, and is as told on a
 TEST_CASE("Unticked marks and the edges of what takes input are seen on every desktop") {
   for (const QColor& ground : {kLight, kDark, QColor(Qt::black), QColor(Qt::white)}) {
     CAPTURE(ground.name().toStdString());
-    const Desktop desktop(ground);
+    const DesktopOfColor desktop(ground);
     Desk desk;
     desk.ShowChild();
     for (const char* name :
@@ -102,7 +103,7 @@ TEST_CASE("Unticked marks and the edges of what takes input are seen on every de
 }
 
 TEST_CASE("The focus of a card is seen on its paper, whatever the desktop's highlight") {
-  const Desktop desktop(kDark, QColor(61, 174, 233));
+  const DesktopOfColor desktop(kDark, QColor(61, 174, 233));
   Desk desk;
   desk.ShowChild();
   QWidget& card = Desk::Of("Painting1");

@@ -12,7 +12,7 @@ using namespace tessara::test;
 
 namespace {
 
-constexpr Qt::Key kA = Qt::Key_A, kC = Qt::Key_C, kN = Qt::Key_N;
+constexpr Qt::Key kLetterA = Qt::Key_A, kLetterC = Qt::Key_C, kLetterN = Qt::Key_N;
 
 /// Texts of the expected bytes are ASCII; this letter stands for é.
 constexpr char kAccented = '#';
@@ -25,9 +25,9 @@ std::string WithAccents(std::string bytes) {
 /// The empty deck window goes; the frame's own menu makes an extended deck.
 void StartQuestionDeck(ProgramOnScreen& desk) {
   desk.Start();
-  ProgramOnScreen::Alt(kC);
+  ProgramOnScreen::Alt(kLetterC);
   ProgramOnScreen::Alt(Qt::Key_F);
-  ProgramOnScreen::Keys({kN, Qt::Key_X});
+  ProgramOnScreen::Keys({kLetterN, Qt::Key_X});
   OpenBuilder();
 }
 
@@ -37,7 +37,7 @@ void PickTrueFalse() {
   ProgramOnScreen::Key(Qt::Key_Right);
 }
 
-std::string AnswerShown() {
+std::string AnswerInBuilder() {
   return ProgramOnScreen::Of("Label2").property("text").toString().toStdString();
 }
 
@@ -73,22 +73,22 @@ TEST_CASE(
     ProgramOnScreen::Type(u"What is the capital\nof Norway?");
     ProgramOnScreen::Key(Qt::Key_Tab);
     ProgramOnScreen::Type(u"Oslo");
-    ProgramOnScreen::Alt(kA);
-    ProgramOnScreen::Alt(kN);
+    ProgramOnScreen::Alt(kLetterA);
+    ProgramOnScreen::Alt(kLetterN);
     CHECK(ProgramOnScreen::Focus() == "Text1(0)");
     ProgramOnScreen::Type(u"caf\u00E9 \u2192 tea & milk");
     ProgramOnScreen::Key(Qt::Key_Tab);
     ProgramOnScreen::Type(u" 100% ");
-    ProgramOnScreen::Alt(kA);
+    ProgramOnScreen::Alt(kLetterA);
     // The first card once more: a word is put before its back.
     ProgramOnScreen::Key(Qt::Key_PageUp, Qt::ControlModifier);
     GoTo("Text1(1)");
     ProgramOnScreen::Key(Qt::Key_Home, Qt::ControlModifier);
     ProgramOnScreen::Type(u"It is ");
     // First the change, then the close: a button that is off gives its letter to the next one.
-    ProgramOnScreen::Alt(kC);
+    ProgramOnScreen::Alt(kLetterC);
     CHECK_FALSE(ProgramOnScreen::Of("Command1(1)", "frmEssay").isEnabled());
-    ProgramOnScreen::Alt(kC);
+    ProgramOnScreen::Alt(kLetterC);
     saved = SaveByKeys(desk, "mnuSave");
     CHECK(desk.TakeAsked().empty());
   }
@@ -114,16 +114,16 @@ TEST_CASE(
     Write("Text1(2)", u"\u00E9lectron");
     Write("Text1(3)", u"photon");
     Pick("Option1(2)");
-    ProgramOnScreen::Alt(kA);
-    ProgramOnScreen::Alt(kN);
+    ProgramOnScreen::Alt(kLetterA);
+    ProgramOnScreen::Alt(kLetterN);
     CHECK(ProgramOnScreen::Focus() == "Text2");
     // The other type of card.
     PickTrueFalse();
     CHECK(ProgramOnScreen::Focus() == "Text2");
     ProgramOnScreen::Type(u"Spiders are insects.");
     Pick("Option2(1)");
-    ProgramOnScreen::Alt(kA);
-    ProgramOnScreen::Alt(kC);
+    ProgramOnScreen::Alt(kLetterA);
+    ProgramOnScreen::Alt(kLetterC);
     saved = SaveByKeys(desk, "mnuSave");
     CHECK(desk.TakeAsked().empty());
   }
@@ -135,11 +135,11 @@ TEST_CASE(
   again.folder.Write("new.tsr", saved);
   again.Start(u"new.tsr");
   CHECK(ProgramOnScreen::Card("CardText") == "Which particle carries\r\na negative charge?");
-  CHECK(AnswerShown() == "\u00E9lectron");
+  CHECK(AnswerInBuilder() == "\u00E9lectron");
   CHECK(ProgramOnScreen::Card("CardTotal") == "2");
   ProgramOnScreen::Key(Qt::Key_PageDown);
   CHECK(ProgramOnScreen::Card("CardText") == "Spiders are insects.");
-  CHECK(AnswerShown() == "FALSE");
+  CHECK(AnswerInBuilder() == "FALSE");
 }
 
 TEST_CASE("Ten cards of each kind are typed one after the other, and each is in the file") {
@@ -152,10 +152,10 @@ TEST_CASE("Ten cards of each kind are typed one after the other, and each is in 
     OpenBuilder();
     expected = InfoBytes(NewDeckOfType(u" Standard"));
     for (int card = 1; card <= kCards; ++card) {
-      if (card > 1) ProgramOnScreen::Alt(kN);
+      if (card > 1) ProgramOnScreen::Alt(kLetterN);
       Write("Text1(0)", text(u"front", card));
       Write("Text1(1)", text(u"back", card));
-      ProgramOnScreen::Alt(kA);
+      ProgramOnScreen::Alt(kLetterA);
       expected += CardBytes(card, text(u"front", card), text(u"back", card));
     }
   }
@@ -163,13 +163,13 @@ TEST_CASE("Ten cards of each kind are typed one after the other, and each is in 
     StartQuestionDeck(desk);
     expected = InfoBytes(NewDeckOfType(u" Extended"));
     for (int card = 1; card <= kCards; ++card) {
-      if (card > 1) ProgramOnScreen::Alt(kN);
+      if (card > 1) ProgramOnScreen::Alt(kLetterN);
       Write("Text2", text(u"question", card));
       Write("Text1(0)", text(u"this", card));
       Write("Text1(1)", text(u"that", card));
       const bool first = card % 2 == 0;
       Pick(first ? "Option1(0)" : "Option1(1)");
-      ProgramOnScreen::Alt(kA);
+      ProgramOnScreen::Alt(kLetterA);
       expected += QuestionBytes('M', text(u"question", card), card,
                                 {text(u"this", card), text(u"that", card)}, first ? 'A' : 'B');
     }
@@ -179,15 +179,15 @@ TEST_CASE("Ten cards of each kind are typed one after the other, and each is in 
     expected = InfoBytes(NewDeckOfType(u" Extended"));
     PickTrueFalse();
     for (int card = 1; card <= kCards; ++card) {
-      if (card > 1) ProgramOnScreen::Alt(kN);
+      if (card > 1) ProgramOnScreen::Alt(kLetterN);
       Write("Text2", text(u"question", card));
       const bool isTrue = card % 3 == 0;
       Pick(isTrue ? "Option2(0)" : "Option2(1)");
-      ProgramOnScreen::Alt(kA);
+      ProgramOnScreen::Alt(kLetterA);
       expected += QuestionBytes('T', text(u"question", card), card, {}, isTrue ? 'T' : 'F');
     }
   }
-  ProgramOnScreen::Alt(kC);
+  ProgramOnScreen::Alt(kLetterC);
   CHECK(SaveByKeys(desk, "mnuSave") == expected + EndBytes());
   CHECK(ProgramOnScreen::Card("CardTotal") == "10");
   CHECK(desk.TakeAsked().empty());
@@ -272,7 +272,7 @@ TEST_CASE("Cards of every byte, looked at in a builder, moved over and saved, st
     OpenBuilder();
     ProgramOnScreen::Key(Qt::Key_PageDown, Qt::ControlModifier);
     ProgramOnScreen::Key(Qt::Key_PageUp, Qt::ControlModifier);
-    ProgramOnScreen::Alt(kC);
+    ProgramOnScreen::Alt(kLetterC);
     CHECK(SaveByKeys(desk, "mnuSaveAs").substr(kRecordSize) == cards);
   }
 }
