@@ -6,12 +6,14 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   # A false alarm of this compiler about the sum of a literal and a string.
   target_compile_options(tessara_warnings INTERFACE -Wno-restrict)
 elseif(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
-  target_compile_options(tessara_warnings INTERFACE -Wreserved-identifier -Wsuggest-override -Wzero-as-null-pointer-constant -Wrange-loop-analysis)
+  target_compile_options(tessara_warnings INTERFACE
+    -Wreserved-identifier -Wsuggest-override -Wzero-as-null-pointer-constant -Wrange-loop-analysis)
 endif()
 
 add_library(tessara_sanitizers INTERFACE)
 if(TESSARA_SANITIZE)
   set(sanitizers address,undefined)
+  target_link_options(tessara_sanitizers INTERFACE -fsanitize=${sanitizers})
 elseif(TESSARA_FUZZ)
   set(sanitizers fuzzer-no-link,address,undefined)
 endif()
@@ -19,7 +21,4 @@ if(sanitizers)
   target_compile_definitions(tessara_sanitizers INTERFACE TESSARA_SANITIZED)
   target_compile_options(tessara_sanitizers INTERFACE
     -fsanitize=${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
-endif()
-if(TESSARA_SANITIZE)
-  target_link_options(tessara_sanitizers INTERFACE -fsanitize=${sanitizers})
 endif()

@@ -6,7 +6,7 @@
 namespace tessara {
 
 /// Settings in the user's configuration folder: Tessara.conf, section [Settings], texts only. The
-/// folder is that of the XDG Base Directory Specification.
+/// folder is the one of the XDG base directories.
 class QtSettingsStore : public SettingsStore {
  public:
   QtSettingsStore();

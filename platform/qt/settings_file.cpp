@@ -1,5 +1,7 @@
 #include "platform/qt/settings_file.h"
 
+#include <utility>
+
 namespace tessara {
 
 namespace {

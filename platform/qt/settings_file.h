@@ -8,8 +8,8 @@
 
 namespace tessara {
 
-/// What a settings file holds: a key file, as the Desktop Entry Specification has it under "Basic
-/// format of the file". Its values are texts and nothing else. Comments and other sections stay.
+/// What a settings file holds: a key file, in the form of freedesktop.org's desktop entries. Its
+/// values are texts and nothing else. Comments and other sections stay.
 class SettingsFile {
  public:
   /// Of no file: it holds nothing.
