@@ -63,6 +63,13 @@ void frmQuestion::EnableResponceLine(int Index) {
   OpenLine(std::min(Index + 1, kLastLine), enable);
 }
 
+/// A line that has closed itself under the user's hands: the line before opens it again.
+void frmQuestion::LeaveClosedLine(int line) {
+  if (FocusedControl() != &Text1[line] || Text1[line].Enabled()) return;
+  TextBox& before = Text1[line - 1];
+  if (before.Reachable()) before.SetFocus();
+}
+
 void frmQuestion::CardChange() {
   bool canAdd = false;
   bool canCancel = false;
@@ -101,6 +108,7 @@ void frmQuestion::Text1_Change(int Index) {
   bool selected = false;
   AnsSelected(selected);
   Command2[kAddButton].SetEnabled(selected);
+  LeaveClosedLine(Index);
 }
 
 void frmQuestion::Text2_Change() {

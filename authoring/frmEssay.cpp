@@ -163,6 +163,7 @@ void frmEssay::SaveBeforeClose() {
       u"Unsaved Card");
   if (save) {
     SaveCard(kTextCard);
+    State().SaveOffered = true;
     App().machine.messages.Show(u"Card is saved", kOkOnly, u"Save");
   } else {
     State().CurrentCard = State().CardCount;

@@ -90,6 +90,7 @@ class frmQuestion : public BuilderWindow {
   void ResetAnswerLines();
   void SyncAnswerLines();
   void OpenLine(int line, bool open);
+  void LeaveClosedLine(int line);
   void CheckAnswerLines(bool& result);
   [[nodiscard]] bool TextOnClosedLine();
   [[nodiscard]] bool PlaceholderLeft();

@@ -20,6 +20,7 @@ bool SaveEditedCard(const Button& button, AppContext& app, const Save& save) {
   save();
   app.machine.messages.Show(u"Changes Saved!", kOkOnly, Text(kProgramName));
   app.state.DeckChanged = true;
+  app.state.SaveOffered = true;
   return true;
 }
 

@@ -12,6 +12,8 @@ void DeckWindow::mnuNCD_Click() {
   MenuOp(false);
   State().DeckChanged = false;
   State().DeckOnFile = false;
+  // No deck, no card on show: the first one that is built is card 1.
+  State().CurrentCard = 0;
   mnuNCD.SetEnabled(false);
   mnuMode.SetEnabled(false);
   mnuGTP.SetEnabled(false);

@@ -56,7 +56,7 @@ Text LineReader::ReadLine() {
   std::string line;
   do {
     const std::size_t end = rest_.find(lineEnd);
-    line += rest_.substr(0, end);
+    line += rest_.substr(0, std::min(end, kLongestLine - line.size()));
     if (end != rest_.npos) {
       rest_.remove_prefix(end + 1);
       if (traits_.hasCarriageReturn) SkipLineFeed();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 #include <vector>
 
@@ -14,9 +15,13 @@ namespace tessara {
 ///
 /// A line ends at CR or CR LF; in a file without any CR at LF. The end is no part of the line, and
 /// a file that ends with one has no empty line behind it. UTF-8 is recognised; a character that
-/// the code page lacks becomes "?". Takes the memory of the longest line read.
+/// the code page lacks becomes "?". What a line has behind kLongestLine is passed over, so that a
+/// file without line ends takes no more memory than that.
 class LineReader {
  public:
+  /// In bytes: many times what a card keeps.
+  static constexpr std::size_t kLongestLine = 0x400000;
+
   /// The file is open for sequential reading and not read yet. Raises the errors of reading.
   LineReader(FileNumber& file, const CodePage& codePage);
 

@@ -14,6 +14,7 @@ constexpr TextView kDeselectAll = u"Deselect All";
 }  // namespace
 
 void PrintCard::ListView1_Click() {
+  if (ListView1.Count() == 0) return;
   ShowBack(IntegerOf(ListView1.SelectedItem().text));
   ShowToggleCaption();
   ShowCountForPrint();
@@ -23,6 +24,7 @@ void PrintCard::ListView1_Click() {
 
 /// After a key the box shows the card below, and the print button stays as it is.
 void PrintCard::ListView1_KeyUp() {
+  if (ListView1.Count() == 0) return;
   ShowBack(static_cast<std::int16_t>(IntegerOf(ListView1.SelectedItem().text) + 1));
   ShowToggleCaption();
   Label3.SetCaption(u"Number of cards to print: " + DecimalText(CountChecks()));

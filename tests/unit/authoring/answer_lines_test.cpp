@@ -80,6 +80,25 @@ TEST_CASE("an emptied line closes the empty one behind it, and clears and disarm
   }
 }
 
+TEST_CASE("line D, emptied where the user types, hands the focus to the line that opens it again") {
+  BuilderDesk desk;
+  frmQuestion& window = desk.OpenQuestion();
+  Fill(window, {u"a", u"b", u"c", u"d"});
+  window.Text1[3].SetFocus();
+  Replace(window.Text1[3], u"");
+  CHECK_FALSE(window.Text1[3].Enabled());
+  CHECK(window.FocusedControl() == &window.Text1[2]);
+}
+
+TEST_CASE("a line emptied from elsewhere leaves the focus where it is") {
+  BuilderDesk desk;
+  frmQuestion& window = desk.OpenQuestion();
+  Fill(window, {u"a", u"b", u"c", u"d"});
+  window.Text2.SetFocus();
+  window.Text1[3].SetText(u"");
+  CHECK(window.FocusedControl() == &window.Text2);
+}
+
 TEST_CASE("only a change of line C opens an emptied line D again") {
   BuilderDesk desk;
   frmQuestion& window = desk.OpenQuestion();

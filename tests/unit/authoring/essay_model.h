@@ -93,6 +93,7 @@ class EssayModel : public BuilderModel {
     if (look.addOn) {
       if (Ask(u"Unsaved Card")) {
         Save();
+        saveOffered = true;
         boxes.emplace_back(u"Save");
       } else {
         current = count;

@@ -403,7 +403,34 @@ TEST_CASE("the text builder asks about an unsaved card as it closes") {
     CHECK(desk.deck->NoteletCtl1.CardTotal() == DecimalText(c.count));
     CHECK(desk.deck->NoteletCtl1.CardNumber() == DecimalText(c.current));
     CHECK(desk.deck->Visible());
+    CHECK(desk.state.SaveOffered == (c.answer == MessageAnswer::kYes));
   }
+}
+
+TEST_CASE("a deck whose only card was saved at the close is saved under the name chosen") {
+  BuilderDesk desk;
+  desk.deck->mnuNCD_Click();
+  desk.OpenBuilder();
+  frmEssay& window = desk.essay.Loaded();
+  Type(window.Text1[0], u"front");
+  Type(window.Text1[1], u"back");
+  desk.Answer(MessageAnswer::kYes);
+  window.Command1[kCloseButton].Press();
+  desk.fakes.files.Put(u"/decks/other.tsr", "");
+  desk.fakes.dialogs.files.emplace_back(u"/decks/one.tsr");
+  desk.deck->mnuSave_Click();
+  CHECK(desk.fakes.files.Has(u"/decks/one.tsr"));
+}
+
+TEST_CASE("the first card built after a deck was cleared at a later card is card 1") {
+  BuilderDesk desk;
+  desk.OpenStandardDeck(3);
+  desk.state.CurrentCard = 3;
+  desk.deck->mnuNCD_Click();
+  desk.OpenBuilder();
+  AddCard(desk.essay.Loaded(), u"front", u"back");
+  CHECK(desk.state.CardCount == 1);
+  CHECK(desk.Cell(1, kCardText) == u"front");
 }
 
 TEST_CASE("closing from an empty new card goes back to the last card") {

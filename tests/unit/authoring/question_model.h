@@ -110,7 +110,7 @@ class QuestionModel : public BuilderModel {
       WriteRow(layout == 0 ? u"M" : u"T");
       if (look.addCaption == kAdd) ++count;
       boxes.emplace_back(u"Tessara");
-      deckChanged = true;
+      deckChanged = saveOffered = true;
     } else {
       current = count;
     }

@@ -263,7 +263,7 @@ TEST_CASE("the close of a changed question saves on Yes and goes to the last car
     CHECK(desk.state.CardCount == c.count);
     CHECK(desk.state.CurrentCard == c.current);
     CHECK(desk.state.DeckChanged == saved);
-    CHECK_FALSE(desk.state.SaveOffered);
+    CHECK(desk.state.SaveOffered == saved);
     CHECK(desk.Cell(2, kCardText) == c.question2);
     CHECK(desk.deck->NoteletCtl1.CardTotal() == DecimalText(c.count));
     CHECK(desk.deck->NoteletCtl1.CardText() == (saved ? u"edited" : u"question 3"));

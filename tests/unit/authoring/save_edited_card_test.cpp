@@ -31,6 +31,7 @@ TEST_CASE("the prompt at close writes a text card and leaves the count") {
   CHECK(desk.Cell(1, kBackText) == u"b");
   CHECK(desk.state.CardCount == 0);
   CHECK(desk.state.DeckChanged);
+  CHECK(desk.state.SaveOffered);
 }
 
 TEST_CASE("the prompt at close counts a question only where it was a new one") {

@@ -29,11 +29,19 @@ TEST_CASE("clearing empties the deck, its information and the window") {
   CHECK(desk.File(kA) == DeckBytes(2));
 }
 
-TEST_CASE("clearing leaves the card on show to the caller") {
+TEST_CASE("a cleared deck has no card on show") {
   TwoFiles desk;
   desk.OpenFile(kA);
   desk.state.CurrentCard = 2;
   desk.Clear();
+  CHECK(desk.state.CurrentCard == 0);
+}
+
+TEST_CASE("making the deck anew leaves the card on show to the caller") {
+  TwoFiles desk;
+  desk.OpenFile(kA);
+  desk.state.CurrentCard = 2;
+  desk.deck->NewTessara();
   CHECK(desk.state.CurrentCard == 2);
 }
 

@@ -68,6 +68,7 @@ class DeckLifeModel {
     CheckSave();
     Empty();
     changed = onFile = false;
+    current = 0;
   }
 
   void Open() {

@@ -105,6 +105,15 @@ TEST_CASE("a line of many blocks is read whole") {
   CHECK(LinesOf(std::string(length, 'x')) == TextLines{Text(length, u'x')});
 }
 
+TEST_CASE("what a line has behind its bound is passed over") {
+  const std::size_t bound = LineReader::kLongestLine;
+  for (const std::size_t length : {bound - 1, bound, bound + 1, bound + 3 * kTextBlockSize}) {
+    CAPTURE(length);
+    const TextLines expected = {Text(std::min(length, bound), u'x'), u"y"};
+    CHECK(LinesOf(std::string(length, 'x') + "\r\ny") == expected);
+  }
+}
+
 TEST_CASE("text that is well-formed UTF-8 throughout is read as such, all else by the code page") {
   struct Case {
     std::string what;

@@ -207,6 +207,16 @@ TEST_CASE("a click shows the back of the selected card and the counts") {
   CHECK(window.Text1.TextOf() == u"back 3");
 }
 
+TEST_CASE("in a list without cards a click and a key do nothing") {
+  PrintDesk desk(0);
+  PrintCard& window = desk.Open();
+  window.ListView1.UserClick(0, ListView::HitPart::kText);
+  window.ListView1.UserKeyUp();
+  CHECK(desk.fakes.messages.Take().empty());
+  CHECK(window.Text1.TextOf().empty());
+  CHECK_FALSE(desk.windows.ExitStatus());
+}
+
 TEST_CASE("a key shows the back of the card below, in other words, and leaves the print button") {
   PrintDesk desk;
   PrintCard& window = desk.Open();
