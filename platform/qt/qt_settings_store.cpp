@@ -69,7 +69,6 @@ std::optional<QByteArray> BytesOf(const QString& path) {
 
 /// The file then has all the bytes, or what it had before where that fails.
 void Replace(const QString& path, const QByteArray& bytes) {
-  QDir().mkpath(QFileInfo(path).path());
   QSaveFile file(path);
   if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) return;
   // By itself, commit would not notice that the last bytes can't be written.
@@ -91,6 +90,8 @@ Text QtSettingsStore::Read(const Text& key, const Text& defaultValue) const {
 
 void QtSettingsStore::Write(const Text& key, const Text& value) {
   known_.Set(ToQString(key), ToQString(value));
+  // The lock has to stand somewhere: a new user has no configuration folder yet.
+  QDir().mkpath(QFileInfo(path_).path());
   RemoveLeftovers(path_);
   QLockFile lock(path_ + kLockEnding);
   if (!lock.lock()) return;

@@ -41,6 +41,15 @@ TEST_CASE("Settings stand in the user's file, in the section Settings") {
   CHECK(file.readAll() == "[Settings]\nBackDrop=DESERT\n");
 }
 
+TEST_CASE("The first write of a new user makes the configuration folder") {
+  const QTemporaryDir home;
+  const QString folder = home.filePath("new/.config");
+  const EnvironmentVariable variable("XDG_CONFIG_HOME", folder.toStdString());
+  QtSettingsStore().Write(u"FirstLoad", u"False");
+  CHECK(QtSettingsStore().Read(u"FirstLoad", u"True") == u"False");
+  CHECK(QFileInfo::exists(folder + "/Tessara.conf"));
+}
+
 TEST_CASE("Values that somebody wrote by hand are read as texts") {
   const ConfigFolder config;
   config.Write("# mine\n[Settings]\r\nBackDrop = a,b\n\nFirstLoad=true\nShowSplash=0");
