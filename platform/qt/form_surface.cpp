@@ -32,6 +32,8 @@ ControlView& FormSurface::ViewOf(const Control& control) const {
 }
 
 void FormSurface::Follow(Control& control, Aspect aspect) {
+  const bool mayGoOff = aspect == Aspect::kEnabled || aspect == Aspect::kVisible;
+  if (mayGoOff) KeepFocusFromStraying(control);
   ViewOf(control).Follow(aspect);
   const bool holds =
       control.Kind() == ControlKind::kFrame || control.Kind() == ControlKind::kPictureBox;
@@ -39,6 +41,22 @@ void FormSurface::Follow(Control& control, Aspect aspect) {
   const bool reads = aspect == Aspect::kContent || aspect == Aspect::kCaption ||
                      (aspect == Aspect::kVisible && holds);
   if (reads) TellReading();
+}
+
+/// Qt would hand the focus of what goes off to whatever comes next, in the middle of the event that
+/// switches it off. The form may have a better place for it; where it has none, the event's end is
+/// soon enough.
+void FormSurface::KeepFocusFromStraying(const Control& control) {
+  const QWidget& off = ViewOf(control).Widget();
+  QWidget* focused = window()->focusWidget();
+  const bool inside = focused == &off || off.isAncestorOf(focused);
+  if (!inside || (control.Enabled() && control.Visible())) return;
+  focused->clearFocus();
+  QMetaObject::invokeMethod(this, [this] { RestoreFocus(); }, Qt::QueuedConnection);
+}
+
+void FormSurface::RestoreFocus() {
+  if (form_ != nullptr && isVisible() && window()->focusWidget() == nullptr) TakeFocus();
 }
 
 /// A screen reader says what has the focus, not what has changed elsewhere: a new card is told
@@ -74,10 +92,14 @@ Control* FormSurface::WantedFocus() const {
   Control* focused = form_->FocusedControl();
   if (focused != nullptr && focused->Reachable()) return focused;
   const auto& controls = form_->Controls();
-  const auto first = std::find_if(controls.begin(), controls.end(), [](const Control* control) {
+  const auto takesFocus = [](const Control* control) {
     return control->TakesFocus() && control->Reachable();
-  });
-  return first == controls.end() ? nullptr : *first;
+  };
+  const auto before = std::find(controls.begin(), controls.end(), focused);
+  const auto next = std::find_if(before, controls.end(), takesFocus);
+  if (next != controls.end()) return *next;
+  const auto first = std::find_if(controls.begin(), before, takesFocus);
+  return first == before ? nullptr : *first;
 }
 
 void FormSurface::TakeFocus() {

@@ -17,7 +17,7 @@ class FormSurface : public QWidget {
   void Follow(Control& control, Aspect aspect);
   /// The form has been enabled, or disabled, or has another size.
   void FollowForm();
-  /// Moves the focus to the control that is to have it, or to the first that can.
+  /// Moves the focus to the control that is to have it, or to the next one that can.
   void TakeFocus();
   /// The form is about to go.
   void Detach();
@@ -32,6 +32,8 @@ class FormSurface : public QWidget {
   void MakeViews();
   void FollowColors();
   [[nodiscard]] Control* WantedFocus() const;
+  void KeepFocusFromStraying(const Control& control);
+  void RestoreFocus();
   void TellReading();
   [[nodiscard]] ControlView& ViewOf(const Control& control) const;
 

@@ -142,6 +142,38 @@ TEST_CASE("The focus is where the form has it, and its moves are told once") {
   CHECK(form.log.Take() == "got focus");
 }
 
+TEST_CASE("What goes off with the focus on it hands it to the next control, or where the form says") {
+  struct Case {
+    const char* pressed;
+    std::function<void(SampleForm&)> handler;
+    std::string next;
+  };
+  const auto goOff = [](SampleForm& form) { form.Command1[0].SetEnabled(false); };
+  const Case cases[] = {
+      {"Command1(0)", goOff, "Command1(1)"},
+      {"Command1(0)", [](SampleForm& form) { form.Command1[0].SetVisible(false); }, "Command1(1)"},
+      {"Command2", [](SampleForm& form) { form.Command2.SetEnabled(false); }, "Text1"},
+      {"Option1(0)", [](SampleForm& form) { form.Frame1.SetVisible(false); }, "Check1"},
+      {"Command1(0)",
+       [&](SampleForm& form) {
+         goOff(form);
+         CHECK(form.FocusedControl() == &form.Command1[0]);
+         form.Text2.SetFocus();
+       },
+       "Text2"}};
+  for (const Case& c : cases) {
+    CAPTURE(c.next);
+    Desk desk;
+    SampleForm& form = desk.ShowChild();
+    Desk::Of(c.pressed).setFocus();
+    form.log.Take();
+    desk.windows.Run([&] { c.handler(form); });
+    Desk::Settle();
+    CHECK(Focused().objectName().toStdString() == c.next);
+    CHECK(form.FocusedControl()->Name() == c.next);
+  }
+}
+
 TEST_CASE("A focus set while a window loads is the one that it comes up with") {
   Desk desk;
   desk.prepare = [](SampleForm& form) {

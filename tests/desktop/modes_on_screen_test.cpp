@@ -72,6 +72,14 @@ std::string TextOnCard(const char* number) {
   return ProgramOnScreen::Card("CardText");
 }
 
+/// A menu used by the mouse stays the active window here: the focus comes back to this behind it.
+std::string FocusInFrame() {
+  ProgramOnScreen::Settle();
+  const QWidget* focused = ProgramOnScreen::Of("NoteletCtl1").window()->focusWidget();
+  REQUIRE(focused != nullptr);
+  return focused->objectName().toStdString();
+}
+
 bool Shown(const char* control) {
   return ProgramOnScreen::Of(control).isVisible();
 }
@@ -190,6 +198,7 @@ TEST_CASE("A quiz of questions is taken whole, by the mouse and by the keyboard 
     }
     CHECK(Banner() == "You have completed this quiz, please return to study mode");
     hand.Enter("mnuStudy");
+    CHECK(FocusInFrame() == "cmdMove(1)");
     CHECK(Shown("Picture1"));
     CHECK(TextOnCard("1") == "question 1");
   }
@@ -254,6 +263,7 @@ TEST_CASE("A test of questions is judged whole, by the mouse and by the keyboard
           std::vector<std::string>{" Your score is 75% please return to STUDY mode."});
     CHECK(Banner() == "SCORE: 75% ... RETURN TO STUDY MODE");
     hand.Enter("mnuStudy");
+    CHECK(FocusInFrame() != "Command3(2)");
     CHECK(TextOnCard("1") == "question 1");
     CHECK(ProgramOnScreen::TitleOf("frmMain") == "sky  [STUDY]");
   }

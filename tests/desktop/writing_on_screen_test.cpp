@@ -142,6 +142,20 @@ TEST_CASE(
   CHECK(AnswerInBuilder() == "FALSE");
 }
 
+TEST_CASE("Typing goes on harmlessly where line D has closed itself, and drops no card") {
+  ProgramOnScreen desk;
+  StartQuestionDeck(desk);
+  Write("Text2", u"Which?");
+  for (const char* line : {"Text1(0)", "Text1(1)", "Text1(2)", "Text1(3)"}) Write(line, u"x");
+  Pick("Option1(3)");
+  GoTo("Text1(3)");
+  ProgramOnScreen::Key(Qt::Key_Backspace);
+  CHECK(ProgramOnScreen::Focus() == "Text1(2)");
+  ProgramOnScreen::Type(u" y");
+  CHECK(ProgramOnScreen::Of("Text1(2)", "frmQuestion").property("text") == "x y");
+  CHECK(ProgramOnScreen::Of("Text1(3)", "frmQuestion").isEnabled());
+}
+
 TEST_CASE("Ten cards of each kind are typed one after the other, and each is in the file") {
   constexpr int kCards = 10;
   const auto text = [](TextView what, int card) { return Text(what) + u' ' + DecimalText(card); };
