@@ -36,6 +36,8 @@ void ChildWindow::Follow(FormAspect aspect) {
       break;
     case FormAspect::kEnabled:
       surface_->FollowForm();
+      // Else a click would bring it before the window that has disabled it.
+      setEnabled(form_->Enabled());
       break;
     case FormAspect::kState:
       FollowState();

@@ -1,6 +1,7 @@
 #include "platform/qt/combo_view.h"
 
 #include <QComboBox>
+#include <QWheelEvent>
 
 #include "platform/qt/qt_text.h"
 #include "platform/qt/visible_focus.h"
@@ -18,6 +19,8 @@ class ComboWidget : public QComboBox {
     QComboBox::initStyleOption(option);
     ShowFocusAlways(*option);
   }
+  /// Choosing is for those who mean it: a list that is closed does not turn with the wheel.
+  void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 };
 
 }  // namespace

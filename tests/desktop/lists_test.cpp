@@ -100,6 +100,12 @@ TEST_CASE("A combo box shows its items and passes on what the user chooses") {
   QTest::keyClick(&combo, Qt::Key_Down);
   CHECK(form.Combo1.TextOf() == u"First");
   CHECK(form.log.Take() == "combo");
+  // Turned over it, a wheel means what lies around it.
+  QWheelEvent wheel(QPointF(5, 5), combo.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
+                    Qt::NoModifier, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(&combo, &wheel);
+  CHECK(form.log.Take().empty());
+  CHECK(combo.currentIndex() == 0);
   form.Combo1.SetListIndex(1);
   CHECK(combo.currentText() == "Second");
   form.Combo1.Clear();

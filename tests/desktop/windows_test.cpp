@@ -107,6 +107,21 @@ TEST_CASE("The window that the user clicks becomes the active one") {
   CHECK(desk.windows.ActiveForm()->Name() == "frmChild");
 }
 
+TEST_CASE("A click on a disabled window leaves the window in front that has disabled it") {
+  Desk desk;
+  desk.ShowChild();
+  desk.other->Show();
+  desk.child->SetEnabled(false);
+  Desk::Settle();
+  QMdiArea& area = *Desk::Top("MDIForm1")->findChild<QMdiArea*>();
+  QTest::mouseClick(&Sub("frmChild"), Qt::LeftButton, {}, {60, 8});
+  CHECK(area.activeSubWindow() == &Sub("frmOther"));
+  CHECK(desk.windows.ActiveForm()->Name() == "frmOther");
+  desk.child->SetEnabled(true);
+  QTest::mouseClick(&Sub("frmChild"), Qt::LeftButton, {}, {60, 8});
+  CHECK(desk.windows.ActiveForm()->Name() == "frmChild");
+}
+
 TEST_CASE("Hiding the active window makes the next one active on screen too") {
   Desk desk;
   desk.ShowChild();
