@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <clocale>
+#include <csignal>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -47,7 +48,10 @@ Text CommandLineOf(int argc, char** argv) {
   for (int at = 1; at < argc; ++at) joined += (at == 1 ? "" : " ") + std::string(argv[at]);
   if (joined.empty()) return {};
   std::error_code unknown;
-  return FromUtf8(fs::absolute(joined, unknown).lexically_normal().string());
+  const fs::path path = fs::absolute(joined, unknown);
+  const fs::path shorter = path.lexically_normal();
+  // Behind a link, "folder/.." is another folder than the one before it.
+  return FromUtf8((fs::equivalent(path, shorter, unknown) ? shorter : path).string());
 }
 
 void NameApplication(const fs::path& folder) {
@@ -102,5 +106,7 @@ int RunTessara(int argc, char** argv) {
 
 int main(int argc, char** argv) {
   std::setlocale(LC_ALL, "");
+  // A spreadsheet server that dies is an error of the job, not the end of the program.
+  std::signal(SIGPIPE, SIG_IGN);
   return tessara::RunTessara(argc, argv);
 }

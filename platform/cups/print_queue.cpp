@@ -46,6 +46,15 @@ struct FreeDestination {
 };
 using Destination = std::unique_ptr<cups_dest_t, FreeDestination>;
 
+/// "cards/draft" is the queue "cards" with the settings that its user has named "draft".
+Destination FindQueue(http_t* system, const std::string& queue) {
+  const std::size_t slash = queue.find('/');
+  const bool named = slash != std::string::npos;
+  const std::string settings = named ? queue.substr(slash + 1) : "";
+  return Destination(cupsGetNamedDest(system, queue.substr(0, slash).c_str(),
+                                      named ? settings.c_str() : nullptr));
+}
+
 void Set(cups_dest_t& destination, const QueueOption& option) {
   destination.num_options =
       option.value == nullptr
@@ -59,7 +68,7 @@ void PrintOnQueue(const std::string& queue, const std::string& pdfPath,
                   std::span<const QueueOption> options, std::chrono::seconds patience) {
   const Connection system = Connect(patience);
   RequireAnswer(system.get());
-  const Destination destination(cupsGetNamedDest(system.get(), queue.c_str(), nullptr));
+  const Destination destination = FindQueue(system.get(), queue);
   if (destination == nullptr) throw RunTimeError(ErrorNumber::kPrinterError);
   for (const QueueOption& option : options) Set(*destination, option);
   const int job = cupsPrintFile2(system.get(), destination->name, pdfPath.c_str(), "Tessara",

@@ -1,5 +1,6 @@
 #include "platform/freedesktop/update_tools.h"
 
+#include <csignal>
 #include <fcntl.h>
 #include <string>
 #include <sys/wait.h>
@@ -23,6 +24,7 @@ xdg-mime default )") +
   const int nowhere = open("/dev/null", O_RDWR | O_CLOEXEC);
   for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) dup2(nowhere, stream);
   setsid();
+  signal(SIGPIPE, SIG_DFL);
   execl("/bin/sh", "sh", "-c", script.c_str(), "sh", folder.c_str(), nullptr);
   _exit(1);
 }

@@ -82,6 +82,7 @@ std::vector<std::string> Environment(const std::string& folder) {
   dup2(nothing, STDOUT_FILENO);
   dup2(nothing, STDERR_FILENO);
   close_range(kFirstFileToClose, ~0U, 0);
+  signal(SIGPIPE, SIG_DFL);
   command.Execute();
   _exit(1);
 }

@@ -96,9 +96,7 @@ bool Keyboard::Take(const QKeyEvent& key, QWidget& receiver, Form& form) {
     case Qt::Key_F1:
       return TakeHelp();
     case Qt::Key_F4:
-      if (!key.modifiers().testFlag(Qt::ControlModifier)) return false;
-      form.UserClose();
-      return true;
+      return key.modifiers().testFlag(Qt::ControlModifier) && TakeClose(form);
     default:
       return false;
   }
@@ -118,6 +116,13 @@ bool Keyboard::TakeReturn(QWidget& receiver, Form& form) {
   }
   const auto* area = qobject_cast<QPlainTextEdit*>(&receiver);
   return (area == nullptr || area->isReadOnly()) && form.UserReturn();
+}
+
+/// For windows in the frame and beside it: without one, the key must not end the program.
+bool Keyboard::TakeClose(Form& form) {
+  if (form.Kind() == FormKind::kFrame) return false;
+  form.UserClose();
+  return true;
 }
 
 bool Keyboard::TakeHelp() {

@@ -26,6 +26,7 @@ class Keyboard : public QObject {
   bool TakeAccelerator(char16_t letter, Form& form);
   bool TakeReturn(QWidget& receiver, Form& form);
   bool TakeHelp();
+  static bool TakeClose(Form& form);
   [[nodiscard]] Form* FormFor(QWidget& receiver) const;
 
   WindowSystem& windows_;

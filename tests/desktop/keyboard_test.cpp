@@ -121,6 +121,16 @@ TEST_CASE("The key for help presses the menu's help entry") {
   CHECK(form.log.Take() == "help");
 }
 
+TEST_CASE("Ctrl+F4 closes the window in front, and never the frame") {
+  Desk desk;
+  desk.ShowChild();
+  QTest::keyClick(&Focused(), Qt::Key_F4, Qt::ControlModifier);
+  CHECK_FALSE(desk.child.IsLoaded());
+  Desk::Settle();
+  QTest::keyClick(Desk::Top("MDIForm1"), Qt::Key_F4, Qt::ControlModifier);
+  CHECK_FALSE(desk.windows.ExitStatus());
+}
+
 TEST_CASE("Space presses the button that has the focus") {
   Desk desk;
   SampleForm& form = desk.ShowChild();

@@ -112,6 +112,15 @@ TEST_CASE("Nothing of a dropped document is printed, then or later") {
   CHECK(desk.Pages() == 1);
 }
 
+TEST_CASE("A document that was broken off leaves the next one neither bold nor italic") {
+  PdfDesk desk;
+  const double plain = desk.surface.TextWidth(u"Tessara");
+  desk.surface.SetBold(true);
+  desk.surface.SetItalic(true);
+  desk.surface.DropDocument();
+  CHECK(desk.surface.TextWidth(u"Tessara") == plain);
+}
+
 TEST_CASE("The documents of one job follow each other in its file, and the next job's is new") {
   PdfDesk desk;
   for (const int pages : {1, 2}) {

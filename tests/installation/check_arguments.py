@@ -83,6 +83,12 @@ class Paths(Scratch):
                 self.assertEqual(self.picture(*arguments), wanted)
         with self.subTest("an argument without a letter"):
             self.assertEqual(self.picture(""), plain)
+        with self.subTest("up from behind a link"):
+            folder = self.home / "elsewhere" / "folder"
+            folder.mkdir(parents=True)
+            self.deck.rename(folder.parent / self.deck.name)
+            (self.folder / "link").symlink_to(folder)
+            self.assertEqual(self.picture("link/../two words.tsr"), wanted)
 
 
 class BadInput(Scratch):

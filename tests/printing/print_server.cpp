@@ -150,7 +150,8 @@ void PrintServer::Configure() const {
   folder_.Write(
       "root/lpoptions",
       std::string("Dest ") + kOtherQueue +
-          " copies=3 number-up=4 sides=two-sided-long-edge fit-to-page=true mirror=true\n");
+          " copies=3 number-up=4 sides=two-sided-long-edge fit-to-page=true mirror=true\nDest " +
+          kNamedSettings + " number-up=2\n");
   AddQueue(kRefusingQueue, "A4", "No");
 }
 

@@ -27,6 +27,8 @@ class PrintServer {
   /// Another queue that works. Its paper is Letter, and its user has settings of his own for it:
   /// three copies, four pages on a sheet, both sides of the paper, fitted and mirrored.
   static constexpr const char* kOtherQueue = "letters";
+  /// The first queue with settings to which its user has given a name: two pages on a sheet.
+  static constexpr const char* kNamedSettings = "cards/draft";
   /// Takes no jobs.
   static constexpr const char* kRefusingQueue = "refusing";
 

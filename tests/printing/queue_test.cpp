@@ -121,6 +121,14 @@ TEST_CASE("each copy of a listing is a job on the chosen queue's own paper") {
   CHECK(jobs[0].pages[0].Has("Card #1 F2 B2 Card #2 F3 B3"));
 }
 
+TEST_CASE("settings that the user has named are chosen like a queue, and print on theirs") {
+  PaperDesk desk(3);
+  REQUIRE(desk.Print(PrintServer::kNamedSettings, Mode::kFlat) == "PRINT");
+  CHECK(desk.queues.TakeJobs(PrintServer::kQueue, 1).front().Has("number-up=2"));
+  REQUIRE(desk.Print(PrintServer::kNamedSettings, Mode::kCards) == "PRINT");
+  test::CheckSheets(PagesOf(desk.queues.TakeJobs(PrintServer::kQueue, 2)), 3, false);
+}
+
 TEST_CASE("a listing on its way to a queue makes no temporary file") {
   PaperDesk desk(3);
   const QByteArray before = qgetenv("TMPDIR");

@@ -161,6 +161,9 @@ void QtPrintSurface::DropDocument() {
   pages_.resize(ended_);
   y_ = 0;
   document_.reset();
+  // One that was broken off may have been in the middle of a heading.
+  font_.setBold(false);
+  font_.setItalic(false);
 }
 
 /// Qt's own ways to a queue and into a file do not tell whether all has got there.
