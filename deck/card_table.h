@@ -17,7 +17,7 @@ inline constexpr int kInfoRow = 0;
 /// Columns of a card's row. Type "E" is a text card, with a back; "T" a true/false and "M" a
 /// multiple-choice question, with an answer key and the choices of the latter.
 enum Column : int {
-  kStray = 0,  ///< not stored in the file; an import's answer lines of unknown letter end here
+  kStray = 0,  ///< not stored in the file; an import's choice lines of unknown letter end here
   kCardType = 1,
   kCardText = 2,  ///< front of a card, or question
   kRowNumber = 3,

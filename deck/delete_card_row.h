@@ -7,9 +7,9 @@
 
 namespace tessara {
 
-/// Asks, and on Yes deletes the card of the row, moves the later ones up, and brings the arrows
-/// and the card's numbers up to date. Deleting the last card lowers `xRecNbr` by one. Raises
-/// error 9 for a row outside the table.
+/// Asks, and on any answer but No deletes the card of the row, moves the later ones up, and brings
+/// the arrows and the card's numbers up to date. Deleting the last card lowers `xRecNbr` by one.
+/// Raises error 9 for a row outside the table.
 void DeleteCardRow(std::int16_t& xRecNbr, MoveButtons& owner, CardFace& card, ProgramState& state,
                    MessageBoxes& messages);
 

@@ -21,7 +21,7 @@ struct ImportContext {
   MessageBoxes& messages;
   const CodePage& codePage;
   Date today;
-  /// Shows the number of cards, each time it has grown.
+  /// Shows the number of cards, at each card's number that is read.
   std::function<void(std::int16_t)> setCardTotal;
   /// Brings up the deck that has been read, at its first card.
   std::function<void(DeckKind)> showDeck;

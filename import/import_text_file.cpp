@@ -56,6 +56,8 @@ void ImportTextFile(AppContext& app, FileNumber& fileNumber, Window<DeckWindow> 
   importDeck(path, ContextOf(app, fileNumber, deck));
   // Whether or not it has worked.
   app.state.SaveOffered = true;
+  // The window has come up before its deck was a changed one.
+  if (deck.IsLoaded()) deck->ConfigSaveMenu();
 }
 
 }  // namespace tessara

@@ -26,8 +26,8 @@ class frmMain : public DeckWindow {
   PictureBox Picture1;
   /// The panel on which the user grades himself.
   Frame Frame1;
-  /// The buttons of Command1 by the credit that they give.
-  enum : int { kNoCredit = 0, kFullCredit = 1, kPartialCredit = 2 };
+  /// The buttons of Command1 by the credit that they give; the first one gives none.
+  enum : int { kFullCredit = 1, kPartialCredit = 2 };
   ControlArray<Button, 3> Command1;
   /// The panel of choices.
   Frame Frame2;

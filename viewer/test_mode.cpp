@@ -71,7 +71,7 @@ void frmMain::TestModeFlip() {
   if (State().CardMode != kTestMode) return;
   if (NoteletCtl1.CardBanner().starts_with(kComplete)) return;
   Frame1.SetEnabled(true);
-  OfferNext({&Command1[1]});
+  OfferNext({&Command1[kFullCredit]});
 }
 
 void frmMain::Command1_Click(int Index) {

@@ -51,8 +51,8 @@ Destination FindQueue(http_t* system, const std::string& queue) {
   const std::size_t slash = queue.find('/');
   const bool named = slash != std::string::npos;
   const std::string settings = named ? queue.substr(slash + 1) : "";
-  return Destination(cupsGetNamedDest(system, queue.substr(0, slash).c_str(),
-                                      named ? settings.c_str() : nullptr));
+  return Destination(
+      cupsGetNamedDest(system, queue.substr(0, slash).c_str(), named ? settings.c_str() : nullptr));
 }
 
 void Set(cups_dest_t& destination, const QueueOption& option) {

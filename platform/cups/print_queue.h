@@ -16,8 +16,8 @@ struct QueueOption {
 inline constexpr std::chrono::seconds kQueuePatience{10};
 
 /// Sends a PDF file to a print queue, named as CUPS names a destination ("queue" or
-/// "queue/instance"), with the user's own options for it but for those given here. Raises error 482 where there is no such queue, it takes no job, or the
-/// printing system does not answer.
+/// "queue/instance"), with the user's own options for it but for those given here. Raises error 482
+/// where there is no such queue, it takes no job, or the printing system does not answer.
 void PrintOnQueue(const std::string& queue, const std::string& pdfPath,
                   std::span<const QueueOption> options,
                   std::chrono::seconds patience = kQueuePatience);

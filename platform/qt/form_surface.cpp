@@ -52,7 +52,8 @@ void FormSurface::KeepFocusFromStraying(const Control& control) {
   const bool inside = focused == &off || off.isAncestorOf(focused);
   if (!inside || (control.Enabled() && control.Visible())) return;
   focused->clearFocus();
-  QMetaObject::invokeMethod(this, [this] { RestoreFocus(); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      this, [this] { RestoreFocus(); }, Qt::QueuedConnection);
 }
 
 void FormSurface::RestoreFocus() {

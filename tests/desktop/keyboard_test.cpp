@@ -152,7 +152,8 @@ TEST_CASE("The focus is where the form has it, and its moves are told once") {
   CHECK(form.log.Take() == "got focus");
 }
 
-TEST_CASE("What goes off with the focus on it hands it to the next control, or where the form says") {
+TEST_CASE(
+    "What goes off with the focus on it hands it to the next control, or where the form says") {
   struct Case {
     const char* pressed;
     std::function<void(SampleForm&)> handler;

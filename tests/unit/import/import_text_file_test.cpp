@@ -44,6 +44,8 @@ TEST_CASE("a standard text comes up as a new deck in study mode") {
   CHECK(desk.state.CardCount == 1);
   CHECK(desk.state.DeckChanged);
   CHECK(desk.state.SaveOffered);
+  CHECK(desk.deck->mnuSave.Enabled());
+  CHECK(desk.deck->mnuSaveAs.Enabled());
   CHECK(desk.state.DeckFilePath.empty());
   CHECK_FALSE(desk.fileNumber.IsOpen());
 }
@@ -54,6 +56,8 @@ TEST_CASE("an extended text comes up with the answer of its first card") {
   CHECK(desk.deck->Visible());
   CHECK(desk.deck->Caption() == u"New Deck");
   CHECK(desk.state.DeckType == kExtendedDeck);
+  CHECK(desk.deck->NoteletCtl1.CardText() == u"question");
+  CHECK(desk.deck->Label2.Caption() == u"FALSE");
   CHECK(desk.state.SaveOffered);
 }
 

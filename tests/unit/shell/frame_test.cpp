@@ -1,5 +1,6 @@
 #include <doctest/doctest.h>
 #include <functional>
+#include <vector>
 
 #include "shell/documents.h"
 #include "tests/support/program_desk.h"
@@ -12,6 +13,12 @@ namespace {
 void CloseDeckWindow(ProgramDesk& desk) {
   desk.Deck().Command3[2].Press();
   REQUIRE_FALSE(desk.program.DeckWindowOf().IsLoaded());
+}
+
+std::vector<Text> CaptionsOf(const MenuEntry& menu) {
+  std::vector<Text> captions;
+  for (const MenuEntry* entry : menu.Entries()) captions.push_back(entry->Caption());
+  return captions;
 }
 
 }  // namespace
@@ -35,6 +42,17 @@ TEST_CASE("a tile larger than the screen is painted once") {
   desk.fakes.settings.values[u"BackDrop"] = u"DESERT";
   desk.Start();
   CHECK(desk.Frame().Painted().size() == 1);
+}
+
+TEST_CASE("the frame's menus hold their commands in their order") {
+  ProgramDesk desk;
+  desk.Start();
+  const MDIForm1& frame = desk.Frame();
+  CHECK(CaptionsOf(frame.mnuFile) == std::vector<Text>{u"&New", u"&Open Existing Deck", u"Set &Up",
+                                                       u"Import Text File", u"-", u"&Exit"});
+  CHECK(CaptionsOf(frame.mnuNew) == std::vector<Text>{u"&Standard Tessara", u"E&xtended Tessara"});
+  CHECK(CaptionsOf(frame.mnuHelp) ==
+        std::vector<Text>{u"&Tessara Help Topics", u"&About", u"Separating the cards"});
 }
 
 TEST_CASE("the tiles stand under their twenty keys, in their order") {
