@@ -20,6 +20,9 @@ namespace tessara {
 
 namespace {
 
+constexpr mode_t kOwn = S_IRUSR | S_IWUSR;
+constexpr mode_t kOfOthers = S_IRWXG | S_IRWXO;
+
 [[noreturn]] void RaisePathError(int systemError) {
   throw RunTimeError(PathError(systemError));
 }
@@ -62,10 +65,10 @@ ErrorNumber OpenError(int systemError, const std::string& path) {
 }  // namespace
 
 std::unique_ptr<File> PosixFileSystem::Open(const Text& path, OpenMode mode) {
-  constexpr mode_t kBeforeMask = 0666;
   const std::string name = SystemPath(path);
+  const mode_t permissions = PermissionsOfNew(name);
   const int descriptor =
-      Uninterrupted([&] { return open(name.c_str(), FlagsOf(mode), kBeforeMask); });
+      Uninterrupted([&] { return open(name.c_str(), FlagsOf(mode), permissions); });
   if (descriptor == kFailed) throw RunTimeError(OpenError(errno, name));
   auto file = std::make_unique<PosixFile>(descriptor);
   struct stat status {};
@@ -75,10 +78,17 @@ std::unique_ptr<File> PosixFileSystem::Open(const Text& path, OpenMode mode) {
   return file;
 }
 
+/// Before the user's mask.
+mode_t PosixFileSystem::PermissionsOfNew(const std::string& name) const {
+  constexpr mode_t kEverybody = 0666;
+  return deleted_ && deleted_->name == name ? deleted_->permissions : kEverybody;
+}
+
 void PosixFileSystem::Delete(const Text& path) {
+  const std::string name = SystemPath(path);
   // The link stays and the next opening makes what it leads to anew.
-  const std::unique_ptr<char, decltype(&std::free)> target(
-      realpath(SystemPath(path).c_str(), nullptr), &std::free);
+  const std::unique_ptr<char, decltype(&std::free)> target(realpath(name.c_str(), nullptr),
+                                                           &std::free);
   if (target == nullptr) RaisePathError(errno);
   struct stat status {};
   if (stat(target.get(), &status) == kFailed) RaisePathError(errno);
@@ -86,6 +96,7 @@ void PosixFileSystem::Delete(const Text& path) {
   // The system would let the owner of the folder delete a file that is kept from being written.
   if (access(target.get(), W_OK) == kFailed) RaisePathError(errno);
   if (unlink(target.get()) == kFailed) RaisePathError(errno);
+  deleted_ = {name, (status.st_mode & kOfOthers) | kOwn};
 }
 
 std::optional<Text> PosixFileSystem::EntryName(const Text& path) {

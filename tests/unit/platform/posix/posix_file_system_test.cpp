@@ -142,6 +142,25 @@ TEST_CASE("a new file gets the permissions that the user's mask leaves") {
   CHECK(permissions == static_cast<std::filesystem::perms>(0640));
 }
 
+TEST_CASE("a file in the place of the one deleted last is as private as that was, another is not") {
+  const ScratchFolder folder;
+  const auto permissionsOf = [&](const char* name) {
+    return static_cast<unsigned>(std::filesystem::status(folder / name).permissions());
+  };
+  const mode_t mask = umask(022);
+  PosixFileSystem files;
+  for (const unsigned permissions : {0600U, 0640U, 0644U}) {
+    folder.Write("deck", "old");
+    std::filesystem::permissions(folder / "deck", std::filesystem::perms(permissions));
+    files.Delete(folder.TextPath(u"deck"));
+    (void)files.Open(folder.TextPath(u"deck"), OpenMode::kReadAndWrite);
+    CHECK(permissionsOf("deck") == permissions);
+    (void)files.Open(folder.TextPath(u"other"), OpenMode::kReadAndWrite);
+    CHECK(permissionsOf("other") == 0644U);
+  }
+  umask(mask);
+}
+
 TEST_CASE("a huge file is read at the places asked for") {
   constexpr std::uintmax_t kTenGigabytes = 10'000'000'000;
   const ScratchFolder folder;
