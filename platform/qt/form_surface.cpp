@@ -3,6 +3,7 @@
 #include <QMouseEvent>
 #include <algorithm>
 #include <utility>
+#include <vector>
 
 #include "platform/qt/make_view.h"
 #include "platform/qt/painted_pictures.h"
@@ -47,10 +48,10 @@ void FormSurface::Follow(Control& control, Aspect aspect) {
 /// switches it off. The form may have a better place for it; where it has none, the event's end is
 /// soon enough.
 void FormSurface::KeepFocusFromStraying(const Control& control) {
+  if (control.Enabled() && control.Visible()) return;
   const QWidget& off = ViewOf(control).Widget();
   QWidget* focused = window()->focusWidget();
-  const bool inside = focused == &off || off.isAncestorOf(focused);
-  if (!inside || (control.Enabled() && control.Visible())) return;
+  if (focused != &off && !off.isAncestorOf(focused)) return;
   focused->clearFocus();
   QMetaObject::invokeMethod(
       this, [this] { RestoreFocus(); }, Qt::QueuedConnection);
@@ -92,15 +93,13 @@ void FormSurface::FollowColors() {
 Control* FormSurface::WantedFocus() const {
   Control* focused = form_->FocusedControl();
   if (focused != nullptr && focused->Reachable()) return focused;
-  const auto& controls = form_->Controls();
-  const auto takesFocus = [](const Control* control) {
+  std::vector<Control*> controls = form_->Controls();
+  std::rotate(controls.begin(), std::find(controls.begin(), controls.end(), focused),
+              controls.end());
+  const auto next = std::find_if(controls.begin(), controls.end(), [](const Control* control) {
     return control->TakesFocus() && control->Reachable();
-  };
-  const auto before = std::find(controls.begin(), controls.end(), focused);
-  const auto next = std::find_if(before, controls.end(), takesFocus);
-  if (next != controls.end()) return *next;
-  const auto first = std::find_if(controls.begin(), before, takesFocus);
-  return first == before ? nullptr : *first;
+  });
+  return next == controls.end() ? nullptr : *next;
 }
 
 void FormSurface::TakeFocus() {
