@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <limits>
 
-#include "authoring/frmQuestion.h"
+#include "authoring/question_builder.h"
 
 namespace tessara {
 
@@ -28,121 +28,121 @@ bool AnySelected(const Options& options) {
 
 }  // namespace
 
-void frmQuestion::OpenLine(int line, bool open) {
-  Text1[line].SetEnabled(open);
-  Text1[line].SetBackColor(open ? kOpenColor : kClosedColor);
+void QuestionBuilder::OpenLine(int line, bool open) {
+  answers[line].SetEnabled(open);
+  answers[line].SetBackColor(open ? kOpenColor : kClosedColor);
 }
 
-void frmQuestion::ResetAnswerLines() {
+void QuestionBuilder::ResetAnswerLines() {
   for (int line = 0; line <= kLastLine; ++line) {
     OpenLine(line, false);
-    Option1[line].SetEnabled(false);
+    marks[line].SetEnabled(false);
   }
   OpenLine(0, true);
 }
 
-void frmQuestion::SyncAnswerLines() {
+void QuestionBuilder::SyncAnswerLines() {
   for (int line = 0; line <= kLastLine; ++line) {
-    if (!HasText(Text1[line])) continue;
+    if (!HasText(answers[line])) continue;
     OpenLine(line, true);
-    Option1[line].SetEnabled(true);
+    marks[line].SetEnabled(true);
   }
   for (int line = 0; line <= kLastLine; ++line) {
-    if (HasText(Text1[line])) continue;
+    if (HasText(answers[line])) continue;
     OpenLine(line, true);
     return;
   }
 }
 
-void frmQuestion::EnableResponceLine(int Index) {
-  const bool enable = HasText(Text1[Index]);
-  if (!enable) Option1[Index].SetSelected(false);
-  if (Index < kLastLine && HasText(Text1[Index + 1])) return;
-  Option1[Index].SetEnabled(enable);
+void QuestionBuilder::EnableResponceLine(int line) {
+  const bool enable = HasText(answers[line]);
+  if (!enable) marks[line].SetSelected(false);
+  if (line < kLastLine && HasText(answers[line + 1])) return;
+  marks[line].SetEnabled(enable);
   // The last line acts on itself: emptied, only a change of the line before opens it again.
-  OpenLine(std::min(Index + 1, kLastLine), enable);
+  OpenLine(std::min(line + 1, kLastLine), enable);
 }
 
 /// A line that has closed itself under the user's hands: the line before opens it again.
-void frmQuestion::LeaveClosedLine(int line) {
-  if (FocusedControl() != &Text1[line] || Text1[line].Enabled()) return;
-  TextBox& before = Text1[line - 1];
+void QuestionBuilder::LeaveClosedLine(int line) {
+  if (FocusedControl() != &answers[line] || answers[line].Enabled()) return;
+  TextBox& before = answers[line - 1];
   if (before.Reachable()) before.SetFocus();
 }
 
-void frmQuestion::CardChange() {
+void QuestionBuilder::CardChange() {
   bool canAdd = false;
   bool canCancel = false;
   CanAddCard(canAdd);
   CanCancelCard(canCancel);
-  Command2[kAddButton].SetEnabled(canAdd);
-  Command2[kCancelButton].SetEnabled(canCancel);
+  buttons[kAddButton].SetEnabled(canAdd);
+  buttons[kCancelButton].SetEnabled(canCancel);
 }
 
-void frmQuestion::CanAddCard(bool& result) const {
+void QuestionBuilder::CanAddCard(bool& result) const {
   ChkOptions(result);
-  result = result && HasText(Text2);
+  result = result && HasText(question);
 }
 
-void frmQuestion::CanCancelCard(bool& result) const {
-  result = HasText(Text2) || HasText(Text1[0]) || AnySelected(Option2);
+void QuestionBuilder::CanCancelCard(bool& result) const {
+  result = HasText(question) || HasText(answers[0]) || AnySelected(trueFalseMarks);
 }
 
-void frmQuestion::ChkOptions(bool& result) const {
-  if (Option3[0].Selected()) {
-    result = std::any_of(Text1.begin(), Text1.end(), HasText) && AnySelected(Option1);
+void QuestionBuilder::ChkOptions(bool& result) const {
+  if (layouts[kMultipleChoice].Selected()) {
+    result = std::any_of(answers.begin(), answers.end(), HasText) && AnySelected(marks);
   } else {
-    result = Option3[1].Selected() && AnySelected(Option2);
+    result = layouts[kTrueOrFalse].Selected() && AnySelected(trueFalseMarks);
   }
 }
 
-void frmQuestion::AnsSelected(bool& result) const {
-  result = AnySelected(Option1);
+void QuestionBuilder::AnsSelected(bool& result) const {
+  result = AnySelected(marks);
 }
 
-void frmQuestion::Text1_Change(int Index) {
-  if (!State().CardChanged) CardChange();
-  EnableResponceLine(Index);
-  if (State().CardChanged) return;
+void QuestionBuilder::FollowAnswer(int line) {
+  if (!State().building.fillingBoxes) CardChange();
+  EnableResponceLine(line);
+  if (State().building.fillingBoxes) return;
   // The mark alone decides here, whatever the question holds.
   bool selected = false;
   AnsSelected(selected);
-  Command2[kAddButton].SetEnabled(selected);
-  LeaveClosedLine(Index);
+  buttons[kAddButton].SetEnabled(selected);
+  LeaveClosedLine(line);
 }
 
-void frmQuestion::Text2_Change() {
-  if (!State().CardChanged) CardChange();
+void QuestionBuilder::FollowQuestion() {
+  if (!State().building.fillingBoxes) CardChange();
 }
 
-void frmQuestion::Option1_Click(int /*Index*/) {
-  if (State().CardChanged) {
-    State().CardChanged = false;
+void QuestionBuilder::FollowMark() {
+  if (State().building.fillingBoxes) {
+    State().building.fillingBoxes = false;
     return;
   }
   CardChange();
-  Command2[kAddButton].SetEnabled(HasText(Text1[0]));
+  buttons[kAddButton].SetEnabled(HasText(answers[0]));
 }
 
-void frmQuestion::Option2_Click(int /*Index*/) {
-  if (State().CardChanged) {
-    State().CardChanged = false;
+void QuestionBuilder::FollowTrueFalseMark() {
+  if (State().building.fillingBoxes) {
+    State().building.fillingBoxes = false;
     return;
   }
   CardChange();
 }
 
-void frmQuestion::Text1_GotFocus(int Index) {
-  if (Text1[Index].TextOf() == kPlaceholder) Text1[Index].SetText(u"");
+void QuestionBuilder::ClearPlaceholder(int line) {
+  if (answers[line].TextOf() == kPlaceholder) answers[line].SetText(u"");
 }
 
-void frmQuestion::Text1_KeyPress(int Index, char16_t KeyAscii) {
-  std::int16_t& capitals = State().CapitalCount;
-  const bool capital = KeyAscii >= u'A' && KeyAscii <= u'Z';
+void QuestionBuilder::CountCapitals(int line, char16_t character) {
+  std::int16_t& capitals = State().building.capitalCount;
+  const bool capital = character >= u'A' && character <= u'Z';
   if (capital && capitals < std::numeric_limits<std::int16_t>::max()) ++capitals;
   if (capitals != kShorteningCapital) return;
-  Text1[Index].SetMaxLength(kShortLine);
-  State().AnswerLineLimit.at(static_cast<std::size_t>(Index)) = kShortLine;
+  answers[line].SetMaxLength(kShortLine);
+  State().building.answerLineLimit.at(static_cast<std::size_t>(line)) = kShortLine;
 }
 
 }  // namespace tessara

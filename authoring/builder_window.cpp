@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "deck/delete_card_row.h"
-#include "platform/message_box.h"
+#include "machine/message_box.h"
 
 namespace tessara {
 
@@ -15,12 +15,12 @@ constexpr TextView kCancelCaption = u"&Cancel";
 
 }  // namespace
 
-BuilderWindow::BuilderWindow(AppContext& app, std::string name, Window<frmMain> deck)
+BuilderWindow::BuilderWindow(AppContext& app, std::string name, Window<DeckWindow> deck)
     : Form(app.windows, std::move(name), FormKind::kChild, u"Tessara"), app_(app), deck_(deck) {
-  cmdMove.Wire(&Button::onClick, [this](int Index) { cmdMove_Click(Index); });
+  arrows.Wire(&Button::onClick, [this](int arrow) { Page(arrow); });
 }
 
-void BuilderWindow::Form_Unload(bool& /*cancel*/) {
+void BuilderWindow::OnUnload(bool& /*cancel*/) {
   deck_->SetVisible(true);
   deck_->Show();
 }
@@ -38,20 +38,21 @@ void BuilderWindow::KeepFocus(const Button& pressed, const Command& command,
   if (next != others.end()) (*next)->SetFocus();
 }
 
-void BuilderWindow::cmdMove_Click(int Index) {
+void BuilderWindow::Page(int arrow) {
   ProgramState& state = State();
   const auto move = [&] {
     AskSaveChanged();
-    state.CurrentCard = static_cast<std::int16_t>(state.CurrentCard + (Index == 1 ? 1 : -1));
-    ShowBuilderCard(state.CurrentCard);
-    SetMoveButtons(cmdMove, state);
+    state.deck.currentCard =
+        static_cast<std::int16_t>(state.deck.currentCard + (arrow == kNextCard ? 1 : -1));
+    ShowBuilderCard(state.deck.currentCard);
+    SetMoveButtons(arrows, state);
   };
-  KeepFocus(cmdMove[Index], [&] { UnderGuard(move); }, {&cmdMove[1 - Index]});
+  KeepFocus(arrows[arrow], [&] { UnderGuard(move); }, {&arrows[1 - arrow]});
 }
 
-void BuilderWindow::Button_Click(int Index) {
+void BuilderWindow::PressButton(int button) {
   Buttons& buttons = ButtonsOf();
-  switch (Index) {
+  switch (button) {
     case kNewButton:
       StartNewCard();
       break;
@@ -67,20 +68,20 @@ void BuilderWindow::Button_Click(int Index) {
   }
 }
 
-void BuilderWindow::SetBuilderState(BuilderState xState) {
+void BuilderWindow::SetBuilderState(BuilderState state) {
   Buttons& buttons = ButtonsOf();
   buttons[kAddButton].SetEnabled(false);
-  if (xState == BuilderState::kNew) {
+  if (state == BuilderState::kNew) {
     buttons[kNewButton].SetEnabled(false);
     buttons[kAddButton].SetCaption(Text(kAddCaption));
     buttons[kCancelButton].SetCaption(Text(kCancelCaption));
-    for (Button& arrow : cmdMove) arrow.SetEnabled(false);
+    for (Button& arrow : arrows) arrow.SetEnabled(false);
   } else {
-    buttons[kNewButton].SetEnabled(State().CardCount < kMostCards);
+    buttons[kNewButton].SetEnabled(State().deck.cardCount < kMostCards);
     buttons[kAddButton].SetCaption(u"&Change");
-    buttons[kCancelButton].SetEnabled(State().CardCount > 0);
+    buttons[kCancelButton].SetEnabled(State().deck.cardCount > 0);
     buttons[kCancelButton].SetCaption(u"&Delete form deck");
-    SetMoveButtons(cmdMove, State());
+    SetMoveButtons(arrows, State());
   }
 }
 
@@ -90,30 +91,30 @@ void BuilderWindow::PrepareNewCard() {
   ClearForm();
   FirstBox().SetFocus();
   ShowNextNumber();
-  State().CardChanged = false;
+  State().building.fillingBoxes = false;
 }
 
 void BuilderWindow::StartNewCard() {
-  State().CardChanged = true;
+  State().building.fillingBoxes = true;
   AskSaveChanged();
   PrepareNewCard();
   SetBuilderState(BuilderState::kNew);
   ButtonsOf()[kCancelButton].SetEnabled(true);
-  State().CurrentCard = static_cast<std::int16_t>(State().CardCount + 1);
+  State().deck.currentCard = static_cast<std::int16_t>(State().deck.cardCount + 1);
 }
 
 void BuilderWindow::AddOrChange() {
   if (Adding()) {
     AddCard();
-    ShowBuilderCard(State().CurrentCard);
+    ShowBuilderCard(State().deck.currentCard);
     SetBuilderState(BuilderState::kOld);
     deck_->SetGoToMenu();
   } else {
     ChangeCard();
     ButtonsOf()[kAddButton].SetEnabled(false);
   }
-  State().DeckChanged = true;
-  State().SaveOffered = true;
+  State().deck.changed = true;
+  State().deck.saveOffered = true;
 }
 
 void BuilderWindow::CancelOrDelete() {
@@ -127,12 +128,12 @@ void BuilderWindow::CancelOrDelete() {
 
 void BuilderWindow::Delete() {
   ProgramState& state = State();
-  DeleteCardRow(state.CurrentCard, cmdMove, deck_->NoteletCtl1, state, app_.machine.messages);
+  DeleteCardRow(state.deck.currentCard, arrows, deck_->card, state, app_.machine.messages);
   UnderGuard([this] { ClearForm(); });
   // Also where the user said no.
-  state.DeckChanged = true;
-  if (state.CardCount != 0) {
-    UnderGuard([&] { ShowBuilderCard(state.CurrentCard); });
+  state.deck.changed = true;
+  if (state.deck.cardCount != 0) {
+    UnderGuard([&] { ShowBuilderCard(state.deck.currentCard); });
     SetBuilderState(BuilderState::kOld);
   } else {
     WaitForFirstCard();
@@ -163,7 +164,7 @@ bool BuilderWindow::AskAboutChangedCard() {
 }
 
 void BuilderWindow::EnsureCurrentCard() {
-  if (State().CurrentCard == 0) State().CurrentCard = 1;
+  if (State().deck.currentCard == 0) State().deck.currentCard = 1;
 }
 
 }  // namespace tessara

@@ -8,7 +8,7 @@
 #include "forms/controls.h"
 #include "forms/form.h"
 #include "forms/window.h"
-#include "viewer/frmMain.h"
+#include "viewer/deck_window.h"
 
 namespace tessara {
 
@@ -26,19 +26,19 @@ class BuilderWindow : public Form {
  public:
   using Buttons = ControlArray<Button, 4>;
 
-  MoveButtons cmdMove;
+  MoveButtons arrows{"cmdMove"};
 
-  void cmdMove_Click(int Index);
+  void Page(int arrow);
 
  protected:
-  BuilderWindow(AppContext& app, std::string name, Window<frmMain> deck);
+  BuilderWindow(AppContext& app, std::string name, Window<DeckWindow> deck);
 
-  void Form_Unload(bool& cancel) override;
-  void Form_Click() override { app_.frame.CloseAbout(); }
+  void OnUnload(bool& cancel) override;
+  void OnClick() override { app_.frame.CloseAbout(); }
 
   [[nodiscard]] ProgramState& State() const { return app_.state; }
   [[nodiscard]] AppContext& App() const { return app_; }
-  [[nodiscard]] Window<frmMain> Deck() const { return deck_; }
+  [[nodiscard]] Window<DeckWindow> Deck() const { return deck_; }
 
   // Where each builder is its own.
   virtual Buttons& ButtonsOf() = 0;
@@ -46,7 +46,7 @@ class BuilderWindow : public Form {
   /// The box that a new card starts with.
   virtual TextBox& FirstBox() = 0;
   virtual void ClearForm() = 0;
-  virtual void ShowBuilderCard(int xRec) = 0;
+  virtual void ShowBuilderCard(int row) = 0;
   virtual void AskSaveChanged() = 0;
   virtual void AddCard() = 0;
   virtual void ChangeCard() = 0;
@@ -56,33 +56,33 @@ class BuilderWindow : public Form {
   // What is the same in both; the question builder adds to it.
   /// Captions and enabled state of the buttons and the arrows by state; the cancel button of a
   /// new card is left on or off.
-  virtual void SetBuilderState(BuilderState xState);
+  virtual void SetBuilderState(BuilderState state);
   /// An empty form with the number behind the last card's; the guard is off then.
   virtual void PrepareNewCard();
   virtual void StartNewCard();
   /// The add button: what it does to the table is told by its caption.
   virtual void AddOrChange();
 
-  void Button_Click(int Index);
+  void PressButton(int button);
   /// A new card in a deck without cards: nothing to cancel yet.
   void WaitForFirstCard();
 
   void ShowNumber(const Text& number) { NumberLabel().SetCaption(u"Card: " + number); }
-  void ShowNextNumber() { ShowNumber(DecimalText(State().CardCount + 1)); }
+  void ShowNextNumber() { ShowNumber(DecimalText(State().deck.cardCount + 1)); }
   /// Asks with Yes and No. True for Yes.
   bool AskYesNo(const Text& question, const Text& title);
   bool AskAboutChangedCard();
   /// Runs writes to the boxes that are not to count as edits.
   template <class Writes>
   void UnderGuard(const Writes& writes) {
-    State().CardChanged = true;
+    State().building.fillingBoxes = true;
     writes();
-    State().CardChanged = false;
+    State().building.fillingBoxes = false;
   }
   /// Makes card 1 the current one where there is none yet.
   void EnsureCurrentCard();
   /// A deck with a card can be printed.
-  void EnablePrinting() { deck_->mnuPrint.SetEnabled(State().CardCount >= 1); }
+  void EnablePrinting() { deck_->printDeck.SetEnabled(State().deck.cardCount >= 1); }
 
  private:
   // The captions are the state.
@@ -97,7 +97,7 @@ class BuilderWindow : public Form {
                  std::initializer_list<Button*> others);
 
   AppContext& app_;
-  Window<frmMain> deck_;
+  Window<DeckWindow> deck_;
 };
 
 }  // namespace tessara

@@ -4,13 +4,14 @@
 
 namespace tessara {
 
-void OpenBuilder(AppContext& app, Window<frmMain> deck, Window<frmEssay> textBuilder,
-                 Window<frmQuestion> questionBuilder) {
-  app.state.CardChanged = true;
-  if (app.state.DeckType == kExtendedDeck) {
-    PlaceInFrame(questionBuilder.Slot(), frmQuestion::kHeight, frmQuestion::kWidth, app.frame);
-  } else if (app.state.DeckType == kStandardDeck) {
-    PlaceInFrame(textBuilder.Slot(), frmEssay::kHeight, frmEssay::kWidth, app.frame);
+void OpenBuilder(AppContext& app, Window<DeckWindow> deck, Window<TextCardBuilder> textBuilder,
+                 Window<QuestionBuilder> questionBuilder) {
+  app.state.building.fillingBoxes = true;
+  if (app.state.deck.kind == kExtendedDeck) {
+    PlaceInFrame(questionBuilder.Slot(), QuestionBuilder::kHeight, QuestionBuilder::kWidth,
+                 app.frame);
+  } else if (app.state.deck.kind == kStandardDeck) {
+    PlaceInFrame(textBuilder.Slot(), TextCardBuilder::kHeight, TextCardBuilder::kWidth, app.frame);
   }
   deck->Hide();
 }

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "authoring/frmEssay.h"
-#include "authoring/frmQuestion.h"
+#include "authoring/question_builder.h"
+#include "authoring/text_card_builder.h"
 
 namespace tessara {
 
 /// Opens the builder of the deck's type over the deck window, which is hidden as long as it is
 /// open. The builder loads under the guard: what it writes to its boxes is no edit.
-void OpenBuilder(AppContext& app, Window<frmMain> deck, Window<frmEssay> textBuilder,
-                 Window<frmQuestion> questionBuilder);
+void OpenBuilder(AppContext& app, Window<DeckWindow> deck, Window<TextCardBuilder> textBuilder,
+                 Window<QuestionBuilder> questionBuilder);
 
 }  // namespace tessara

@@ -1,7 +1,8 @@
 // How a question card is checked, goes into the table, and comes back onto the form.
 
-#include "authoring/frmQuestion.h"
-#include "platform/message_box.h"
+#include "authoring/question_builder.h"
+#include "deck/card_type.h"
+#include "machine/message_box.h"
 #include "viewer/answer_text.h"
 
 namespace tessara {
@@ -18,91 +19,95 @@ const OptionButton* FirstSelected(const Options& options) {
 
 }  // namespace
 
-void frmQuestion::SaveTrueFalse() {}
+void QuestionBuilder::SaveTrueFalse() {}
 
-void frmQuestion::SelChoice(Text& result) const {
+void QuestionBuilder::SelChoice(Text& result) const {
   result.clear();
-  if (Option3[0].Selected()) {
-    const OptionButton* mark = FirstSelected(Option1);
+  if (layouts[kMultipleChoice].Selected()) {
+    const OptionButton* mark = FirstSelected(marks);
     if (mark != nullptr) result = mark->Caption();
-  } else if (Option3[1].Selected()) {
-    const OptionButton* mark = FirstSelected(Option2);
+  } else if (layouts[kTrueOrFalse].Selected()) {
+    const OptionButton* mark = FirstSelected(trueFalseMarks);
     if (mark != nullptr) result = mark->Caption().substr(0, 1);
   }
 }
 
-void frmQuestion::SelTF(Text& result) const {
-  result = Option2[0].Selected() ? u"T" : Option2[1].Selected() ? u"F" : u"";
+void QuestionBuilder::SelTF(Text& result) const {
+  result = trueFalseMarks[kTrueMark].Selected()    ? u"T"
+           : trueFalseMarks[kFalseMark].Selected() ? u"F"
+                                                   : u"";
 }
 
-Text frmQuestion::ChosenType() const {
-  return Option3[0].Selected() ? u"M" : u"T";
+Text QuestionBuilder::ChosenType() const {
+  return Text(LetterOf(layouts[kMultipleChoice].Selected() ? CardType::kMultipleChoice
+                                                           : CardType::kTrueFalse));
 }
 
-void frmQuestion::SaveCard_Gen() {
-  if (Option3[0].Selected()) {
-    SaveMultipleChoice(u"M");
-  } else if (Option3[1].Selected()) {
-    SaveMultipleChoice(u"T");
+void QuestionBuilder::SaveCard_Gen() {
+  if (layouts[kMultipleChoice].Selected()) {
+    SaveMultipleChoice(Text(LetterOf(CardType::kMultipleChoice)));
+  } else if (layouts[kTrueOrFalse].Selected()) {
+    SaveMultipleChoice(Text(LetterOf(CardType::kTrueFalse)));
   }
   // A count, also when an older card was saved: it can run ahead of the filled rows.
-  ++State().CardCount;
+  ++State().deck.cardCount;
 }
 
-void frmQuestion::SaveMultipleChoice(const Text& xQuestType) {
+void QuestionBuilder::SaveMultipleChoice(const Text& cardType) {
   EnsureCurrentCard();
-  WriteCard(State().CurrentCard, xQuestType);
-  State().DeckChanged = true;
+  WriteCard(State().deck.currentCard, cardType);
+  State().deck.changed = true;
 }
 
-void frmQuestion::ChangeCurrentCard(int xRecNbr, const Text& QuestType) {
-  WriteCard(xRecNbr, QuestType);
+void QuestionBuilder::ChangeCurrentCard(int row, const Text& cardType) {
+  WriteCard(row, cardType);
 }
 
-void frmQuestion::WriteCard(int row, const Text& QuestType) {
-  CardTable& grid = State().CardGrid;
+void QuestionBuilder::WriteCard(int row, const Text& cardType) {
+  CardTable& grid = State().deck.cardGrid;
   Text mark;
   SelChoice(mark);
-  grid.Set(row, kCardType, QuestType);
-  grid.Set(row, kCardText, Text2.TextOf());
+  grid.Set(row, kCardType, cardType);
+  grid.Set(row, kCardText, question.TextOf());
   grid.Set(row, kRowNumber, DecimalText(row));
-  for (const TextBox& line : Text1) grid.Set(row, kChoiceA + line.Index(), line.TextOf());
+  for (const TextBox& line : answers) grid.Set(row, kChoiceA + line.Index(), line.TextOf());
   grid.Set(row, kAnswer, mark);
   grid.Set(row, kBackText, u"");
-  State().CardPresent.Set(row, 1);
+  State().deck.cardPresent.Set(row, 1);
 }
 
-void frmQuestion::MarkQuestType(const Text& QuestType) {
-  Option3[QuestType == u"T" ? 1 : 0].SetSelected(true);
+void QuestionBuilder::MarkQuestType(const Text& cardType) {
+  layouts[IsType(cardType, CardType::kTrueFalse) ? kTrueOrFalse : kMultipleChoice].SetSelected(
+      true);
 }
 
-void frmQuestion::MarkCorrAns(const Text& xAns) {
-  const int index = AnswerIndex(xAns);
-  if (xAns == u"T" || xAns == u"F") {
-    Option2[index].SetSelected(true);
+void QuestionBuilder::MarkCorrAns(const Text& key) {
+  const int index = AnswerIndex(key);
+  if (key == u"T" || key == u"F") {
+    trueFalseMarks[index].SetSelected(true);
   } else {
-    Option1[index].SetSelected(true);
+    marks[index].SetSelected(true);
   }
 }
 
-void frmQuestion::CheckAnswerLines(bool& result) {
+void QuestionBuilder::CheckAnswerLines(bool& result) {
   result = TextOnClosedLine() || PlaceholderLeft();
 }
 
-bool frmQuestion::TextOnClosedLine() {
-  for (TextBox& line : Text1) {
+bool QuestionBuilder::TextOnClosedLine() {
+  for (TextBox& line : answers) {
     if (line.TextOf().empty() || line.Enabled()) continue;
     // The number names the line before, which gets the placeholder.
     App().machine.messages.Show(u"Answer line # " + DecimalText(line.Index()) + u" must have text.",
                                 kStopIcon, u"Error: Incomplete Question Builder Information!");
-    Text1[line.Index() - 1].SetText(Text(kPlaceholder));
+    answers[line.Index() - 1].SetText(Text(kPlaceholder));
     return true;
   }
   return false;
 }
 
-bool frmQuestion::PlaceholderLeft() {
-  for (const TextBox& line : Text1) {
+bool QuestionBuilder::PlaceholderLeft() {
+  for (const TextBox& line : answers) {
     if (line.TextOf() != kPlaceholder) continue;
     App().machine.messages.Show(
         u"Unable to save card, PROGRAM text must be replaced on answer line # " +

@@ -1,8 +1,9 @@
 #include "authoring/save_edited_card.h"
 
-#include "authoring/frmEssay.h"
-#include "authoring/frmQuestion.h"
-#include "platform/message_box.h"
+#include "authoring/question_builder.h"
+#include "authoring/text_card_builder.h"
+#include "deck/card_type.h"
+#include "machine/message_box.h"
 
 namespace tessara {
 
@@ -16,27 +17,28 @@ bool SaveEditedCard(const Button& button, AppContext& app, const Save& save) {
       app.machine.messages.Show(u"This card has been changed. Do you want to save these changes?",
                                 kYesNo, Text(kProgramName));
   if (answer != MessageAnswer::kYes) return false;
-  if (app.state.CurrentCard == 0) app.state.CurrentCard = 1;
+  if (app.state.deck.currentCard == 0) app.state.deck.currentCard = 1;
   save();
   app.machine.messages.Show(u"Changes Saved!", kOkOnly, Text(kProgramName));
-  app.state.DeckChanged = true;
-  app.state.SaveOffered = true;
+  app.state.deck.changed = true;
+  app.state.deck.saveOffered = true;
   return true;
 }
 
 }  // namespace
 
-bool SaveEditedQuestion(frmQuestion& builder, AppContext& app) {
-  const Button& button = builder.Command2[kAddButton];
+bool SaveEditedQuestion(QuestionBuilder& builder, AppContext& app) {
+  const Button& button = builder.buttons[kAddButton];
   return SaveEditedCard(button, app, [&] {
-    builder.ChangeCurrentCard(app.state.CurrentCard, builder.ChosenType());
-    if (button.Caption() != u"&Change") ++app.state.CardCount;
+    builder.ChangeCurrentCard(app.state.deck.currentCard, builder.ChosenType());
+    if (button.Caption() != u"&Change") ++app.state.deck.cardCount;
   });
 }
 
-bool SaveEditedText(frmEssay& builder, AppContext& app) {
-  return SaveEditedCard(builder.Command1[kAddButton], app,
-                        [&] { builder.ChangeCurrentCard(app.state.CurrentCard, u"E"); });
+bool SaveEditedText(TextCardBuilder& builder, AppContext& app) {
+  return SaveEditedCard(builder.buttons[kAddButton], app, [&] {
+    builder.ChangeCurrentCard(app.state.deck.currentCard, Text(LetterOf(CardType::kText)));
+  });
 }
 
 }  // namespace tessara

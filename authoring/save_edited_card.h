@@ -4,12 +4,12 @@
 
 namespace tessara {
 
-class frmEssay;
-class frmQuestion;
+class TextCardBuilder;
+class QuestionBuilder;
 
 /// The prompt about a changed card when a builder closes: nothing is asked where its add button
 /// is off. True where the card was saved. The answer lines are not checked here.
-bool SaveEditedQuestion(frmQuestion& builder, AppContext& app);
-bool SaveEditedText(frmEssay& builder, AppContext& app);
+bool SaveEditedQuestion(QuestionBuilder& builder, AppContext& app);
+bool SaveEditedText(TextCardBuilder& builder, AppContext& app);
 
 }  // namespace tessara

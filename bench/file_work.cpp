@@ -12,13 +12,13 @@
 #include <string>
 #include <vector>
 
+#include "adapters/posix/new_file.h"
+#include "adapters/posix/posix_file_system.h"
+#include "adapters/posix/posix_safety_copies.h"
+#include "base/utf8.h"
 #include "deck/deck_file.h"
-#include "import/TextImport.h"
-#include "import/TextImport2.h"
-#include "platform/posix/new_file.h"
-#include "platform/posix/posix_file_system.h"
-#include "platform/posix/posix_safety_copies.h"
-#include "platform/utf8.h"
+#include "import/extended_import.h"
+#include "import/standard_import.h"
 
 using namespace tessara;
 
@@ -82,12 +82,12 @@ class Bench {
   }
 
   void FillDeck() {
-    deck_.CardPresent.Set(kInfoRow, 1);
+    deck_.deck.cardPresent.Set(kInfoRow, 1);
     for (int row = 1; row <= kMostCards; ++row) {
-      deck_.CardPresent.Set(row, 1);
-      deck_.CardGrid.Set(row, kCardType, u"A");
-      deck_.CardGrid.Set(row, kCardText, Text(440, u'q'));
-      deck_.CardGrid.Set(row, kRowNumber, DecimalText(row));
+      deck_.deck.cardPresent.Set(row, 1);
+      deck_.deck.cardGrid.Set(row, kCardType, u"A");
+      deck_.deck.cardGrid.Set(row, kCardText, Text(440, u'q'));
+      deck_.deck.cardGrid.Set(row, kRowNumber, DecimalText(row));
     }
   }
 
@@ -113,7 +113,7 @@ class Bench {
         "deck-load",
         [this](ProgramState& state) {
           LoadDeckFromFile(PathOf("deck.tsr"), state, number_, page_);
-          if (state.CardCount != kMostCards) std::abort();
+          if (state.deck.cardCount != kMostCards) std::abort();
         },
         [&] { PlainRead("deck.tsr", size); });
   }
@@ -128,7 +128,7 @@ class Bench {
           import(PathOf(file),
                  {state, number_, messages_, page_, {2026, 1, 5}, [](std::int16_t){}, [](DeckKind) {
                   }});
-          if (state.CardCount != kMostCards) std::abort();
+          if (state.deck.cardCount != kMostCards) std::abort();
         },
         [&] { PlainRead(file, text.size()); });
   }

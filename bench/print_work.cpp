@@ -7,8 +7,8 @@
 #include <cstdio>
 #include <string>
 
-#include "platform/qt/lazy_print_surface.h"
-#include "platform/utf8.h"
+#include "adapters/qt/devices/lazy_print_surface.h"
+#include "base/utf8.h"
 #include "tests/printing/office_desk.h"
 
 using namespace tessara;

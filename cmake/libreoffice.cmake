@@ -9,7 +9,7 @@ set(officeSdk /usr/lib/libreoffice/sdk CACHE PATH "Its software development kit"
 
 find_program(CPPUMAKER cppumaker HINTS ${officeSdk}/bin)
 find_library(QPDF_LIBRARY qpdf)
-file(GLOB libreofficeSources CONFIGURE_DEPENDS platform/libreoffice/*.cpp)
+file(GLOB libreofficeSources CONFIGURE_DEPENDS adapters/libreoffice/*.cpp)
 
 if(CPPUMAKER AND TARGET tessara_cups AND QPDF_LIBRARY AND libreofficeSources)
   # The interfaces that the sources use; what these use in turn is made with them.
@@ -43,7 +43,8 @@ if(CPPUMAKER AND TARGET tessara_cups AND QPDF_LIBRARY AND libreofficeSources)
     COMPILE_DEFINITIONS POINTERHOLDER_TRANSITION=4
     BUILD_RPATH ${officeProgram} INSTALL_RPATH ${officeProgram})
   target_link_libraries(tessara_libreoffice
-    PRIVATE tessara_warnings tessara_core tessara_posix tessara_uno tessara_cups ${QPDF_LIBRARY})
+    PRIVATE tessara_warnings tessara_uno ${QPDF_LIBRARY})
+  link_layer(tessara_libreoffice adapters/libreoffice)
   if(TARGET tessara)
     add_dependencies(tessara tessara_libreoffice)
   endif()

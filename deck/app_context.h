@@ -1,9 +1,9 @@
 #pragma once
 
-#include "deck/card_table.h"
+#include "deck/program_state.h"
 #include "forms/app_frame.h"
 #include "forms/window_system.h"
-#include "platform/machine.h"
+#include "machine/machine.h"
 
 namespace tessara {
 

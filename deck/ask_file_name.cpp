@@ -1,16 +1,17 @@
 #include "deck/ask_file_name.h"
 
-#include "deck/frmSaveBox.h"
+#include "deck/file_dialog_holder.h"
 #include "forms/window.h"
-#include "platform/desktop.h"
+#include "machine/desktop.h"
 
 namespace tessara {
 
 Text AskFileName(FileDialogMode mode, TextView filter, AppContext& app) {
   Machine& machine = app.machine;
-  WindowSlot slot(app.windows, [&app] { return std::make_unique<frmSaveBox>(app.windows); });
-  const Window<frmSaveBox> box(slot);
-  FileDialogRequest& dialog = box->CommonDialog1;
+  WindowSlot<FileDialogHolder> slot(
+      app.windows, [&app] { return std::make_unique<FileDialogHolder>(app.windows); });
+  const Window<FileDialogHolder> box(slot);
+  FileDialogRequest& dialog = box->dialog;
   dialog.mode = mode;
   dialog.filter = filter;
   dialog.flags = kFileMustExist + kHideReadOnly;

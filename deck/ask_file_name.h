@@ -1,7 +1,7 @@
 #pragma once
 
 #include "deck/app_context.h"
-#include "platform/dialogs.h"
+#include "machine/dialogs.h"
 
 namespace tessara {
 

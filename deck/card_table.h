@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <span>
 
-#include "platform/text.h"
+#include "base/text.h"
 
 namespace tessara {
 
@@ -62,79 +62,5 @@ class PresentFlags {
  private:
   std::array<std::int16_t, kRows> flags_{};
 };
-
-enum DeckKind : std::int32_t { kStandardDeck = 0, kExtendedDeck = 1 };
-enum Mode : std::int32_t { kStudyMode = 0, kQuizMode = 1, kTestMode = 2 };
-
-/// All data of the open deck and all state that outlives a window. One for a run of the program.
-struct ProgramState {
-  // The deck.
-  CardTable CardGrid;
-  PresentFlags CardPresent;
-  std::int16_t CurrentCard = 0;  ///< row on show, from 1; 0 where no deck is in the window
-  std::int16_t CardCount = 0;    ///< number of cards; ClearAllCards leaves it
-  Text DeckFilePath;             ///< empty for a deck without a file
-  Text DeckTitle;
-  Text DeckAuthor;
-  Text DeckDate;
-  Text DeckTypeName;
-  Text DeckDescription;
-
-  // What has happened to it.
-  bool CardChanged = false;  ///< in the builders: text changes do not count as edits
-  bool DeckChanged = false;  ///< the table differs from the file
-  bool DeckOnFile = false;   ///< the save deletes the file first
-  bool SaveOffered = false;  ///< built or imported, never had a file name chosen
-
-  // How it is taken.
-  std::int32_t DeckType = kStandardDeck;
-  std::int32_t CardMode = kStudyMode;
-  double TestPoints = 0;  ///< in steps of 0.5
-
-  // Start-up.
-  Text CommandLineFile;
-  bool DeckFromCommandLine = false;
-  bool CanPrintCards = false;
-
-  // Settings, as read from the store or changed since in the set-up window.
-  Text ShowSplash;
-  Text LargeCardColor;
-  Text LargeCard3D;
-  Text SmallCardColor;
-  Text SmallCard3D;
-  Text BackDrop;
-  bool FirstLoad = false;
-
-  // The question builder: capitals typed so far, and the length that each answer line is down to.
-  std::int16_t CapitalCount = 0;
-  std::array<int, 4> AnswerLineLimit = {48, 48, 48, 48};
-
-  // The imports.
-  Text ImportLine;
-  std::int16_t ImportCardNumber = 0;
-  std::int16_t ImportPrevCard = 0;
-  Text ImportChoiceLetter;
-  Text ImportLastLetter;
-  std::int16_t ImportStdCard = 0;
-  std::int16_t ImportStdPrev = 0;
-
-  // Printing.
-  bool PrintCancelled = false;
-  std::int16_t FlatLastY = 0;  ///< twips below the top of the page, after the last wrapped block
-
-  /// The text of a cell.
-  [[nodiscard]] const Text& Cell(int row, int column) const { return CardGrid.At(row, column); }
-  /// True where the front text of card 1 is not empty: the program's test for a deck with cards.
-  [[nodiscard]] bool HasCards() const { return !Cell(1, kCardText).empty(); }
-};
-
-/// Empties rows 0 to 200 that are present. Rows 201 and 202, the count and the deck strings stay.
-void ClearAllCards(ProgramState& state);
-/// Empties the information row and the five deck strings.
-void ClearDeckInfo(ProgramState& state);
-/// Empties a card's row, its stray column apart, and marks it absent. Raises error 9.
-void EmptyCardRow(ProgramState& state, int row);
-/// Closes the first gap in rows 1 to 200 and renumbers what moves up.
-void CompactCards(ProgramState& state);
 
 }  // namespace tessara

@@ -1,51 +1,51 @@
 // How a deck leaves the window: cleared, or with the window itself.
 
-#include "deck/deck_window.h"
-#include "platform/message_box.h"
+#include "deck/deck_life.h"
+#include "machine/message_box.h"
 
 namespace tessara {
 
-void DeckWindow::mnuNCD_Click() {
+void DeckLife::ClearDeck() {
   ChkSave();
   NewTessara();
-  ClearDeckInfo(State());
+  ClearDeckInfo(State().deck);
   MenuOp(false);
-  State().DeckChanged = false;
-  State().DeckOnFile = false;
+  State().deck.changed = false;
+  State().deck.onFile = false;
   // No deck, no card on show: the first one that is built is card 1.
-  State().CurrentCard = 0;
-  mnuNCD.SetEnabled(false);
-  mnuMode.SetEnabled(false);
-  mnuGTP.SetEnabled(false);
+  State().deck.currentCard = 0;
+  clearDeck.SetEnabled(false);
+  modeMenu.SetEnabled(false);
+  goToCard.SetEnabled(false);
 }
 
-void DeckWindow::mnuExit_Click() {
-  if (State().HasCards()) ChkSave();
-  State().DeckChanged = false;
-  State().SaveOffered = false;
+void DeckLife::CloseTessara() {
+  if (State().deck.HasCards()) ChkSave();
+  State().deck.changed = false;
+  State().deck.saveOffered = false;
   Unload();
   if (questionBuilder_ != nullptr) questionBuilder_->Unload();
 }
 
-void DeckWindow::Form_Unload(bool& cancel) {
+void DeckLife::OnUnload(bool& cancel) {
   ProgramState& state = State();
   MessageBoxes& messages = App().machine.messages;
-  if (state.CardMode != kStudyMode) {
+  if (state.deck.mode != kStudyMode) {
     messages.Show(u"Tessara must be in study mode before quiting.", kOkOnly, u"Quit");
     cancel = true;
     return;
   }
   ChkSave();
-  if (state.HasCards()) {
-    const MessageAnswer answer =
+  if (state.deck.HasCards()) {
+    const MessageAnswer reply =
         messages.Show(u"ARE YOU SURE?", kQuestionIcon + kYesNo, u"Close Tessara");
-    cancel = answer == MessageAnswer::kNo;
+    cancel = reply == MessageAnswer::kNo;
     if (cancel) return;
   }
   NewTessara();
-  ClearDeckInfo(state);
-  state.CurrentCard = 0;
-  state.DeckOnFile = false;
+  ClearDeckInfo(state.deck);
+  state.deck.currentCard = 0;
+  state.deck.onFile = false;
 }
 
 }  // namespace tessara

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/clock.h"
-#include "platform/text.h"
+#include "base/text.h"
+#include "machine/clock.h"
 
 namespace tessara {
 

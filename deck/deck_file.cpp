@@ -4,15 +4,13 @@
 #include <optional>
 #include <utility>
 
-#include "platform/conversion.h"
-#include "platform/skip_errors.h"
+#include "base/conversion.h"
+#include "base/skip_errors.h"
+#include "deck/card_type.h"
 
 namespace tessara {
 
 namespace {
-
-constexpr TextView kTerminator = u"X";
-constexpr TextView kInformation = u"I";
 
 /// An empty cell is the number 0.
 std::int16_t NumberInCell(const Text& cell) {
@@ -20,14 +18,14 @@ std::int16_t NumberInCell(const Text& cell) {
 }
 
 void StoreRecord(DeckRecord&& record, ProgramState& state) {
-  const CardTable::RowCells cells = state.CardGrid.Row(record.number);
+  const CardTable::RowCells cells = state.deck.cardGrid.Row(record.number);
   cells[kCardType] = std::move(record.cardType);
   cells[kCardText] = std::move(record.text);
   cells[kRowNumber] = DecimalText(record.number);
   std::move(record.shortFields.begin(), record.shortFields.end(), cells.begin() + kChoiceA);
   cells[kAnswer] = std::move(record.answer);
   cells[kBackText] = std::move(record.longText);
-  state.CardPresent.Set(record.number, 1);
+  state.deck.cardPresent.Set(record.number, 1);
 }
 
 /// A record that was cut off behind its number counts: blanks take the place of what is missing.
@@ -41,34 +39,36 @@ std::optional<DeckRecord> ReadRecord(FileNumber& file, const CodePage& codePage)
 
 void ReadRecords(FileNumber& file, ProgramState& state, const CodePage& codePage) {
   while (std::optional<DeckRecord> record = ReadRecord(file, codePage)) {
-    if (record->cardType == kTerminator || state.CardCount == kMostCards) return;
-    const bool isCard = record->cardType != kInformation;
+    if (IsType(record->cardType, CardType::kTerminator) || state.deck.cardCount == kMostCards)
+      return;
+    const bool isCard = !IsType(record->cardType, CardType::kInformation);
     StoreRecord(std::move(*record), state);
-    if (isCard) ++state.CardCount;
+    if (isCard) ++state.deck.cardCount;
   }
 }
 
 void TakeDeckStrings(ProgramState& state) {
-  state.DeckDate = state.Cell(kInfoRow, kInfoDate);
-  state.DeckTypeName = state.Cell(kInfoRow, kInfoType);
-  state.DeckTitle = state.Cell(kInfoRow, kInfoTitle);
-  state.DeckAuthor = state.Cell(kInfoRow, kInfoAuthor);
-  state.DeckDescription = state.Cell(kInfoRow, kInfoDescription);
+  state.deck.date = state.deck.Cell(kInfoRow, kInfoDate);
+  state.deck.typeName = state.deck.Cell(kInfoRow, kInfoType);
+  state.deck.title = state.deck.Cell(kInfoRow, kInfoTitle);
+  state.deck.author = state.deck.Cell(kInfoRow, kInfoAuthor);
+  state.deck.description = state.deck.Cell(kInfoRow, kInfoDescription);
 }
 
 }  // namespace
 
 DeckRecord RecordOfRow(const ProgramState& state, int row) {
-  const bool present = state.CardPresent.At(row) != 0;
+  const bool present = state.deck.cardPresent.At(row) != 0;
   DeckRecord record;
-  record.cardType = present ? state.Cell(row, kCardType) : Text(kTerminator);
-  record.text = state.Cell(row, kCardText);
-  record.number = present ? NumberInCell(state.Cell(row, kRowNumber)) : std::int16_t{0};
+  record.cardType =
+      present ? state.deck.Cell(row, kCardType) : Text(LetterOf(CardType::kTerminator));
+  record.text = state.deck.Cell(row, kCardText);
+  record.number = present ? NumberInCell(state.deck.Cell(row, kRowNumber)) : std::int16_t{0};
   for (std::size_t at = 0; at < record.shortFields.size(); ++at) {
-    record.shortFields[at] = state.Cell(row, kChoiceA + static_cast<int>(at));
+    record.shortFields[at] = state.deck.Cell(row, kChoiceA + static_cast<int>(at));
   }
-  record.answer = state.Cell(row, kAnswer);
-  record.longText = state.Cell(row, kBackText);
+  record.answer = state.deck.Cell(row, kAnswer);
+  record.longText = state.deck.Cell(row, kBackText);
   return record;
 }
 
@@ -78,18 +78,18 @@ void WriteRecords(const ProgramState& state, FileNumber& file, const CodePage& c
       file.Put(static_cast<std::uint64_t>(row) + 1,
                EncodeRecord(RecordOfRow(state, row), codePage));
     });
-    if (state.CardPresent.At(row) == 0) return;
+    if (state.deck.cardPresent.At(row) == 0) return;
   }
 }
 
-void LoadDeckFromFile(const Text& xFilename, ProgramState& state, FileNumber& file,
+void LoadDeckFromFile(const Text& fileName, ProgramState& state, FileNumber& file,
                       const CodePage& codePage) {
-  file.OpenRandom(xFilename, OpenMode::kRead, kRecordSize);
-  state.CardCount = 0;
+  file.OpenRandom(fileName, OpenMode::kRead, kRecordSize);
+  state.deck.cardCount = 0;
   ReadRecords(file, state, codePage);
   file.Close();
   TakeDeckStrings(state);
-  state.CurrentCard = 1;
+  state.deck.currentCard = 1;
 }
 
 }  // namespace tessara

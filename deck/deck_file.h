@@ -1,9 +1,9 @@
 #pragma once
 
-#include "deck/card_table.h"
+#include "base/code_page.h"
 #include "deck/deck_record.h"
 #include "deck/file_number.h"
-#include "platform/code_page.h"
+#include "deck/program_state.h"
 
 namespace tessara {
 
@@ -18,7 +18,7 @@ void WriteRecords(const ProgramState& state, FileNumber& file, const CodePage& c
 /// to 1. Rows that the file does not name stay: the caller has emptied the table. Raises error 9
 /// for a number outside the table, 55 where the file number is in use, and the errors of a file;
 /// one that is raised while it reads leaves the file open.
-void LoadDeckFromFile(const Text& xFilename, ProgramState& state, FileNumber& file,
+void LoadDeckFromFile(const Text& fileName, ProgramState& state, FileNumber& file,
                       const CodePage& codePage);
 
 }  // namespace tessara

@@ -4,24 +4,24 @@
 
 namespace tessara {
 
-bool IsDeckFileName(const Text& xFilename, ProgramState& state, MessageBoxes& messages) {
-  if (xFilename.ends_with(u"tsr")) return true;
+bool IsDeckFileName(const Text& fileName, ProgramState& state, MessageBoxes& messages) {
+  if (fileName.ends_with(u"tsr")) return true;
   messages.Show(u"This is not a valid Tessara file", kStopIcon, u"Error Opening File");
-  state.DeckFilePath.clear();
+  state.deck.filePath.clear();
   return false;
 }
 
-bool DeckAlreadyOpen(const Text& xFilename, TextView caption, MessageBoxes& messages) {
+bool DeckAlreadyOpen(const Text& fileName, TextView caption, MessageBoxes& messages) {
   const auto bracket = caption.find(u'[');
   const TextView name = bracket == TextView::npos ? caption : Trimmed(caption.substr(0, bracket));
-  if (name != DeckNameOf(xFilename)) return false;
+  if (name != DeckNameOf(fileName)) return false;
   messages.Show(Text(name) + u" Tessara is already open", kInformationIcon,
                 u"Open Existing Tessara");
   return true;
 }
 
 bool EmptyDeckRefused(const ProgramState& state, MessageBoxes& messages) {
-  if (state.HasCards()) return false;
+  if (state.deck.HasCards()) return false;
   messages.Show(u"You can not save an empty deck to file. You must add at least one card.",
                 kExclamationIcon, u"Error Saving");
   return true;

@@ -1,18 +1,18 @@
 #pragma once
 
-#include "deck/card_table.h"
-#include "platform/message_box.h"
+#include "deck/program_state.h"
+#include "machine/message_box.h"
 
 namespace tessara {
 
 /// True where the path ends in "tsr", exactly; otherwise says so and empties the deck's path. The
 /// content of the file is not examined.
-[[nodiscard]] bool IsDeckFileName(const Text& xFilename, ProgramState& state,
+[[nodiscard]] bool IsDeckFileName(const Text& fileName, ProgramState& state,
                                   MessageBoxes& messages);
 
 /// True where the deck of that name is the one that the deck window's caption names; says so.
 /// Folders are not compared.
-[[nodiscard]] bool DeckAlreadyOpen(const Text& xFilename, TextView caption, MessageBoxes& messages);
+[[nodiscard]] bool DeckAlreadyOpen(const Text& fileName, TextView caption, MessageBoxes& messages);
 
 /// True where the deck has no first card and so can't be saved; says so.
 [[nodiscard]] bool EmptyDeckRefused(const ProgramState& state, MessageBoxes& messages);

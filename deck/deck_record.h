@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <span>
 
-#include "platform/code_page.h"
-#include "platform/text.h"
+#include "base/code_page.h"
+#include "base/text.h"
 
 namespace tessara {
 

@@ -12,19 +12,19 @@ bool UserAgrees(std::int16_t row, MessageBoxes& messages) {
 
 }  // namespace
 
-void DeleteCardRow(std::int16_t& xRecNbr, MoveButtons& owner, CardFace& card, ProgramState& state,
+void DeleteCardRow(std::int16_t& row, MoveButtons& owner, CardDisplay& card, ProgramState& state,
                    MessageBoxes& messages) {
-  if (!UserAgrees(xRecNbr, messages)) return;
-  EmptyCardRow(state, xRecNbr);
-  if (xRecNbr == state.CardCount) {
-    card.SetCardNumber(DecimalText(state.CardCount - 1));
-    --xRecNbr;
+  if (!UserAgrees(row, messages)) return;
+  EmptyCardRow(state.deck, row);
+  if (row == state.deck.cardCount) {
+    card.SetCardNumber(DecimalText(state.deck.cardCount - 1));
+    --row;
   } else {
-    CompactCards(state);
+    CompactCards(state.deck);
   }
-  --state.CardCount;
+  --state.deck.cardCount;
   SetMoveButtons(owner, state);
-  card.SetCardTotal(DecimalText(state.CardCount));
+  card.SetCardTotal(DecimalText(state.deck.cardCount));
 }
 
 }  // namespace tessara

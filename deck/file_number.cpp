@@ -1,6 +1,6 @@
 #include "deck/file_number.h"
 
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
 
 namespace tessara {
 

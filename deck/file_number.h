@@ -4,8 +4,8 @@
 #include <memory>
 #include <span>
 
-#include "platform/file_system.h"
-#include "platform/text.h"
+#include "base/text.h"
+#include "machine/file_system.h"
 
 namespace tessara {
 

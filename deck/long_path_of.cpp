@@ -16,16 +16,16 @@ Text DriveOf(const Text& path) {
 
 }  // namespace
 
-Text LongPathOf(const Text& xPath, FileSystem& files) {
-  Text longPath = DriveOf(xPath);
+Text LongPathOf(const Text& path, FileSystem& files) {
+  Text longPath = DriveOf(path);
   std::size_t done = longPath.size();
   for (;;) {
-    const std::size_t name = xPath.find_first_not_of(kSeparators, done);
+    const std::size_t name = path.find_first_not_of(kSeparators, done);
     if (name == Text::npos) return longPath;
-    const std::size_t end = std::min(xPath.find_first_of(kSeparators, name), xPath.size());
-    const auto entry = files.EntryName(xPath.substr(0, end));
+    const std::size_t end = std::min(path.find_first_of(kSeparators, name), path.size());
+    const auto entry = files.EntryName(path.substr(0, end));
     if (!entry) return {};
-    longPath += xPath.substr(done, name - done) + *entry;
+    longPath += path.substr(done, name - done) + *entry;
     done = end;
   }
 }

@@ -3,9 +3,9 @@
 namespace tessara {
 
 void SetMoveButtons(MoveButtons& owner, const ProgramState& state) {
-  const bool hasCards = state.CardCount != 0;
-  owner[kPreviousCard].SetEnabled(hasCards && state.CurrentCard != 1);
-  owner[kNextCard].SetEnabled(hasCards && state.CurrentCard < state.CardCount);
+  const bool hasCards = state.deck.cardCount != 0;
+  owner[kPreviousCard].SetEnabled(hasCards && state.deck.currentCard != 1);
+  owner[kNextCard].SetEnabled(hasCards && state.deck.currentCard < state.deck.cardCount);
 }
 
 }  // namespace tessara

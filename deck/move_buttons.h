@@ -1,6 +1,6 @@
 #pragma once
 
-#include "deck/card_table.h"
+#include "deck/program_state.h"
 #include "forms/control_array.h"
 #include "forms/controls.h"
 

@@ -1,62 +1,63 @@
 // How a deck comes from its file into the window.
 
 #include "deck/ask_file_name.h"
+#include "deck/card_type.h"
 #include "deck/deck_file.h"
 #include "deck/deck_file_name.h"
-#include "deck/deck_window.h"
-#include "platform/desktop.h"
+#include "deck/deck_life.h"
+#include "machine/desktop.h"
 
 namespace tessara {
 
-void DeckWindow::mnuOCD_Click() {
+void DeckLife::OpenDeck() {
   ProgramState& state = State();
   App().machine.desktop.SetMousePointer(MousePointer::kHourglass);
-  state.DeckFilePath = AskDeckFile(FileDialogMode::kOpen);
+  state.deck.filePath = AskDeckFile(FileDialogMode::kOpen);
   MessageBoxes& messages = App().machine.messages;
-  if (NoAnswer(state.DeckFilePath)) return;
-  if (!IsDeckFileName(state.DeckFilePath, state, messages)) return;
-  if (DeckAlreadyOpen(state.DeckFilePath, Caption(), messages)) return;
+  if (NoAnswer(state.deck.filePath)) return;
+  if (!IsDeckFileName(state.deck.filePath, state, messages)) return;
+  if (DeckAlreadyOpen(state.deck.filePath, Caption(), messages)) return;
   // The path is the new one by now: a Yes here writes the old deck over the chosen file.
   ChkSave();
-  ClearAllCards(state);
-  LoadAndShowDeck(state.DeckFilePath);
-  mnuSaveAs.SetEnabled(state.CardCount >= 1);
-  state.DeckOnFile = true;
+  ClearAllCards(state.deck);
+  LoadAndShowDeck(state.deck.filePath);
+  saveDeckAs.SetEnabled(state.deck.cardCount >= 1);
+  state.deck.onFile = true;
 }
 
-void DeckWindow::LoadAndShowDeck(const Text& xFilename) {
+void DeckLife::LoadAndShowDeck(const Text& fileName) {
   ProgramState& state = State();
-  LoadDeck(xFilename);
+  LoadDeck(fileName);
   Card().SetCardNumber(u"1");
-  state.CurrentCard = 1;
+  state.deck.currentCard = 1;
   OpenViewOfFirstCard();
-  Card().SetCardTotal(DecimalText(state.CardCount));
+  Card().SetCardTotal(DecimalText(state.deck.cardCount));
   UpdateMoveButtons();
   ShowTitle(kStudyMode);
-  state.DeckChanged = false;
-  state.SaveOffered = false;
+  state.deck.changed = false;
+  state.deck.saveOffered = false;
   ConfigSaveMenu();
   AutoModeMenu();
-  AfterEditShow(state.DeckType);
-  state.CardMode = kStudyMode;
-  state.TestPoints = 0;
+  AfterEditShow(state.deck.kind);
+  state.deck.mode = kStudyMode;
+  state.deck.testPoints = 0;
   Card().SetFrontLines(true);
   Card().SetFrontRule(true);
-  mnuNCD.SetEnabled(state.HasCards());
+  clearDeck.SetEnabled(state.deck.HasCards());
 }
 
-void DeckWindow::LoadDeck(const Text& xFilename) {
-  LoadDeckFromFile(xFilename, State(), fileNumber_, App().machine.codePage);
-  mnuPrint.SetEnabled(true);
+void DeckLife::LoadDeck(const Text& fileName) {
+  LoadDeckFromFile(fileName, State(), fileNumber_, App().machine.codePage);
+  printDeck.SetEnabled(true);
 }
 
-void DeckWindow::OpenViewOfFirstCard() {
-  const Text& cardType = State().Cell(1, kCardType);
-  if (cardType == u"M" || cardType == u"T") {
+void DeckLife::OpenViewOfFirstCard() {
+  const auto kind = DeckKindOf(State().deck.Cell(1, kCardType));
+  if (kind == kExtendedDeck) {
     OpenExtendedView();
     ShowFirstCard(kExtendedDeck);
-    Command3[kFlip].SetCaption(u"&Hide Answer");
-  } else if (cardType == u"E") {
+    OfferFlip(FlipAction::kHideAnswer);
+  } else if (kind == kStandardDeck) {
     OpenStandardView();
     ShowFirstCard(kStandardDeck);
   }

@@ -1,13 +1,13 @@
 // How a deck comes from the window into a file.
 
+#include "base/skip_errors.h"
 #include "deck/ask_file_name.h"
 #include "deck/deck_file.h"
 #include "deck/deck_file_name.h"
-#include "deck/deck_window.h"
-#include "deck/frmInfo.h"
-#include "platform/message_box.h"
-#include "platform/safety_copies.h"
-#include "platform/skip_errors.h"
+#include "deck/deck_info_window.h"
+#include "deck/deck_life.h"
+#include "machine/message_box.h"
+#include "machine/safety_copies.h"
 
 namespace tessara {
 
@@ -17,73 +17,73 @@ constexpr TextView kNotSaved = u"File Not Saved";
 
 }  // namespace
 
-void DeckWindow::mnuSave_Click() {
+void DeckLife::SaveDeck() {
   ProgramState& state = State();
-  if (Caption().starts_with(u"New") && state.SaveOffered) {
+  if (Caption().starts_with(u"New") && state.deck.saveOffered) {
     if (!ChooseFile()) return;
-    state.SaveOffered = false;
+    state.deck.saveOffered = false;
   }
-  SaveTessaraToFile(state.DeckFilePath);
-  state.DeckOnFile = true;
-  state.DeckChanged = false;
+  SaveTessaraToFile(state.deck.filePath);
+  state.deck.onFile = true;
+  state.deck.changed = false;
 }
 
-void DeckWindow::mnuSaveAs_Click() {
+void DeckLife::SaveDeckAs() {
   ProgramState& state = State();
   if (!ChooseFile()) return;
-  SaveTessaraToFile(state.DeckFilePath);
-  state.DeckChanged = false;
-  state.SaveOffered = false;
+  SaveTessaraToFile(state.deck.filePath);
+  state.deck.changed = false;
+  state.deck.saveOffered = false;
 }
 
-bool DeckWindow::ChooseFile() {
+bool DeckLife::ChooseFile() {
   const Text path = AskDeckFile(FileDialogMode::kSave);
   if (NoAnswer(path)) {
     App().machine.messages.Show(u"This file was not saved.", kInformationIcon, Text(kNotSaved));
     return false;
   }
-  State().DeckFilePath = path;
+  State().deck.filePath = path;
   return true;
 }
 
-void DeckWindow::ChkSave() {
+void DeckLife::ChkSave() {
   ProgramState& state = State();
   MessageBoxes& messages = App().machine.messages;
-  if (!state.DeckChanged || !state.HasCards()) return;
-  const MessageAnswer answer =
+  if (!state.deck.changed || !state.deck.HasCards()) return;
+  const MessageAnswer reply =
       messages.Show(u"There have been changes to this Tessara.Do you want to save them?",
                     kQuestionIcon + kYesNo, u"Unsaved Changes: ");
-  if (answer != MessageAnswer::kYes) return;
-  const bool asks = state.DeckFilePath.empty();
-  if (asks) state.DeckFilePath = AskDeckFile(FileDialogMode::kSave);
-  if (asks && NoAnswer(state.DeckFilePath)) {
+  if (reply != MessageAnswer::kYes) return;
+  const bool asks = state.deck.filePath.empty();
+  if (asks) state.deck.filePath = AskDeckFile(FileDialogMode::kSave);
+  if (asks && NoAnswer(state.deck.filePath)) {
     messages.Show(u"This file was not saved", kInformationIcon, Text(kNotSaved));
   } else {
-    SaveTessaraToFile(state.DeckFilePath);
+    SaveTessaraToFile(state.deck.filePath);
   }
-  state.DeckChanged = false;
+  state.deck.changed = false;
 }
 
 // Errors on its way skip the statement that failed and are not reported.
-void DeckWindow::SaveTessaraToFile(const Text& xFilename) {
+void DeckLife::SaveTessaraToFile(const Text& fileName) {
   ProgramState& state = State();
   Machine& machine = App().machine;
   if (EmptyDeckRefused(state, machine.messages)) {
-    ClearDeckInfo(state);
-    ClearAllCards(state);
+    ClearDeckInfo(state.deck);
+    ClearAllCards(state.deck);
     return;
   }
-  if (xFilename.empty()) {
+  if (fileName.empty()) {
     // The answer is not used: a deck without a path has nowhere to go.
     static_cast<void>(AskDeckFile(FileDialogMode::kSave));
   }
-  machine.copies.Keep(xFilename);
-  if (state.DeckOnFile) SkipErrors([&] { machine.files.Delete(xFilename); });
+  machine.copies.Keep(fileName);
+  if (state.deck.onFile) SkipErrors([&] { machine.files.Delete(fileName); });
   CollectDeckInfo(state, info_.Loaded());
-  SkipErrors([&] { fileNumber_.OpenRandom(xFilename, OpenMode::kReadAndWrite, kRecordSize); });
+  SkipErrors([&] { fileNumber_.OpenRandom(fileName, OpenMode::kReadAndWrite, kRecordSize); });
   WriteRecords(state, fileNumber_, machine.codePage);
   fileNumber_.Close();
-  machine.messages.Show(u"This file has been saved to " + state.DeckFilePath, kOkOnly, u"Save");
+  machine.messages.Show(u"This file has been saved to " + state.deck.filePath, kOkOnly, u"Save");
   ShowTitle(kStudyMode);
 }
 

@@ -15,9 +15,9 @@ class AppFrame {
   [[nodiscard]] virtual int ScaleWidth() const = 0;
   [[nodiscard]] virtual int ScaleHeight() const = 0;
   /// Card skins and the pictures of the print window.
-  [[nodiscard]] virtual const ImageList& imgWallPaper() const = 0;
+  [[nodiscard]] virtual const ImageList& CardPictures() const = 0;
   /// The backdrop's tiles.
-  [[nodiscard]] virtual const ImageList& BKG() const = 0;
+  [[nodiscard]] virtual const ImageList& BackdropTiles() const = 0;
   /// The frame's own "File" menu.
   virtual void EnableFileMenu(bool enabled) = 0;
   /// Unloads the About box, if it is loaded.

@@ -1,8 +1,8 @@
 #include "forms/buttons.h"
 
+#include "base/run_time_error.h"
 #include "forms/assign.h"
 #include "forms/form.h"
-#include "platform/run_time_error.h"
 
 namespace tessara {
 

@@ -9,6 +9,7 @@ namespace tessara {
 /// A push button. All ways to press it end in Press.
 class Button : public CaptionedControl {
  public:
+  using CaptionedControl::CaptionedControl;
   [[nodiscard]] ControlKind Kind() const override { return ControlKind::kButton; }
   [[nodiscard]] bool TakesFocus() const override { return true; }
   /// What Return presses where no other button has the focus, and what Escape presses.
@@ -28,6 +29,7 @@ class Button : public CaptionedControl {
 /// One choice of a group: the option buttons of one container.
 class OptionButton : public CaptionedControl {
  public:
+  using CaptionedControl::CaptionedControl;
   [[nodiscard]] ControlKind Kind() const override { return ControlKind::kOptionButton; }
   [[nodiscard]] bool TakesFocus() const override { return true; }
   [[nodiscard]] bool Selected() const { return selected_; }
@@ -44,6 +46,7 @@ class OptionButton : public CaptionedControl {
 
 class CheckBox : public CaptionedControl {
  public:
+  using CaptionedControl::CaptionedControl;
   [[nodiscard]] ControlKind Kind() const override { return ControlKind::kCheckBox; }
   [[nodiscard]] bool TakesFocus() const override { return true; }
   /// 0 unticked, 1 ticked, 2 neither. Other values raise error 380.

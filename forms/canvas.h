@@ -1,7 +1,7 @@
 #pragma once
 
+#include "base/text.h"
 #include "forms/look.h"
-#include "platform/text.h"
 
 namespace tessara {
 

@@ -1,7 +1,7 @@
 #include "forms/combo_box.h"
 
+#include "base/run_time_error.h"
 #include "forms/assign.h"
-#include "platform/run_time_error.h"
 
 namespace tessara {
 

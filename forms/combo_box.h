@@ -10,6 +10,7 @@ namespace tessara {
 /// A list to choose from, closed; its text can't be edited.
 class ComboBox : public Control {
  public:
+  using Control::Control;
   [[nodiscard]] ControlKind Kind() const override { return ControlKind::kComboBox; }
   [[nodiscard]] bool TakesFocus() const override { return true; }
   void AddItem(const Text& item);

@@ -1,27 +1,27 @@
 #include "forms/control.h"
 
+#include "base/run_time_error.h"
 #include "forms/assign.h"
 #include "forms/form.h"
 #include "forms/window_system.h"
-#include "platform/run_time_error.h"
 
 namespace tessara {
 
-void Control::SetPlace(const Bounds& bounds) {
+void Control::SetBounds(const Bounds& bounds) {
   if (Assign(bounds_, bounds)) Changed(Aspect::kBounds);
 }
 
 void Control::SetLeft(int left) {
-  SetPlace({left, bounds_.top, bounds_.width, bounds_.height});
+  SetBounds({left, bounds_.top, bounds_.width, bounds_.height});
 }
 void Control::SetTop(int top) {
-  SetPlace({bounds_.left, top, bounds_.width, bounds_.height});
+  SetBounds({bounds_.left, top, bounds_.width, bounds_.height});
 }
 void Control::SetWidth(int width) {
-  SetPlace({bounds_.left, bounds_.top, width, bounds_.height});
+  SetBounds({bounds_.left, bounds_.top, width, bounds_.height});
 }
 void Control::SetHeight(int height) {
-  SetPlace({bounds_.left, bounds_.top, bounds_.width, height});
+  SetBounds({bounds_.left, bounds_.top, bounds_.width, height});
 }
 
 void Control::SetVisible(bool visible) {

@@ -2,10 +2,11 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 
+#include "base/text.h"
 #include "forms/geometry.h"
 #include "forms/look.h"
-#include "platform/text.h"
 
 namespace tessara {
 
@@ -49,11 +50,14 @@ enum class Aspect {
 inline constexpr int kNoIndex = -1;
 
 /// One control of a form. Its state is the truth; a widget on screen follows it. A setter does
-/// nothing where the value is equal. A control belongs to a form from Form::Place on; before
-/// that it has no name, and the bounds are zero.
+/// nothing where the value is equal. A control belongs to a form from Form::AddControls on; before
+/// that the bounds are zero.
 class Control {
  public:
-  Control() = default;
+  /// The name that the running program knows it by, for screen readers and tests, and the index of
+  /// a member of an array. Example: Button flip{"Command3(1)"}.
+  explicit Control(std::string givenName, int index = kNoIndex)
+      : name_(std::move(givenName)), index_(index) {}
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
   virtual ~Control() = default;
@@ -69,8 +73,8 @@ class Control {
   [[nodiscard]] Control* Container() const { return container_; }
 
   /// Twips, relative to the container.
-  [[nodiscard]] const Bounds& Place() const { return bounds_; }
-  void SetPlace(const Bounds& bounds);
+  [[nodiscard]] const Bounds& BoundsOf() const { return bounds_; }
+  void SetBounds(const Bounds& bounds);
   void SetLeft(int left);
   void SetTop(int top);
   void SetWidth(int width);
@@ -121,7 +125,7 @@ class Control {
   friend class Form;
 
   std::string name_;
-  int index_ = kNoIndex;
+  int index_;
   Text accessibleName_;
   Form* owner_ = nullptr;
   Control* container_ = nullptr;
@@ -136,6 +140,7 @@ class Control {
 /// A control with a caption. "&" marks the accelerator, "&&" shows one "&".
 class CaptionedControl : public Control {
  public:
+  using Control::Control;
   [[nodiscard]] const Text& Caption() const { return caption_; }
   void SetCaption(const Text& caption);
   /// The accelerator's letter in upper case, or 0.

@@ -3,8 +3,10 @@
 #include <array>
 #include <cstddef>
 #include <functional>
+#include <string>
+#include <utility>
 
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
 
 namespace tessara {
 
@@ -14,6 +16,10 @@ class ControlArray {
  public:
   static constexpr int kFirst = First;
   static constexpr int kLast = First + Count - 1;
+
+  /// The members are named "givenName(index)".
+  explicit ControlArray(const std::string& givenName)
+      : ControlArray(givenName, std::make_integer_sequence<int, Count>()) {}
 
   /// Raises error 340 for an index that the array does not have.
   C& operator[](int index) { return controls_[Offset(index)]; }
@@ -33,6 +39,14 @@ class ControlArray {
   }
 
  private:
+  template <int... Offsets>
+  ControlArray(const std::string& givenName, std::integer_sequence<int, Offsets...> /*members*/)
+      : controls_{C(MemberName(givenName, First + Offsets), First + Offsets)...} {}
+
+  static std::string MemberName(const std::string& givenName, int index) {
+    return givenName + "(" + std::to_string(index) + ")";
+  }
+
   static std::size_t Offset(int index) {
     if (index < kFirst || index > kLast) throw RunTimeError(ErrorNumber::kControlArrayElement);
     return static_cast<std::size_t>(index - First);

@@ -2,10 +2,10 @@
 
 #include <utility>
 
+#include "base/run_time_error.h"
 #include "forms/assign.h"
 #include "forms/renderer.h"
 #include "forms/window_system.h"
-#include "platform/run_time_error.h"
 
 namespace tessara {
 
@@ -36,7 +36,7 @@ void Form::SetBounds(const Bounds& bounds) {
   const bool sizeDiffers = bounds_.width != bounds.width || bounds_.height != bounds.height;
   if (!Assign(bounds_, bounds)) return;
   Changed(FormAspect::kBounds);
-  if (loaded_ && sizeDiffers) system_.Run([this] { Form_Resize(); });
+  if (loaded_ && sizeDiffers) system_.Run([this] { OnResize(); });
 }
 
 void Form::CheckMovable() const {
@@ -64,7 +64,7 @@ void Form::SetPicture(std::vector<PaintedPicture> painted) {
 }
 
 void Form::Changed(FormAspect aspect) {
-  if (loaded_) system_.Shown().FormChanged(*this, aspect);
+  if (loaded_) system_.RendererOf().FormChanged(*this, aspect);
 }
 
 }  // namespace tessara

@@ -11,7 +11,7 @@
 
 namespace tessara {
 
-class WindowSlot;
+class FormSlot;
 class WindowSystem;
 enum class FormAspect;
 
@@ -30,7 +30,7 @@ enum class Modality { kModeless, kModal };
 /// A window: its controls, its menus, its events. What stands here are the rules that all share;
 /// a window derives from it, lists its controls and menus once, and overrides its events.
 ///
-/// Life: made by its WindowSlot, loaded (Form_Load) at the first use, shown, hidden, unloaded.
+/// Life: made by its FormSlot, loaded (OnLoad) at the first use, shown, hidden, unloaded.
 /// An unloaded window is gone from the screen at once and destroyed when the outermost event has
 /// ended, so its own handler's later lines still run.
 class Form {
@@ -48,7 +48,7 @@ class Form {
   void SetCaption(const Text& caption);
 
   /// Outer place and size in twips; a child's place is relative to the frame's client area.
-  /// Assigning a different size runs Form_Resize, shown or not. Moving or sizing a minimised or
+  /// Assigning a different size runs OnResize, shown or not. Moving or sizing a minimised or
   /// maximised window raises error 384.
   [[nodiscard]] int Left() const { return bounds_.left; }
   [[nodiscard]] int Top() const { return bounds_.top; }
@@ -75,10 +75,10 @@ class Form {
   void Hide() { SetVisible(false); }
 
   [[nodiscard]] bool Loaded() const { return loaded_; }
-  /// Runs Form_Load where the window is not loaded; one whose Form_Load is running counts as
+  /// Runs OnLoad where the window is not loaded; one whose OnLoad is running counts as
   /// loaded.
   void EnsureLoaded();
-  /// Runs Form_Unload, which may cancel. True where the window is gone.
+  /// Runs OnUnload, which may cancel. True where the window is gone.
   bool Unload();
 
   [[nodiscard]] const std::vector<Control*>& Controls() const { return controls_; }
@@ -118,37 +118,34 @@ class Form {
   [[nodiscard]] virtual bool ClosesFirst() const { return false; }
 
  protected:
-  struct ControlPlace {
+  struct ControlSpec {
     Control* control;
-    const char* name;
-    int index;           ///< kNoIndex for a control that stands alone
     Control* container;  ///< null: the form
     TextView caption;    ///< or the text of a box
     Bounds bounds;
     TextView accessibleName;
   };
-  struct MenuPlace {
+  struct MenuSpec {
     MenuEntry* entry;
-    const char* name;
     MenuEntry* parent;  ///< null: a top-level menu
     TextView caption;
   };
   /// The window's controls, in tab order and from back to front. Once, in the constructor.
-  void Place(std::initializer_list<ControlPlace> places);
-  void PlaceMenus(std::initializer_list<MenuPlace> places);
+  void AddControls(std::initializer_list<ControlSpec> specs);
+  void AddMenus(std::initializer_list<MenuSpec> specs);
 
-  virtual void Form_Load() {}
+  virtual void OnLoad() {}
   /// May set `cancel` to keep the window.
-  virtual void Form_Unload(bool& cancel) { (void)cancel; }
-  virtual void Form_Activate() {}
-  virtual void Form_Resize() {}
-  virtual void Form_Click() {}
-  virtual void Form_MouseMove() {}
-  virtual void Form_LostFocus() {}
+  virtual void OnUnload(bool& cancel) { (void)cancel; }
+  virtual void OnActivate() {}
+  virtual void OnResize() {}
+  virtual void OnClick() {}
+  virtual void OnMouseMove() {}
+  virtual void OnLostFocus() {}
 
  private:
   friend class Control;
-  friend class WindowSlot;
+  friend class FormSlot;
   friend class WindowSystem;
 
   void ComeUp();
@@ -160,7 +157,7 @@ class Form {
   void MoveFocus(Control* control);
 
   WindowSystem& system_;
-  WindowSlot* slot_ = nullptr;
+  FormSlot* slot_ = nullptr;
   std::string name_;
   FormKind kind_;
   Text caption_;

@@ -11,10 +11,6 @@ namespace tessara {
 
 namespace {
 
-std::string NameOf(const char* name, int index) {
-  return index == kNoIndex ? name : std::string(name) + "(" + std::to_string(index) + ")";
-}
-
 void GiveCaption(Control& control, TextView caption) {
   if (auto* captioned = dynamic_cast<CaptionedControl*>(&control)) {
     captioned->SetCaption(Text(caption));
@@ -23,28 +19,25 @@ void GiveCaption(Control& control, TextView caption) {
 
 }  // namespace
 
-void Form::Place(std::initializer_list<ControlPlace> places) {
-  for (const ControlPlace& place : places) {
-    Control& control = *place.control;
-    control.name_ = NameOf(place.name, place.index);
-    control.index_ = place.index;
-    control.container_ = place.container;
-    control.bounds_ = place.bounds;
-    control.accessibleName_ = place.accessibleName;
-    GiveCaption(control, place.caption);
+void Form::AddControls(std::initializer_list<ControlSpec> specs) {
+  for (const ControlSpec& spec : specs) {
+    Control& control = *spec.control;
+    control.container_ = spec.container;
+    control.bounds_ = spec.bounds;
+    control.accessibleName_ = spec.accessibleName;
+    GiveCaption(control, spec.caption);
     control.owner_ = this;
     controls_.push_back(&control);
   }
 }
 
-void Form::PlaceMenus(std::initializer_list<MenuPlace> places) {
-  for (const MenuPlace& place : places) {
-    MenuEntry& entry = *place.entry;
-    entry.name_ = place.name;
-    entry.caption_ = place.caption;
-    entry.parent_ = place.parent;
+void Form::AddMenus(std::initializer_list<MenuSpec> specs) {
+  for (const MenuSpec& spec : specs) {
+    MenuEntry& entry = *spec.entry;
+    entry.caption_ = spec.caption;
+    entry.parent_ = spec.parent;
     entry.owner_ = this;
-    (place.parent == nullptr ? menus_ : place.parent->entries_).push_back(&entry);
+    (spec.parent == nullptr ? menus_ : spec.parent->entries_).push_back(&entry);
   }
 }
 
@@ -66,7 +59,7 @@ MenuEntry* Form::FindMenu(const std::string& name) const {
 }
 
 void Form::ControlChanged(Control& control, Aspect aspect) {
-  if (loaded_) system_.Shown().ControlChanged(control, aspect);
+  if (loaded_) system_.RendererOf().ControlChanged(control, aspect);
 }
 
 }  // namespace tessara

@@ -55,11 +55,11 @@ void Form::UserActivate() {
 }
 
 void Form::UserClick() {
-  if (TakesInput()) system_.Run([this] { Form_Click(); });
+  if (TakesInput()) system_.Run([this] { OnClick(); });
 }
 
 void Form::UserMouseMove() {
-  if (TakesInput()) system_.Run([this] { Form_MouseMove(); });
+  if (TakesInput()) system_.Run([this] { OnMouseMove(); });
 }
 
 void Form::UserClose() {
@@ -82,7 +82,7 @@ void Form::MoveFocus(Control* control) {
   Control* before = focused_;
   focused_ = control;
   if (before != nullptr && before->onLostFocus) system_.Run(before->onLostFocus);
-  system_.Shown().FocusChanged(*this);
+  system_.RendererOf().FocusChanged(*this);
   if (focused_ == control && control->onGotFocus) system_.Run(control->onGotFocus);
 }
 

@@ -54,7 +54,7 @@ void Form::ShowModal() {
   {
     const ModalTurn turn(system_.modals_, *this);
     ComeUp();
-    if (visible_) system_.Shown().RunModal(*this);
+    if (visible_) system_.RendererOf().RunModal(*this);
   }
   system_.LeaveIfEnded();
 }
@@ -64,7 +64,7 @@ void Form::ComeUp() {
   if (comesUp) {
     visible_ = true;
     Changed(FormAspect::kVisible);
-    if (!std::exchange(shownBefore_, true)) system_.Run([this] { Form_Resize(); });
+    if (!std::exchange(shownBefore_, true)) system_.Run([this] { OnResize(); });
   }
   if (visible_) system_.BringForward(*this);
 }
@@ -73,7 +73,7 @@ void Form::EnsureLoaded() {
   if (loaded_) return;
   loaded_ = true;
   system_.Add(*this);
-  system_.Run([this] { Form_Load(); });
+  system_.Run([this] { OnLoad(); });
   if (loaded_ && ShowsOnLoad()) Show();
 }
 
@@ -81,12 +81,12 @@ bool Form::Unload() {
   if (!loaded_) return true;
   if (kind_ == FormKind::kFrame && !system_.CloseFrame(*this)) return false;
   bool cancel = false;
-  system_.Run([this, &cancel] { Form_Unload(cancel); });
+  system_.Run([this, &cancel] { OnUnload(cancel); });
   if (cancel) return false;
   if (!loaded_) return true;
   loaded_ = false;
   visible_ = false;
-  system_.Shown().FormUnloaded(*this);
+  system_.RendererOf().FormUnloaded(*this);
   auto self = slot_ != nullptr ? slot_->Release() : nullptr;
   system_.Remove(*this);
   system_.Bury(std::move(self));

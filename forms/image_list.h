@@ -2,8 +2,8 @@
 
 #include <vector>
 
+#include "base/text.h"
 #include "forms/look.h"
-#include "platform/text.h"
 
 namespace tessara {
 

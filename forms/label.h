@@ -9,6 +9,7 @@ namespace tessara {
 /// A text that the user reads; a link is one that he follows.
 class Label : public CaptionedControl {
  public:
+  using CaptionedControl::CaptionedControl;
   [[nodiscard]] ControlKind Kind() const override { return ControlKind::kLabel; }
   [[nodiscard]] Alignment AlignmentOf() const { return alignment_; }
   void SetAlignment(Alignment alignment) { alignment_ = alignment; }

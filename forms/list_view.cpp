@@ -2,8 +2,8 @@
 
 #include <utility>
 
+#include "base/run_time_error.h"
 #include "forms/assign.h"
-#include "platform/run_time_error.h"
 
 namespace tessara {
 

@@ -21,6 +21,7 @@ struct ListItem {
 /// A list in report view with a check box for each item. Items count from 1.
 class ListView : public Control {
  public:
+  using Control::Control;
   [[nodiscard]] ControlKind Kind() const override { return ControlKind::kListView; }
   [[nodiscard]] bool TakesFocus() const override { return true; }
   void AddColumn(const Text& heading, int width);

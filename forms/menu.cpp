@@ -33,7 +33,7 @@ void MenuEntry::Press() {
 }
 
 void MenuEntry::Changed() {
-  if (owner_ != nullptr && owner_->Loaded()) owner_->System().Shown().MenuChanged(*this);
+  if (owner_ != nullptr && owner_->Loaded()) owner_->System().RendererOf().MenuChanged(*this);
 }
 
 }  // namespace tessara

@@ -2,9 +2,10 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
-#include "platform/text.h"
+#include "base/text.h"
 
 namespace tessara {
 
@@ -13,7 +14,8 @@ class Form;
 /// An entry of a menu bar: a top-level menu, a submenu, a command, or a separator ("-").
 class MenuEntry {
  public:
-  MenuEntry() = default;
+  /// The name that the running program knows it by.
+  explicit MenuEntry(std::string givenName) : name_(std::move(givenName)) {}
   MenuEntry(const MenuEntry&) = delete;
   MenuEntry& operator=(const MenuEntry&) = delete;
 

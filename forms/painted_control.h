@@ -13,6 +13,7 @@ namespace tessara {
 /// and a screen reader reads its description.
 class PaintedControl : public Control {
  public:
+  using Control::Control;
   struct Property {
     std::string name;
     std::variant<bool, Text> value;

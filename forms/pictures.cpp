@@ -11,8 +11,8 @@ void PictureBox::SetPicture(const Picture& picture) {
 void Image::SetPicture(const Picture& picture) {
   if (!Assign(picture_, picture)) return;
   if (!picture.Empty()) {
-    SetPlace({Place().left, Place().top, picture.width * kTwipsPerPixel,
-              picture.height * kTwipsPerPixel});
+    SetBounds({BoundsOf().left, BoundsOf().top, picture.width * kTwipsPerPixel,
+               picture.height * kTwipsPerPixel});
   }
   Changed(Aspect::kPicture);
 }

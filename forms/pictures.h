@@ -9,6 +9,7 @@ namespace tessara {
 /// A picture that can hold controls.
 class PictureBox : public Control {
  public:
+  using Control::Control;
   [[nodiscard]] ControlKind Kind() const override { return ControlKind::kPictureBox; }
   [[nodiscard]] const Picture& PictureOf() const { return picture_; }
   void SetPicture(const Picture& picture);
@@ -20,6 +21,7 @@ class PictureBox : public Control {
 /// A picture alone.
 class Image : public Control {
  public:
+  using Control::Control;
   [[nodiscard]] ControlKind Kind() const override { return ControlKind::kImage; }
   [[nodiscard]] const Picture& PictureOf() const { return picture_; }
   /// The image takes the picture's size.

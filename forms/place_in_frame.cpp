@@ -2,7 +2,7 @@
 
 #include <functional>
 
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
 
 namespace tessara {
 
@@ -21,28 +21,28 @@ void Step(Form& form, const std::function<void()>& step) {
 
 }  // namespace
 
-void PlaceInFrame(WindowSlot& xForm, int xHeight, int xWidth, const AppFrame& frame) {
-  PlaceInFrame(xForm.Instance(), xHeight, xWidth, frame);
+void PlaceInFrame(FormSlot& form, int height, int width, const AppFrame& frame) {
+  PlaceInFrame(form.Instance(), height, width, frame);
 }
 
-void PlaceInFrame(Form& xForm, int xHeight, int xWidth, const AppFrame& frame) {
+void PlaceInFrame(Form& form, int height, int width, const AppFrame& frame) {
   try {
-    xForm.EnsureLoaded();
-    Step(xForm, [&] { xForm.SetHeight(xHeight); });
-    Step(xForm, [&] { xForm.SetWidth(xWidth); });
-    Step(xForm, [&] { xForm.SetTop((frame.ScaleHeight() - xForm.Height()) / 2); });
-    Step(xForm, [&] { xForm.SetLeft((frame.ScaleWidth() - xForm.Width()) / 2); });
-    Step(xForm, [&] { xForm.Show(); });
+    form.EnsureLoaded();
+    Step(form, [&] { form.SetHeight(height); });
+    Step(form, [&] { form.SetWidth(width); });
+    Step(form, [&] { form.SetTop((frame.ScaleHeight() - form.Height()) / 2); });
+    Step(form, [&] { form.SetLeft((frame.ScaleWidth() - form.Width()) / 2); });
+    Step(form, [&] { form.Show(); });
   } catch (const RunTimeError&) {
     // A window that can't be placed stays as it is; what it was to show it still can.
   }
 }
 
-void HoldWindowSize(int xHeight, int xWidth, Form& xForm) {
-  if (xForm.Height() != xHeight) {
-    xForm.SetHeight(xHeight);
-  } else if (xForm.Width() != xWidth) {
-    xForm.SetWidth(xWidth);
+void HoldWindowSize(int height, int width, Form& form) {
+  if (form.Height() != height) {
+    form.SetHeight(height);
+  } else if (form.Width() != width) {
+    form.SetWidth(width);
   }
 }
 

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/code_page.h"
 #include "forms/assign.h"
 #include "forms/form.h"
 #include "forms/window_system.h"
-#include "platform/code_page.h"
 
 namespace tessara {
 
@@ -54,7 +54,7 @@ void TextBox::SetLocked(bool locked) {
 }
 
 int TextBox::LineCount() const {
-  return Owner().System().Shown().LineCount(*this);
+  return Owner().System().RendererOf().LineCount(*this);
 }
 
 void TextBox::UserEdit(const TextEdit& edit) {

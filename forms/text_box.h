@@ -16,6 +16,7 @@ struct TextEdit {
 
 class TextBox : public Control {
  public:
+  using Control::Control;
   [[nodiscard]] ControlKind Kind() const override { return ControlKind::kTextBox; }
   [[nodiscard]] bool TakesFocus() const override { return true; }
   [[nodiscard]] const Text& TextOf() const { return text_; }

@@ -6,10 +6,9 @@
 
 namespace tessara {
 
-WindowSlot::WindowSlot(WindowSystem& system, Maker maker)
-    : system_(system), maker_(std::move(maker)) {}
+FormSlot::FormSlot(WindowSystem& system, Maker maker) : system_(system), maker_(std::move(maker)) {}
 
-WindowSlot::~WindowSlot() {
+FormSlot::~FormSlot() {
   if (form_ != nullptr && form_->loaded_) {
     form_->loaded_ = false;
     form_->visible_ = false;
@@ -18,7 +17,7 @@ WindowSlot::~WindowSlot() {
   }
 }
 
-Form& WindowSlot::Instance() {
+Form& FormSlot::Instance() {
   if (form_ == nullptr) {
     form_ = maker_();
     form_->slot_ = this;
@@ -26,7 +25,7 @@ Form& WindowSlot::Instance() {
   return *form_;
 }
 
-bool WindowSlot::Unload() {
+bool FormSlot::Unload() {
   return form_ == nullptr || form_->Unload();
 }
 

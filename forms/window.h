@@ -10,14 +10,14 @@ namespace tessara {
 
 /// The one place of a window that exists once at most: makes it at its first use, forgets it
 /// when it has been unloaded, and makes a fresh one at the next use.
-class WindowSlot {
+class FormSlot {
  public:
   using Maker = std::function<std::unique_ptr<Form>()>;
 
-  WindowSlot(WindowSystem& system, Maker maker);
-  WindowSlot(const WindowSlot&) = delete;
-  WindowSlot& operator=(const WindowSlot&) = delete;
-  ~WindowSlot();
+  FormSlot(WindowSystem& system, Maker maker);
+  FormSlot(const FormSlot&) = delete;
+  FormSlot& operator=(const FormSlot&) = delete;
+  ~FormSlot();
 
   /// The window, made where it was gone, not loaded by this.
   Form& Instance();
@@ -34,12 +34,22 @@ class WindowSlot {
   std::unique_ptr<Form> form_;
 };
 
+/// The place of a window of that class.
+/// Example: WindowSlot<AboutBox> about{windows, [this] { return std::make_unique<AboutBox>(app);
+/// }};
+template <class F>
+class WindowSlot : public FormSlot {
+ public:
+  WindowSlot(WindowSystem& system, std::function<std::unique_ptr<F>()> maker)
+      : FormSlot(system, std::move(maker)) {}
+};
+
 /// The way to a window: hand it around instead of a window. A handle to a derived window is one
 /// to its base too.
 template <class F>
 class Window {
  public:
-  explicit Window(WindowSlot& slot) : slot_(&slot) {}
+  explicit Window(WindowSlot<F>& slot) : slot_(&slot) {}
   template <std::derived_from<F> D>
   Window(const Window<D>& other) : slot_(&other.Slot()) {}  // NOLINT(google-explicit-constructor)
 
@@ -55,10 +65,10 @@ class Window {
   }
   [[nodiscard]] bool IsLoaded() const { return slot_->IsLoaded(); }
   bool Unload() const { return slot_->Unload(); }  // NOLINT(modernize-use-nodiscard)
-  [[nodiscard]] WindowSlot& Slot() const { return *slot_; }
+  [[nodiscard]] FormSlot& Slot() const { return *slot_; }
 
  private:
-  WindowSlot* slot_;
+  FormSlot* slot_;
 };
 
 }  // namespace tessara

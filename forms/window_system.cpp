@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/message_box.h"
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
+#include "machine/message_box.h"
 
 namespace tessara {
 
@@ -116,8 +116,8 @@ void WindowSystem::FrontMayHaveChanged(const Front& front) {
   if (renderer_ != nullptr) renderer_->ActiveFormChanged(now);
   if (before == now) return;
   const bool beforeStands = std::find(order_.begin(), order_.end(), before) != order_.end();
-  if (beforeStands) Run([before] { before->Form_LostFocus(); });
-  if (now != nullptr && ActiveForm() == now && !closingFrame_) Run([now] { now->Form_Activate(); });
+  if (beforeStands) Run([before] { before->OnLostFocus(); });
+  if (now != nullptr && ActiveForm() == now && !closingFrame_) Run([now] { now->OnActivate(); });
 }
 
 /// The order is that of the windows' loading, but for the one that may refuse.

@@ -24,7 +24,7 @@ class WindowSystem {
   ~WindowSystem();
 
   void SetRenderer(Renderer& renderer) { renderer_ = &renderer; }
-  [[nodiscard]] Renderer& Shown() const { return *renderer_; }
+  [[nodiscard]] Renderer& RendererOf() const { return *renderer_; }
   [[nodiscard]] const CodePage& CodePageOf() const { return codePage_; }
 
   /// Runs an event. A run-time error that it lets out is shown in the error report box, and then
@@ -49,7 +49,7 @@ class WindowSystem {
 
  private:
   friend class Form;
-  friend class WindowSlot;
+  friend class FormSlot;
 
   void Report(const RunTimeError& error);
   void Leave();

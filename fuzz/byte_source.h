@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <span>
 
-#include "platform/text.h"
+#include "base/text.h"
 
 namespace tessara::fuzz {
 

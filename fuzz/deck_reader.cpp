@@ -1,10 +1,10 @@
 // Any bytes as a deck file: it loads, or ends in error 9 for a row outside the table; and what
 // was loaded comes back from a save.
 
+#include "base/run_time_error.h"
 #include "deck/deck_file.h"
 #include "fuzz/one_file.h"
 #include "fuzz/require.h"
-#include "platform/run_time_error.h"
 #include "tests/support/memory_files.h"
 
 namespace tessara::fuzz {
@@ -27,24 +27,24 @@ bool Loads(FileSystem& files, ProgramState& state) {
 }
 
 void CheckLoaded(const ProgramState& state) {
-  Require(state.CurrentCard == 1);
-  Require(state.CardCount >= 0 && state.CardCount <= kMostCards);
+  Require(state.deck.currentCard == 1);
+  Require(state.deck.cardCount >= 0 && state.deck.cardCount <= kMostCards);
   for (int row = 0; row < kRows; ++row) {
-    const bool there = state.CardPresent.At(row) == 1;
-    Require(there == (state.Cell(row, kRowNumber) == DecimalText(row)));
+    const bool there = state.deck.cardPresent.At(row) == 1;
+    Require(there == (state.deck.Cell(row, kRowNumber) == DecimalText(row)));
     for (int column = kCardType; column < kColumns; ++column) {
-      const Text& cell = state.Cell(row, column);
+      const Text& cell = state.deck.Cell(row, column);
       Require(there || cell.empty());
       Require(Trimmed(cell) == cell);
     }
   }
-  Require(state.DeckTitle == state.Cell(kInfoRow, kInfoTitle));
+  Require(state.deck.title == state.deck.Cell(kInfoRow, kInfoTitle));
 }
 
 /// The writer goes down to the first absent row.
 int RowsWritten(const ProgramState& state) {
   int row = 0;
-  while (row < kRows && state.CardPresent.At(row) == 1) ++row;
+  while (row < kRows && state.deck.cardPresent.At(row) == 1) ++row;
   return row;
 }
 
@@ -58,9 +58,9 @@ void CheckSavedAndLoaded(const ProgramState& state) {
   Require(Loads(files, again));
   for (int row = 0; row < RowsWritten(state) && row <= kMostCards; ++row) {
     // A terminator or a second information record in the middle makes the load stop or go on.
-    if (state.Cell(row, kCardType) == u"X") return;
+    if (state.deck.Cell(row, kCardType) == u"X") return;
     for (int column = kCardType; column < kColumns; ++column) {
-      Require(again.Cell(row, column) == state.Cell(row, column));
+      Require(again.deck.Cell(row, column) == state.deck.Cell(row, column));
     }
   }
 }

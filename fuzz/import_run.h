@@ -22,18 +22,18 @@ class ImportRun : private MessageBoxes {
   }
 
   void CheckOutcome() const {
-    Require(state_.CardCount >= 0 && state_.CardCount < kRows);
+    Require(state_.deck.cardCount >= 0 && state_.deck.cardCount < kRows);
     Require(fileNumber_.IsOpen() == unforeseen_);
-    Require(shown_ == state_.DeckChanged);
-    Require(shown_ == (state_.CardPresent.At(kInfoRow) == 1));
+    Require(shown_ == state_.deck.changed);
+    Require(shown_ == (state_.deck.cardPresent.At(kInfoRow) == 1));
     for (int row = 1; row <= kMostCards; ++row) CheckRow(row);
   }
 
  private:
   void CheckRow(int row) const {
-    const bool present = state_.CardPresent.At(row) != 0;
+    const bool present = state_.deck.cardPresent.At(row) != 0;
     Require(shown_ || !present);
-    Require(!present || state_.Cell(row, kRowNumber) == DecimalText(row));
+    Require(!present || state_.deck.Cell(row, kRowNumber) == DecimalText(row));
   }
   MessageAnswer Show(const Text&, int, const Text& title) override {
     unforeseen_ = unforeseen_ || title == u"Import Error";

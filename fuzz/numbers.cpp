@@ -7,10 +7,10 @@
 #include <regex>
 #include <string>
 
+#include "base/conversion.h"
+#include "base/run_time_error.h"
 #include "fuzz/byte_source.h"
 #include "fuzz/require.h"
-#include "platform/conversion.h"
-#include "platform/run_time_error.h"
 
 namespace tessara::fuzz {
 

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string_view>
 
-#include "platform/file_system.h"
+#include "machine/file_system.h"
 
 namespace tessara::fuzz {
 

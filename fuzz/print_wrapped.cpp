@@ -3,9 +3,9 @@
 
 #include "printing/print_wrapped.h"
 
+#include "base/run_time_error.h"
 #include "fuzz/byte_source.h"
 #include "fuzz/require.h"
-#include "platform/run_time_error.h"
 
 namespace tessara::fuzz {
 

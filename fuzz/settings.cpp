@@ -37,10 +37,10 @@ bool RunsOn(const test::ProgramDesk& desk) {
 
 void CheckSetUp(test::ProgramDesk& desk) {
   const auto before = desk.fakes.settings.writes.size();
-  desk.Deck().Command3[2].Press();
-  desk.Frame().mnuSetup.Press();
+  desk.Deck().closeDeck.Press();
+  desk.Frame().setUp.Press();
   desk.fakes.messages.answers = {MessageAnswer::kNo};
-  if (desk.program.SetUpWindow().IsLoaded()) desk.program.SetUpWindow()->Command1[0].Press();
+  if (desk.program.SetUpWindowOf().IsLoaded()) desk.program.SetUpWindowOf()->close.Press();
   Require(desk.fakes.settings.writes.size() == before);
 }
 

@@ -190,13 +190,14 @@ class Run {
 
   static void CheckState(const ProgramState& state) {
     // Below zero where a builder that stayed open deletes a card of a deck that has been closed.
-    Require(std::abs(state.CardCount) < kRows);
-    Require(std::abs(state.CurrentCard) < kRows);
-    Require(state.DeckType == kStandardDeck || state.DeckType == kExtendedDeck);
-    Require(state.CardMode >= kStudyMode && state.CardMode <= kTestMode);
-    Require(state.TestPoints >= 0 && state.TestPoints * 2 == std::floor(state.TestPoints * 2));
+    Require(std::abs(state.deck.cardCount) < kRows);
+    Require(std::abs(state.deck.currentCard) < kRows);
+    Require(state.deck.kind == kStandardDeck || state.deck.kind == kExtendedDeck);
+    Require(state.deck.mode >= kStudyMode && state.deck.mode <= kTestMode);
+    Require(state.deck.testPoints >= 0 &&
+            state.deck.testPoints * 2 == std::floor(state.deck.testPoints * 2));
     for (int row = 0; row < kRows; ++row) {
-      const std::int16_t present = state.CardPresent.At(row);
+      const std::int16_t present = state.deck.cardPresent.At(row);
       Require(present == 0 || present == 1);
     }
   }

@@ -1,13 +1,14 @@
 #include "import/import_common.h"
 
+#include "deck/card_type.h"
 #include "deck/date_text.h"
 
 namespace tessara {
 
 namespace {
 
-bool ReadCards(const Text& xFilename, const ImportContext& context, CardsReader readCards) {
-  context.fileNumber.OpenInput(xFilename);
+bool ReadCards(const Text& fileName, const ImportContext& context, CardsReader readCards) {
+  context.fileNumber.OpenInput(fileName);
   LineReader lines(context.fileNumber, context.codePage);
   const bool good = readCards(lines, context);
   // An error that the reader does not foresee leaves the file open.
@@ -17,9 +18,9 @@ bool ReadCards(const Text& xFilename, const ImportContext& context, CardsReader 
 
 }  // namespace
 
-bool ReadImportFile(const Text& xFilename, const ImportContext& context, CardsReader readCards) {
-  const bool good = ReadCards(xFilename, context, readCards);
-  if (context.state.CardCount == 0) {
+bool ReadImportFile(const Text& fileName, const ImportContext& context, CardsReader readCards) {
+  const bool good = ReadCards(fileName, context, readCards);
+  if (context.state.deck.cardCount == 0) {
     context.messages.Show(u"No cards were found in this file, recheck the format of the file.",
                           kStopIcon, u"Import Canceled");
     AbandonImport(context.state);
@@ -37,39 +38,39 @@ void AddBounded(Text& text, TextView line) {
 }
 
 void ShowImportedDeck(DeckKind kind, const ImportContext& context) {
-  context.state.CurrentCard = 1;
+  context.state.deck.currentCard = 1;
   context.showDeck(kind);
 }
 
-void MarkAsImported(const Text& xType, const ImportContext& context) {
-  SetImportedDeckInfo(xType, context.today, context.state);
-  context.state.DeckChanged = true;
+void MarkAsImported(const Text& kind, const ImportContext& context) {
+  SetImportedDeckInfo(kind, context.today, context.state);
+  context.state.deck.changed = true;
 }
 
-void SetImportedDeckInfo(const Text& xType, const Date& today, ProgramState& state) {
+void SetImportedDeckInfo(const Text& kind, const Date& today, ProgramState& state) {
   const Text title = u"Enter Title Here";
   const Text author = u"Your Name Here";
   const Text description = u"Deck Description Here";
-  CardTable& grid = state.CardGrid;
-  grid.Set(kInfoRow, kCardType, u"I");
+  CardTable& grid = state.deck.cardGrid;
+  grid.Set(kInfoRow, kCardType, Text(LetterOf(CardType::kInformation)));
   grid.Set(kInfoRow, kCardText, u"");
   grid.Set(kInfoRow, kRowNumber, u"0");
   grid.Set(kInfoRow, kInfoDate, DateText(today));
-  grid.Set(kInfoRow, kInfoType, xType);
+  grid.Set(kInfoRow, kInfoType, kind);
   grid.Set(kInfoRow, kInfoTitle, title);
   grid.Set(kInfoRow, kInfoAuthor, author);
   grid.Set(kInfoRow, kAnswer, u"");
   grid.Set(kInfoRow, kInfoDescription, description);
-  state.CardPresent.Set(kInfoRow, 1);
-  state.DeckTitle = title;
-  state.DeckAuthor = author;
-  state.DeckDescription = description;
+  state.deck.cardPresent.Set(kInfoRow, 1);
+  state.deck.title = title;
+  state.deck.author = author;
+  state.deck.description = description;
 }
 
 void AbandonImport(ProgramState& state) {
-  ClearAllCards(state);
-  state.ImportCardNumber = 0;
-  state.ImportPrevCard = 0;
+  ClearAllCards(state.deck);
+  state.import.cardNumber = 0;
+  state.import.previousCard = 0;
 }
 
 void ImportErrorBox(const RunTimeError& error, const ImportContext& context) {
@@ -83,15 +84,15 @@ void ShowErrorInFile(const Text& text, MessageBoxes& messages) {
   messages.Show(text, kStopIcon, u"Error In Import File");
 }
 
-bool CheckCardSequence(std::int16_t xCard, std::int16_t xPrev, MessageBoxes& messages) {
-  if (xCard == 0 || (xCard > 1 && xPrev == 0)) {
+bool CheckCardSequence(std::int16_t card, std::int16_t previous, MessageBoxes& messages) {
+  if (card == 0 || (card > 1 && previous == 0)) {
     ShowErrorInFile(
         u"First card is equal to 0 or is greater than \" 1 \". Import has been cancelled.",
         messages);
     return false;
   }
-  if (xPrev >= xCard || xCard >= xPrev + 2) {
-    ShowErrorInFile(u"A sequence error has occured after \"card # " + DecimalText(xPrev) +
+  if (previous >= card || card >= previous + 2) {
+    ShowErrorInFile(u"A sequence error has occured after \"card # " + DecimalText(previous) +
                         u"\". Import has been cancelled.",
                     messages);
     return false;

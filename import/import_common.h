@@ -3,14 +3,14 @@
 #include <cstdint>
 #include <functional>
 
-#include "deck/card_table.h"
+#include "base/code_page.h"
+#include "base/run_time_error.h"
+#include "base/text.h"
 #include "deck/file_number.h"
+#include "deck/program_state.h"
 #include "import/line_reader.h"
-#include "platform/clock.h"
-#include "platform/code_page.h"
-#include "platform/message_box.h"
-#include "platform/run_time_error.h"
-#include "platform/text.h"
+#include "machine/clock.h"
+#include "machine/message_box.h"
 
 namespace tessara {
 
@@ -33,7 +33,7 @@ using CardsReader = bool (*)(LineReader& lines, const ImportContext& context);
 
 /// Opens the file, reads its cards, closes it; tells where there are none, and abandons the import
 /// where the file has an error. True where the import is to end well, be it with an empty table.
-[[nodiscard]] bool ReadImportFile(const Text& xFilename, const ImportContext& context,
+[[nodiscard]] bool ReadImportFile(const Text& fileName, const ImportContext& context,
                                   CardsReader readCards);
 
 /// The most characters of a text that an import puts into the table. A deck file keeps 444 of
@@ -47,9 +47,9 @@ void AddBounded(Text& text, TextView line);
 /// Shows the deck that has been read, at card 1.
 void ShowImportedDeck(DeckKind kind, const ImportContext& context);
 /// Marks the deck as a new one, never saved, with the information that a new one has.
-void MarkAsImported(const Text& xType, const ImportContext& context);
-/// Fills the information row; `xType` is the word for the type of the deck.
-void SetImportedDeckInfo(const Text& xType, const Date& today, ProgramState& state);
+void MarkAsImported(const Text& kind, const ImportContext& context);
+/// Fills the information row; `kind` is the word for the type of the deck.
+void SetImportedDeckInfo(const Text& kind, const Date& today, ProgramState& state);
 
 /// The clean-up of a failed import. The card count and the standard reader's numbers stay.
 void AbandonImport(ProgramState& state);
@@ -61,7 +61,7 @@ void ImportErrorBox(const RunTimeError& error, const ImportContext& context);
 void ShowErrorInFile(const Text& text, MessageBoxes& messages);
 
 /// True where the card may follow the last finished one, else tells that it may not.
-[[nodiscard]] bool CheckCardSequence(std::int16_t xCard, std::int16_t xPrev,
+[[nodiscard]] bool CheckCardSequence(std::int16_t card, std::int16_t previous,
                                      MessageBoxes& messages);
 
 }  // namespace tessara

@@ -1,11 +1,11 @@
 #include "import/import_text_file.h"
 
 #include "deck/ask_file_name.h"
-#include "import/TextImport.h"
-#include "import/TextImport2.h"
+#include "import/extended_import.h"
 #include "import/import_common.h"
 #include "import/line_kinds.h"
 #include "import/line_reader.h"
+#include "import/standard_import.h"
 
 namespace tessara {
 
@@ -18,7 +18,7 @@ Text FirstLine(const Text& path, FileNumber& fileNumber, const CodePage& codePag
   return line;
 }
 
-void ShowDeck(DeckKind kind, DeckWindow& deck) {
+void ShowDeck(DeckKind kind, DeckLife& deck) {
   if (kind == kExtendedDeck) {
     deck.OpenExtendedView();
   } else {
@@ -27,7 +27,7 @@ void ShowDeck(DeckKind kind, DeckWindow& deck) {
   deck.ShowFirstCard(kind);
 }
 
-ImportContext ContextOf(AppContext& app, FileNumber& fileNumber, Window<DeckWindow> deck) {
+ImportContext ContextOf(AppContext& app, FileNumber& fileNumber, Window<DeckLife> deck) {
   Machine& machine = app.machine;
   return {app.state,
           fileNumber,
@@ -40,7 +40,7 @@ ImportContext ContextOf(AppContext& app, FileNumber& fileNumber, Window<DeckWind
 
 }  // namespace
 
-void ImportTextFile(AppContext& app, FileNumber& fileNumber, Window<DeckWindow> deck) {
+void ImportTextFile(AppContext& app, FileNumber& fileNumber, Window<DeckLife> deck) {
   const Text path = AskFileName(FileDialogMode::kOpen, u"Text File|*.txt", app);
   if (path.empty()) return;
   const Text format = FirstLine(path, fileNumber, app.machine.codePage);
@@ -55,7 +55,7 @@ void ImportTextFile(AppContext& app, FileNumber& fileNumber, Window<DeckWindow> 
   const auto importDeck = extended ? ImportExtended : ImportStandard;
   importDeck(path, ContextOf(app, fileNumber, deck));
   // Whether or not it has worked.
-  app.state.SaveOffered = true;
+  app.state.deck.saveOffered = true;
   // The window has come up before its deck was a changed one.
   if (deck.IsLoaded()) deck->ConfigSaveMenu();
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "deck/app_context.h"
-#include "deck/deck_window.h"
+#include "deck/deck_life.h"
 #include "deck/file_number.h"
 #include "forms/window.h"
 
@@ -10,6 +10,6 @@ namespace tessara {
 /// The command that makes a deck from a text file of the user's choice, in either format. It asks
 /// nothing about changes. Raises the errors of a file that can't be opened or is empty (62), and
 /// 55 where an earlier import has left the file open.
-void ImportTextFile(AppContext& app, FileNumber& fileNumber, Window<DeckWindow> deck);
+void ImportTextFile(AppContext& app, FileNumber& fileNumber, Window<DeckLife> deck);
 
 }  // namespace tessara

@@ -2,20 +2,20 @@
 
 namespace tessara {
 
-bool IsWord(TextView xLine, TextView word) {
-  const TextView trimmed = Trimmed(xLine);
+bool IsWord(TextView line, TextView word) {
+  const TextView trimmed = Trimmed(line);
   return trimmed.size() == word.size() && UpperCase(trimmed) == word;
 }
 
-bool IsTypeLine(TextView xLine) {
-  return IsWord(xLine, kExtendedWord) || IsWord(xLine, kStandardWord);
+bool IsTypeLine(TextView line) {
+  return IsWord(line, kExtendedWord) || IsWord(line, kStandardWord);
 }
 
-bool HasEarlyDot(TextView xLine) {
+bool HasEarlyDot(TextView line) {
   constexpr std::size_t kFirstPlace = 1;
   constexpr std::size_t kPlaces = 3;
-  if (xLine.size() <= kFirstPlace) return false;
-  return xLine.substr(kFirstPlace, kPlaces).find(u'.') != xLine.npos;
+  if (line.size() <= kFirstPlace) return false;
+  return line.substr(kFirstPlace, kPlaces).find(u'.') != line.npos;
 }
 
 }  // namespace tessara

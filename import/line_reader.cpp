@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <string>
 
-#include "platform/run_time_error.h"
-#include "platform/utf8.h"
+#include "base/run_time_error.h"
+#include "base/utf8.h"
 
 namespace tessara {
 

@@ -4,10 +4,10 @@
 #include <string_view>
 #include <vector>
 
+#include "base/code_page.h"
+#include "base/text.h"
 #include "deck/file_number.h"
 #include "import/text_traits.h"
-#include "platform/code_page.h"
-#include "platform/text.h"
 
 namespace tessara {
 

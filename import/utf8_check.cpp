@@ -1,6 +1,6 @@
 #include "import/utf8_check.h"
 
-#include "platform/ascii.h"
+#include "base/ascii.h"
 
 namespace tessara {
 

@@ -1,8 +1,8 @@
 // Which cards are ticked for printing, and what the window tells of them.
 
-#include "platform/conversion.h"
-#include "printing/PrintCard.h"
+#include "base/conversion.h"
 #include "printing/card_sheet.h"
+#include "printing/print_window.h"
 #include "viewer/answer_text.h"
 
 namespace tessara {
@@ -13,88 +13,88 @@ constexpr TextView kDeselectAll = u"Deselect All";
 
 }  // namespace
 
-void PrintCard::ListView1_Click() {
-  if (ListView1.Count() == 0) return;
-  ShowBack(IntegerOf(ListView1.SelectedItem().text));
+void PrintWindow::ShowSelectedCard() {
+  if (cards.Count() == 0) return;
+  ShowBack(IntegerOf(cards.SelectedItem().text));
   ShowToggleCaption();
   ShowCountForPrint();
   ShowAvailable();
-  Command1[kPrintButton].SetEnabled(PrnButEn());
+  print.SetEnabled(PrnButEn());
 }
 
 /// After a key the box shows the card below, and the print button stays as it is.
-void PrintCard::ListView1_KeyUp() {
-  if (ListView1.Count() == 0) return;
-  ShowBack(static_cast<std::int16_t>(IntegerOf(ListView1.SelectedItem().text) + 1));
+void PrintWindow::ShowCardBelow() {
+  if (cards.Count() == 0) return;
+  ShowBack(static_cast<std::int16_t>(IntegerOf(cards.SelectedItem().text) + 1));
   ShowToggleCaption();
-  Label3.SetCaption(u"Number of cards to print: " + DecimalText(CountChecks()));
+  selected.SetCaption(u"Number of cards to print: " + DecimalText(CountChecks()));
 }
 
-void PrintCard::ToggleAll() {
-  Button& toggle = Command1[kToggleButton];
-  if (toggle.Caption() == kSelectAll) {
+void PrintWindow::ToggleTicks() {
+  if (toggleAll.Caption() == kSelectAll) {
     SelectAll();
-    toggle.SetCaption(Text(kDeselectAll));
+    toggleAll.SetCaption(Text(kDeselectAll));
   } else {
     DeselectAll();
-    toggle.SetCaption(Text(kSelectAll));
+    toggleAll.SetCaption(Text(kSelectAll));
   }
+  FollowTicks();
 }
 
-void PrintCard::SelectAll() {
+void PrintWindow::SelectAll() {
   SetAllChecks(true);
 }
 
-void PrintCard::DeselectAll() {
+void PrintWindow::DeselectAll() {
   SetAllChecks(false);
 }
 
-void PrintCard::SetAllChecks(bool checked) {
-  for (int item = 1; item <= ListView1.Count(); ++item) ListView1.SetChecked(item, checked);
-  if (Check1.Ticked()) Command1[kPrintButton].SetEnabled(checked);
+void PrintWindow::SetAllChecks(bool checked) {
+  for (int item = 1; item <= cards.Count(); ++item) cards.SetChecked(item, checked);
+  if (flatSheet.Ticked()) print.SetEnabled(checked);
 }
 
-bool PrintCard::AllChecked() const {
-  return CountChecks() == ListView1.Count();
+bool PrintWindow::AllChecked() const {
+  return CountChecks() == cards.Count();
 }
 
-std::int16_t PrintCard::CountChecks() const {
+std::int16_t PrintWindow::CountChecks() const {
   std::int16_t ticked = 0;
-  for (int item = 1; item <= ListView1.Count(); ++item) {
-    if (ListView1.Item(item).checked) ++ticked;
+  for (int item = 1; item <= cards.Count(); ++item) {
+    if (cards.Item(item).checked) ++ticked;
   }
   return ticked;
 }
 
-bool PrintCard::PrnButEn() const {
-  const bool canPrint = Check1.Ticked() || app_.state.CanPrintCards;
+bool PrintWindow::PrnButEn() const {
+  const bool canPrint = flatSheet.Ticked() || app_.state.printing.canPrintCards;
   return canPrint && CountChecks() > 0;
 }
 
-void PrintCard::ShowBack(std::int16_t row) {
-  Text1.SetText(GetCardText(Text(kBack), row));
+void PrintWindow::ShowBack(std::int16_t row) {
+  back.SetText(GetCardText(Text(kBack), row));
 }
 
-void PrintCard::ShowToggleCaption() {
-  Command1[kToggleButton].SetCaption(Text(AllChecked() ? kDeselectAll : kSelectAll));
+void PrintWindow::ShowToggleCaption() {
+  toggleAll.SetCaption(Text(AllChecked() ? kDeselectAll : kSelectAll));
 }
 
-void PrintCard::ShowCountForPrint() {
-  Label3.SetCaption(u"Number of cards selected for print: " + DecimalText(CountChecks()));
+void PrintWindow::ShowCountForPrint() {
+  selected.SetCaption(u"Number of cards selected for print: " + DecimalText(CountChecks()));
 }
 
-void PrintCard::ShowAvailable() {
-  Label6.SetCaption(u"Available Cards: " + DecimalText(ListView1.Count()));
+void PrintWindow::ShowAvailable() {
+  available.SetCaption(u"Available Cards: " + DecimalText(cards.Count()));
 }
 
-Text PrintCard::GetCardText(const Text& CardSide, std::int16_t Lcnt) const {
+Text PrintWindow::GetCardText(const Text& side, std::int16_t row) const {
   const ProgramState& state = app_.state;
-  const bool standard = state.DeckType == kStandardDeck;
-  if (!standard && state.DeckType != kExtendedDeck) return {};
-  if (CardSide == kFront) return state.Cell(Lcnt, kCardText);
-  if (CardSide != kBack) return {};
-  return standard ? state.Cell(Lcnt, kBackText)
-                  : AnswerText(state.Cell(Lcnt, kAnswer), Lcnt, state);
+  const bool standard = state.deck.kind == kStandardDeck;
+  if (!standard && state.deck.kind != kExtendedDeck) return {};
+  if (side == kFront) return state.deck.Cell(row, kCardText);
+  if (side != kBack) return {};
+  return standard ? state.deck.Cell(row, kBackText)
+                  : AnswerText(state.deck.Cell(row, kAnswer), row, state);
 }
 
 }  // namespace tessara

@@ -48,7 +48,7 @@ void CardSheet::PlaceFrontText(const Text& text, std::int16_t position) {
 }
 
 void CardSheet::PlaceBackText(const Text& text, std::int16_t position) {
-  if (Check2_.Ticked()) {
+  if (flipPrint_.Ticked()) {
     PlaceBackFlipped(text, position);
   } else {
     PlaceBackMirrored(text, position);

@@ -2,9 +2,9 @@
 
 #include <cstdint>
 
+#include "base/text.h"
 #include "forms/controls.h"
-#include "platform/spreadsheet.h"
-#include "platform/text.h"
+#include "machine/spreadsheet.h"
 
 namespace tessara {
 
@@ -21,8 +21,8 @@ inline constexpr std::int16_t kLastSlot = 9;
 /// is no slot sets the fonts and writes nothing. All operations raise the server's errors.
 class CardSheet {
  public:
-  /// `Check2` is read at each placement: ticked, the sheet is turned over its top edge.
-  CardSheet(Worksheet& sheet, const CheckBox& Check2) : sheet_(sheet), Check2_(Check2) {}
+  /// The box is read at each placement: ticked, the sheet is turned over its top edge.
+  CardSheet(Worksheet& sheet, const CheckBox& flipPrint) : sheet_(sheet), flipPrint_(flipPrint) {}
 
   /// Sets the fonts of the side and writes the text; a side of another name does nothing.
   void PlaceCardText(const Text& text, std::int16_t position, const Text& side);
@@ -53,7 +53,7 @@ class CardSheet {
   void Place(const Text& text, std::int16_t position, Cell Slot::*cell);
 
   Worksheet& sheet_;
-  const CheckBox& Check2_;
+  const CheckBox& flipPrint_;
 };
 
 }  // namespace tessara

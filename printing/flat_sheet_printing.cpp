@@ -1,14 +1,14 @@
-#include "platform/conversion.h"
-#include "platform/print_surface.h"
-#include "platform/run_time_error.h"
-#include "printing/PrintCard.h"
+#include "base/conversion.h"
+#include "base/run_time_error.h"
+#include "machine/print_surface.h"
 #include "printing/card_sheet.h"
 #include "printing/print_copies.h"
+#include "printing/print_window.h"
 #include "printing/print_wrapped.h"
 
 namespace tessara {
 
-void PrintCard::PrintFlatSheetDialog() {
+void PrintWindow::PrintFlatSheetDialog() {
   Machine& machine = app_.machine;
   try {
     const PrinterChoice choice = ChoosePrinter(machine);
@@ -16,41 +16,41 @@ void PrintCard::PrintFlatSheetDialog() {
   } catch (const RunTimeError&) {
     machine.printer.DropDocument();
     TellCancelled(machine);
-    app_.state.PrintCancelled = true;
+    app_.state.printing.cancelled = true;
   }
 }
 
-void PrintCard::PrnFlatSheet() {
+void PrintWindow::PrnFlatSheet() {
   PrintSurface& surface = app_.machine.printer;
   PrintFlatHeader();
-  for (int item = 1; item <= ListView1.Count(); ++item) {
-    if (ListView1.Item(item).checked) PrintFlatCard(item);
+  for (int item = 1; item <= cards.Count(); ++item) {
+    if (cards.Item(item).checked) PrintFlatCard(item);
     surface.SetItalic(false);
   }
-  app_.state.FlatLastY = 0;
+  app_.state.printing.flatLastY = 0;
   surface.EndDocument();
 }
 
-void PrintCard::PrintFlatHeader() {
+void PrintWindow::PrintFlatHeader() {
   const ProgramState& state = app_.state;
   PrintSurface& surface = app_.machine.printer;
   surface.SetCopies(1);
   surface.SetFontName(u"Arial");
   surface.SetFontSize(9);
-  surface.PrintLine(u"TITLE: " + state.DeckTitle);
-  surface.PrintLine(u"CREATED BY: " + state.DeckAuthor);
-  surface.PrintLine(u"DATE: " + state.DeckDate);
-  PrintBlock(u"DESCRIPTION: " + state.DeckDescription + Text(kLineBreak) + u"DECK TYPE: " +
-             state.DeckTypeName);
-  surface.PrintLine(u"Total Cards: " + DecimalText(state.CardCount));
+  surface.PrintLine(u"TITLE: " + state.deck.title);
+  surface.PrintLine(u"CREATED BY: " + state.deck.author);
+  surface.PrintLine(u"DATE: " + state.deck.date);
+  PrintBlock(u"DESCRIPTION: " + state.deck.description + Text(kLineBreak) + u"DECK TYPE: " +
+             state.deck.typeName);
+  surface.PrintLine(u"Total Cards: " + DecimalText(state.deck.cardCount));
   surface.PrintLine(u"");
 }
 
 /// The texts come from the row behind the card that the heading names.
-void PrintCard::PrintFlatCard(int item) {
+void PrintWindow::PrintFlatCard(int item) {
   ProgramState& state = app_.state;
   PrintSurface& surface = app_.machine.printer;
-  const auto row = static_cast<std::int16_t>(IntegerOf(ListView1.Item(item).text) + 1);
+  const auto row = static_cast<std::int16_t>(IntegerOf(cards.Item(item).text) + 1);
   surface.SetFontName(u"Arial");
   surface.SetFontSize(10);
   surface.SetBold(true);
@@ -59,16 +59,16 @@ void PrintCard::PrintFlatCard(int item) {
   surface.PrintLine(u"");
   surface.PrintLine(u"Card #" + DecimalText(row - 1));
   surface.SetBold(false);
-  PrintBlock(state.Cell(row, kCardText));
+  PrintBlock(state.deck.Cell(row, kCardText));
   surface.SetItalic(true);
-  state.CurrentCard = static_cast<std::int16_t>(item);
+  state.deck.currentCard = static_cast<std::int16_t>(item);
   PrintBlock(GetCardText(Text(kBack), row));
 }
 
 /// A wrapped text and, below it, the line that its empty result makes.
-void PrintCard::PrintBlock(const Text& text) {
+void PrintWindow::PrintBlock(const Text& text) {
   PrintSurface& surface = app_.machine.printer;
-  surface.PrintLine(PrintWrapped(text, surface, app_.state.FlatLastY));
+  surface.PrintLine(PrintWrapped(text, surface, app_.state.printing.flatLastY));
 }
 
 }  // namespace tessara

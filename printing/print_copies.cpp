@@ -1,7 +1,7 @@
 #include "printing/print_copies.h"
 
-#include "platform/message_box.h"
-#include "platform/print_surface.h"
+#include "machine/message_box.h"
+#include "machine/print_surface.h"
 
 namespace tessara {
 

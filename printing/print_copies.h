@@ -2,9 +2,9 @@
 
 #include <functional>
 
-#include "platform/dialogs.h"
-#include "platform/machine.h"
-#include "platform/text.h"
+#include "base/text.h"
+#include "machine/dialogs.h"
+#include "machine/machine.h"
 
 namespace tessara {
 

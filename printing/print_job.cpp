@@ -1,26 +1,26 @@
 // A job from the press of the print button to the box at its end.
 
+#include "base/run_time_error.h"
 #include "deck/deck_name.h"
-#include "platform/message_box.h"
-#include "platform/run_time_error.h"
-#include "printing/PrintCard.h"
+#include "machine/message_box.h"
 #include "printing/print_copies.h"
+#include "printing/print_window.h"
 
 namespace tessara {
 
-bool PrintCard::RunJob() {
-  return Check1.Ticked() ? RunFlatJob() : RunCardJob();
+bool PrintWindow::RunJob() {
+  return flatSheet.Ticked() ? RunFlatJob() : RunCardJob();
 }
 
-bool PrintCard::RunFlatJob() {
+bool PrintWindow::RunFlatJob() {
   PrintFlatSheetDialog();
   // A cancel stays set: the next flat job ends here too, until a card job clears it.
-  if (app_.state.PrintCancelled) return false;
+  if (app_.state.printing.cancelled) return false;
   AnnounceEnd();
   return true;
 }
 
-bool PrintCard::RunCardJob() {
+bool PrintWindow::RunCardJob() {
   try {
     job_.Open();
     PrintCardsDialog();
@@ -29,19 +29,19 @@ bool PrintCard::RunCardJob() {
     ReportJobFailure(error);
     return false;
   }
-  if (!app_.state.PrintCancelled) AnnounceEnd();
-  app_.state.PrintCancelled = false;
+  if (!app_.state.printing.cancelled) AnnounceEnd();
+  app_.state.printing.cancelled = false;
   return true;
 }
 
-void PrintCard::AnnounceEnd() {
-  app_.machine.messages.Show(DeckNameOf(app_.state.DeckFilePath) + u" has finished printing.",
+void PrintWindow::AnnounceEnd() {
+  app_.machine.messages.Show(DeckNameOf(app_.state.deck.filePath) + u" has finished printing.",
                              kInformationIcon, u"PRINT");
 }
 
-void PrintCard::ReportJobFailure(const RunTimeError& error) {
+void PrintWindow::ReportJobFailure(const RunTimeError& error) {
   const bool notFound = error.Number() == ErrorNumber::kAutomationClassNotFound;
-  Command1[kPrintButton].SetEnabled(false);
+  print.SetEnabled(false);
   app_.machine.messages.Show(notFound ? u"Printing requires Excel 97." : Text(kUnspecifiedError),
                              kStopIcon, u"Error Printing Cards");
 }

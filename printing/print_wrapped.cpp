@@ -1,7 +1,7 @@
 #include "printing/print_wrapped.h"
 
-#include "platform/conversion.h"
-#include "platform/run_time_error.h"
+#include "base/conversion.h"
+#include "base/run_time_error.h"
 
 namespace tessara {
 
@@ -10,15 +10,15 @@ namespace {
 /// Twips kept free at the bottom of a page.
 constexpr double kBottomReserve = 1000;
 
-void BeginPageIfNearBottom(const Text& text, PrintSurface& surface, std::int16_t& FlatLastY) {
-  if (surface.PageHeight() - kBottomReserve > surface.TextHeight(text) + FlatLastY) return;
+void BeginPageIfNearBottom(const Text& text, PrintSurface& surface, std::int16_t& lastY) {
+  if (surface.PageHeight() - kBottomReserve > surface.TextHeight(text) + lastY) return;
   surface.NewPage();
-  FlatLastY = 0;
+  lastY = 0;
 }
 
-void PrintTrimmed(const Text& line, PrintSurface& surface, std::int16_t& FlatLastY) {
+void PrintTrimmed(const Text& line, PrintSurface& surface, std::int16_t& lastY) {
   surface.PrintLine(Text(Trimmed(line)));
-  FlatLastY = IntegerOf(surface.CurrentY());
+  lastY = IntegerOf(surface.CurrentY());
 }
 
 /// The line up to its last blank, that one included.
@@ -30,10 +30,10 @@ Text UpToLastBlank(const Text& line) {
 
 }  // namespace
 
-Text PrintWrapped(const Text& text, PrintSurface& surface, std::int16_t& FlatLastY) {
-  BeginPageIfNearBottom(text, surface, FlatLastY);
+Text PrintWrapped(const Text& text, PrintSurface& surface, std::int16_t& lastY) {
+  BeginPageIfNearBottom(text, surface, lastY);
   if (surface.TextWidth(text) <= surface.PageWidth()) {
-    PrintTrimmed(text, surface, FlatLastY);
+    PrintTrimmed(text, surface, lastY);
     return {};
   }
   Text buffer;
@@ -47,11 +47,11 @@ Text PrintWrapped(const Text& text, PrintSurface& surface, std::int16_t& FlatLas
       continue;
     }
     buffer = UpToLastBlank(buffer);
-    PrintTrimmed(buffer, surface, FlatLastY);
+    PrintTrimmed(buffer, surface, lastY);
     start += buffer.size();
     count = 1;
   }
-  PrintTrimmed(buffer, surface, FlatLastY);
+  PrintTrimmed(buffer, surface, lastY);
   return {};
 }
 

@@ -1,7 +1,7 @@
 #include "printing/spreadsheet_job.h"
 
-#include "platform/program_file.h"
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
+#include "machine/program_file.h"
 
 namespace tessara {
 

@@ -2,8 +2,8 @@
 
 #include <memory>
 
-#include "platform/machine.h"
-#include "platform/spreadsheet.h"
+#include "machine/machine.h"
+#include "machine/spreadsheet.h"
 
 namespace tessara {
 

@@ -1,11 +1,11 @@
-#include "platform/conversion.h"
-#include "platform/message_box.h"
-#include "platform/run_time_error.h"
-#include "platform/skip_errors.h"
-#include "platform/spreadsheet.h"
-#include "printing/PrintCard.h"
+#include "base/conversion.h"
+#include "base/run_time_error.h"
+#include "base/skip_errors.h"
+#include "machine/message_box.h"
+#include "machine/spreadsheet.h"
 #include "printing/card_sheet.h"
 #include "printing/print_copies.h"
+#include "printing/print_window.h"
 
 namespace tessara {
 
@@ -17,9 +17,9 @@ void AskForPaper(MessageBoxes& messages, const Text& side) {
 }
 
 /// How the sheet is to be turned, for the page line of a front.
-Text TurningMark(const CheckBox& Check2, const Text& side) {
+Text TurningMark(const CheckBox& flipPrint, const Text& side) {
   if (side == kBack) return {};
-  return Check2.Ticked() ? u"VV" : u"^^";
+  return flipPrint.Ticked() ? u"VV" : u"^^";
 }
 
 void TellPrintingError(Machine& machine, const RunTimeError& error) {
@@ -32,23 +32,23 @@ void TellPrintingError(Machine& machine, const RunTimeError& error) {
 
 }  // namespace
 
-void PrintCard::PrintCardsDialog() {
+void PrintWindow::PrintCardsDialog() {
   try {
     PrintCardCopies(ChoosePrinter(app_.machine));
   } catch (const RunTimeError& error) {
-    app_.state.PrintCancelled = true;
+    app_.state.printing.cancelled = true;
     TellPrintingError(app_.machine, error);
   }
 }
 
-void PrintCard::PrintCardCopies(const PrinterChoice& choice) {
+void PrintWindow::PrintCardCopies(const PrinterChoice& choice) {
   SpreadsheetServer& server = app_.machine.spreadsheet;
   server.SetDestination(choice.destination);
   try {
     // Nothing clears the cells between a copy's backs and the next copy's fronts.
     PrintCopies(app_.machine, choice.copies, [this] {
       PrintCards(Text(kFront));
-      CardSheet(*job_.JobSheet(), Check2).ClearCardCells();
+      CardSheet(*job_.JobSheet(), flipPrint).ClearCardCells();
       PrintCards(Text(kBack));
     });
   } catch (const RunTimeError&) {
@@ -59,28 +59,28 @@ void PrintCard::PrintCardCopies(const PrinterChoice& choice) {
   server.FinishDestination();
 }
 
-void PrintCard::PrintCards(const Text& xSide) {
-  AskForPaper(app_.machine.messages, xSide);
-  const Text mark = TurningMark(Check2, xSide);
+void PrintWindow::PrintCards(const Text& side) {
+  AskForPaper(app_.machine.messages, side);
+  const Text mark = TurningMark(flipPrint, side);
   Worksheet& worksheet = *job_.JobSheet();
-  CardSheet sheet(worksheet, Check2);
+  CardSheet sheet(worksheet, flipPrint);
   std::int16_t position = kFirstSlot;
   std::int16_t page = 1;
-  const int items = ListView1.Count();
+  const int items = cards.Count();
   for (int item = 1; item <= items; ++item) {
-    if (!ListView1.Item(item).checked) continue;
+    if (!cards.Item(item).checked) continue;
     if (position > kLastSlot) {
       position = kFirstSlot;
-      sheet.WritePageLine(page++, xSide, mark);
+      sheet.WritePageLine(page++, side, mark);
       worksheet.PrintOut();
       sheet.ClearCardCells();
     }
-    const std::int16_t row = IntegerOf(ListView1.Item(item).text);
-    sheet.PlaceCardText(GetCardText(xSide, row), position++, xSide);
+    const std::int16_t row = IntegerOf(cards.Item(item).text);
+    sheet.PlaceCardText(GetCardText(side, row), position++, side);
   }
   // A sheet that is not full says that it is the last one.
-  if (position <= kLastSlot) sheet.PlaceCardText(u"ALL SELECTED CARDS PRINTED", position, xSide);
-  sheet.WritePageLine(page, xSide, mark);
+  if (position <= kLastSlot) sheet.PlaceCardText(u"ALL SELECTED CARDS PRINTED", position, side);
+  sheet.WritePageLine(page, side, mark);
   worksheet.PrintOut();
 }
 

@@ -1,8 +1,8 @@
 #include "shell/document_association.h"
 
-#include "platform/class_registry.h"
-#include "platform/program_file.h"
-#include "platform/settings_store.h"
+#include "machine/class_registry.h"
+#include "machine/program_file.h"
+#include "machine/settings_store.h"
 #include "shell/settings.h"
 
 namespace tessara {

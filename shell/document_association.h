@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/machine.h"
+#include "machine/machine.h"
 
 namespace tessara {
 

@@ -1,7 +1,7 @@
 #include "shell/documents.h"
 
-#include "platform/message_box.h"
-#include "platform/program_file.h"
+#include "machine/message_box.h"
+#include "machine/program_file.h"
 
 namespace tessara {
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "forms/form.h"
-#include "platform/desktop.h"
-#include "platform/machine.h"
+#include "machine/desktop.h"
+#include "machine/machine.h"
 
 namespace tessara {
 

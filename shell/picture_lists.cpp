@@ -4,7 +4,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/utf8.h"
+#include "base/utf8.h"
 
 namespace tessara {
 
@@ -29,7 +29,7 @@ constexpr Tile kTiles[] = {
 
 }  // namespace
 
-ImageList BackdropTiles() {
+ImageList MakeBackdropTiles() {
   std::vector<ImageList::Image> images;
   for (const Tile& tile : kTiles) {
     const std::string file = std::string("backdrops/") + tile.key + "." + tile.extension;
@@ -38,7 +38,7 @@ ImageList BackdropTiles() {
   return ImageList(std::move(images));
 }
 
-ImageList CardPictures() {
+ImageList MakeCardPictures() {
   return ImageList({{u"White Flat", {"skins/white_flat.png", 323, 90}},
                     {u"White 3D", {"skins/white_3d.png", 327, 93}},
                     {u"Yellow Flat", {"skins/yellow_flat.png", 323, 90}},

@@ -5,8 +5,8 @@
 namespace tessara {
 
 /// The backdrop's tiles, in the order in which the set-up window lists them.
-[[nodiscard]] ImageList BackdropTiles();
+[[nodiscard]] ImageList MakeBackdropTiles();
 /// The card skins and the pictures of the print window.
-[[nodiscard]] ImageList CardPictures();
+[[nodiscard]] ImageList MakeCardPictures();
 
 }  // namespace tessara

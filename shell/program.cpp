@@ -1,10 +1,10 @@
 #include "shell/program.h"
 
 #include "authoring/open_builder.h"
-#include "platform/conversion.h"
-#include "platform/desktop.h"
-#include "platform/message_box.h"
-#include "platform/settings_store.h"
+#include "base/conversion.h"
+#include "machine/desktop.h"
+#include "machine/message_box.h"
+#include "machine/settings_store.h"
 #include "printing/spreadsheet_job.h"
 #include "shell/document_association.h"
 #include "shell/picture_lists.h"
@@ -17,44 +17,46 @@ Program::Program(Machine& machine)
       windows_(machine.messages, machine.codePage),
       fileNumber_(machine.files),
       spreadsheetJob_(machine),
-      imgWallPaper_(CardPictures()),
-      bkg_(BackdropTiles()),
+      cardPictures_(MakeCardPictures()),
+      backdropTiles_(MakeBackdropTiles()),
       frameSlot_(windows_,
                  [this] {
-                   return std::make_unique<MDIForm1>(
+                   return std::make_unique<ProgramFrame>(
                        app_, fileNumber_,
-                       FrameWindows{DeckWindowOf(), Window<Frm1>(surfaceSlot_), SetUpWindow(),
-                                    AboutBox(), Instructions()});
+                       FrameWindows{DeckWindowOf(), Window<BackdropSurface>(surfaceSlot_),
+                                    SetUpWindowOf(), AboutBoxOf(), SeparationSteps()});
                  }),
       deckSlot_(windows_, [this] { return MakeDeckWindow(); }),
-      infoSlot_(windows_, [this] { return std::make_unique<frmInfo>(app_, DeckWindowOf()); }),
-      essaySlot_(windows_, [this] { return std::make_unique<frmEssay>(app_, DeckWindowOf()); }),
-      questionSlot_(windows_,
-                    [this] { return std::make_unique<frmQuestion>(app_, DeckWindowOf()); }),
+      infoSlot_(windows_,
+                [this] { return std::make_unique<DeckInfoWindow>(app_, DeckWindowOf()); }),
+      textBuilderSlot_(windows_,
+                       [this] { return std::make_unique<TextCardBuilder>(app_, DeckWindowOf()); }),
+      questionBuilderSlot_(
+          windows_, [this] { return std::make_unique<QuestionBuilder>(app_, DeckWindowOf()); }),
       printSlot_(
           windows_,
-          [this] { return std::make_unique<PrintCard>(app_, spreadsheetJob_, DeckWindowOf()); }),
-      instructSlot_(windows_, [this] { return std::make_unique<frmInstruct>(windows_); }),
-      setUpSlot_(windows_, [this] { return std::make_unique<FrmSetUp>(app_); }),
-      aboutSlot_(windows_, [this] { return std::make_unique<frmAbout>(app_); }),
-      surfaceSlot_(windows_, [this] { return std::make_unique<Frm1>(windows_); }),
+          [this] { return std::make_unique<PrintWindow>(app_, spreadsheetJob_, DeckWindowOf()); }),
+      separationSlot_(windows_, [this] { return std::make_unique<SeparationWindow>(windows_); }),
+      setUpSlot_(windows_, [this] { return std::make_unique<SetUpWindow>(app_); }),
+      aboutSlot_(windows_, [this] { return std::make_unique<AboutBox>(app_); }),
+      surfaceSlot_(windows_, [this] { return std::make_unique<BackdropSurface>(windows_); }),
       splashSlot_(windows_, [this] { return std::make_unique<Splash>(windows_); }) {}
 
-std::unique_ptr<Form> Program::MakeDeckWindow() {
-  auto deck = std::make_unique<frmMain>(app_, fileNumber_, InfoWindow());
-  deck->SetQuestionBuilder(questionSlot_);
-  deck->mnuACTTD.onClick = [this] {
-    OpenBuilder(app_, DeckWindowOf(), TextBuilder(), QuestionBuilder());
+std::unique_ptr<DeckWindow> Program::MakeDeckWindow() {
+  auto deck = std::make_unique<DeckWindow>(app_, fileNumber_, InfoWindow());
+  deck->SetQuestionBuilder(questionBuilderSlot_);
+  deck->createOrEditCard.onClick = [this] {
+    OpenBuilder(app_, DeckWindowOf(), TextBuilder(), QuestionBuilderOf());
   };
-  deck->mnuPrint.onClick = [this] { mnuPrint_Click(app_, PrintWindow()); };
-  deck->mnuHelpTopic.onClick = [this] { FrameWindow()->ShowHelpTopic(); };
-  deck->mnuAbout.onClick = [this] { FrameWindow()->ShowAbout(); };
-  deck->mnuSC.onClick = [this] { FrameWindow()->ShowInstructions(); };
+  deck->printDeck.onClick = [this] { OpenPrintWindow(app_, PrintWindowOf()); };
+  deck->helpTopics.onClick = [this] { FrameWindow()->ShowHelpTopic(); };
+  deck->about.onClick = [this] { FrameWindow()->ShowAbout(); };
+  deck->separatingCards.onClick = [this] { FrameWindow()->ShowInstructions(); };
   return deck;
 }
 
 void Program::EnableFileMenu(bool enabled) {
-  FrameWindow()->mnuFile.SetEnabled(enabled);
+  FrameWindow()->fileMenu.SetEnabled(enabled);
 }
 
 void Program::Main(const Text& commandLine) {
@@ -72,40 +74,41 @@ bool Program::RefuseSecondInstance() {
 
 void Program::Start(const Text& commandLine) {
   if (RefuseSecondInstance()) return;
-  if (!commandLine.empty()) state_.CommandLineFile = commandLine;
+  if (!commandLine.empty()) state_.start.commandLineFile = commandLine;
   LoadProgramSettings(machine_.settings, state_);
-  state_.CanPrintCards = spreadsheetJob_.TestSpreadsheetServer();
-  if (state_.FirstLoad) RegisterDocumentType(machine_);
-  if (NumberOf(state_.ShowSplash) == 1) SplashPause(Window<Splash>(splashSlot_), machine_.desktop);
+  state_.printing.canPrintCards = spreadsheetJob_.TestSpreadsheetServer();
+  if (state_.settings.firstLoad) RegisterDocumentType(machine_);
+  if (NumberOf(state_.settings.showSplash) == 1)
+    SplashPause(Window<Splash>(splashSlot_), machine_.desktop);
   FrameWindow()->SetCaption(u"Tessara 1.0");
   FrameWindow()->Show();
   DeckWindowOf().Loaded();
-  if (state_.DeckFromCommandLine) {
-    state_.DeckFromCommandLine = false;
+  if (state_.start.deckFromCommandLine) {
+    state_.start.deckFromCommandLine = false;
   } else {
     PlaceEmptyDeckWindow();
   }
 }
 
 void Program::PlaceEmptyDeckWindow() {
-  frmMain& deck = DeckWindowOf().Loaded();
+  DeckWindow& deck = DeckWindowOf().Loaded();
   deck.SetHeight(6000);
   deck.SetWidth(7230);
   deck.SetLeft((ScaleWidth() - deck.Width()) / 2);
   deck.SetTop((ScaleHeight() - deck.Height()) / 2);
   deck.Show();
   deck.ConfigureStandardCard(kStudyMode);
-  deck.Command3[DeckWindow::kFlip].SetCaption(u"&Show Answer");
-  deck.Command3[DeckWindow::kFlip].SetEnabled(false);
+  deck.OfferFlip(FlipAction::kShowAnswer);
+  deck.flip.SetEnabled(false);
   deck.ConfigureStandardCard(kStudyMode);
-  deck.Command3[DeckWindow::kFlip].SetCaption(u"&Show Back");
-  state_.DeckType = kStandardDeck;
-  deck.mnuMode.SetEnabled(false);
-  deck.mnuGTP.SetEnabled(false);
+  deck.OfferFlip(FlipAction::kShowBack);
+  state_.deck.kind = kStandardDeck;
+  deck.modeMenu.SetEnabled(false);
+  deck.goToCard.SetEnabled(false);
   deck.ConfigModeMenu(true, true, true);
   deck.ChkModeMenu(kStudyMode);
-  state_.CardPresent.Set(kInfoRow, 1);
-  state_.DeckOnFile = false;
+  state_.deck.cardPresent.Set(kInfoRow, 1);
+  state_.deck.onFile = false;
 }
 
 }  // namespace tessara

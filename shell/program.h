@@ -2,22 +2,22 @@
 
 #include <memory>
 
-#include "authoring/frmEssay.h"
-#include "authoring/frmQuestion.h"
+#include "authoring/question_builder.h"
+#include "authoring/text_card_builder.h"
 #include "deck/app_context.h"
+#include "deck/deck_info_window.h"
 #include "deck/file_number.h"
-#include "deck/frmInfo.h"
 #include "forms/window.h"
 #include "forms/window_system.h"
-#include "printing/PrintCard.h"
-#include "printing/frmInstruct.h"
+#include "printing/print_window.h"
+#include "printing/separation_window.h"
 #include "printing/spreadsheet_job.h"
-#include "shell/FrmSetUp.h"
-#include "shell/MDIForm1.h"
-#include "shell/Splash.h"
+#include "shell/about_box.h"
 #include "shell/backdrop.h"
-#include "shell/frmAbout.h"
-#include "viewer/frmMain.h"
+#include "shell/program_frame.h"
+#include "shell/set_up_window.h"
+#include "shell/splash.h"
+#include "viewer/deck_window.h"
 
 namespace tessara {
 
@@ -35,24 +35,32 @@ class Program : private AppFrame {
 
   [[nodiscard]] WindowSystem& Windows() { return windows_; }
   [[nodiscard]] ProgramState& State() { return state_; }
-  [[nodiscard]] Window<MDIForm1> FrameWindow() { return Window<MDIForm1>(frameSlot_); }
-  [[nodiscard]] Window<frmMain> DeckWindowOf() { return Window<frmMain>(deckSlot_); }
-  [[nodiscard]] Window<frmInfo> InfoWindow() { return Window<frmInfo>(infoSlot_); }
-  [[nodiscard]] Window<frmEssay> TextBuilder() { return Window<frmEssay>(essaySlot_); }
-  [[nodiscard]] Window<frmQuestion> QuestionBuilder() { return Window<frmQuestion>(questionSlot_); }
-  [[nodiscard]] Window<PrintCard> PrintWindow() { return Window<PrintCard>(printSlot_); }
-  [[nodiscard]] Window<frmInstruct> Instructions() { return Window<frmInstruct>(instructSlot_); }
-  [[nodiscard]] Window<FrmSetUp> SetUpWindow() { return Window<FrmSetUp>(setUpSlot_); }
-  [[nodiscard]] Window<frmAbout> AboutBox() { return Window<frmAbout>(aboutSlot_); }
+  [[nodiscard]] Window<ProgramFrame> FrameWindow() { return Window<ProgramFrame>(frameSlot_); }
+  [[nodiscard]] Window<DeckWindow> DeckWindowOf() { return Window<DeckWindow>(deckSlot_); }
+  [[nodiscard]] Window<DeckInfoWindow> InfoWindow() { return Window<DeckInfoWindow>(infoSlot_); }
+  [[nodiscard]] Window<TextCardBuilder> TextBuilder() {
+    return Window<TextCardBuilder>(textBuilderSlot_);
+  }
+  [[nodiscard]] Window<QuestionBuilder> QuestionBuilderOf() {
+    return Window<QuestionBuilder>(questionBuilderSlot_);
+  }
+  [[nodiscard]] Window<PrintWindow> PrintWindowOf() { return Window<PrintWindow>(printSlot_); }
+  [[nodiscard]] Window<SeparationWindow> SeparationSteps() {
+    return Window<SeparationWindow>(separationSlot_);
+  }
+  [[nodiscard]] Window<SetUpWindow> SetUpWindowOf() { return Window<SetUpWindow>(setUpSlot_); }
+  [[nodiscard]] Window<AboutBox> AboutBoxOf() { return Window<AboutBox>(aboutSlot_); }
 
  private:
   // The frame as the windows below know it.
   [[nodiscard]] int Width() const override { return ScaleWidth() + kBorderAcross; }
   [[nodiscard]] int Height() const override { return ScaleHeight() + kBorderDown; }
-  [[nodiscard]] int ScaleWidth() const override { return windows_.Shown().FrameScaleWidth(); }
-  [[nodiscard]] int ScaleHeight() const override { return windows_.Shown().FrameScaleHeight(); }
-  [[nodiscard]] const ImageList& imgWallPaper() const override { return imgWallPaper_; }
-  [[nodiscard]] const ImageList& BKG() const override { return bkg_; }
+  [[nodiscard]] int ScaleWidth() const override { return windows_.RendererOf().FrameScaleWidth(); }
+  [[nodiscard]] int ScaleHeight() const override {
+    return windows_.RendererOf().FrameScaleHeight();
+  }
+  [[nodiscard]] const ImageList& CardPictures() const override { return cardPictures_; }
+  [[nodiscard]] const ImageList& BackdropTiles() const override { return backdropTiles_; }
   void EnableFileMenu(bool enabled) override;
   void CloseAbout() override { aboutSlot_.Unload(); }
   void CloseSplash() override { splashSlot_.Unload(); }
@@ -60,28 +68,28 @@ class Program : private AppFrame {
   void Start(const Text& commandLine);
   [[nodiscard]] bool RefuseSecondInstance();
   void PlaceEmptyDeckWindow();
-  std::unique_ptr<Form> MakeDeckWindow();
+  std::unique_ptr<DeckWindow> MakeDeckWindow();
 
   Machine& machine_;
   WindowSystem windows_;
   ProgramState state_;
   FileNumber fileNumber_;
   SpreadsheetJob spreadsheetJob_;
-  ImageList imgWallPaper_;
-  ImageList bkg_;
+  ImageList cardPictures_;
+  ImageList backdropTiles_;
   AppContext app_{windows_, machine_, state_, *this};
 
-  WindowSlot frameSlot_;
-  WindowSlot deckSlot_;
-  WindowSlot infoSlot_;
-  WindowSlot essaySlot_;
-  WindowSlot questionSlot_;
-  WindowSlot printSlot_;
-  WindowSlot instructSlot_;
-  WindowSlot setUpSlot_;
-  WindowSlot aboutSlot_;
-  WindowSlot surfaceSlot_;
-  WindowSlot splashSlot_;
+  WindowSlot<ProgramFrame> frameSlot_;
+  WindowSlot<DeckWindow> deckSlot_;
+  WindowSlot<DeckInfoWindow> infoSlot_;
+  WindowSlot<TextCardBuilder> textBuilderSlot_;
+  WindowSlot<QuestionBuilder> questionBuilderSlot_;
+  WindowSlot<PrintWindow> printSlot_;
+  WindowSlot<SeparationWindow> separationSlot_;
+  WindowSlot<SetUpWindow> setUpSlot_;
+  WindowSlot<AboutBox> aboutSlot_;
+  WindowSlot<BackdropSurface> surfaceSlot_;
+  WindowSlot<Splash> splashSlot_;
 };
 
 }  // namespace tessara

@@ -1,6 +1,6 @@
 #include "shell/settings.h"
 
-#include "platform/conversion.h"
+#include "base/conversion.h"
 
 namespace tessara {
 
@@ -8,13 +8,13 @@ void LoadProgramSettings(const SettingsStore& store, ProgramState& state) {
   const auto read = [&store](TextView key, const Text& defaultValue) {
     return store.Read(Text(key), defaultValue);
   };
-  state.ShowSplash = read(kShowSplashKey, u"1");
-  state.LargeCardColor = read(kLargeCardColorKey, u"0");
-  state.LargeCard3D = read(kLargeCard3DKey, u"1");
-  state.SmallCardColor = read(kSmallCardColorKey, u"0");
-  state.SmallCard3D = read(kSmallCard3DKey, u"1");
-  state.BackDrop = read(kBackDropKey, u"DEFAULT");
-  state.FirstLoad = BooleanOf(read(kFirstLoadKey, u"True"));
+  state.settings.showSplash = read(kShowSplashKey, u"1");
+  state.settings.largeCardColor = read(kLargeCardColorKey, u"0");
+  state.settings.largeCard3D = read(kLargeCard3DKey, u"1");
+  state.settings.smallCardColor = read(kSmallCardColorKey, u"0");
+  state.settings.smallCard3D = read(kSmallCard3DKey, u"1");
+  state.settings.backdrop = read(kBackDropKey, u"DEFAULT");
+  state.settings.firstLoad = BooleanOf(read(kFirstLoadKey, u"True"));
 }
 
 }  // namespace tessara

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "deck/card_table.h"
-#include "platform/settings_store.h"
+#include "deck/program_state.h"
+#include "machine/settings_store.h"
 
 namespace tessara {
 

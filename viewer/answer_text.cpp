@@ -1,32 +1,34 @@
 #include "viewer/answer_text.h"
 
+#include "deck/card_type.h"
+
 namespace tessara {
 
 namespace {
 
 constexpr TextView kChoiceKeys = u"ABCD";
 
-bool IsChoiceKey(TextView xAns) {
-  return xAns.size() == 1 && kChoiceKeys.find(xAns) != TextView::npos;
+bool IsChoiceKey(TextView key) {
+  return key.size() == 1 && kChoiceKeys.find(key) != TextView::npos;
 }
 
 }  // namespace
 
-Text AnswerText(TextView xAns, int xRec, const ProgramState& state) {
-  if (xAns == u"T") return u"TRUE";
-  if (xAns == u"F") return u"FALSE";
-  return IsChoiceKey(xAns) ? state.Cell(xRec, kChoiceA + AnswerIndex(xAns)) : Text();
+Text AnswerText(TextView key, int row, const ProgramState& state) {
+  if (key == u"T") return u"TRUE";
+  if (key == u"F") return u"FALSE";
+  return IsChoiceKey(key) ? state.deck.Cell(row, kChoiceA + AnswerIndex(key)) : Text();
 }
 
-int AnswerIndex(TextView xAns) {
-  if (IsChoiceKey(xAns)) return static_cast<int>(kChoiceKeys.find(xAns));
-  return xAns == u"F" ? 1 : 0;
+int AnswerIndex(TextView key) {
+  if (IsChoiceKey(key)) return static_cast<int>(kChoiceKeys.find(key));
+  return key == u"F" ? 1 : 0;
 }
 
 TextView KeyOfChoice(int choice, TextView cardType) {
-  if (cardType == u"M" || choice >= 2)
+  if (IsType(cardType, CardType::kMultipleChoice) || choice >= 2)
     return kChoiceKeys.substr(static_cast<std::size_t>(choice), 1);
-  if (cardType == u"T") return choice == 0 ? u"T" : u"F";
+  if (IsType(cardType, CardType::kTrueFalse)) return choice == 0 ? u"T" : u"F";
   return {};
 }
 

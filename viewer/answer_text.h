@@ -1,16 +1,16 @@
 #pragma once
 
-#include "deck/card_table.h"
+#include "deck/program_state.h"
 
 namespace tessara {
 
 /// What the user reads for an answer key: the choice's text for "A" to "D", "TRUE" or "FALSE" for
 /// "T" and "F", nothing for any other key. Exact and case-sensitive. Raises error 9 for a row
 /// outside the table.
-[[nodiscard]] Text AnswerText(TextView xAns, int xRec, const ProgramState& state);
+[[nodiscard]] Text AnswerText(TextView key, int row, const ProgramState& state);
 
 /// The place of an answer key among the choices, 0 to 3; 0 for a key that is none.
-[[nodiscard]] int AnswerIndex(TextView xAns);
+[[nodiscard]] int AnswerIndex(TextView key);
 
 /// The answer key that a choice, 0 to 3, of a card of that type stands for. Empty for the first
 /// two choices of a card that is no question.

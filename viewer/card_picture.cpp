@@ -8,9 +8,9 @@ constexpr int kBeyondTheList = 12;
 
 }  // namespace
 
-const Picture& CardPicture(TextView xKey, int xList, const AppFrame& frame) {
-  if (xKey == u"<NONE>") return frame.imgWallPaper().At(kBeyondTheList).picture;
-  return (xList == kBackdropList ? frame.BKG() : frame.imgWallPaper()).At(xKey).picture;
+const Picture& CardPicture(TextView key, int list, const AppFrame& frame) {
+  if (key == u"<NONE>") return frame.CardPictures().At(kBeyondTheList).picture;
+  return (list == kBackdropList ? frame.BackdropTiles() : frame.CardPictures()).At(key).picture;
 }
 
 }  // namespace tessara

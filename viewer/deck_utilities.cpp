@@ -2,12 +2,12 @@
 
 #include <optional>
 
+#include "base/conversion.h"
+#include "base/run_time_error.h"
 #include "deck/delete_card_row.h"
-#include "platform/conversion.h"
-#include "platform/dialogs.h"
-#include "platform/message_box.h"
-#include "platform/run_time_error.h"
-#include "viewer/frmMain.h"
+#include "machine/dialogs.h"
+#include "machine/message_box.h"
+#include "viewer/deck_window.h"
 
 namespace tessara {
 
@@ -21,65 +21,66 @@ Text NoSuchCard(const Text& answer, int cards) {
 
 }  // namespace
 
-void frmMain::mnuDelete_Click() {
+void DeckWindow::DeleteCard() {
   ProgramState& state = State();
-  DeleteCardRow(state.CurrentCard, cmdMove, NoteletCtl1, state, App().machine.messages);
-  CompactCards(state);
-  ShowCardText(state.CurrentCard, kCardText);
-  ShowAnswer(state.CurrentCard);
-  state.DeckChanged = true;
-  mnuSave.SetEnabled(true);
-  if (state.CardCount < 1) {
+  DeleteCardRow(state.deck.currentCard, arrows, card, state, App().machine.messages);
+  CompactCards(state.deck);
+  ShowCardText(state.deck.currentCard, kCardText);
+  ShowAnswer(state.deck.currentCard);
+  state.deck.changed = true;
+  saveDeck.SetEnabled(true);
+  if (state.deck.cardCount < 1) {
     CardDel_Std();
   } else {
     MenuOp(true);
-    Command3[kFlip].SetEnabled(true);
+    flip.SetEnabled(true);
     SetGoToMenu();
   }
-  mnuPrint.SetEnabled(state.CardCount >= 1);
-  if (state.DeckType == kExtendedDeck) Command3[kFlip].SetEnabled(state.CardMode != kStudyMode);
+  printDeck.SetEnabled(state.deck.cardCount >= 1);
+  if (state.deck.kind == kExtendedDeck) flip.SetEnabled(state.deck.mode != kStudyMode);
   KeepFocusInReach();
 }
 
-void frmMain::CardDel_Std() {
-  const bool hasCards = State().CardCount >= 1;
+void DeckWindow::CardDel_Std() {
+  const bool hasCards = State().deck.cardCount >= 1;
   MenuOp(hasCards);
-  Command3[kFlip].SetEnabled(false);
+  flip.SetEnabled(false);
   if (!hasCards) ShowCardBack(false);
-  mnuGTP.SetEnabled(hasCards);
+  goToCard.SetEnabled(hasCards);
 }
 
-void frmMain::mnuGTP_Click() {
-  const std::optional<Text> answer = App().machine.dialogs.AskText(
-      u"Please enter a card number.", u"Go To Card", DecimalText(State().CurrentCard));
-  if (!answer || answer->empty()) return;
+void DeckWindow::AskForCard() {
+  const std::optional<Text> entered = App().machine.dialogs.AskText(
+      u"Please enter a card number.", u"Go To Card", DecimalText(State().deck.currentCard));
+  if (!entered || entered->empty()) return;
   try {
-    GoToCard(*answer);
+    GoToCard(*entered);
   } catch (const RunTimeError& error) {
     if (error.Number() != ErrorNumber::kTypeMismatch) return;
     App().machine.messages.Show(u"Please enter numbers only!!!", kStopIcon, u"Invalid Entry");
   }
 }
 
-void frmMain::GoToCard(const Text& answer) {
-  const int cards = State().CardCount;
+void DeckWindow::GoToCard(const Text& entered) {
+  const int cards = State().deck.cardCount;
   MessageBoxes& messages = App().machine.messages;
-  const std::int16_t number = IntegerOf(answer);
+  const std::int16_t number = IntegerOf(entered);
   if (number > cards) {
-    if (cards >= 1) messages.Show(NoSuchCard(answer, cards), kStopIcon, u"Go To card # " + answer);
+    if (cards >= 1)
+      messages.Show(NoSuchCard(entered, cards), kStopIcon, u"Go To card # " + entered);
   } else if (number < 1) {
-    messages.Show(answer + u" is not a valid card number.", kStopIcon, u"Invalid Entry");
+    messages.Show(entered + u" is not a valid card number.", kStopIcon, u"Invalid Entry");
   } else {
     ShowCard(number);
   }
 }
 
-void frmMain::ShowCard(std::int16_t number) {
-  State().CurrentCard = number;
+void DeckWindow::ShowCard(std::int16_t number) {
+  State().deck.currentCard = number;
   ShowCardText(number, kCardText);
   SelectCardOp_Mode(number);
   UpdateMoveButtons();
-  NoteletCtl1.SetCardTotal(DecimalText(State().CardCount));
+  card.SetCardTotal(DecimalText(State().deck.cardCount));
   ShowCardNumber();
   KeepFocusInReach();
 }

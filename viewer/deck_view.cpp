@@ -3,7 +3,7 @@
 #include "deck/double_amps.h"
 #include "forms/place_in_frame.h"
 #include "viewer/answer_text.h"
-#include "viewer/frmMain.h"
+#include "viewer/deck_window.h"
 
 namespace tessara {
 
@@ -14,65 +14,65 @@ constexpr int kAskedWidth = 7320;
 
 }  // namespace
 
-void frmMain::CommandLineLoad(const Text& xFilename) {
-  LoadAndShowDeck(xFilename);
+void DeckWindow::CommandLineLoad(const Text& fileName) {
+  LoadAndShowDeck(fileName);
 }
 
-void frmMain::ShowNewCard(std::int32_t Typecard) {
-  if (Typecard == kStandardDeck) {
+void DeckWindow::ShowNewCard(std::int32_t kind) {
+  if (kind == kStandardDeck) {
     ConfigureStandardCard(kStudyMode);
-  } else if (Typecard == kExtendedDeck) {
+  } else if (kind == kExtendedDeck) {
     ConfigureExtendedCard(kStudyMode);
   }
-  SetModeMenu(Typecard);
+  SetModeMenu(kind);
 }
 
-void frmMain::OpenStandardView() {
+void DeckWindow::OpenStandardView() {
   ShowNewCard(kStandardDeck);
   PlaceInFrame(*this, kAskedHeight, kAskedWidth, App().frame);
-  State().DeckType = kStandardDeck;
-  SetFlipCaption(u"&Show Back");
+  State().deck.kind = kStandardDeck;
+  OfferFlip(FlipAction::kShowBack);
   ChkModeMenu(kStudyMode);
-  OfferNext({&Command3[kFlip]});
+  OfferNext({&flip});
 }
 
-void frmMain::OpenExtendedView() {
+void DeckWindow::OpenExtendedView() {
   ShowNewCard(kExtendedDeck);
   PlaceInFrame(*this, kAskedHeight, kAskedWidth, App().frame);
-  State().DeckType = kExtendedDeck;
-  SetFlipCaption(u"&Show Answer");
+  State().deck.kind = kExtendedDeck;
+  OfferFlip(FlipAction::kShowAnswer);
   ChkModeMenu(kStudyMode);
-  OfferNext({&cmdMove[kNextCard]});
+  OfferNext({&arrows[kNextCard]});
 }
 
-void frmMain::ShowFirstCard(std::int32_t xType) {
+void DeckWindow::ShowFirstCard(std::int32_t kind) {
   ShowCardText(1, kCardText);
-  if (xType != kExtendedDeck) return;
+  if (kind != kExtendedDeck) return;
   // The key is that of card 1, the row that of the card on show.
-  const Text& key = State().Cell(1, kAnswer);
-  Label2.SetCaption(DoubleAmps(AnswerText(key, State().CurrentCard, State())));
+  const Text& key = State().deck.Cell(1, kAnswer);
+  answer.SetCaption(DoubleAmps(AnswerText(key, State().deck.currentCard, State())));
 }
 
-void frmMain::AfterEditShow(std::int32_t Typecard) {
+void DeckWindow::AfterEditShow(std::int32_t kind) {
   ProgramState& state = State();
-  if (Typecard == kStandardDeck) {
-    if (FlipCaption() == u"&Show Front") {
-      ShowCardText(state.CurrentCard, kBackText);
-    } else if (FlipCaption() == u"&Show Back") {
-      ShowCardText(state.CurrentCard, kCardText);
+  if (kind == kStandardDeck) {
+    if (OffersFlip(FlipAction::kShowFront)) {
+      ShowCardText(state.deck.currentCard, kBackText);
+    } else if (OffersFlip(FlipAction::kShowBack)) {
+      ShowCardText(state.deck.currentCard, kCardText);
     }
-  } else if (Typecard == kExtendedDeck) {
-    ShowCardText(state.CurrentCard, kCardText);
-    ShowAnswer(state.CurrentCard);
+  } else if (kind == kExtendedDeck) {
+    ShowCardText(state.deck.currentCard, kCardText);
+    ShowAnswer(state.deck.currentCard);
   }
   ShowCardNumber();
-  NoteletCtl1.SetCardTotal(DecimalText(state.CardCount));
-  MenuOp(state.CardCount >= 1);
-  if (state.CardCount >= 1 && state.SaveOffered) mnuSave.SetEnabled(true);
+  card.SetCardTotal(DecimalText(state.deck.cardCount));
+  MenuOp(state.deck.cardCount >= 1);
+  if (state.deck.cardCount >= 1 && state.deck.saveOffered) saveDeck.SetEnabled(true);
 }
 
-void frmMain::ConfigSaveMenu() {
-  mnuSave.SetEnabled(State().DeckChanged);
+void DeckWindow::ConfigSaveMenu() {
+  saveDeck.SetEnabled(State().deck.changed);
 }
 
 }  // namespace tessara

@@ -1,50 +1,50 @@
 // The mode menu: which modes are offered, which one is marked, and what entering one begins with.
 
-#include "viewer/frmMain.h"
+#include "deck/card_type.h"
+#include "viewer/deck_window.h"
 
 namespace tessara {
 
-void frmMain::SetModeMenu(std::int32_t Typecard) {
-  if (Typecard == kStandardDeck || Typecard == kExtendedDeck) ConfigModeMenu(true, true, true);
+void DeckWindow::SetModeMenu(std::int32_t kind) {
+  if (kind == kStandardDeck || kind == kExtendedDeck) ConfigModeMenu(true, true, true);
 }
 
-void frmMain::ConfigModeMenu(bool zStudy, bool zQuiz, bool zTest) {
-  mnuStudy.SetVisible(zStudy);
-  mnuQuiz.SetVisible(zQuiz);
-  mnuTest.SetVisible(zTest);
+void DeckWindow::ConfigModeMenu(bool offersStudy, bool offersQuiz, bool offersTest) {
+  study.SetVisible(offersStudy);
+  quiz.SetVisible(offersQuiz);
+  test.SetVisible(offersTest);
 }
 
-void frmMain::ChkModeMenu(std::int32_t xMode) {
-  mnuQuiz.SetChecked(xMode == kQuizMode);
-  mnuStudy.SetChecked(xMode == kStudyMode);
-  mnuTest.SetChecked(xMode == kTestMode);
+void DeckWindow::ChkModeMenu(std::int32_t mode) {
+  quiz.SetChecked(mode == kQuizMode);
+  study.SetChecked(mode == kStudyMode);
+  test.SetChecked(mode == kTestMode);
 }
 
-void frmMain::EnterMode(Mode mode) {
+void DeckWindow::EnterMode(CardMode mode) {
   ProgramState& state = State();
   ChkModeMenu(mode);
-  state.CardMode = mode;
-  state.CurrentCard = 1;
-  state.TestPoints = 0;
+  state.deck.mode = mode;
+  state.deck.currentCard = 1;
+  state.deck.testPoints = 0;
   ShowCardNumber();
   ShowTitle(mode);
-  NoteletCtl1.SetCardBanner(u"");
-  mnuFile.SetEnabled(mode == kStudyMode);
-  mnuUtility.SetEnabled(mode == kStudyMode);
+  card.SetCardBanner(u"");
+  fileMenu.SetEnabled(mode == kStudyMode);
+  utilityMenu.SetEnabled(mode == kStudyMode);
 }
 
-void frmMain::TurnNextOrScoreOff() {
-  Command3[kNextOrScore].SetEnabled(false);
-  Command3[kNextOrScore].SetCaption(u"");
+void DeckWindow::TurnNextOrScoreOff() {
+  nextOrScore.SetEnabled(false);
+  nextOrScore.SetCaption(u"");
 }
 
-void frmMain::AutoModeMenu() {
-  const Text& cardType = State().Cell(1, kCardType);
-  const bool extended = cardType == u"M" || cardType == u"T";
-  if (!extended && cardType != u"E") return;
-  SetModeMenu(extended ? kExtendedDeck : kStandardDeck);
-  mnuMode.SetEnabled(true);
-  mnuGTP.SetEnabled(true);
+void DeckWindow::AutoModeMenu() {
+  const auto kind = DeckKindOf(State().deck.Cell(1, kCardType));
+  if (!kind) return;
+  SetModeMenu(*kind);
+  modeMenu.SetEnabled(true);
+  goToCard.SetEnabled(true);
 }
 
 }  // namespace tessara

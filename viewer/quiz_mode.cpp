@@ -1,60 +1,60 @@
 // Quiz: forward only, the user judges, no score.
 
-#include "viewer/frmMain.h"
+#include "viewer/deck_window.h"
 
 namespace tessara {
 
-void frmMain::mnuQuiz_Click() {
+void DeckWindow::EnterQuizMode() {
   EnterMode(kQuizMode);
-  if (State().DeckType == kExtendedDeck) {
+  if (State().deck.kind == kExtendedDeck) {
     ConfigureExtendedCard(kQuizMode);
-  } else if (State().DeckType == kStandardDeck) {
+  } else if (State().deck.kind == kStandardDeck) {
     ConfigureStandardCard(kQuizMode);
   }
   ShowCardText(1, kCardText);
-  cmdMove[kPreviousCard].SetEnabled(false);
-  cmdMove[kNextCard].SetEnabled(true);
+  arrows[kPreviousCard].SetEnabled(false);
+  arrows[kNextCard].SetEnabled(true);
   TurnNextOrScoreOff();
-  OfferNext({&Command3[kFlip]});
+  OfferNext({&flip});
 }
 
-void frmMain::QuizModeScroll() {
-  if (State().DeckType == kExtendedDeck) {
+void DeckWindow::QuizModeScroll() {
+  if (State().deck.kind == kExtendedDeck) {
     QuizModeScroll_Ext();
-  } else if (State().DeckType == kStandardDeck) {
+  } else if (State().deck.kind == kStandardDeck) {
     QuizModeScroll_Std();
   }
 }
 
-void frmMain::QuizModeScroll_Std() {
+void DeckWindow::QuizModeScroll_Std() {
   ShowCardBack(false);
-  SetFlipCaption(u"&Show Back");
+  OfferFlip(FlipAction::kShowBack);
   QuizNextCard();
 }
 
-void frmMain::QuizModeScroll_Ext() {
-  Picture1.SetVisible(false);
-  SetFlipCaption(u"&Show Answer");
+void DeckWindow::QuizModeScroll_Ext() {
+  answerCard.SetVisible(false);
+  OfferFlip(FlipAction::kShowAnswer);
   QuizNextCard();
 }
 
-void frmMain::QuizNextCard() {
+void DeckWindow::QuizNextCard() {
   ProgramState& state = State();
-  cmdMove[kPreviousCard].SetEnabled(false);
-  ++state.CurrentCard;
-  ShowCardText(state.CurrentCard, kCardText);
+  arrows[kPreviousCard].SetEnabled(false);
+  ++state.deck.currentCard;
+  ShowCardText(state.deck.currentCard, kCardText);
   ShowCardNumber();
-  cmdMove[kNextCard].SetEnabled(state.CurrentCard < state.CardCount);
-  OfferNext({&Command3[kFlip]});
+  arrows[kNextCard].SetEnabled(state.deck.currentCard < state.deck.cardCount);
+  OfferNext({&flip});
 }
 
-void frmMain::NoteEndOfQuiz(TextView banner) {
-  if (State().CurrentCard != State().CardCount) {
-    OfferNext({&cmdMove[kNextCard]});
+void DeckWindow::NoteEndOfQuiz(TextView banner) {
+  if (State().deck.currentCard != State().deck.cardCount) {
+    OfferNext({&arrows[kNextCard]});
     return;
   }
-  cmdMove[kNextCard].SetEnabled(false);
-  NoteletCtl1.SetCardBanner(Text(banner));
+  arrows[kNextCard].SetEnabled(false);
+  card.SetCardBanner(Text(banner));
 }
 
 }  // namespace tessara

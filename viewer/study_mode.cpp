@@ -1,110 +1,108 @@
 // Study: paging both ways, turning cards over, and the buttons that all modes share.
 
 #include "viewer/answer_text.h"
-#include "viewer/frmMain.h"
+#include "viewer/deck_window.h"
 
 namespace tessara {
 
-void frmMain::cmdMove_Click(int Index) {
-  if (State().CardMode == kStudyMode) {
-    StudyModeScroll(Index);
-  } else if (State().CardMode == kQuizMode) {
+void DeckWindow::Page(int arrow) {
+  if (State().deck.mode == kStudyMode) {
+    StudyModeScroll(arrow);
+  } else if (State().deck.mode == kQuizMode) {
     QuizModeScroll();
   }
 }
 
-void frmMain::Command3_Click(int Index) {
-  if (Index == 0) {
-    NextQuestionOrScore();
-  } else if (Index == 2) {
-    Unload();
-  } else if (State().DeckType == kStandardDeck) {
+void DeckWindow::FlipCard() {
+  if (State().deck.kind == kStandardDeck) {
     StdCardOp_Flip();
     TestModeFlip();
-    if (State().CardMode == kQuizMode) {
+    if (State().deck.mode == kQuizMode) {
       NoteEndOfQuiz(u"This quiz is complete, please return to study mode");
     }
-  } else if (State().DeckType == kExtendedDeck) {
+  } else if (State().deck.kind == kExtendedDeck) {
     ExtCardOp_Flip();
     NoteEndOfQuiz(u"You have completed this quiz, please return to study mode");
   }
 }
 
-void frmMain::StudyModeScroll(int Index) {
-  if (Index != 0 && Index != 1) return;
-  State().CurrentCard = static_cast<std::int16_t>(State().CurrentCard + (Index == 0 ? -1 : 1));
-  ShowCardText(State().CurrentCard, kCardText);
-  SelectCardOp_Mode(State().CurrentCard);
+void DeckWindow::StudyModeScroll(int arrow) {
+  if (arrow != kPreviousCard && arrow != kNextCard) return;
+  const int step = arrow == kPreviousCard ? -1 : 1;
+  State().deck.currentCard = static_cast<std::int16_t>(State().deck.currentCard + step);
+  ShowCardText(State().deck.currentCard, kCardText);
+  SelectCardOp_Mode(State().deck.currentCard);
   UpdateMoveButtons();
   ShowCardNumber();
   // At an end of the deck the arrow just pressed goes off: the other one is the next step.
-  OfferNext({&cmdMove[Index], &cmdMove[1 - Index]});
+  OfferNext({&arrows[arrow], &arrows[1 - arrow]});
 }
 
-void frmMain::SelectCardOp_Mode(std::int16_t ThisRecord) {
-  if (State().DeckType == kStandardDeck) {
-    StdCardOp_Scroll(ThisRecord);
-  } else if (State().DeckType == kExtendedDeck) {
-    ExtCardOp_Scroll(ThisRecord);
+void DeckWindow::SelectCardOp_Mode(std::int16_t row) {
+  if (State().deck.kind == kStandardDeck) {
+    StdCardOp_Scroll(row);
+  } else if (State().deck.kind == kExtendedDeck) {
+    ExtCardOp_Scroll(row);
   }
 }
 
-void frmMain::StdCardOp_Scroll(std::int16_t xCurRec) {
-  if (FlipCaption() == u"&Show Front") {
+void DeckWindow::StdCardOp_Scroll(std::int16_t row) {
+  if (OffersFlip(FlipAction::kShowFront)) {
     ShowCardBack(true);
-    ShowCardText(xCurRec, kBackText);
-  } else if (FlipCaption() == u"&Show Back") {
+    ShowCardText(row, kBackText);
+  } else if (OffersFlip(FlipAction::kShowBack)) {
     ShowCardBack(false);
-    ShowCardText(xCurRec, kCardText);
+    ShowCardText(row, kCardText);
   }
 }
 
-void frmMain::ExtCardOp_Scroll(std::int16_t xCurRec) {
-  const bool answerOnShow = FlipCaption() == u"&Hide Answer";
-  if (!answerOnShow && FlipCaption() != u"&Show Answer") return;
-  if (answerOnShow) Picture1.SetVisible(true);
-  ShowCardText(xCurRec, kCardText);
-  ShowAnswer(xCurRec);
+void DeckWindow::ExtCardOp_Scroll(std::int16_t row) {
+  const bool answerOnShow = OffersFlip(FlipAction::kHideAnswer);
+  if (!answerOnShow && !OffersFlip(FlipAction::kShowAnswer)) return;
+  if (answerOnShow) answerCard.SetVisible(true);
+  ShowCardText(row, kCardText);
+  ShowAnswer(row);
 }
 
-void frmMain::StdCardOp_Flip() {
-  if (FlipCaption() == u"&Show Back") {
+void DeckWindow::StdCardOp_Flip() {
+  if (OffersFlip(FlipAction::kShowBack)) {
     ShowCardBack(true);
-    ShowCardText(State().CurrentCard, kBackText);
-    SetFlipCaption(u"&Show Front");
-  } else if (FlipCaption() == u"&Show Front") {
+    ShowCardText(State().deck.currentCard, kBackText);
+    OfferFlip(FlipAction::kShowFront);
+  } else if (OffersFlip(FlipAction::kShowFront)) {
     ShowCardBack(false);
-    ShowCardText(State().CurrentCard, kCardText);
-    SetFlipCaption(u"&Show Back");
+    ShowCardText(State().deck.currentCard, kCardText);
+    OfferFlip(FlipAction::kShowBack);
   }
 }
 
-void frmMain::ExtCardOp_Flip() {
-  ShowAnswer(State().CurrentCard);
-  if (FlipCaption() == u"&Hide Answer") {
-    Picture1.SetVisible(false);
-    SetFlipCaption(u"&Show Answer");
-  } else if (FlipCaption() == u"&Show Answer") {
-    Picture1.SetVisible(true);
-    SetFlipCaption(u"&Hide Answer");
+void DeckWindow::ExtCardOp_Flip() {
+  ShowAnswer(State().deck.currentCard);
+  if (OffersFlip(FlipAction::kHideAnswer)) {
+    answerCard.SetVisible(false);
+    OfferFlip(FlipAction::kShowAnswer);
+  } else if (OffersFlip(FlipAction::kShowAnswer)) {
+    answerCard.SetVisible(true);
+    OfferFlip(FlipAction::kHideAnswer);
   }
 }
 
-void frmMain::mnuStudy_Click() {
+void DeckWindow::EnterStudyMode() {
   const ProgramState& state = State();
   EnterMode(kStudyMode);
-  if (state.DeckType == kStandardDeck) {
+  if (state.deck.kind == kStandardDeck) {
     ShowFirstCard(kStandardDeck);
     ConfigureStandardCard(kStudyMode);
     ShowCardBack(false);
-  } else if (state.DeckType == kExtendedDeck) {
+  } else if (state.deck.kind == kExtendedDeck) {
     ShowFirstCard(kExtendedDeck);
     ConfigureExtendedCard(kStudyMode);
   }
   UpdateMoveButtons();
   TurnNextOrScoreOff();
   // Undoubled: until the next move an ampersand in a choice marks an accelerator.
-  Label2.SetCaption(AnswerText(state.Cell(state.CurrentCard, kAnswer), state.CurrentCard, state));
+  answer.SetCaption(
+      AnswerText(state.deck.Cell(state.deck.currentCard, kAnswer), state.deck.currentCard, state));
   KeepFocusInReach();
 }
 

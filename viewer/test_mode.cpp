@@ -1,9 +1,10 @@
 // Test: forward only, with points. A standard card is graded by the user, a question by its key.
 
-#include "platform/conversion.h"
-#include "platform/message_box.h"
+#include "base/conversion.h"
+#include "deck/card_type.h"
+#include "machine/message_box.h"
 #include "viewer/answer_text.h"
-#include "viewer/frmMain.h"
+#include "viewer/deck_window.h"
 
 namespace tessara {
 
@@ -15,143 +16,143 @@ constexpr Color kRightChoiceBlue = FixedColor(0, 0, 255);
 
 }  // namespace
 
-void frmMain::mnuTest_Click() {
+void DeckWindow::EnterTestMode() {
   EnterMode(kTestMode);
   OpDefaultForeColor();
   ShowCardText(1, kCardText);
   ClrAnsOptions();
-  if (State().DeckType == kStandardDeck) {
+  if (State().deck.kind == kStandardDeck) {
     ConfigureStandardCard(kTestMode);
-    Frame1.SetEnabled(false);
-    Command3[kNextOrScore].SetCaption(u"");
-    SetFlipCaption(u"&Show Back");
-    cmdMove[kNextCard].SetEnabled(false);
-    cmdMove[kPreviousCard].SetEnabled(false);
+    creditPanel.SetEnabled(false);
+    nextOrScore.SetCaption(u"");
+    OfferFlip(FlipAction::kShowBack);
+    arrows[kNextCard].SetEnabled(false);
+    arrows[kPreviousCard].SetEnabled(false);
     ShowCardBack(false);
-  } else if (State().DeckType == kExtendedDeck) {
+  } else if (State().deck.kind == kExtendedDeck) {
     ConfigureExtendedCard(kTestMode);
-    Frame2.SetEnabled(true);
-    Command3[kNextOrScore].SetCaption(u"Next Question");
+    choicePanel.SetEnabled(true);
+    nextOrScore.SetCaption(u"Next Question");
   }
   FillChoices(1);
-  OfferNext({&Command3[kFlip]});
+  OfferNext({&flip});
   OfferChoices();
 }
 
-void frmMain::OfferChoices() {
-  OfferNext({&Option1[0], &Option1[1], &Option1[2], &Option1[3]});
+void DeckWindow::OfferChoices() {
+  OfferNext({&choices[0], &choices[1], &choices[2], &choices[3]});
 }
 
-void frmMain::OpDefaultForeColor() {
-  for (OptionButton& option : Option1) {
+void DeckWindow::OpDefaultForeColor() {
+  for (OptionButton& option : choices) {
     option.SetForeColor({});  // black, or what a dark desktop has in its place
     option.SetBold(false);
   }
 }
 
-void frmMain::ClrAnsOptions() {
-  for (OptionButton& option : Option1) option.SetSelected(false);
+void DeckWindow::ClrAnsOptions() {
+  for (OptionButton& option : choices) option.SetSelected(false);
 }
 
-void frmMain::FillChoices(int xRec) {
-  const Text& cardType = State().Cell(xRec, kCardType);
-  for (OptionButton& option : Option1) option.SetCaption(u"");
-  if (cardType == u"M") {
+void DeckWindow::FillChoices(int row) {
+  const Text& cardType = State().deck.Cell(row, kCardType);
+  for (OptionButton& option : choices) option.SetCaption(u"");
+  if (IsType(cardType, CardType::kMultipleChoice)) {
     for (int choice = 0; choice < 4; ++choice) {
-      Option1[choice].SetCaption(State().Cell(xRec, kChoiceA + choice));
+      choices[choice].SetCaption(State().deck.Cell(row, kChoiceA + choice));
     }
-  } else if (cardType == u"T") {
-    Option1[0].SetCaption(u"TRUE");
-    Option1[1].SetCaption(u"FALSE");
+  } else if (IsType(cardType, CardType::kTrueFalse)) {
+    choices[0].SetCaption(u"TRUE");
+    choices[1].SetCaption(u"FALSE");
   }
-  for (OptionButton& option : Option1) option.SetVisible(!option.Caption().empty());
+  for (OptionButton& option : choices) option.SetVisible(!option.Caption().empty());
 }
 
-void frmMain::TestModeFlip() {
-  if (State().CardMode != kTestMode) return;
-  if (NoteletCtl1.CardBanner().starts_with(kComplete)) return;
-  Frame1.SetEnabled(true);
-  OfferNext({&Command1[kFullCredit]});
+void DeckWindow::TestModeFlip() {
+  if (State().deck.mode != kTestMode) return;
+  if (card.CardBanner().starts_with(kComplete)) return;
+  creditPanel.SetEnabled(true);
+  OfferNext({&credits[kFullCredit]});
 }
 
-void frmMain::Command1_Click(int Index) {
+void DeckWindow::GiveCredit(int credit) {
   ProgramState& state = State();
-  if (Index == kFullCredit) state.TestPoints += 1;
-  if (Index == kPartialCredit) state.TestPoints += 0.5;
-  Frame1.SetEnabled(false);
-  if (state.CurrentCard >= state.CardCount) {
+  if (credit == kFullCredit) state.deck.testPoints += 1;
+  if (credit == kPartialCredit) state.deck.testPoints += 0.5;
+  creditPanel.SetEnabled(false);
+  if (state.deck.currentCard >= state.deck.cardCount) {
     EndStandardTest();
   } else {
     NextStandardTestCard();
   }
 }
 
-void frmMain::EndStandardTest() {
+void DeckWindow::EndStandardTest() {
   App().machine.messages.Show(
       u"You have completed this test. After viewing your score at the top of the last card, "
       u"please return to STUDY mode.",
       kOkOnly, u"Test Complete");
-  NoteletCtl1.SetCardBanner(u"Complete: You scored " + PointsText(State().TestPoints) +
-                            u" points out of a possible " + DecimalText(State().CardCount));
-  OfferNext({&Command3[kFlip]});
+  card.SetCardBanner(u"Complete: You scored " + PointsText(State().deck.testPoints) +
+                     u" points out of a possible " + DecimalText(State().deck.cardCount));
+  OfferNext({&flip});
 }
 
-void frmMain::NextStandardTestCard() {
-  ++State().CurrentCard;
+void DeckWindow::NextStandardTestCard() {
+  ++State().deck.currentCard;
   ShowCardBack(false);
-  SetFlipCaption(u"&Show Back");
-  ShowCardText(State().CurrentCard, kCardText);
+  OfferFlip(FlipAction::kShowBack);
+  ShowCardText(State().deck.currentCard, kCardText);
   ShowCardNumber();
-  OfferNext({&Command3[kFlip]});
+  OfferNext({&flip});
 }
 
-void frmMain::Option1_Click(int Index) {
+void DeckWindow::JudgeChoice(int choice) {
   ProgramState& state = State();
-  if (state.CardMode != kTestMode) return;
-  const TextView key = Trimmed(state.Cell(state.CurrentCard, kAnswer));
-  const bool right = KeyOfChoice(Index, state.Cell(state.CurrentCard, kCardType)) == key;
-  if (state.CardCount > 0) {
-    NoteletCtl1.SetCardBanner(right ? u"CORRECT" : u"WRONG");
-    Frame2.SetEnabled(false);
+  if (state.deck.mode != kTestMode) return;
+  const TextView key = Trimmed(state.deck.Cell(state.deck.currentCard, kAnswer));
+  const bool right = KeyOfChoice(choice, state.deck.Cell(state.deck.currentCard, kCardType)) == key;
+  if (state.deck.cardCount > 0) {
+    card.SetCardBanner(right ? u"CORRECT" : u"WRONG");
+    choicePanel.SetEnabled(false);
     if (right) {
-      state.TestPoints += 1;
+      state.deck.testPoints += 1;
     } else {
-      Option1[AnswerIndex(key)].SetForeColor(kRightChoiceBlue);
+      choices[AnswerIndex(key)].SetForeColor(kRightChoiceBlue);
     }
   }
-  Command3[kNextOrScore].SetEnabled(true);
-  if (state.CurrentCard == state.CardCount) Command3[kNextOrScore].SetCaption(u"Show Score");
-  OfferNext({&Command3[kNextOrScore]});
+  nextOrScore.SetEnabled(true);
+  if (state.deck.currentCard == state.deck.cardCount) nextOrScore.SetCaption(u"Show Score");
+  OfferNext({&nextOrScore});
 }
 
-void frmMain::NextQuestionOrScore() {
+void DeckWindow::NextQuestionOrScore() {
   OpDefaultForeColor();
-  if (State().CurrentCard != State().CardCount || State().CardCount < 1) {
+  if (State().deck.currentCard != State().deck.cardCount || State().deck.cardCount < 1) {
     NextQuestion();
   } else {
     ShowPercentage();
   }
 }
 
-void frmMain::NextQuestion() {
-  ++State().CurrentCard;
-  Command3[kNextOrScore].SetEnabled(false);
-  ShowCardText(State().CurrentCard, kCardText);
+void DeckWindow::NextQuestion() {
+  ++State().deck.currentCard;
+  nextOrScore.SetEnabled(false);
+  ShowCardText(State().deck.currentCard, kCardText);
   ShowCardNumber();
-  FillChoices(State().CurrentCard);
+  FillChoices(State().deck.currentCard);
   ClrAnsOptions();
-  NoteletCtl1.SetCardBanner(u"");
-  Frame2.SetEnabled(true);
+  card.SetCardBanner(u"");
+  choicePanel.SetEnabled(true);
   OfferChoices();
 }
 
-void frmMain::ShowPercentage() {
-  const Text score = WholeNumberText(State().TestPoints / State().CardCount * 100);
+void DeckWindow::ShowPercentage() {
+  const Text score = WholeNumberText(State().deck.testPoints / State().deck.cardCount * 100);
   App().machine.messages.Show(u" Your score is " + score + u"% please return to STUDY mode.",
                               kOkOnly, u"Test Complete");
-  Command3[kNextOrScore].SetEnabled(false);
-  NoteletCtl1.SetCardBanner(u"SCORE: " + score + u"% ... RETURN TO STUDY MODE");
-  OfferNext({&NoteletCtl1});  // to be read
+  nextOrScore.SetEnabled(false);
+  card.SetCardBanner(u"SCORE: " + score + u"% ... RETURN TO STUDY MODE");
+  OfferNext({&card});  // to be read
 }
 
 }  // namespace tessara

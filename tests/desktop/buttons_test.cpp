@@ -4,7 +4,7 @@
 #include <QRadioButton>
 #include <doctest/doctest.h>
 
-#include "platform/qt/caption_fit.h"
+#include "adapters/qt/look/caption_fit.h"
 #include "tests/desktop/desk.h"
 
 using namespace tessara;

@@ -6,7 +6,7 @@
 
 #include "tests/desktop/program_on_screen.h"
 #include "tests/support/deck_bytes.h"
-#include "viewer/notelet/card_layout.h"
+#include "viewer/card/card_layout.h"
 
 using namespace tessara;
 using namespace tessara::test;

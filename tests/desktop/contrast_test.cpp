@@ -1,4 +1,4 @@
-#include "platform/qt/contrast.h"
+#include "adapters/qt/look/contrast.h"
 
 #include <QLabel>
 #include <QPalette>

@@ -7,10 +7,10 @@
 #include <stdexcept>
 #include <string>
 
+#include "adapters/qt/text/qt_text.h"
+#include "adapters/qt/windows/qt_renderer.h"
+#include "base/code_page.h"
 #include "forms/window_system.h"
-#include "platform/code_page.h"
-#include "platform/qt/qt_renderer.h"
-#include "platform/qt/qt_text.h"
 #include "tests/desktop/event_loops.h"
 #include "tests/desktop/sample_forms.h"
 #include "tests/support/fake_messages.h"
@@ -24,10 +24,12 @@ struct Desk {
   QtRenderer renderer{windows, TESSARA_TEST_PICTURES};
   std::function<void(SampleForm&)> prepare;
 
-  WindowSlot frameSlot{windows, [this] { return std::make_unique<SampleFrame>(windows); }};
-  WindowSlot childSlot{windows, [this] { return Make("frmChild", FormKind::kChild); }};
-  WindowSlot otherSlot{windows, [this] { return Make("frmOther", FormKind::kChild); }};
-  WindowSlot dialogSlot{windows, [this] { return Make("frmDialog", FormKind::kDialog); }};
+  WindowSlot<SampleFrame> frameSlot{windows,
+                                    [this] { return std::make_unique<SampleFrame>(windows); }};
+  WindowSlot<SampleForm> childSlot{windows, [this] { return Make("frmChild", FormKind::kChild); }};
+  WindowSlot<SampleForm> otherSlot{windows, [this] { return Make("frmOther", FormKind::kChild); }};
+  WindowSlot<SampleForm> dialogSlot{windows,
+                                    [this] { return Make("frmDialog", FormKind::kDialog); }};
   Window<SampleFrame> frame{frameSlot};
   Window<SampleForm> child{childSlot};
   Window<SampleForm> other{otherSlot};
@@ -68,7 +70,7 @@ struct Desk {
   }
 
  private:
-  std::unique_ptr<Form> Make(const char* name, FormKind kind) {
+  std::unique_ptr<SampleForm> Make(const char* name, FormKind kind) {
     auto form = std::make_unique<SampleForm>(windows, name, kind);
     if (prepare) prepare(*form);
     return form;

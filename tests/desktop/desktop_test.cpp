@@ -9,10 +9,10 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "platform/qt/pixel_scale.h"
-#include "platform/qt/qt_desktop.h"
-#include "platform/qt/qt_text.h"
-#include "platform/qt/session_lock.h"
+#include "adapters/posix/session_lock.h"
+#include "adapters/qt/devices/qt_desktop.h"
+#include "adapters/qt/text/pixel_scale.h"
+#include "adapters/qt/text/qt_text.h"
 
 using namespace tessara;
 

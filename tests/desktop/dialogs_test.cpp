@@ -15,10 +15,10 @@
 #include <doctest/doctest.h>
 #include <functional>
 
-#include "platform/qt/qt_dialogs.h"
-#include "platform/qt/qt_message_boxes.h"
-#include "platform/qt/qt_text.h"
-#include "platform/run_time_error.h"
+#include "adapters/qt/devices/qt_dialogs.h"
+#include "adapters/qt/devices/qt_message_boxes.h"
+#include "adapters/qt/text/qt_text.h"
+#include "base/run_time_error.h"
 #include "tests/desktop/event_loops.h"
 
 using namespace tessara;

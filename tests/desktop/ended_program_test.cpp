@@ -1,6 +1,6 @@
 #include <doctest/doctest.h>
 
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
 #include "tests/desktop/program_on_screen.h"
 #include "tests/support/deck_bytes.h"
 

@@ -59,7 +59,7 @@ TEST_CASE("The sample texts are imported by the menu and the file dialog") {
     CHECK(ProgramOnScreen::Card("CardTotal") == c.cards);
     CHECK(ProgramOnScreen::Of("Picture1").isVisible() == c.question);
     if (c.first != nullptr) CHECK(ProgramOnScreen::Card("CardText") == c.first);
-    CHECK(desk.state.Cell(1, kBackText) == c.back);
+    CHECK(desk.state.deck.Cell(1, kBackText) == c.back);
   }
 }
 

@@ -3,7 +3,7 @@
 #include <QTimer>
 #include <doctest/doctest.h>
 
-#include "platform/qt/qt_message_boxes.h"
+#include "adapters/qt/devices/qt_message_boxes.h"
 #include "tests/desktop/desk.h"
 
 using namespace tessara;

@@ -11,8 +11,8 @@
 #include <QTimer>
 #include <doctest/doctest.h>
 
-#include "platform/qt/caption_fit.h"
-#include "platform/qt/qt_renderer.h"
+#include "adapters/qt/look/caption_fit.h"
+#include "adapters/qt/windows/qt_renderer.h"
 #include "shell/program.h"
 #include "tests/desktop/event_loops.h"
 #include "tests/support/program_desk.h"
@@ -104,7 +104,7 @@ int CheckEveryWindow() {
   WindowTour tour{program, fakes, [&] {
                     QTimer::singleShot(0, qApp, [&] {
                       captions += CheckCaptions();
-                      program.Instructions()->UserClose();
+                      program.SeparationSteps()->UserClose();
                     });
                   }};
   tour.atWindow = [&] { captions += CheckCaptions(); };

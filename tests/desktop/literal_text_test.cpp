@@ -10,9 +10,9 @@
 #include <QTreeWidget>
 #include <doctest/doctest.h>
 
-#include "platform/qt/qt_renderer.h"
-#include "platform/qt/qt_text.h"
-#include "platform/utf8.h"
+#include "adapters/qt/text/qt_text.h"
+#include "adapters/qt/windows/qt_renderer.h"
+#include "base/utf8.h"
 #include "tests/desktop/event_loops.h"
 #include "tests/support/hostile_texts.h"
 #include "tests/support/program_desk.h"
@@ -39,7 +39,7 @@ struct Screen {
     QApplication::processEvents();
   }
 
-  frmMain& Deck() { return program.DeckWindowOf().Loaded(); }
+  DeckWindow& Deck() { return program.DeckWindowOf().Loaded(); }
   template <class W = QWidget>
   static W& Of(const char* control) {
     for (QWidget* widget : QApplication::allWidgets()) {
@@ -99,7 +99,7 @@ TEST_CASE("The texts of a question are on show letter by letter") {
     doubled.replace("&", "&&");
     CHECK(Screen::Of<QLabel>("Label2").text().contains(doubled));
     CheckNoWidgetReadsMarkup();
-    screen.Deck().mnuTest.Press();
+    screen.Deck().test.Press();
     for (const char* const option : {"Option1(0)", "Option1(1)", "Option1(2)", "Option1(3)"}) {
       CHECK(Screen::Of<QAbstractButton>(option).text() == shown);
     }
@@ -111,12 +111,12 @@ TEST_CASE("The texts of a deck are in the text boxes letter by letter") {
   for (const Text& text : kHostileTexts) {
     CAPTURE(ToUtf8(text));
     Screen screen(text, u"E");
-    screen.Deck().mnuCDI.Press();
+    screen.Deck().deckInfo.Press();
     QApplication::processEvents();
     CHECK(Screen::Of<QLineEdit>("Text1(0)").text().trimmed() == ToQString(text));
     CheckNoWidgetReadsMarkup();
     screen.program.InfoWindow()->UserClose();
-    screen.Deck().mnuACTTD.Press();
+    screen.Deck().createOrEditCard.Press();
     QApplication::processEvents();
     CHECK(Screen::Of<QPlainTextEdit>("Text1(0)").toPlainText() == ToQString(text));
     CheckNoWidgetReadsMarkup();
@@ -127,7 +127,7 @@ TEST_CASE("The texts of cards are in the list to print letter by letter") {
   for (const Text& text : kHostileTexts) {
     CAPTURE(ToUtf8(text));
     Screen screen(text, u"E");
-    screen.Deck().mnuPrint.Press();
+    screen.Deck().printDeck.Press();
     QApplication::processEvents();
     const QTreeWidgetItem* const item = Screen::Of<QTreeWidget>("ListView1").topLevelItem(0);
     CHECK(item->text(1).contains(ToQString(text)));
@@ -143,7 +143,7 @@ TEST_CASE("The names of decks are in the title letter by letter") {
     const Text path = u"/decks/" + name;
     screen.fakes.files.Put(path, DeckSaying(u"front", u"E"));
     screen.fakes.dialogs.files = {path};
-    screen.Deck().mnuOCD.Press();
+    screen.Deck().openDeck.Press();
     QApplication::processEvents();
     CHECK(Screen::Of("frmMain").windowTitle() == TitleForQt(screen.Deck().Caption()));
     CheckNoWidgetReadsMarkup();

@@ -5,10 +5,10 @@
 #include <QTimer>
 #include <doctest/doctest.h>
 
-#include "platform/qt/help_loader.h"
-#include "platform/qt/print_module.h"
-#include "platform/qt/qt_renderer.h"
-#include "platform/utf8.h"
+#include "adapters/qt/devices/help_loader.h"
+#include "adapters/qt/devices/print_module.h"
+#include "adapters/qt/windows/qt_renderer.h"
+#include "base/utf8.h"
 #include "tests/desktop/event_loops.h"
 #include "tests/desktop/program_on_screen.h"
 #include "tests/support/memory_use.h"
@@ -39,9 +39,9 @@ struct SessionOnScreen {
     QApplication::processEvents();
   }
 
-  frmMain& Deck() { return program.DeckWindowOf().Loaded(); }
+  DeckWindow& Deck() { return program.DeckWindowOf().Loaded(); }
   void CloseInstructionsSoon() {
-    QTimer::singleShot(0, qApp, [this] { program.Instructions()->UserClose(); });
+    QTimer::singleShot(0, qApp, [this] { program.SeparationSteps()->UserClose(); });
   }
 };
 
@@ -56,14 +56,14 @@ struct BoxesOnScreen : ProgramOnScreen {
   }
 
   void GoRound() {
-    frmMain& deck = program.DeckWindowOf().Loaded();
-    Leave([&] { deck.mnuGTP.Press(); });
-    Leave([&] { deck.mnuOCD.Press(); });
-    Leave([&] { deck.mnuSaveAs.Press(); });
+    DeckWindow& deck = program.DeckWindowOf().Loaded();
+    Leave([&] { deck.goToCard.Press(); });
+    Leave([&] { deck.openDeck.Press(); });
+    Leave([&] { deck.saveDeckAs.Press(); });
     Leave([&] { (void)printing.Module().AskPrinter(&Top("MDIForm1")); });
-    Leave([&] { deck.mnuDelete.Press(); });
+    Leave([&] { deck.deleteCard.Press(); });
     // Asking alone counts as a change, which the next opening would ask about.
-    state.DeckChanged = false;
+    state.deck.changed = false;
     ShowHelpWithModule(FromUtf8(TESSARA_TEST_MODULES), FromUtf8(TESSARA_TEST_HELP));
     closed += Top("HelpViewer").close() ? 1 : 0;
     Settle();
@@ -163,7 +163,7 @@ TEST_CASE("A hundred deck loads on screen leave nothing behind") {
   const auto load = [&session] {
     for (int count = 0; count < 100; ++count) {
       session.fakes.dialogs.files = {count % 2 == 0 ? u"/decks/other.tsr" : u"/decks/birds.tsr"};
-      session.Deck().mnuOCD.Press();
+      session.Deck().openDeck.Press();
       QApplication::processEvents();
     }
   };

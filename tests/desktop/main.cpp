@@ -2,7 +2,7 @@
 #include <QApplication>
 #include <doctest/doctest.h>
 
-#include "platform/qt/visible_outlines.h"
+#include "adapters/qt/look/visible_outlines.h"
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");

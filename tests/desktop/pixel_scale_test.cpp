@@ -1,4 +1,4 @@
-#include "platform/qt/pixel_scale.h"
+#include "adapters/qt/text/pixel_scale.h"
 
 #include <QApplication>
 #include <doctest/doctest.h>

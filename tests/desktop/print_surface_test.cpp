@@ -6,9 +6,9 @@
 #include <doctest/doctest.h>
 #include <sys/resource.h>
 
-#include "platform/qt/lazy_print_surface.h"
-#include "platform/qt/qt_text.h"
-#include "platform/run_time_error.h"
+#include "adapters/qt/devices/lazy_print_surface.h"
+#include "adapters/qt/text/qt_text.h"
+#include "base/run_time_error.h"
 
 using namespace tessara;
 

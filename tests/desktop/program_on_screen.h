@@ -16,12 +16,12 @@
 #include <string>
 #include <vector>
 
-#include "platform/posix/posix_file_system.h"
-#include "platform/qt/print_module.h"
-#include "platform/qt/qt_dialogs.h"
-#include "platform/qt/qt_message_boxes.h"
-#include "platform/qt/qt_renderer.h"
-#include "platform/qt/qt_text.h"
+#include "adapters/posix/posix_file_system.h"
+#include "adapters/qt/devices/print_module.h"
+#include "adapters/qt/devices/qt_dialogs.h"
+#include "adapters/qt/devices/qt_message_boxes.h"
+#include "adapters/qt/text/qt_text.h"
+#include "adapters/qt/windows/qt_renderer.h"
 #include "shell/program.h"
 #include "tests/desktop/event_loops.h"
 #include "tests/support/fake_machine.h"

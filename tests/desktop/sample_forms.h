@@ -6,11 +6,11 @@
 #include <utility>
 #include <vector>
 
+#include "base/utf8.h"
 #include "forms/controls.h"
 #include "forms/form.h"
 #include "forms/painted_control.h"
 #include "forms/window.h"
-#include "platform/utf8.h"
 
 namespace tessara::test {
 
@@ -28,6 +28,7 @@ class EventLog {
 /// A painted control with a red upper half; its text takes `textHeight` pixels.
 class SamplePainting : public PaintedControl {
  public:
+  using PaintedControl::PaintedControl;
   double textHeight = 10;
   Text text = u"Painting";
 
@@ -58,37 +59,31 @@ class SampleForm : public Form {
       : Form(system, std::move(name), kind, u"Sample") {
     SetWidth(6120);
     SetHeight(5640);
-    Place({
-        {&Shape1, "Shape1", kNoIndex, nullptr, u"", {4500, 150, 600, 600}, u""},
-        {&Line1, "Line1", kNoIndex, nullptr, u"", {4500, 900, 600, 0}, u""},
-        {&Label1, "Label1", kNoIndex, nullptr, u"A && B <b>bold</b>", {150, 150, 3000, 300}, u""},
-        {&Text1, "Text1", kNoIndex, nullptr, u"", {150, 600, 2100, 300}, u"Line"},
-        {&Text2, "Text2", kNoIndex, nullptr, u"", {150, 1050, 2100, 900}, u"Area"},
-        {&Frame1, "Frame1", kNoIndex, nullptr, u"Group", {150, 2100, 2100, 1200}, u""},
-        {&Option1[0], "Option1", 0, &Frame1, u"&One", {150, 300, 1500, 255}, u""},
-        {&Option1[1], "Option1", 1, &Frame1, u"T&wo", {150, 600, 1500, 255}, u""},
-        {&Check1, "Check1", kNoIndex, nullptr, u"C&heck", {150, 3450, 1500, 255}, u""},
-        {&Combo1, "Combo1", kNoIndex, nullptr, u"", {2400, 600, 1500, 315}, u"Choice"},
-        {&List1, "List1", kNoIndex, nullptr, u"", {2400, 1050, 3000, 1500}, u"Cards"},
-        {&Picture1, "Picture1", kNoIndex, nullptr, u"", {2400, 2700, 1755, 555}, u"Box"},
-        {&Image1, "Image1", kNoIndex, nullptr, u"", {4500, 2700, 480, 480}, u"Mark"},
-        {&Painting1, "Painting1", kNoIndex, nullptr, u"", {2400, 3450, 1500, 1500}, u"Card"},
-        {&Command1[0], "Command1", 0, nullptr, u"<<", {150, 4500, 600, 375}, u"Back"},
-        {&Command1[1], "Command1", 1, nullptr, u">>", {900, 4500, 600, 375}, u"Forth"},
-        {&Command2,
-         "Command2",
-         kNoIndex,
-         nullptr,
-         u"&Delete form deck",
-         {4200, 4500, 1455, 495},
-         u""},
+    AddControls({
+        {&Shape1, nullptr, u"", {4500, 150, 600, 600}, u""},
+        {&Line1, nullptr, u"", {4500, 900, 600, 0}, u""},
+        {&Label1, nullptr, u"A && B <b>bold</b>", {150, 150, 3000, 300}, u""},
+        {&Text1, nullptr, u"", {150, 600, 2100, 300}, u"Line"},
+        {&Text2, nullptr, u"", {150, 1050, 2100, 900}, u"Area"},
+        {&Frame1, nullptr, u"Group", {150, 2100, 2100, 1200}, u""},
+        {&Option1[0], &Frame1, u"&One", {150, 300, 1500, 255}, u""},
+        {&Option1[1], &Frame1, u"T&wo", {150, 600, 1500, 255}, u""},
+        {&Check1, nullptr, u"C&heck", {150, 3450, 1500, 255}, u""},
+        {&Combo1, nullptr, u"", {2400, 600, 1500, 315}, u"Choice"},
+        {&List1, nullptr, u"", {2400, 1050, 3000, 1500}, u"Cards"},
+        {&Picture1, nullptr, u"", {2400, 2700, 1755, 555}, u"Box"},
+        {&Image1, nullptr, u"", {4500, 2700, 480, 480}, u"Mark"},
+        {&Painting1, nullptr, u"", {2400, 3450, 1500, 1500}, u"Card"},
+        {&Command1[0], nullptr, u"<<", {150, 4500, 600, 375}, u"Back"},
+        {&Command1[1], nullptr, u">>", {900, 4500, 600, 375}, u"Forth"},
+        {&Command2, nullptr, u"&Delete form deck", {4200, 4500, 1455, 495}, u""},
     });
-    PlaceMenus({{&mnuFile, "mnuFile", nullptr, u"&File"},
-                {&mnuOpen, "mnuOpen", &mnuFile, u"&Open"},
-                {&mnu1, "mnu1", &mnuFile, u"-"},
-                {&mnuMode, "mnuMode", nullptr, u"&Mode"},
-                {&mnuStudy, "mnuStudy", &mnuMode, u"&Study"},
-                {&mnuHelpTopic, "mnuHelpTopic", &mnuMode, u"&Help"}});
+    AddMenus({{&mnuFile, nullptr, u"&File"},
+              {&mnuOpen, &mnuFile, u"&Open"},
+              {&mnu1, &mnuFile, u"-"},
+              {&mnuMode, nullptr, u"&Mode"},
+              {&mnuStudy, &mnuMode, u"&Study"},
+              {&mnuHelpTopic, &mnuMode, u"&Help"}});
     Text2.SetMultiLine(true);
     Text2.SetVerticalScrollBar(true);
     Picture1.SetPicture({"print/nonflip.png", 117, 37});
@@ -103,32 +98,38 @@ class SampleForm : public Form {
     Wire();
   }
 
-  Shape Shape1;
-  Line Line1;
-  Label Label1;
-  TextBox Text1, Text2;
-  Frame Frame1;
-  ControlArray<OptionButton, 2> Option1;
-  CheckBox Check1;
-  ComboBox Combo1;
-  ListView List1;
-  PictureBox Picture1;
-  Image Image1;
-  SamplePainting Painting1;
-  ControlArray<Button, 2> Command1;
-  Button Command2;
-  MenuEntry mnuFile, mnuOpen, mnu1, mnuMode, mnuStudy, mnuHelpTopic;
+  Shape Shape1{"Shape1"};
+  Line Line1{"Line1"};
+  Label Label1{"Label1"};
+  TextBox Text1{"Text1"};
+  TextBox Text2{"Text2"};
+  Frame Frame1{"Frame1"};
+  ControlArray<OptionButton, 2> Option1{"Option1"};
+  CheckBox Check1{"Check1"};
+  ComboBox Combo1{"Combo1"};
+  ListView List1{"List1"};
+  PictureBox Picture1{"Picture1"};
+  Image Image1{"Image1"};
+  SamplePainting Painting1{"Painting1"};
+  ControlArray<Button, 2> Command1{"Command1"};
+  Button Command2{"Command2"};
+  MenuEntry mnuFile{"mnuFile"};
+  MenuEntry mnuOpen{"mnuOpen"};
+  MenuEntry mnu1{"mnu1"};
+  MenuEntry mnuMode{"mnuMode"};
+  MenuEntry mnuStudy{"mnuStudy"};
+  MenuEntry mnuHelpTopic{"mnuHelpTopic"};
   EventLog log;
   std::function<void()> onLoad;
   bool refusesToGo = false;
 
  protected:
-  void Form_Load() override {
+  void OnLoad() override {
     if (onLoad) onLoad();
   }
-  void Form_Unload(bool& cancel) override { cancel = refusesToGo; }
-  void Form_Click() override { log.Add("form"); }
-  void Form_MouseMove() override { log.Add("move"); }
+  void OnUnload(bool& cancel) override { cancel = refusesToGo; }
+  void OnClick() override { log.Add("form"); }
+  void OnMouseMove() override { log.Add("move"); }
 
  private:
   void Wire() {
@@ -161,15 +162,15 @@ class SampleFrame : public Form {
  public:
   explicit SampleFrame(WindowSystem& system)
       : Form(system, "MDIForm1", FormKind::kFrame, u"Tessara 1.0") {
-    PlaceMenus({{&mnuFile, "mnuFile", nullptr, u"&File"},
-                {&mnuOpen, "mnuOpen", &mnuFile, u"&Open Existing Deck"}});
+    AddMenus({{&mnuFile, nullptr, u"&File"}, {&mnuOpen, &mnuFile, u"&Open Existing Deck"}});
     mnuOpen.onClick = [this] { log.Add("frame open"); };
   }
-  MenuEntry mnuFile, mnuOpen;
+  MenuEntry mnuFile{"mnuFile"};
+  MenuEntry mnuOpen{"mnuOpen"};
   EventLog log;
 
  protected:
-  void Form_Click() override { log.Add("frame"); }
+  void OnClick() override { log.Add("frame"); }
 };
 
 }  // namespace tessara::test

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <doctest/doctest.h>
 
-#include "platform/qt/qt_settings_store.h"
+#include "adapters/qt/devices/qt_settings_store.h"
 #include "tests/desktop/config_folder.h"
 #include "tests/desktop/program_on_screen.h"
 

@@ -5,7 +5,7 @@
 #include <QTemporaryDir>
 #include <doctest/doctest.h>
 
-#include "platform/qt/qt_settings_store.h"
+#include "adapters/qt/devices/qt_settings_store.h"
 #include "tests/desktop/config_folder.h"
 #include "tests/support/killed_process.h"
 #include "tests/support/refused_call.h"

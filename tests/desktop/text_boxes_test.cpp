@@ -6,8 +6,8 @@
 #include <QTextLayout>
 #include <doctest/doctest.h>
 
-#include "platform/qt/text_area_view.h"
-#include "platform/utf8.h"
+#include "adapters/qt/views/text_area_view.h"
+#include "base/utf8.h"
 #include "tests/desktop/desk.h"
 
 using namespace tessara;

@@ -1,8 +1,8 @@
-#include "platform/qt/text_mapping.h"
+#include "adapters/qt/text/text_mapping.h"
 
 #include <doctest/doctest.h>
 
-#include "platform/qt/qt_text.h"
+#include "adapters/qt/text/qt_text.h"
 
 using namespace tessara;
 

@@ -1,12 +1,12 @@
-#include "platform/qt/help/chm_file.h"
+#include "adapters/qt/help/chm_file.h"
 
 #include <QFile>
 #include <QTemporaryDir>
 #include <QtEndian>
 #include <doctest/doctest.h>
 
-#include "platform/qt/help/help_book.h"
-#include "platform/qt/help/show_help_contents.h"
+#include "adapters/qt/help/help_book.h"
+#include "adapters/qt/help/show_help_contents.h"
 #include "tests/help/help_desk.h"
 
 namespace tessara::test {

@@ -7,7 +7,7 @@
 #include <memory>
 #include <ostream>
 
-#include "platform/qt/help/chm_file.h"
+#include "adapters/qt/help/chm_file.h"
 
 inline std::ostream& operator<<(std::ostream& out, const QString& text) {
   return out << text.toStdString();

@@ -3,7 +3,7 @@
 #include <QSet>
 #include <doctest/doctest.h>
 
-#include "platform/qt/help/help_book.h"
+#include "adapters/qt/help/help_book.h"
 #include "tests/help/help_desk.h"
 
 namespace tessara::test {

@@ -1,4 +1,4 @@
-#include "platform/qt/help/help_viewer.h"
+#include "adapters/qt/help/help_viewer.h"
 
 #include <QAction>
 #include <QFile>
@@ -10,11 +10,11 @@
 #include <QTreeWidget>
 #include <doctest/doctest.h>
 
-#include "platform/qt/help/help_book.h"
-#include "platform/qt/help/help_page.h"
-#include "platform/qt/help/show_help_contents.h"
-#include "platform/qt/help_loader.h"
-#include "platform/utf8.h"
+#include "adapters/qt/devices/help_loader.h"
+#include "adapters/qt/help/help_book.h"
+#include "adapters/qt/help/help_page.h"
+#include "adapters/qt/help/show_help_contents.h"
+#include "base/utf8.h"
 #include "tests/help/help_desk.h"
 
 namespace tessara::test {

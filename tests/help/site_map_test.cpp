@@ -1,4 +1,4 @@
-#include "platform/qt/help/site_map.h"
+#include "adapters/qt/help/site_map.h"
 
 #include <doctest/doctest.h>
 

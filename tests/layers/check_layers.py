@@ -8,36 +8,26 @@ import pathlib
 import re
 import sys
 
-BASE = {"platform", "forms"}
-VIEWER = BASE | {"deck"}
-BESIDE = VIEWER | {"viewer"}
-SHELL = BESIDE | {"authoring", "import", "printing"}
+LIST = pathlib.Path(__file__).resolve().parents[2] / "cmake" / "layers.txt"
 
-# What each room may include besides itself. The adapters see the core but are seen by nobody in it.
-MAY_INCLUDE = {
-    "platform": set(),
-    "forms": {"platform"},
-    "deck": BASE,
-    "viewer": VIEWER,
-    "authoring": BESIDE,
-    "import": BESIDE,
-    "printing": BESIDE,
-    "shell": SHELL,
-    "platform/posix": BASE,
-    "platform/cups": BASE,
-    "platform/qt": BASE | {"viewer", "platform/cups", "platform/posix"},
-    "platform/libreoffice": BASE | {"platform/posix", "platform/cups"},
-    "platform/freedesktop": BASE | {"platform/posix"},
-}
-ADAPTERS = {room for room in MAY_INCLUDE if room.startswith("platform/")}
+
+def listed_layers():
+    """Folder -> the folders that it may include besides itself."""
+    lines = (line.split(":") for line in LIST.read_text(encoding="utf-8").splitlines() if re.match("[a-z]", line))
+    return {folder: set(uses.split()) for folder, uses in lines}
+
+
+MAY_INCLUDE = listed_layers()
+# The adapters see the core but are seen by nobody in it.
+ADAPTERS = {room for room in MAY_INCLUDE if room.startswith("adapters/")}
 
 # These put the pieces together, so they may include everything.
 ASSEMBLERS = ("shell/main.cpp", "tests/", "bench/", "fuzz/")
 
 # A library's headers, and the rooms that may see them.
 LIBRARIES = (
-    ("Qt", re.compile(r"Q[A-Z]|Qt[A-Z]"), {"platform/qt"}),
-    ("UNO", re.compile(r"(com/sun|cppuhelper|osl|rtl|sal|uno)/"), {"platform/libreoffice"}),
+    ("Qt", re.compile(r"Q[A-Z]|Qt[A-Z]"), {"adapters/qt"}),
+    ("UNO", re.compile(r"(com/sun|cppuhelper|osl|rtl|sal|uno)/"), {"adapters/libreoffice"}),
     ("printing system", re.compile(r"(cups|qpdf)/"), ADAPTERS),
     ("POSIX", re.compile(r"(unistd|fcntl|dlfcn|spawn|sys/\w+)\.h$"), ADAPTERS),
 )
@@ -47,10 +37,9 @@ Include = collections.namedtuple("Include", "source system header")
 
 
 def room_of(path):
-    """The part of the program that a file belongs to: its top folder, or the adapter it is in."""
-    parts = path.split("/")
-    adapter = "/".join(parts[:2])
-    return adapter if adapter in ADAPTERS else parts[0]
+    """The part of the program that a file belongs to: the longest folder of the list that holds it."""
+    holding = [room for room in MAY_INCLUDE if path.startswith(room + "/")]
+    return max(holding, key=len) if holding else path.split("/")[0]
 
 
 def includes_below(root):

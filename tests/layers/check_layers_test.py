@@ -6,39 +6,39 @@ import unittest
 
 import check_layers
 
-HEADERS = ("platform/text.h", "platform/qt/renderer.h", "platform/posix/files.h", "forms/form.h", "deck/table.h",
-           "viewer/frmMain.h", "viewer/notelet/face.h", "authoring/frmEssay.h", "import/import.h", "shell/shell.h")
+HEADERS = ("base/text.h", "adapters/qt/windows/renderer.h", "adapters/posix/files.h", "forms/form.h", "deck/table.h",
+           "viewer/deck_window.h", "viewer/card/face.h", "authoring/text_card_builder.h", "import/import.h", "shell/shell.h")
 
 ALLOWED = (
-    ("forms/form.h", '#include "platform/text.h"'),
-    ("viewer/frmMain.h", '#include "viewer/notelet/face.h"'),
-    ("shell/shell.cpp", '#include "authoring/frmEssay.h"'),
-    ("shell/main.cpp", '#include "platform/qt/renderer.h"'),
+    ("forms/form.h", '#include "base/text.h"'),
+    ("viewer/deck_window.h", '#include "viewer/card/face.h"'),
+    ("shell/shell.cpp", '#include "authoring/text_card_builder.h"'),
+    ("shell/main.cpp", '#include "adapters/qt/windows/renderer.h"'),
     ("shell/main.cpp", "#include <QApplication>"),
-    ("platform/qt/renderer.cpp", "#include <QWidget>"),
-    ("platform/qt/renderer.cpp", '#include "forms/form.h"'),
-    ("platform/posix/files.cpp", "#include <unistd.h>"),
-    ("tests/desktop/start_test.cpp", '#include "platform/qt/renderer.h"'),
+    ("adapters/qt/windows/renderer.cpp", "#include <QWidget>"),
+    ("adapters/qt/windows/renderer.cpp", '#include "forms/form.h"'),
+    ("adapters/posix/files.cpp", "#include <unistd.h>"),
+    ("tests/desktop/start_test.cpp", '#include "adapters/qt/windows/renderer.h"'),
     ("bench/start.cpp", "#include <QApplication>"),
     ("deck/table.cpp", "#include <vector>"),
 )
 
 WRONG = (
-    ("platform/text.h", '#include "forms/form.h"', "platform may not include"),
+    ("base/text.h", '#include "forms/form.h"', "base may not include"),
     ("forms/form.h", '#include "deck/table.h"', "forms may not include"),
-    ("deck/table.h", '  #  include "viewer/frmMain.h"', "deck may not include"),
-    ("viewer/frmMain.h", '#include "shell/shell.h"', "viewer may not include"),
-    ("authoring/frmEssay.h", '#include "import/import.h"', "authoring may not include"),
-    ("shell/shell.h", '#include "platform/qt/renderer.h"', "shell may not include"),
-    ("deck/table.cpp", '#include "platform/posix/files.h"', "deck may not include"),
-    ("platform/qt/renderer.h", '#include "shell/shell.h"', "platform/qt may not include"),
+    ("deck/table.h", '  #  include "viewer/deck_window.h"', "deck may not include"),
+    ("viewer/deck_window.h", '#include "shell/shell.h"', "viewer may not include"),
+    ("authoring/text_card_builder.h", '#include "import/import.h"', "authoring may not include"),
+    ("shell/shell.h", '#include "adapters/qt/windows/renderer.h"', "shell may not include"),
+    ("deck/table.cpp", '#include "adapters/posix/files.h"', "deck may not include"),
+    ("adapters/qt/windows/renderer.h", '#include "shell/shell.h"', "adapters/qt may not include"),
     ("forms/form.h", "#include <QWidget>", "Qt header"),
-    ("platform/posix/files.h", "#include <QtCore>", "Qt header"),
-    ("platform/qt/renderer.h", "#include <com/sun/star/uno/XInterface.hpp>", "UNO header"),
+    ("adapters/posix/files.h", "#include <QtCore>", "Qt header"),
+    ("adapters/qt/windows/renderer.h", "#include <com/sun/star/uno/XInterface.hpp>", "UNO header"),
     ("deck/table.h", "#include <cups/cups.h>", "printing system header"),
     ("deck/table.h", "#include <sys/stat.h>", "POSIX header"),
-    ("viewer/frmMain.h", '#include "notelet/face.h"', "not a path from the top folder"),
-    ("viewer/notelet/face.h", '#include "viewer/frmMain.h"\n', "lead back"),
+    ("viewer/deck_window.h", '#include "notelet/face.h"', "not a path from the top folder"),
+    ("viewer/card/face.h", '#include "viewer/deck_window.h"\n', "lead back"),
 )
 
 
@@ -49,7 +49,7 @@ class CheckLayers(unittest.TestCase):
             root = pathlib.Path(folder)
             for header in HEADERS:
                 self.add_line(root / header, "#pragma once")
-            self.add_line(root / "viewer/frmMain.cpp", '#include "viewer/notelet/face.h"')
+            self.add_line(root / "viewer/deck_window.cpp", '#include "viewer/card/face.h"')
             self.add_line(root / path, line)
             return check_layers.complaints(root)
 

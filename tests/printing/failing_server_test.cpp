@@ -5,8 +5,8 @@
 #include <thread>
 #include <vector>
 
-#include "platform/run_time_error.h"
-#include "platform/utf8.h"
+#include "base/run_time_error.h"
+#include "base/utf8.h"
 #include "tests/printing/office_desk.h"
 #include "tests/printing/server_processes.h"
 
@@ -185,7 +185,7 @@ TEST_CASE("a server that dies or hangs while it starts fails the job within 30 s
     CHECK(title == "Error Printing Cards");
     CHECK(desk.fakes.messages.shown.back().text ==
           u"An unspecified printing error has occured. Ensure that the printer is ready.");
-    CHECK_FALSE(desk.window->Command1[1].Enabled());
+    CHECK_FALSE(desk.window->print.Enabled());
     CHECK(std::chrono::steady_clock::now() - start < kLongest);
     CHECK(ServerProcesses().empty());
     CHECK(test::FilesLeftBehind().empty());

@@ -6,8 +6,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "platform/posix/loaded_spreadsheet.h"
-#include "platform/utf8.h"
+#include "adapters/libreoffice/loader/loaded_spreadsheet.h"
+#include "base/utf8.h"
 #include "tests/printing/server_processes.h"
 #include "tests/support/wait_for.h"
 

@@ -4,11 +4,11 @@
 #include <string>
 #include <vector>
 
+#include "adapters/libreoffice/loader/loaded_spreadsheet.h"
+#include "base/utf8.h"
 #include "deck/app_context.h"
 #include "forms/window.h"
-#include "platform/posix/loaded_spreadsheet.h"
-#include "platform/utf8.h"
-#include "printing/PrintCard.h"
+#include "printing/print_window.h"
 #include "printing/spreadsheet_job.h"
 #include "tests/printing/printed_pdf.h"
 #include "tests/printing/watched_server.h"
@@ -41,26 +41,26 @@ class OfficeDesk {
   TestFrame frame;
   AppContext app{windows, machine, state, frame};
   SpreadsheetJob job{machine};
-  WindowSlot deckSlot{windows, [this] {
-                        return std::make_unique<Form>(windows, "frmMain", FormKind::kChild, u"");
-                      }};
-  WindowSlot slot{windows,
-                  [this] { return std::make_unique<PrintCard>(app, job, Window<Form>(deckSlot)); }};
-  Window<PrintCard> window{slot};
+  WindowSlot<Form> deckSlot{
+      windows,
+      [this] { return std::make_unique<Form>(windows, "frmMain", FormKind::kChild, u""); }};
+  WindowSlot<PrintWindow> slot{
+      windows, [this] { return std::make_unique<PrintWindow>(app, job, Window<Form>(deckSlot)); }};
+  Window<PrintWindow> window{slot};
 
   explicit OfficeDesk(int cards, const Devices& devices = {}) : machine(WithServer(devices)) {
     windows.SetRenderer(renderer);
     machine.programFolder = FromUtf8(PROGRAM_FOLDER);
-    state.CanPrintCards = true;
-    state.CardCount = static_cast<std::int16_t>(cards);
+    state.printing.canPrintCards = true;
+    state.deck.cardCount = static_cast<std::int16_t>(cards);
     for (int row = 1; row <= cards; ++row) {
       SetCard(row, u"F" + DecimalText(row), u"B" + DecimalText(row));
     }
   }
 
   void SetCard(int row, const Text& front, const Text& back) {
-    state.CardGrid.Set(row, kCardText, front);
-    state.CardGrid.Set(row, kBackText, back);
+    state.deck.cardGrid.Set(row, kCardText, front);
+    state.deck.cardGrid.Set(row, kBackText, back);
   }
   [[nodiscard]] std::string PdfPath() const { return (folder / "cards.pdf").string(); }
 
@@ -74,13 +74,13 @@ class OfficeDesk {
   enum class Mode { kCards, kFlip, kFlat };
   /// Prints all cards to where the dialog says, with a Yes to each copy.
   std::string PressPrint(Mode mode, int copies = 1) {
-    PrintCard& opened = window.Loaded();
+    PrintWindow& opened = window.Loaded();
     opened.SelectAll();
-    opened.Check1.SetTicked(mode == Mode::kFlat);
-    opened.Check2.SetTicked(mode == Mode::kFlip);
-    opened.Command1[1].SetEnabled(true);
+    opened.flatSheet.SetTicked(mode == Mode::kFlat);
+    opened.flipPrint.SetTicked(mode == Mode::kFlip);
+    opened.print.SetEnabled(true);
     for (int copy = 1; copy < copies; ++copy) fakes.messages.answers.push_back(MessageAnswer::kYes);
-    opened.Command1[1].Press();
+    opened.print.Press();
     return ToUtf8(fakes.messages.shown.back().title);
   }
   [[nodiscard]] std::vector<PrintedPage> Pages() const { return ReadPdf(PdfPath()); }

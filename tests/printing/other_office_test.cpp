@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <unistd.h>
 
-#include "platform/posix/office_location.h"
+#include "adapters/libreoffice/loader/office_location.h"
 #include "tests/printing/office_desk.h"
 #include "tests/printing/server_processes.h"
 #include "tests/support/wait_for.h"

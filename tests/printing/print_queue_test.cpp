@@ -1,4 +1,4 @@
-#include "platform/cups/print_queue.h"
+#include "adapters/cups/print_queue.h"
 
 #include <chrono>
 #include <cups/cups.h>
@@ -9,7 +9,7 @@
 #include <thread>
 #include <unistd.h>
 
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
 #include "tests/support/scratch_folder.h"
 
 namespace tessara {

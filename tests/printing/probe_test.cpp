@@ -7,10 +7,10 @@
 #include <optional>
 #include <unistd.h>
 
-#include "platform/posix/loaded_spreadsheet.h"
-#include "platform/posix/office_location.h"
-#include "platform/run_time_error.h"
-#include "platform/utf8.h"
+#include "adapters/libreoffice/loader/loaded_spreadsheet.h"
+#include "adapters/libreoffice/loader/office_location.h"
+#include "base/run_time_error.h"
+#include "base/utf8.h"
 #include "tests/printing/server_processes.h"
 #include "tests/support/scratch_folder.h"
 

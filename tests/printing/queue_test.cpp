@@ -11,9 +11,9 @@
 #include <filesystem>
 #include <functional>
 
-#include "platform/qt/lazy_print_surface.h"
-#include "platform/qt/qt_dialogs.h"
-#include "platform/utf8.h"
+#include "adapters/qt/devices/lazy_print_surface.h"
+#include "adapters/qt/devices/qt_dialogs.h"
+#include "base/utf8.h"
 #include "tests/printing/office_desk.h"
 #include "tests/printing/print_server.h"
 #include "tests/printing/server_processes.h"
@@ -106,7 +106,7 @@ TEST_CASE("copies of card sheets are printed again, and the queue's own settings
 
 TEST_CASE("each copy of a listing is a job on the chosen queue's own paper") {
   PaperDesk desk(40);
-  desk.office.state.DeckTitle = u"Numbers";
+  desk.office.state.deck.title = u"Numbers";
   REQUIRE(desk.Print(PrintServer::kOtherQueue, Mode::kFlat, 2) == "PRINT");
   const std::vector<PrintedJob> jobs = desk.queues.TakeJobs(PrintServer::kOtherQueue, 2);
   for (const PrintedJob& job : jobs) {

@@ -2,8 +2,8 @@
 #include <filesystem>
 #include <sys/mount.h>
 
-#include "platform/qt/lazy_print_surface.h"
-#include "platform/utf8.h"
+#include "adapters/qt/devices/lazy_print_surface.h"
+#include "base/utf8.h"
 #include "tests/printing/office_desk.h"
 
 namespace tessara {

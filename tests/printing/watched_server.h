@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "platform/spreadsheet.h"
+#include "machine/spreadsheet.h"
 
 namespace tessara::test {
 

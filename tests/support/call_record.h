@@ -6,9 +6,9 @@
 #include <utility>
 #include <vector>
 
-#include "platform/dialogs.h"
-#include "platform/run_time_error.h"
-#include "platform/utf8.h"
+#include "base/run_time_error.h"
+#include "base/utf8.h"
+#include "machine/dialogs.h"
 
 namespace tessara::test {
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "deck/card_table.h"
+#include "deck/program_state.h"
 
 namespace tessara::test {
 
@@ -16,27 +16,27 @@ struct TestCard {
 };
 
 inline void PutCard(ProgramState& state, int row, const TestCard& card) {
-  state.CardGrid.Set(row, kCardType, card.type);
-  state.CardGrid.Set(row, kCardText, card.text);
-  state.CardGrid.Set(row, kRowNumber, DecimalText(row));
-  state.CardGrid.Set(row, kBackText, card.back);
+  state.deck.cardGrid.Set(row, kCardType, card.type);
+  state.deck.cardGrid.Set(row, kCardText, card.text);
+  state.deck.cardGrid.Set(row, kRowNumber, DecimalText(row));
+  state.deck.cardGrid.Set(row, kBackText, card.back);
   int column = kChoiceA;
-  for (const Text& choice : card.choices) state.CardGrid.Set(row, column++, choice);
-  state.CardGrid.Set(row, kAnswer, card.key);
-  state.CardPresent.Set(row, 1);
+  for (const Text& choice : card.choices) state.deck.cardGrid.Set(row, column++, choice);
+  state.deck.cardGrid.Set(row, kAnswer, card.key);
+  state.deck.cardPresent.Set(row, 1);
 }
 
 /// Puts the card behind the last one.
 inline void AddCard(ProgramState& state, const TestCard& card) {
-  PutCard(state, ++state.CardCount, card);
+  PutCard(state, ++state.deck.cardCount, card);
 }
 
 /// Adds the card as a builder does, which leaves it on show and the deck to be saved.
 inline void BuildCard(ProgramState& state, const TestCard& card) {
   AddCard(state, card);
-  state.CurrentCard = state.CardCount;
-  state.DeckChanged = true;
-  state.SaveOffered = true;
+  state.deck.currentCard = state.deck.cardCount;
+  state.deck.changed = true;
+  state.deck.saveOffered = true;
 }
 
 }  // namespace tessara::test

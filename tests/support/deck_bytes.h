@@ -3,8 +3,8 @@
 #include <array>
 #include <string>
 
-#include "platform/text.h"
-#include "platform/utf8.h"
+#include "base/text.h"
+#include "base/utf8.h"
 
 namespace tessara::test {
 

@@ -3,29 +3,31 @@
 #include <memory>
 #include <vector>
 
-#include "deck/frmInfo.h"
+#include "deck/deck_info_window.h"
 #include "forms/window.h"
 #include "tests/support/cards.h"
 #include "tests/support/test_desk.h"
-#include "viewer/frmMain.h"
+#include "viewer/deck_window.h"
 
 namespace tessara::test {
 
 /// A desk with the deck window and the information window.
 struct DeckDesk : TestDesk {
-  WindowSlot deckSlot{
+  WindowSlot<DeckWindow> deckSlot{windows, [this] {
+                                    return std::make_unique<DeckWindow>(
+                                        app, fileNumber, Window<DeckInfoWindow>(infoSlot));
+                                  }};
+  WindowSlot<DeckInfoWindow> infoSlot{
       windows,
-      [this] { return std::make_unique<frmMain>(app, fileNumber, Window<frmInfo>(infoSlot)); }};
-  WindowSlot infoSlot{windows,
-                      [this] { return std::make_unique<frmInfo>(app, Window<frmMain>(deckSlot)); }};
-  Window<frmMain> deck{deckSlot};
-  Window<frmInfo> info{infoSlot};
+      [this] { return std::make_unique<DeckInfoWindow>(app, Window<DeckWindow>(deckSlot)); }};
+  Window<DeckWindow> deck{deckSlot};
+  Window<DeckInfoWindow> info{infoSlot};
 
   DeckDesk() {
-    state.LargeCardColor = u"0";
-    state.LargeCard3D = u"1";
-    state.SmallCardColor = u"0";
-    state.SmallCard3D = u"1";
+    state.settings.largeCardColor = u"0";
+    state.settings.largeCard3D = u"1";
+    state.settings.smallCardColor = u"0";
+    state.settings.smallCard3D = u"1";
   }
 
   /// Cards behind the last one.
@@ -60,11 +62,11 @@ struct DeckDesk : TestDesk {
   }
   /// Brings the table's deck up as the commands that load one do.
   void Open(DeckKind kind) {
-    state.CurrentCard = 1;
+    state.deck.currentCard = 1;
     if (kind == kExtendedDeck) {
       deck->OpenExtendedView();
       deck->ShowFirstCard(kExtendedDeck);
-      deck->Command3[1].SetCaption(u"&Hide Answer");
+      deck->flip.SetCaption(u"&Hide Answer");
     } else {
       deck->OpenStandardView();
       deck->ShowFirstCard(kStandardDeck);

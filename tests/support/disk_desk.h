@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/posix/posix_file_system.h"
-#include "platform/posix/posix_safety_copies.h"
-#include "platform/utf8.h"
+#include "adapters/posix/posix_file_system.h"
+#include "adapters/posix/posix_safety_copies.h"
+#include "base/utf8.h"
 #include "shell/program.h"
 #include "tests/support/fake_machine.h"
 #include "tests/support/headless_renderer.h"
@@ -55,7 +55,7 @@ struct DiskDesk {
   }
 
   [[nodiscard]] Text DeckPath() const { return folder.TextPath(FromUtf8(kDeckName)); }
-  frmMain& Deck() { return program.DeckWindowOf().Loaded(); }
+  DeckWindow& Deck() { return program.DeckWindowOf().Loaded(); }
   void Run(const std::function<void()>& command) { program.Windows().Run(command); }
 
   /// Starts with the deck: the first save writes over its file in place.
@@ -64,15 +64,16 @@ struct DiskDesk {
   void StartAndOpenDeck() {
     program.Main(u"");
     fakes.dialogs.files.push_back(DeckPath());
-    Run([this] { Deck().mnuOCD_Click(); });
+    Run([this] { Deck().OpenDeck(); });
   }
   /// Puts another text on every card, as a builder does.
   void ChangeCards() {
-    for (int row = 1; row <= state.CardCount; ++row) state.CardGrid.Set(row, kCardText, u"changed");
-    state.DeckChanged = true;
+    for (int row = 1; row <= state.deck.cardCount; ++row)
+      state.deck.cardGrid.Set(row, kCardText, u"changed");
+    state.deck.changed = true;
   }
   void Save() {
-    Run([this] { Deck().mnuSave_Click(); });
+    Run([this] { Deck().SaveDeck(); });
   }
 
  private:

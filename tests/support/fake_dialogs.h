@@ -5,8 +5,8 @@
 #include <stdexcept>
 #include <vector>
 
-#include "platform/dialogs.h"
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
+#include "machine/dialogs.h"
 
 namespace tessara::test {
 

@@ -6,8 +6,8 @@
 #include <utility>
 #include <vector>
 
-#include "platform/message_box.h"
-#include "platform/utf8.h"
+#include "base/utf8.h"
+#include "machine/message_box.h"
 
 namespace tessara::test {
 

@@ -4,8 +4,8 @@
 #include <memory>
 #include <optional>
 
-#include "platform/file_system.h"
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
+#include "machine/file_system.h"
 
 namespace tessara::test {
 

@@ -38,7 +38,8 @@ class HeadlessRenderer : public Renderer {
     }
   }
   int LineCount(const TextBox& box) override {
-    const auto perLine = static_cast<std::size_t>(std::max(1, box.Place().width / kCharacterWidth));
+    const auto perLine =
+        static_cast<std::size_t>(std::max(1, box.BoundsOf().width / kCharacterWidth));
     std::size_t lines = 0;
     std::size_t length = 0;
     for (const char16_t character : box.TextOf() + u"\n") {

@@ -2,9 +2,9 @@
 
 #include <string>
 
+#include "base/code_page.h"
+#include "base/text.h"
 #include "deck/deck_file.h"
-#include "platform/code_page.h"
-#include "platform/text.h"
 
 namespace tessara::test {
 

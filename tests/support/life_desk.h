@@ -40,40 +40,40 @@ struct LifeDesk : DeckDesk {
   }
   void OpenFile(const Text& path) {
     Choose(path);
-    Run([this] { deck->mnuOCD_Click(); });
+    Run([this] { deck->OpenDeck(); });
   }
   void OpenFromCommandLine(const Text& path) {
-    state.CommandLineFile = path;
+    state.start.commandLineFile = path;
     deck.Loaded();
-    state.DeckFromCommandLine = false;
+    state.start.deckFromCommandLine = false;
   }
 
   [[nodiscard]] DeckFlags FlagsNow() const {
-    return {state.DeckFilePath, state.DeckChanged, state.SaveOffered, state.DeckOnFile};
+    return {state.deck.filePath, state.deck.changed, state.deck.saveOffered, state.deck.onFile};
   }
 
   // The commands of the deck window.
   void Clear() {
-    Run([this] { deck->mnuNCD_Click(); });
+    Run([this] { deck->ClearDeck(); });
   }
   void Save() {
-    Run([this] { deck->mnuSave_Click(); });
+    Run([this] { deck->SaveDeck(); });
   }
   void SaveAs(const Text& path) {
     Choose(path);
-    Run([this] { deck->mnuSaveAs_Click(); });
+    Run([this] { deck->SaveDeckAs(); });
   }
   void CheckSave() {
     Run([this] { deck->ChkSave(); });
   }
   void Exit() {
-    Run([this] { deck->mnuExit_Click(); });
+    Run([this] { deck->CloseTessara(); });
   }
-  void Close() { deck->Command3[DeckWindow::kCloseDeck].Press(); }
+  void Close() { deck->closeDeck.Press(); }
   /// Deletes the card on show.
   void DeleteCard() {
     Answer(MessageAnswer::kYes);
-    Run([this] { deck->mnuDelete_Click(); });
+    Run([this] { deck->DeleteCard(); });
   }
 
   /// What the user does in the next file dialogs and questions.

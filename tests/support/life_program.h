@@ -7,8 +7,8 @@ namespace tessara::test {
 
 /// The whole program for the lives of decks.
 struct LifeProgram : ProgramDesk {
-  Window<frmMain> deck = program.DeckWindowOf();
-  Window<frmInfo> info = program.InfoWindow();
+  Window<DeckWindow> deck = program.DeckWindowOf();
+  Window<DeckInfoWindow> info = program.InfoWindow();
 
   LifeProgram() {
     fakes.files.folders.insert(u"/decks");

@@ -7,8 +7,8 @@
 #include <set>
 #include <string>
 
-#include "platform/file_system.h"
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
+#include "machine/file_system.h"
 
 namespace tessara::test {
 

@@ -23,8 +23,8 @@ struct ProgramDesk {
 
   void Start(const Text& commandLine = u"") { program.Main(commandLine); }
 
-  frmMain& Deck() { return program.DeckWindowOf().Loaded(); }
-  MDIForm1& Frame() { return program.FrameWindow().Loaded(); }
+  DeckWindow& Deck() { return program.DeckWindowOf().Loaded(); }
+  ProgramFrame& Frame() { return program.FrameWindow().Loaded(); }
 
   /// A deck file of text cards ("E") or true/false questions ("T"), named "front 1" and on.
   static std::string DeckBytes(int cards, TextView type = u"E") {

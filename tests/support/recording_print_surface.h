@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/print_surface.h"
-#include "platform/utf8.h"
+#include "base/utf8.h"
+#include "machine/print_surface.h"
 #include "tests/support/call_record.h"
 
 namespace tessara::test {

@@ -8,15 +8,15 @@ namespace tessara::test {
 
 /// Cards "front 1", "back 1" and so on, behind an information row.
 inline void FillDeck(ProgramState& state, int cards) {
-  state.CardGrid.Set(kInfoRow, kCardType, u"I");
-  state.CardGrid.Set(kInfoRow, kRowNumber, u"0");
-  state.CardGrid.Set(kInfoRow, kInfoTitle, u"A title");
-  state.CardPresent.Set(kInfoRow, 1);
+  state.deck.cardGrid.Set(kInfoRow, kCardType, u"I");
+  state.deck.cardGrid.Set(kInfoRow, kRowNumber, u"0");
+  state.deck.cardGrid.Set(kInfoRow, kInfoTitle, u"A title");
+  state.deck.cardPresent.Set(kInfoRow, 1);
   for (int row = 1; row <= cards; ++row) {
     PutCard(state, row,
             {.text = u"front " + DecimalText(row), .back = u"back " + DecimalText(row)});
   }
-  state.CardCount = static_cast<std::int16_t>(cards);
+  state.deck.cardCount = static_cast<std::int16_t>(cards);
 }
 
 inline const Text kSamplePath = u"/decks/sample.tsr";

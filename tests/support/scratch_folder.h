@@ -6,8 +6,8 @@
 #include <iterator>
 #include <string>
 
-#include "platform/text.h"
-#include "platform/utf8.h"
+#include "base/text.h"
+#include "base/utf8.h"
 
 namespace tessara::test {
 

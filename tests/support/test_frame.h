@@ -27,8 +27,8 @@ class TestFrame : public AppFrame {
   [[nodiscard]] int Height() const override { return height; }
   [[nodiscard]] int ScaleWidth() const override { return width - 120; }
   [[nodiscard]] int ScaleHeight() const override { return height - 390; }
-  [[nodiscard]] const ImageList& imgWallPaper() const override { return wallPaper; }
-  [[nodiscard]] const ImageList& BKG() const override { return tiles; }
+  [[nodiscard]] const ImageList& CardPictures() const override { return wallPaper; }
+  [[nodiscard]] const ImageList& BackdropTiles() const override { return tiles; }
   void EnableFileMenu(bool enabled) override { fileMenuEnabled = enabled; }
   void CloseAbout() override { ++aboutClosed; }
   void CloseSplash() override { ++splashClosed; }

@@ -13,18 +13,18 @@ class WindowTour {
       : program_(program), fakes_(fakes), closeModal_(std::move(closeModal)) {}
 
   void GoRound() {
-    frmMain& deck = Deck();
-    Visit(deck.mnuCDI, program_.InfoWindow());
-    Visit(deck.mnuACTTD, program_.TextBuilder());
-    Visit(deck.mnuPrint, program_.PrintWindow());
-    Visit(deck.mnuAbout, program_.AboutBox());
+    DeckWindow& deck = Deck();
+    Visit(deck.deckInfo, program_.InfoWindow());
+    Visit(deck.createOrEditCard, program_.TextBuilder());
+    Visit(deck.printDeck, program_.PrintWindowOf());
+    Visit(deck.about, program_.AboutBoxOf());
     closeModal_();
-    deck.mnuSC.Press();
+    deck.separatingCards.Press();
     fakes_.messages.answers = {MessageAnswer::kYes};
     deck.UserClose();
-    Visit(Frame().mnuSetup, program_.SetUpWindow());
-    Frame().mnuExtTessara.Press();
-    Visit(Deck().mnuACTTD, program_.QuestionBuilder());
+    Visit(Frame().setUp, program_.SetUpWindowOf());
+    Frame().newExtendedDeck.Press();
+    Visit(Deck().createOrEditCard, program_.QuestionBuilderOf());
     Deck().UserClose();
     OpenDeck();
     fakes_.messages.shown.clear();
@@ -34,7 +34,7 @@ class WindowTour {
 
   void OpenDeck() {
     fakes_.dialogs.files = {u"/decks/birds.tsr"};
-    Frame().mnuOPenExisting.Press();
+    Frame().openExistingDeck.Press();
   }
 
   int visits = 0;
@@ -54,8 +54,8 @@ class WindowTour {
     fakes_.messages.answers.clear();
     if (window.IsLoaded()) --visits;
   }
-  frmMain& Deck() { return program_.DeckWindowOf().Loaded(); }
-  MDIForm1& Frame() { return program_.FrameWindow().Loaded(); }
+  DeckWindow& Deck() { return program_.DeckWindowOf().Loaded(); }
+  ProgramFrame& Frame() { return program_.FrameWindow().Loaded(); }
 
   Program& program_;
   FakeMachine& fakes_;
@@ -66,13 +66,13 @@ class WindowTour {
 inline constexpr int kVisitsOfRound = 6;
 
 /// Moves to and fro through the deck on show, and turns each card over and back.
-inline void MoveThroughDeck(frmMain& deck, int moves) {
+inline void MoveThroughDeck(DeckWindow& deck, int moves) {
   int direction = 1;
   for (int move = 0; move < moves; ++move) {
-    if (!deck.cmdMove[direction].Enabled()) direction = 1 - direction;
-    deck.cmdMove[direction].Press();
-    deck.Command3[1].Press();
-    deck.Command3[1].Press();
+    if (!deck.arrows[direction].Enabled()) direction = 1 - direction;
+    deck.arrows[direction].Press();
+    deck.flip.Press();
+    deck.flip.Press();
   }
 }
 

@@ -9,9 +9,9 @@ namespace tessara::test {
 namespace {
 
 /// Which lines are open and which marks can be set, A to D, as "1100".
-std::string OpenLines(const frmQuestion& window) {
+std::string OpenLines(const QuestionBuilder& window) {
   std::string open;
-  for (const TextBox& line : window.Text1) {
+  for (const TextBox& line : window.answers) {
     const Color::Role role = line.Enabled() ? Color::Role::kWindow : Color::Role::kButtonFace;
     CHECK(line.BackColor() == Color{role});
     open += line.Enabled() ? '1' : '0';
@@ -19,16 +19,16 @@ std::string OpenLines(const frmQuestion& window) {
   return open;
 }
 
-std::string ArmedMarks(const frmQuestion& window) {
+std::string ArmedMarks(const QuestionBuilder& window) {
   std::string armed;
-  for (const OptionButton& mark : window.Option1) armed += mark.Enabled() ? '1' : '0';
+  for (const OptionButton& mark : window.marks) armed += mark.Enabled() ? '1' : '0';
   return armed;
 }
 
 /// Texts on lines A and on, typed on a new card.
-void Fill(frmQuestion& window, const std::vector<Text>& lines) {
+void Fill(QuestionBuilder& window, const std::vector<Text>& lines) {
   for (std::size_t at = 0; at < lines.size(); ++at) {
-    Type(window.Text1[static_cast<int>(at)], lines[at]);
+    Type(window.answers[static_cast<int>(at)], lines[at]);
   }
 }
 
@@ -36,18 +36,18 @@ void Fill(frmQuestion& window, const std::vector<Text>& lines) {
 
 TEST_CASE("on a new question only line A is open, and no mark can be set") {
   BuilderDesk desk;
-  const frmQuestion& window = desk.OpenQuestion();
+  const QuestionBuilder& window = desk.OpenQuestion();
   CHECK(OpenLines(window) == "1000");
   CHECK(ArmedMarks(window) == "0000");
 }
 
 TEST_CASE("text on a line opens the next one and arms the line's own mark") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion();
+  QuestionBuilder& window = desk.OpenQuestion();
   const std::array<std::string, 4> open = {"1100", "1110", "1111", "1111"};
   const std::array<std::string, 4> armed = {"1000", "1100", "1110", "1111"};
   for (int line = 0; line < 4; ++line) {
-    Type(window.Text1[line], u"x");
+    Type(window.answers[line], u"x");
     CHECK(OpenLines(window) == open.at(static_cast<std::size_t>(line)));
     CHECK(ArmedMarks(window) == armed.at(static_cast<std::size_t>(line)));
   }
@@ -69,45 +69,45 @@ TEST_CASE("an emptied line closes the empty one behind it, and clears and disarm
   };
   for (const Case& c : cases) {
     BuilderDesk desk;
-    frmQuestion& window = desk.OpenQuestion();
+    QuestionBuilder& window = desk.OpenQuestion();
     Fill(window, c.lines);
-    window.Option1[c.emptied].Press();
-    CHECK(window.Option1[c.emptied].Selected());
-    Replace(window.Text1[c.emptied], u"");
+    window.marks[c.emptied].Press();
+    CHECK(window.marks[c.emptied].Selected());
+    Replace(window.answers[c.emptied], u"");
     CHECK(OpenLines(window) == c.open);
     CHECK(ArmedMarks(window) == c.armed);
-    CHECK_FALSE(window.Option1[c.emptied].Selected());
+    CHECK_FALSE(window.marks[c.emptied].Selected());
   }
 }
 
 TEST_CASE("line D, emptied where the user types, hands the focus to the line that opens it again") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion();
+  QuestionBuilder& window = desk.OpenQuestion();
   Fill(window, {u"a", u"b", u"c", u"d"});
-  window.Text1[3].SetFocus();
-  Replace(window.Text1[3], u"");
-  CHECK_FALSE(window.Text1[3].Enabled());
-  CHECK(window.FocusedControl() == &window.Text1[2]);
+  window.answers[3].SetFocus();
+  Replace(window.answers[3], u"");
+  CHECK_FALSE(window.answers[3].Enabled());
+  CHECK(window.FocusedControl() == &window.answers[2]);
 }
 
 TEST_CASE("a line emptied from elsewhere leaves the focus where it is") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion();
+  QuestionBuilder& window = desk.OpenQuestion();
   Fill(window, {u"a", u"b", u"c", u"d"});
-  window.Text2.SetFocus();
-  window.Text1[3].SetText(u"");
-  CHECK(window.FocusedControl() == &window.Text2);
+  window.question.SetFocus();
+  window.answers[3].SetText(u"");
+  CHECK(window.FocusedControl() == &window.question);
 }
 
 TEST_CASE("only a change of line C opens an emptied line D again") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion();
+  QuestionBuilder& window = desk.OpenQuestion();
   Fill(window, {u"a", u"b", u"c", u"d"});
-  Replace(window.Text1[3], u"");
-  Type(window.Text1[0], u"x");
-  Type(window.Text1[1], u"x");
+  Replace(window.answers[3], u"");
+  Type(window.answers[0], u"x");
+  Type(window.answers[1], u"x");
   CHECK(OpenLines(window) == "1110");
-  Type(window.Text1[2], u"x");
+  Type(window.answers[2], u"x");
   CHECK(OpenLines(window) == "1111");
 }
 
@@ -126,7 +126,7 @@ TEST_CASE("a loaded question opens its lines and the first empty one") {
   for (const Case& c : cases) {
     BuilderDesk desk;
     desk.AddChoice(u"question", c.choices, u"A");
-    const frmQuestion& window = desk.OpenQuestionOverTable();
+    const QuestionBuilder& window = desk.OpenQuestionOverTable();
     CHECK(OpenLines(window) == c.open);
     CHECK(ArmedMarks(window) == c.armed);
   }
@@ -137,12 +137,12 @@ TEST_CASE("a move leaves the lines as the arriving texts make them") {
   desk.AddChoice(u"1", {u"a", u"b", u"c", u"d"}, u"B");
   desk.AddChoice(u"2", {u"a"}, u"A");
   desk.AddTrueFalse(u"3", u"T");
-  frmQuestion& window = desk.OpenQuestionOverTable();
+  QuestionBuilder& window = desk.OpenQuestionOverTable();
   // The lines empty one by one: B and C still meet the old text behind them, D closes itself.
-  window.cmdMove[1].Press();
+  window.arrows[kNextCard].Press();
   CHECK(OpenLines(window) == "1110");
   CHECK(ArmedMarks(window) == "1110");
-  window.cmdMove[1].Press();
+  window.arrows[kNextCard].Press();
   CHECK(OpenLines(window) == "1010");
   CHECK(ArmedMarks(window) == "0110");
 }
@@ -150,57 +150,57 @@ TEST_CASE("a move leaves the lines as the arriving texts make them") {
 TEST_CASE("the cancel of a new question sets the lines as a load does") {
   BuilderDesk desk;
   desk.AddChoice(u"1", {u"a", u"b"}, u"B");
-  frmQuestion& window = desk.OpenQuestionOverTable();
-  window.Command2[kNewButton].Press();
+  QuestionBuilder& window = desk.OpenQuestionOverTable();
+  window.buttons[kNewButton].Press();
   CHECK(OpenLines(window) == "1000");
-  window.Command2[kCancelButton].Press();
+  window.buttons[kCancelButton].Press();
   CHECK(OpenLines(window) == "1110");
   CHECK(ArmedMarks(window) == "1100");
 }
 
 TEST_CASE("the marks are one group: setting one clears the others") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion();
+  QuestionBuilder& window = desk.OpenQuestion();
   Fill(window, {u"a", u"b"});
-  window.Option1[0].Press();
-  window.Option1[1].Press();
-  CHECK_FALSE(window.Option1[0].Selected());
-  CHECK(window.Option1[1].Selected());
+  window.marks[0].Press();
+  window.marks[1].Press();
+  CHECK_FALSE(window.marks[0].Selected());
+  CHECK(window.marks[1].Selected());
 }
 
 TEST_CASE("a mark on an empty line can't be set") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion();
+  QuestionBuilder& window = desk.OpenQuestion();
   Fill(window, {u"a"});
-  window.Option1[1].Press();
-  CHECK_FALSE(window.Option1[1].Selected());
+  window.marks[1].Press();
+  CHECK_FALSE(window.marks[1].Selected());
 }
 
 TEST_CASE(
     "the add button needs a question and a mark, but a line's change asks for the mark only") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion();
-  const Button& add = window.Command2[kAddButton];
-  Type(window.Text1[0], u"a");
+  QuestionBuilder& window = desk.OpenQuestion();
+  const Button& add = window.buttons[kAddButton];
+  Type(window.answers[0], u"a");
   CHECK_FALSE(add.Enabled());
-  window.Option1[0].Press();
+  window.marks[0].Press();
   CHECK(add.Enabled());  // line A has text: that is all the click of a mark asks for
-  Type(window.Text2, u"q");
+  Type(window.question, u"q");
   CHECK(add.Enabled());
-  Replace(window.Text2, u"");
+  Replace(window.question, u"");
   CHECK_FALSE(add.Enabled());
-  Type(window.Text1[0], u"b");
+  Type(window.answers[0], u"b");
   CHECK(add.Enabled());  // though the question is empty
 }
 
 TEST_CASE("the click of a mark asks for text on line A only") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion();
-  Type(window.Text2, u"q");
+  QuestionBuilder& window = desk.OpenQuestion();
+  Type(window.question, u"q");
   Fill(window, {u"a", u"b"});
-  Replace(window.Text1[0], u"");
-  window.Option1[1].Press();
-  CHECK_FALSE(window.Command2[kAddButton].Enabled());
+  Replace(window.answers[0], u"");
+  window.marks[1].Press();
+  CHECK_FALSE(window.buttons[kAddButton].Enabled());
 }
 
 TEST_CASE("a true or false question needs its text and a mark") {
@@ -214,99 +214,99 @@ TEST_CASE("a true or false question needs its text and a mark") {
                         {u"", false, false, false}};
   for (const Case& c : cases) {
     BuilderDesk desk;
-    frmQuestion& window = desk.OpenQuestion();
-    window.Option3[1].Press();
-    Type(window.Text2, Text(c.question));
-    if (c.marked) window.Option2[1].Press();
-    CHECK(window.Command2[kAddButton].Enabled() == c.add);
-    CHECK(window.Command2[kCancelButton].Enabled() == c.cancel);
+    QuestionBuilder& window = desk.OpenQuestion();
+    window.layouts[kTrueOrFalse].Press();
+    Type(window.question, Text(c.question));
+    if (c.marked) window.trueFalseMarks[kFalseMark].Press();
+    CHECK(window.buttons[kAddButton].Enabled() == c.add);
+    CHECK(window.buttons[kCancelButton].Enabled() == c.cancel);
   }
 }
 
 TEST_CASE("a cancel is offered for a question, text on line A, or a true or false mark") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion();
-  const Button& cancel = window.Command2[kCancelButton];
+  QuestionBuilder& window = desk.OpenQuestion();
+  const Button& cancel = window.buttons[kCancelButton];
   CHECK_FALSE(cancel.Enabled());
-  Type(window.Text1[0], u"a");
+  Type(window.answers[0], u"a");
   CHECK(cancel.Enabled());
-  Type(window.Text1[1], u"b");
-  Replace(window.Text1[0], u"");
+  Type(window.answers[1], u"b");
+  Replace(window.answers[0], u"");
   CHECK_FALSE(cancel.Enabled());  // line B does not count
-  Type(window.Text2, u"q");
+  Type(window.question, u"q");
   CHECK(cancel.Enabled());
 }
 
 TEST_CASE("the fifth capital of the run shortens the line that it is typed on") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion();
-  Type(window.Text1[0], u"aAbBCD");
-  CHECK(window.Text1[0].MaxLength() == 48);
-  Type(window.Text1[1], u"E");
-  CHECK(desk.state.CapitalCount == 5);
+  QuestionBuilder& window = desk.OpenQuestion();
+  Type(window.answers[0], u"aAbBCD");
+  CHECK(window.answers[0].MaxLength() == 48);
+  Type(window.answers[1], u"E");
+  CHECK(desk.state.building.capitalCount == 5);
   const std::array<int, 4> expected = {48, 40, 48, 48};
   for (int line = 0; line < 4; ++line) {
-    CHECK(window.Text1[line].MaxLength() == expected.at(static_cast<std::size_t>(line)));
+    CHECK(window.answers[line].MaxLength() == expected.at(static_cast<std::size_t>(line)));
   }
-  Type(window.Text1[0], u"F");
-  Type(window.Text1[0], u"g");
-  CHECK(window.Text1[0].MaxLength() == 48);
-  CHECK(window.Text1[1].MaxLength() == 40);
+  Type(window.answers[0], u"F");
+  Type(window.answers[0], u"g");
+  CHECK(window.answers[0].MaxLength() == 48);
+  CHECK(window.answers[1].MaxLength() == 40);
 }
 
 TEST_CASE("while the count stands at five every key shortens its line") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion();
-  Type(window.Text1[0], u"ABCDE");
-  Type(window.Text1[1], u"x");
-  Type(window.Text1[2], u"1");
-  CHECK(window.Text1[1].MaxLength() == 40);
-  CHECK(window.Text1[2].MaxLength() == 40);
-  CHECK(window.Text1[3].MaxLength() == 48);
+  QuestionBuilder& window = desk.OpenQuestion();
+  Type(window.answers[0], u"ABCDE");
+  Type(window.answers[1], u"x");
+  Type(window.answers[2], u"1");
+  CHECK(window.answers[1].MaxLength() == 40);
+  CHECK(window.answers[2].MaxLength() == 40);
+  CHECK(window.answers[3].MaxLength() == 48);
 }
 
 TEST_CASE("letters beyond A to Z are no capitals, and the question's keys do not count") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion();
-  Type(window.Text1[0], u"@[\u00C4\u00D6az09");
-  Type(window.Text2, u"CAPITALS");
-  CHECK(desk.state.CapitalCount == 0);
-  Type(window.Text1[0], u"AZ");
-  CHECK(desk.state.CapitalCount == 2);
+  QuestionBuilder& window = desk.OpenQuestion();
+  Type(window.answers[0], u"@[\u00C4\u00D6az09");
+  Type(window.question, u"CAPITALS");
+  CHECK(desk.state.building.capitalCount == 0);
+  Type(window.answers[0], u"AZ");
+  CHECK(desk.state.building.capitalCount == 2);
 }
 
 TEST_CASE("a shortened line keeps the text that is longer already") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion();
-  Type(window.Text1[0], Text(48, u'x'));
-  Type(window.Text1[0], u"ABCDE");
-  CHECK(window.Text1[0].TextOf() == Text(48, u'x'));
-  CHECK(window.Text1[0].MaxLength() == 40);
-  window.Text1[0].UserEdit({47, 1, u""});
-  CHECK(window.Text1[0].TextOf() == Text(47, u'x'));
-  Type(window.Text1[0], u"y");
-  CHECK(window.Text1[0].TextOf() == Text(47, u'x'));
+  QuestionBuilder& window = desk.OpenQuestion();
+  Type(window.answers[0], Text(48, u'x'));
+  Type(window.answers[0], u"ABCDE");
+  CHECK(window.answers[0].TextOf() == Text(48, u'x'));
+  CHECK(window.answers[0].MaxLength() == 40);
+  window.answers[0].UserEdit({47, 1, u""});
+  CHECK(window.answers[0].TextOf() == Text(47, u'x'));
+  Type(window.answers[0], u"y");
+  CHECK(window.answers[0].TextOf() == Text(47, u'x'));
 }
 
 TEST_CASE("the count and the shortened line outlive the builder") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion();
-  Type(window.Text1[0], u"ABCDE");
+  QuestionBuilder& window = desk.OpenQuestion();
+  Type(window.answers[0], u"ABCDE");
   window.UserClose();
   CHECK_FALSE(desk.question.IsLoaded());
   desk.OpenBuilder();
-  CHECK(desk.state.CapitalCount == 5);
-  CHECK(desk.question->Text1[0].MaxLength() == 40);
-  CHECK(desk.question->Text1[1].MaxLength() == 48);
+  CHECK(desk.state.building.capitalCount == 5);
+  CHECK(desk.question->answers[0].MaxLength() == 40);
+  CHECK(desk.question->answers[1].MaxLength() == 48);
 }
 
 TEST_CASE("the count of capitals stays at the most that it can hold") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion();
-  desk.state.CapitalCount = 32767;
-  Type(window.Text1[0], u"A");
-  CHECK(desk.state.CapitalCount == 32767);
-  CHECK(window.Text1[0].MaxLength() == 48);
+  QuestionBuilder& window = desk.OpenQuestion();
+  desk.state.building.capitalCount = 32767;
+  Type(window.answers[0], u"A");
+  CHECK(desk.state.building.capitalCount == 32767);
+  CHECK(window.answers[0].MaxLength() == 48);
 }
 
 TEST_CASE("a visit to a line takes the placeholder away, and nothing else") {
@@ -319,21 +319,21 @@ TEST_CASE("a visit to a line takes the placeholder away, and nothing else") {
                         {u"answer", u"answer"}};
   for (const Case& c : cases) {
     BuilderDesk desk;
-    frmQuestion& window = desk.OpenQuestion();
-    Type(window.Text1[0], Text(c.text));
-    window.UserFocus(window.Text2);
-    window.UserFocus(window.Text1[0]);
-    CHECK(window.Text1[0].TextOf() == c.after);
+    QuestionBuilder& window = desk.OpenQuestion();
+    Type(window.answers[0], Text(c.text));
+    window.UserFocus(window.question);
+    window.UserFocus(window.answers[0]);
+    CHECK(window.answers[0].TextOf() == c.after);
   }
 }
 
 TEST_CASE("an answer line is one line and takes 48 characters") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion();
-  Replace(window.Text1[0], u"first\r\nsecond");
-  CHECK(window.Text1[0].TextOf() == u"first");
-  Replace(window.Text1[0], Text(60, u'x'));
-  CHECK(window.Text1[0].TextOf() == Text(48, u'x'));
+  QuestionBuilder& window = desk.OpenQuestion();
+  Replace(window.answers[0], u"first\r\nsecond");
+  CHECK(window.answers[0].TextOf() == u"first");
+  Replace(window.answers[0], Text(60, u'x'));
+  CHECK(window.answers[0].TextOf() == Text(48, u'x'));
 }
 
 }  // namespace tessara::test

@@ -10,30 +10,32 @@ namespace tessara::test {
 
 /// A desk with the deck window and both builders, and the hand of the user at them.
 struct BuilderDesk : DeckDesk {
-  WindowSlot essaySlot{
-      windows, [this] { return std::make_unique<frmEssay>(app, Window<frmMain>(deckSlot)); }};
-  WindowSlot questionSlot{
-      windows, [this] { return std::make_unique<frmQuestion>(app, Window<frmMain>(deckSlot)); }};
-  Window<frmEssay> essay{essaySlot};
-  Window<frmQuestion> question{questionSlot};
+  WindowSlot<TextCardBuilder> essaySlot{
+      windows,
+      [this] { return std::make_unique<TextCardBuilder>(app, Window<DeckWindow>(deckSlot)); }};
+  WindowSlot<QuestionBuilder> questionSlot{
+      windows,
+      [this] { return std::make_unique<QuestionBuilder>(app, Window<DeckWindow>(deckSlot)); }};
+  Window<TextCardBuilder> essay{essaySlot};
+  Window<QuestionBuilder> question{questionSlot};
 
   /// The command of the deck window's file menu.
   void OpenBuilder() { tessara::OpenBuilder(app, deck, essay, question); }
 
   /// The text builder over cards "front 1", "back 1" and on.
-  frmEssay& OpenEssay(int cards = 0) {
+  TextCardBuilder& OpenEssay(int cards = 0) {
     OpenStandardDeck(cards);
     OpenBuilder();
     return essay.Loaded();
   }
   /// The question builder over the cards that OpenExtendedDeck makes.
-  frmQuestion& OpenQuestion(int cards = 0) {
+  QuestionBuilder& OpenQuestion(int cards = 0) {
     OpenExtendedDeck(cards);
     OpenBuilder();
     return question.Loaded();
   }
   /// The question builder over the cards that are in the table.
-  frmQuestion& OpenQuestionOverTable() {
+  QuestionBuilder& OpenQuestionOverTable() {
     Open(kExtendedDeck);
     OpenBuilder();
     return question.Loaded();
@@ -41,7 +43,7 @@ struct BuilderDesk : DeckDesk {
 
   void Answer(MessageAnswer answer) { fakes.messages.answers.push_back(answer); }
   std::vector<FakeMessages::Shown> TakeBoxes() { return fakes.messages.Take(); }
-  [[nodiscard]] Text Cell(int row, int column) const { return state.Cell(row, column); }
+  [[nodiscard]] Text Cell(int row, int column) const { return state.deck.Cell(row, column); }
 };
 
 /// One change that brings the box to the text.
@@ -77,19 +79,16 @@ struct ButtonsLook {
 };
 
 inline ButtonsLook LookOf(const ControlArray<Button, 4>& buttons, const MoveButtons& arrows) {
-  return {buttons[kNewButton].Enabled(),
-          buttons[kAddButton].Enabled(),
-          buttons[kCancelButton].Enabled(),
-          arrows[0].Enabled(),
-          arrows[1].Enabled(),
-          buttons[kAddButton].Caption(),
+  return {buttons[kNewButton].Enabled(),    buttons[kAddButton].Enabled(),
+          buttons[kCancelButton].Enabled(), arrows[kPreviousCard].Enabled(),
+          arrows[kNextCard].Enabled(),      buttons[kAddButton].Caption(),
           buttons[kCancelButton].Caption()};
 }
-inline ButtonsLook LookOf(const frmEssay& window) {
-  return LookOf(window.Command1, window.cmdMove);
+inline ButtonsLook LookOf(const TextCardBuilder& window) {
+  return LookOf(window.buttons, window.arrows);
 }
-inline ButtonsLook LookOf(const frmQuestion& window) {
-  return LookOf(window.Command2, window.cmdMove);
+inline ButtonsLook LookOf(const QuestionBuilder& window) {
+  return LookOf(window.buttons, window.arrows);
 }
 
 inline const Text kAdd = u"&Add to deck";

@@ -31,13 +31,13 @@ class BuilderModel {
   int capitals = 0;
 
   explicit BuilderModel(const BuilderDesk& desk)
-      : current(desk.state.CurrentCard),
-        count(desk.state.CardCount),
-        goTo(desk.deck->mnuGTP.Enabled()) {
+      : current(desk.state.deck.currentCard),
+        count(desk.state.deck.cardCount),
+        goTo(desk.deck->goToCard.Enabled()) {
     for (int row = 0; row < kRows; ++row) {
       At(row) = {};
       for (int column = 0; column < kColumns; ++column) Cell(row, column) = desk.Cell(row, column);
-      Present(row) = desk.state.CardPresent.At(row);
+      Present(row) = desk.state.deck.cardPresent.At(row);
     }
   }
 

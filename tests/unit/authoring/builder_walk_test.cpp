@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/utf8.h"
+#include "base/utf8.h"
 #include "tests/unit/authoring/essay_model.h"
 #include "tests/unit/authoring/question_model.h"
 
@@ -91,19 +91,21 @@ std::string Summary(const BuilderModel& model) {
 std::string Summary(BuilderDesk& desk, const ButtonsLook& look, const Text& number) {
   std::vector<Text> titles;
   for (const FakeMessages::Shown& box : desk.TakeBoxes()) titles.push_back(box.title);
-  CHECK_FALSE(desk.state.CardChanged);
-  return Summary(desk.state.CurrentCard, desk.state.CardCount,
-                 {desk.state.DeckChanged, desk.state.SaveOffered, desk.deck->mnuGTP.Enabled()},
-                 look, number, titles);
+  CHECK_FALSE(desk.state.building.fillingBoxes);
+  return Summary(
+      desk.state.deck.currentCard, desk.state.deck.cardCount,
+      {desk.state.deck.changed, desk.state.deck.saveOffered, desk.deck->goToCard.Enabled()}, look,
+      number, titles);
 }
 
 /// The first cell or flag that differs, or nothing.
 std::string Difference(const BuilderModel& model, const ProgramState& state) {
   for (int row = 0; row < kRows; ++row) {
     const auto at = static_cast<std::size_t>(row);
-    if (model.present.at(at) != state.CardPresent.At(row)) return "flag " + std::to_string(row);
+    if (model.present.at(at) != state.deck.cardPresent.At(row))
+      return "flag " + std::to_string(row);
     for (int column = 0; column < kColumns; ++column) {
-      if (model.rows.at(at).at(static_cast<std::size_t>(column)) == state.Cell(row, column))
+      if (model.rows.at(at).at(static_cast<std::size_t>(column)) == state.deck.Cell(row, column))
         continue;
       return "cell " + std::to_string(row) + ", " + std::to_string(column);
     }
@@ -138,7 +140,7 @@ void TakeAt(BuilderWindow& window, BuilderWindow::Buttons& buttons, const Step& 
             const TakeOwn& takeOwn) {
   switch (step.kind) {
     case Step::kMove:
-      return window.cmdMove[step.place % 2].Press();
+      return window.arrows[step.place % 2].Press();
     case Step::kNew:
       return buttons[kNewButton].Press();
     case Step::kAddCard:
@@ -167,9 +169,9 @@ struct EssayWalk {
     TakeIn(model, step, [&] { model.Write(step.place % 2, TextOf(step)); });
   }
   static void Take(const Step& step, BuilderDesk& desk) {
-    frmEssay& window = desk.essay.Loaded();
-    TakeAt(window, window.Command1, step,
-           [&] { Replace(window.Text1[step.place % 2], TextOf(step)); });
+    TextCardBuilder& window = desk.essay.Loaded();
+    TakeAt(window, window.buttons, step,
+           [&] { Replace(window.sides[step.place % 2], TextOf(step)); });
   }
   static const Text& TextOf(const Step& step) {
     return EssayModel::Texts()[step.text % EssayModel::Texts().size()].first;
@@ -177,9 +179,10 @@ struct EssayWalk {
 
   static bool IsOpen(const BuilderDesk& desk) { return desk.essay.IsLoaded(); }
   static std::string Seen(BuilderDesk& desk) {
-    const frmEssay& window = desk.essay.Loaded();
-    return Summary(desk, LookOf(window), window.Label2[2].Caption()) + " " +
-           ToUtf8(window.Text1[0].TextOf()) + "|" + ToUtf8(window.Text1[1].TextOf());
+    const TextCardBuilder& window = desk.essay.Loaded();
+    return Summary(desk, LookOf(window), window.number.Caption()) + " " +
+           ToUtf8(window.sides[kFrontSide].TextOf()) + "|" +
+           ToUtf8(window.sides[kBackSide].TextOf());
   }
   static std::string Expected(const EssayModel& model) {
     return Summary(model) + " " + ToUtf8(model.front) + "|" + ToUtf8(model.back);
@@ -200,8 +203,8 @@ struct QuestionWalk {
     TakeIn(model, step, [&] { TakeOwn(step, model); });
   }
   static void Take(const Step& step, BuilderDesk& desk) {
-    frmQuestion& window = desk.question.Loaded();
-    TakeAt(window, window.Command2, step, [&] { TakeOwn(step, window); });
+    QuestionBuilder& window = desk.question.Loaded();
+    TakeAt(window, window.buttons, step, [&] { TakeOwn(step, window); });
   }
   static void TakeOwn(const Step& step, QuestionModel& model) {
     const int line = step.place % 4;
@@ -221,22 +224,22 @@ struct QuestionWalk {
                                : model.WriteLine(line, TextOf(step));
     }
   }
-  static void TakeOwn(const Step& step, frmQuestion& window) {
+  static void TakeOwn(const Step& step, QuestionBuilder& window) {
     const int line = step.place % 4;
     switch (step.kind) {
       case Step::kKey:
-        return Type(window.Text1[line], Text(1, KeyOf(step)));
+        return Type(window.answers[line], Text(1, KeyOf(step)));
       case Step::kVisit:
-        window.UserFocus(window.Text2);
-        return window.UserFocus(window.Text1[line]);
+        window.UserFocus(window.question);
+        return window.UserFocus(window.answers[line]);
       case Step::kMark:
-        return window.Option1[line].Press();
+        return window.marks[line].Press();
       case Step::kTrueFalse:
-        return window.Option2[step.place % 2].Press();
+        return window.trueFalseMarks[step.place % 2].Press();
       case Step::kType:
-        return window.Option3[step.place % 2].Press();
+        return window.layouts[step.place % 2].Press();
       default:
-        return Replace(step.place == 4 ? window.Text2 : window.Text1[line], TextOf(step));
+        return Replace(step.place == 4 ? window.question : window.answers[line], TextOf(step));
     }
   }
   static const Text& TextOf(const Step& step) {
@@ -249,21 +252,23 @@ struct QuestionWalk {
 
   static bool IsOpen(const BuilderDesk& desk) { return desk.question.IsLoaded(); }
   static std::string Seen(BuilderDesk& desk) {
-    const frmQuestion& window = desk.question.Loaded();
-    std::string text = Summary(desk, LookOf(window), window.Label2[1].Caption());
-    text += "|" + ToUtf8(window.Text2.TextOf()) + " " + std::to_string(desk.state.CapitalCount);
+    const QuestionBuilder& window = desk.question.Loaded();
+    std::string text = Summary(desk, LookOf(window), window.number.Caption());
+    text += "|" + ToUtf8(window.question.TextOf()) + " " +
+            std::to_string(desk.state.building.capitalCount);
     for (int line = 0; line < 4; ++line) {
-      const TextBox& box = window.Text1[line];
+      const TextBox& box = window.answers[line];
       text += Line(box.TextOf(),
-                   {box.Enabled(), window.Option1[line].Enabled(), window.Option1[line].Selected()},
+                   {box.Enabled(), window.marks[line].Enabled(), window.marks[line].Selected()},
                    box.MaxLength());
     }
     for (int option = 0; option < 2; ++option) {
-      text += window.Option2[option].Selected() ? '1' : '0';
-      text += window.Option3[option].Selected() ? '1' : '0';
-      text += window.Option3[option].Enabled() ? '1' : '0';
+      text += window.trueFalseMarks[option].Selected() ? '1' : '0';
+      text += window.layouts[option].Selected() ? '1' : '0';
+      text += window.layouts[option].Enabled() ? '1' : '0';
     }
-    return text + (window.Frame1.Visible() ? "choice" : "") + (window.Frame2.Visible() ? "tf" : "");
+    return text + (window.choiceLayout.Visible() ? "choice" : "") +
+           (window.trueFalseLayout.Visible() ? "tf" : "");
   }
   static std::string Expected(const QuestionModel& model) {
     std::string text = Summary(model);

@@ -25,7 +25,7 @@ TEST_CASE("the deck's type decides which builder opens, at its size in the middl
     CHECK(builder.Top() == (9000 - c.height) / 2);
     CHECK(builder.Left() == (12000 - c.width) / 2);
     CHECK_FALSE(desk.deck->Visible());
-    CHECK_FALSE(desk.state.CardChanged);
+    CHECK_FALSE(desk.state.building.fillingBoxes);
   }
 }
 
@@ -46,11 +46,11 @@ TEST_CASE("the deck window is hidden for as long as a builder is open") {
 
 TEST_CASE("a builder opened again while it is open keeps the guard on") {
   BuilderDesk desk;
-  frmEssay& window = desk.OpenEssay(2);
+  TextCardBuilder& window = desk.OpenEssay(2);
   desk.OpenBuilder();
-  CHECK(desk.state.CardChanged);
-  Replace(window.Text1[0], u"other");
-  CHECK_FALSE(window.Command1[kAddButton].Enabled());
+  CHECK(desk.state.building.fillingBoxes);
+  Replace(window.sides[kFrontSide], u"other");
+  CHECK_FALSE(window.buttons[kAddButton].Enabled());
 }
 
 TEST_CASE("a click on a builder closes the About box") {
@@ -65,9 +65,9 @@ TEST_CASE("a click on a builder closes the About box") {
 
 TEST_CASE("the label of the card's number is read out with the number") {
   BuilderDesk essayDesk;
-  CHECK(essayDesk.OpenEssay().Label2[2].AccessibleName().empty());
+  CHECK(essayDesk.OpenEssay().number.AccessibleName().empty());
   BuilderDesk questionDesk;
-  CHECK(questionDesk.OpenQuestion().Label2[1].AccessibleName().empty());
+  CHECK(questionDesk.OpenQuestion().number.AccessibleName().empty());
 }
 
 }  // namespace tessara::test

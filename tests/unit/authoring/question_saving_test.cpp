@@ -14,16 +14,16 @@ struct Sheet {
   int mark = -1;
 };
 
-void FillIn(frmQuestion& window, const Sheet& sheet) {
-  Type(window.Text2, sheet.question);
+void FillIn(QuestionBuilder& window, const Sheet& sheet) {
+  Type(window.question, sheet.question);
   for (std::size_t at = 0; at < sheet.lines.size(); ++at) {
-    Replace(window.Text1[static_cast<int>(at)], sheet.lines[at]);
+    Replace(window.answers[static_cast<int>(at)], sheet.lines[at]);
   }
   if (sheet.trueFalse) {
-    window.Option3[1].Press();
-    window.Option2[sheet.mark].Press();
+    window.layouts[kTrueOrFalse].Press();
+    window.trueFalseMarks[sheet.mark].Press();
   } else {
-    window.Option1[sheet.mark].Press();
+    window.marks[sheet.mark].Press();
   }
 }
 
@@ -59,72 +59,72 @@ TEST_CASE("adding a question writes its row") {
   };
   for (const Case& c : cases) {
     BuilderDesk desk;
-    frmQuestion& window = desk.OpenQuestion();
+    QuestionBuilder& window = desk.OpenQuestion();
     FillIn(window, c.sheet);
-    window.Command2[kAddButton].Press();
+    window.buttons[kAddButton].Press();
     CHECK(Row(desk, 1) == c.row);
-    CHECK(desk.state.CardPresent.At(1) == 1);
-    CHECK(desk.state.CurrentCard == 1);
-    CHECK(desk.state.CardCount == 1);
-    CHECK(desk.state.DeckChanged);
-    CHECK(desk.state.SaveOffered);
+    CHECK(desk.state.deck.cardPresent.At(1) == 1);
+    CHECK(desk.state.deck.currentCard == 1);
+    CHECK(desk.state.deck.cardCount == 1);
+    CHECK(desk.state.deck.changed);
+    CHECK(desk.state.deck.saveOffered);
     CHECK(LookOf(window) == ButtonsLook{true, false, true, false, false, kChange, kDelete});
-    CHECK_FALSE(window.Option3[0].Enabled());
-    CHECK(window.Label2[1].Caption() == u"Card: 1");
+    CHECK_FALSE(window.layouts[kMultipleChoice].Enabled());
+    CHECK(window.number.Caption() == u"Card: 1");
     CHECK(desk.TakeBoxes().empty());
   }
 }
 
 TEST_CASE("a gap among the answer lines is a gap in the row") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion();
+  QuestionBuilder& window = desk.OpenQuestion();
   FillIn(window, {false, u"q", {u"a", u"b", u"c"}, 2});
-  Replace(window.Text1[1], u"");
-  window.Command2[kAddButton].Press();
+  Replace(window.answers[1], u"");
+  window.buttons[kAddButton].Press();
   CHECK(Row(desk, 1) == std::vector<Text>{u"", u"M", u"q", u"1", u"a", u"", u"c", u"", u"C", u""});
   CHECK(desk.TakeBoxes().empty());
 }
 
 TEST_CASE("a card added without a mark is stored without one and comes back with mark A") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion();
+  QuestionBuilder& window = desk.OpenQuestion();
   FillIn(window, {false, u"q", {u"a", u"b"}, 1});
-  window.Option3[1].Press();  // the add button stays on
-  window.Command2[kAddButton].Press();
+  window.layouts[kTrueOrFalse].Press();  // the add button stays on
+  window.buttons[kAddButton].Press();
   CHECK(desk.Cell(1, kCardType) == u"T");
   CHECK(desk.Cell(1, kAnswer).empty());
-  CHECK(window.Option1[0].Selected());
+  CHECK(window.marks[0].Selected());
 }
 
 TEST_CASE("a change of an older question keeps the count and the other state") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion(3);
-  window.cmdMove[1].Press();
-  Type(window.Text1[3], u"!");
-  desk.state.CardPresent.Set(2, 0);
-  window.Command2[kAddButton].Press();
+  QuestionBuilder& window = desk.OpenQuestion(3);
+  window.arrows[kNextCard].Press();
+  Type(window.answers[3], u"!");
+  desk.state.deck.cardPresent.Set(2, 0);
+  window.buttons[kAddButton].Press();
   CHECK(Row(desk, 2) == std::vector<Text>{u"", u"M", u"question 2", u"2", u"one", u"two", u"three",
                                           u"four!", u"B", u""});
-  CHECK(desk.state.CardPresent.At(2) == 1);
-  CHECK(desk.state.CardCount == 3);
-  CHECK(desk.state.CurrentCard == 2);
-  CHECK(desk.state.DeckChanged);
-  CHECK(desk.state.SaveOffered);
-  CHECK_FALSE(window.Command2[kAddButton].Enabled());
+  CHECK(desk.state.deck.cardPresent.At(2) == 1);
+  CHECK(desk.state.deck.cardCount == 3);
+  CHECK(desk.state.deck.currentCard == 2);
+  CHECK(desk.state.deck.changed);
+  CHECK(desk.state.deck.saveOffered);
+  CHECK_FALSE(window.buttons[kAddButton].Enabled());
 }
 
 TEST_CASE("the go-to command comes on with the second question") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion();
+  QuestionBuilder& window = desk.OpenQuestion();
   FillIn(window, {true, u"1", {}, 0});
-  window.Command2[kAddButton].Press();
-  CHECK_FALSE(desk.deck->mnuGTP.Enabled());
-  window.Command2[kNewButton].Press();
-  Type(window.Text2, u"2");
-  window.Option2[1].Press();
-  window.Command2[kAddButton].Press();
-  CHECK(desk.deck->mnuGTP.Enabled());
-  CHECK(desk.state.CardCount == 2);
+  window.buttons[kAddButton].Press();
+  CHECK_FALSE(desk.deck->goToCard.Enabled());
+  window.buttons[kNewButton].Press();
+  Type(window.question, u"2");
+  window.trueFalseMarks[kFalseMark].Press();
+  window.buttons[kAddButton].Press();
+  CHECK(desk.deck->goToCard.Enabled());
+  CHECK(desk.state.deck.cardCount == 2);
 }
 
 TEST_CASE("the placeholder on an answer line refuses the add and the change") {
@@ -141,46 +141,46 @@ TEST_CASE("the placeholder on an answer line refuses the add and the change") {
   };
   for (const Case& c : cases) {
     BuilderDesk desk;
-    frmQuestion& window = desk.OpenQuestion();
+    QuestionBuilder& window = desk.OpenQuestion();
     FillIn(window, {false, u"q", c.lines, 0});
-    window.Command2[kAddButton].Press();
+    window.buttons[kAddButton].Press();
     const bool refused = c.line != 0;
     CHECK(desk.TakeBoxes() == std::vector(refused ? 1 : 0, Refusal(c.line)));
-    CHECK(desk.state.CardCount == (refused ? 0 : 1));
-    CHECK(window.Command2[kAddButton].Enabled() == refused);
-    CHECK(window.Command2[kAddButton].Caption() == (refused ? kAdd : kChange));
-    CHECK(desk.state.DeckChanged == !refused);
+    CHECK(desk.state.deck.cardCount == (refused ? 0 : 1));
+    CHECK(window.buttons[kAddButton].Enabled() == refused);
+    CHECK(window.buttons[kAddButton].Caption() == (refused ? kAdd : kChange));
+    CHECK(desk.state.deck.changed == !refused);
   }
 }
 
 TEST_CASE("a refused change leaves the row as it was") {
   BuilderDesk desk;
   desk.AddChoice(u"q", {u"a", u"b"}, u"A");
-  frmQuestion& window = desk.OpenQuestionOverTable();
-  Replace(window.Text1[1], u"[TEXT MISSING HERE]");
-  window.Command2[kAddButton].Press();
+  QuestionBuilder& window = desk.OpenQuestionOverTable();
+  Replace(window.answers[1], u"[TEXT MISSING HERE]");
+  window.buttons[kAddButton].Press();
   CHECK(desk.TakeBoxes() == std::vector{Refusal(2)});
   CHECK(desk.Cell(1, kChoiceB) == u"b");
-  CHECK_FALSE(desk.state.SaveOffered);
-  CHECK(window.Command2[kAddButton].Enabled());
-  window.UserFocus(window.Text1[1]);
-  Type(window.Text1[1], u"c");
-  window.Command2[kAddButton].Press();
+  CHECK_FALSE(desk.state.deck.saveOffered);
+  CHECK(window.buttons[kAddButton].Enabled());
+  window.UserFocus(window.answers[1]);
+  Type(window.answers[1], u"c");
+  window.buttons[kAddButton].Press();
   CHECK(desk.Cell(1, kChoiceB) == u"c");
 }
 
 TEST_CASE("text on a closed line puts the placeholder on the line before and refuses") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion();
+  QuestionBuilder& window = desk.OpenQuestion();
   FillIn(window, {false, u"q", {u"a", u"b", u"c"}, 0});
-  Replace(window.Text1[1], u"");
-  window.Text1[2].SetEnabled(false);
-  window.Command2[kAddButton].Press();
+  Replace(window.answers[1], u"");
+  window.answers[2].SetEnabled(false);
+  window.buttons[kAddButton].Press();
   CHECK(desk.TakeBoxes() ==
         std::vector<FakeMessages::Shown>{{u"Answer line # 2 must have text.", 16,
                                           u"Error: Incomplete Question Builder Information!"}});
-  CHECK(window.Text1[1].TextOf() == u"[TEXT MISSING HERE]");
-  CHECK(desk.state.CardCount == 0);
+  CHECK(window.answers[1].TextOf() == u"[TEXT MISSING HERE]");
+  CHECK(desk.state.deck.cardCount == 0);
   CHECK(desk.Cell(1, kCardType).empty());
 }
 
@@ -193,11 +193,11 @@ TEST_CASE("the mark of the form follows the layout") {
                         {0, -1, 0, u"", u"T"}, {1, 3, -1, u"", u""},  {-1, 3, 1, u"", u"F"}};
   for (const Case& c : cases) {
     BuilderDesk desk;
-    frmQuestion& window = desk.OpenQuestion();
-    if (c.choice >= 0) window.Option1[c.choice].SetSelected(true);
-    if (c.trueFalse >= 0) window.Option2[c.trueFalse].SetSelected(true);
-    window.Option3[0].SetSelected(false);
-    if (c.layout >= 0) window.Option3[c.layout].SetSelected(true);
+    QuestionBuilder& window = desk.OpenQuestion();
+    if (c.choice >= 0) window.marks[c.choice].SetSelected(true);
+    if (c.trueFalse >= 0) window.trueFalseMarks[c.trueFalse].SetSelected(true);
+    window.layouts[kMultipleChoice].SetSelected(false);
+    if (c.layout >= 0) window.layouts[c.layout].SetSelected(true);
     Text mark = u"before";
     window.SelChoice(mark);
     CHECK(mark == c.mark);
@@ -211,24 +211,24 @@ TEST_CASE("the mark of the form follows the layout") {
 
 TEST_CASE("saving without a chosen type writes nothing, yet counts") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion();
-  window.Option3[0].SetSelected(false);
+  QuestionBuilder& window = desk.OpenQuestion();
+  window.layouts[kMultipleChoice].SetSelected(false);
   window.SaveTrueFalse();
-  CHECK(desk.state.CardCount == 0);
+  CHECK(desk.state.deck.cardCount == 0);
   window.SaveCard_Gen();
-  CHECK(desk.state.CardCount == 1);
+  CHECK(desk.state.deck.cardCount == 1);
   CHECK(desk.Cell(1, kCardType).empty());
 }
 
 TEST_CASE("closing the question builder without a change goes to the last card") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion(3);
-  window.Command2[kCloseButton].Press();
-  CHECK(desk.state.CurrentCard == 3);
-  CHECK(desk.deck->NoteletCtl1.CardText() == u"question 3");
-  CHECK(desk.deck->NoteletCtl1.CardNumber() == u"3");
-  CHECK(desk.deck->Label2.Caption() == u"TRUE");
-  CHECK(desk.deck->mnuPrint.Enabled());
+  QuestionBuilder& window = desk.OpenQuestion(3);
+  window.buttons[kCloseButton].Press();
+  CHECK(desk.state.deck.currentCard == 3);
+  CHECK(desk.deck->card.CardText() == u"question 3");
+  CHECK(desk.deck->card.CardNumber() == u"3");
+  CHECK(desk.deck->answer.Caption() == u"TRUE");
+  CHECK(desk.deck->printDeck.Enabled());
   CHECK(desk.deck->Visible());
   CHECK_FALSE(desk.question.IsLoaded());
   CHECK(desk.TakeBoxes().empty());
@@ -247,60 +247,60 @@ TEST_CASE("the close of a changed question saves on Yes and goes to the last car
                         {true, MessageAnswer::kNo, 3, 3, u"question 2"}};
   for (const Case& c : cases) {
     BuilderDesk desk;
-    frmQuestion& window = desk.OpenQuestion(3);
-    window.cmdMove[1].Press();
-    if (c.isNew) window.Command2[kNewButton].Press();
-    Replace(window.Text1[0], u"A & B");
-    window.Option1[0].Press();
-    Replace(window.Text2, u"edited");
+    QuestionBuilder& window = desk.OpenQuestion(3);
+    window.arrows[kNextCard].Press();
+    if (c.isNew) window.buttons[kNewButton].Press();
+    Replace(window.answers[0], u"A & B");
+    window.marks[0].Press();
+    Replace(window.question, u"edited");
     desk.Answer(c.answer);
-    window.Command2[kCloseButton].Press();
+    window.buttons[kCloseButton].Press();
     std::vector<FakeMessages::Shown> boxes = {
         {u"This card has been changed. Do you want to save these changes?", 4, u"Tessara"}};
     const bool saved = c.answer == MessageAnswer::kYes;
     if (saved) boxes.push_back({u"Changes Saved!", 0, u"Tessara"});
     CHECK(desk.TakeBoxes() == boxes);
-    CHECK(desk.state.CardCount == c.count);
-    CHECK(desk.state.CurrentCard == c.current);
-    CHECK(desk.state.DeckChanged == saved);
-    CHECK(desk.state.SaveOffered == saved);
+    CHECK(desk.state.deck.cardCount == c.count);
+    CHECK(desk.state.deck.currentCard == c.current);
+    CHECK(desk.state.deck.changed == saved);
+    CHECK(desk.state.deck.saveOffered == saved);
     CHECK(desk.Cell(2, kCardText) == c.question2);
-    CHECK(desk.deck->NoteletCtl1.CardTotal() == DecimalText(c.count));
-    CHECK(desk.deck->NoteletCtl1.CardText() == (saved ? u"edited" : u"question 3"));
-    CHECK(desk.deck->Label2.Caption() == (saved ? u"A && B" : u"TRUE"));
+    CHECK(desk.deck->card.CardTotal() == DecimalText(c.count));
+    CHECK(desk.deck->card.CardText() == (saved ? u"edited" : u"question 3"));
+    CHECK(desk.deck->answer.Caption() == (saved ? u"A && B" : u"TRUE"));
   }
 }
 
 TEST_CASE("a question saved at the close of a new deck is card 1, and not checked") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion();
-  desk.state.CurrentCard = 0;
+  QuestionBuilder& window = desk.OpenQuestion();
+  desk.state.deck.currentCard = 0;
   FillIn(window, {false, u"q", {u"[TEXT MISSING HERE]"}, 0});
   desk.Answer(MessageAnswer::kYes);
-  window.Command2[kCloseButton].Press();
-  CHECK(desk.state.CurrentCard == 1);
-  CHECK(desk.state.CardCount == 1);
+  window.buttons[kCloseButton].Press();
+  CHECK(desk.state.deck.currentCard == 1);
+  CHECK(desk.state.deck.cardCount == 1);
   CHECK(desk.Cell(1, kChoiceA) == u"[TEXT MISSING HERE]");
 }
 
 TEST_CASE("the question builder's close box drops what is on the form without a question") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion(2);
-  Type(window.Text2, u"!");
+  QuestionBuilder& window = desk.OpenQuestion(2);
+  Type(window.question, u"!");
   window.UserClose();
   CHECK(desk.TakeBoxes().empty());
   CHECK(desk.Cell(1, kCardText) == u"question 1");
   CHECK(desk.deck->Visible());
-  CHECK(desk.state.CurrentCard == 1);
+  CHECK(desk.state.deck.currentCard == 1);
 }
 
 TEST_CASE("a true or false question shows its word on the answer card, not the letter") {
   BuilderDesk desk;
-  frmQuestion& window = desk.OpenQuestion();
+  QuestionBuilder& window = desk.OpenQuestion();
   FillIn(window, {true, u"q", {}, 1});
-  window.Command2[kAddButton].Press();
-  window.Command2[kCloseButton].Press();
-  CHECK(desk.deck->Label2.Caption() == u"FALSE");
+  window.buttons[kAddButton].Press();
+  window.buttons[kCloseButton].Press();
+  CHECK(desk.deck->answer.Caption() == u"FALSE");
 }
 
 }  // namespace tessara::test

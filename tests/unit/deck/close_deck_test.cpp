@@ -1,6 +1,6 @@
 #include <doctest/doctest.h>
 
-#include "deck/deck_window.h"
+#include "deck/deck_life.h"
 #include "tests/unit/deck/two_files.h"
 
 namespace tessara::test {
@@ -8,22 +8,22 @@ namespace tessara::test {
 TEST_CASE("clearing empties the deck, its information and the window") {
   TwoFiles desk;
   desk.OpenFile(kA);
-  desk.state.TestPoints = 2;
+  desk.state.deck.testPoints = 2;
   desk.Clear();
   CHECK(desk.deck->Caption() == u"New Deck");
-  CHECK(desk.state.CardCount == 0);
-  CHECK_FALSE(desk.state.HasCards());
-  CHECK(desk.state.CardPresent.At(kInfoRow) == 0);
-  CHECK(desk.state.DeckTitle.empty());
-  CHECK(desk.state.TestPoints == 0);
-  CHECK(desk.deck->NoteletCtl1.CardText().empty());
-  CHECK(desk.deck->NoteletCtl1.CardTotal() == u"0");
-  CHECK(desk.deck->Label2.Caption().empty());
-  CHECK_FALSE(desk.deck->cmdMove[0].Enabled());
-  CHECK_FALSE(desk.deck->cmdMove[1].Enabled());
-  CHECK_FALSE(desk.deck->Command3[1].Enabled());
-  for (const MenuEntry* entry : {&desk.deck->mnuNCD, &desk.deck->mnuMode, &desk.deck->mnuGTP,
-                                 &desk.deck->mnuDelete, &desk.deck->mnuPrint}) {
+  CHECK(desk.state.deck.cardCount == 0);
+  CHECK_FALSE(desk.state.deck.HasCards());
+  CHECK(desk.state.deck.cardPresent.At(kInfoRow) == 0);
+  CHECK(desk.state.deck.title.empty());
+  CHECK(desk.state.deck.testPoints == 0);
+  CHECK(desk.deck->card.CardText().empty());
+  CHECK(desk.deck->card.CardTotal() == u"0");
+  CHECK(desk.deck->answer.Caption().empty());
+  CHECK_FALSE(desk.deck->arrows[kPreviousCard].Enabled());
+  CHECK_FALSE(desk.deck->arrows[kNextCard].Enabled());
+  CHECK_FALSE(desk.deck->flip.Enabled());
+  for (const MenuEntry* entry : {&desk.deck->clearDeck, &desk.deck->modeMenu, &desk.deck->goToCard,
+                                 &desk.deck->deleteCard, &desk.deck->printDeck}) {
     CHECK_FALSE(entry->Enabled());
   }
   CHECK(desk.File(kA) == DeckBytes(2));
@@ -32,17 +32,17 @@ TEST_CASE("clearing empties the deck, its information and the window") {
 TEST_CASE("a cleared deck has no card on show") {
   TwoFiles desk;
   desk.OpenFile(kA);
-  desk.state.CurrentCard = 2;
+  desk.state.deck.currentCard = 2;
   desk.Clear();
-  CHECK(desk.state.CurrentCard == 0);
+  CHECK(desk.state.deck.currentCard == 0);
 }
 
 TEST_CASE("making the deck anew leaves the card on show to the caller") {
   TwoFiles desk;
   desk.OpenFile(kA);
-  desk.state.CurrentCard = 2;
+  desk.state.deck.currentCard = 2;
   desk.deck->NewTessara();
-  CHECK(desk.state.CurrentCard == 2);
+  CHECK(desk.state.deck.currentCard == 2);
 }
 
 TEST_CASE("clearing a changed deck asks first and goes on whatever the answer") {
@@ -61,18 +61,18 @@ TEST_CASE("a new deck can be cleared again once the window finds cards in it") {
   TwoFiles desk;
   desk.OpenFile(kA);
   desk.Clear();
-  CHECK_FALSE(desk.deck->mnuNCD.Enabled());
+  CHECK_FALSE(desk.deck->clearDeck.Enabled());
   desk.BuildCard(u"front", u"");
   desk.deck->Hide();
   desk.deck->Show();
-  CHECK(desk.deck->mnuNCD.Enabled());
+  CHECK(desk.deck->clearDeck.Enabled());
 }
 
 TEST_CASE("an empty deck window closes without a question") {
   for (const auto close : {&LifeDesk::Exit, &LifeDesk::Close}) {
     LifeDesk desk;
     desk.NewDeck();
-    desk.state.DeckChanged = true;
+    desk.state.deck.changed = true;
     (desk.*close)();
     CHECK_FALSE(desk.deck.IsLoaded());
     CHECK(desk.TakeBoxes().empty());
@@ -86,18 +86,18 @@ TEST_CASE("a deck with cards closes after a Yes and stays after a No") {
     desk.Answer(MessageAnswer::kNo);
     (desk.*close)();
     CHECK(desk.deck.IsLoaded());
-    CHECK(desk.state.CardCount == 2);
+    CHECK(desk.state.deck.cardCount == 2);
     CHECK(desk.FlagsNow() == DeckFlags{kA, false, false, true});
     desk.Answer(MessageAnswer::kYes);
     (desk.*close)();
     CHECK_FALSE(desk.deck.IsLoaded());
     CHECK(desk.TakeBoxes() == Boxes{kSureBox, kSureBox});
     CHECK(desk.FlagsNow() == DeckFlags{});
-    CHECK(desk.state.CurrentCard == 0);
-    CHECK(desk.state.CardCount == 0);
-    CHECK(desk.state.TestPoints == 0);
-    CHECK(desk.state.DeckTitle.empty());
-    CHECK_FALSE(desk.state.HasCards());
+    CHECK(desk.state.deck.currentCard == 0);
+    CHECK(desk.state.deck.cardCount == 0);
+    CHECK(desk.state.deck.testPoints == 0);
+    CHECK(desk.state.deck.title.empty());
+    CHECK_FALSE(desk.state.deck.HasCards());
   }
 }
 
@@ -108,8 +108,8 @@ TEST_CASE("the close command asks about changes once and forgets them") {
   desk.Exit();
   CHECK(desk.TakeBoxes() == Boxes{kChangesBox, kSureBox});
   CHECK(desk.deck.IsLoaded());
-  CHECK_FALSE(desk.state.DeckChanged);
-  CHECK(desk.state.CardCount == 1);
+  CHECK_FALSE(desk.state.deck.changed);
+  CHECK(desk.state.deck.cardCount == 1);
 }
 
 TEST_CASE("the close button asks about changes, and a No keeps them flagged") {
@@ -119,7 +119,7 @@ TEST_CASE("the close button asks about changes, and a No keeps them flagged") {
   desk.Close();
   CHECK(desk.TakeBoxes() == Boxes{kChangesBox, kSureBox});
   CHECK_FALSE(desk.deck.IsLoaded());
-  CHECK(desk.state.DeckChanged);
+  CHECK(desk.state.deck.changed);
 }
 
 TEST_CASE("a flag left by the close button speaks up when the next deck gets a card") {
@@ -149,32 +149,32 @@ TEST_CASE("a save done while closing stands though the close is refused") {
 }
 
 TEST_CASE("outside study mode the close command asks about changes, refuses, and forgets them") {
-  for (const Mode mode : {kQuizMode, kTestMode}) {
+  for (const CardMode mode : {kQuizMode, kTestMode}) {
     ChangedDeck desk;
-    desk.state.CardMode = mode;
+    desk.state.deck.mode = mode;
     desk.Answer(MessageAnswer::kNo);
     desk.Exit();
     CHECK(desk.TakeBoxes() == Boxes{kChangesBox, kQuitBox});
     CHECK(desk.deck.IsLoaded());
-    CHECK_FALSE(desk.state.DeckChanged);
-    CHECK_FALSE(desk.state.SaveOffered);
-    CHECK(desk.state.CardCount == 1);
+    CHECK_FALSE(desk.state.deck.changed);
+    CHECK_FALSE(desk.state.deck.saveOffered);
+    CHECK(desk.state.deck.cardCount == 1);
   }
 }
 
 TEST_CASE("outside study mode the close button refuses at once and forgets nothing") {
   ChangedDeck desk;
-  desk.Run([&] { desk.deck->mnuQuiz_Click(); });
+  desk.Run([&] { desk.deck->EnterQuizMode(); });
   desk.Close();
   CHECK(desk.TakeBoxes() == Boxes{kQuitBox});
   CHECK(desk.deck.IsLoaded());
-  CHECK(desk.state.DeckChanged);
+  CHECK(desk.state.deck.changed);
 }
 
 TEST_CASE("the close command also closes the question builder") {
   for (const MessageAnswer answer : {MessageAnswer::kYes, MessageAnswer::kNo}) {
     TwoFiles desk;
-    WindowSlot builder(desk.windows, [&] {
+    WindowSlot<Form> builder(desk.windows, [&] {
       return std::make_unique<Form>(desk.windows, "frmQuestion", FormKind::kChild, u"");
     });
     builder.Instance().EnsureLoaded();
@@ -193,9 +193,9 @@ TEST_CASE("a closed deck window comes back empty") {
   desk.Exit();
   desk.NewDeck();
   CHECK(desk.deck->Caption() == u"New Deck");
-  CHECK(desk.deck->NoteletCtl1.CardText().empty());
-  CHECK_FALSE(desk.deck->mnuSaveAs.Enabled());
-  CHECK_FALSE(desk.deck->mnuNCD.Enabled());
+  CHECK(desk.deck->card.CardText().empty());
+  CHECK_FALSE(desk.deck->saveDeckAs.Enabled());
+  CHECK_FALSE(desk.deck->clearDeck.Enabled());
 }
 
 }  // namespace tessara::test

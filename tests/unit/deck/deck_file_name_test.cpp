@@ -18,11 +18,11 @@ TEST_CASE("a deck file is told by its last three characters") {
   };
   for (const Case& c : cases) {
     ProgramState state;
-    state.DeckFilePath = u"/decks/before.tsr";
+    state.deck.filePath = u"/decks/before.tsr";
     FakeMessages messages;
     CHECK(IsDeckFileName(Text(c.path), state, messages) == c.accepted);
     CHECK(messages.shown == (c.accepted ? Boxes{} : Boxes{kNotADeckBox}));
-    CHECK(state.DeckFilePath.empty() != c.accepted);
+    CHECK(state.deck.filePath.empty() != c.accepted);
   }
 }
 
@@ -59,12 +59,12 @@ TEST_CASE("the box names the deck that is open already") {
 
 TEST_CASE("a deck whose first card has no text is refused by the save") {
   ProgramState state;
-  state.CardCount = 3;
-  state.CardGrid.Set(2, kCardText, u"second");
+  state.deck.cardCount = 3;
+  state.deck.cardGrid.Set(2, kCardText, u"second");
   FakeMessages messages;
   CHECK(EmptyDeckRefused(state, messages));
   CHECK(messages.shown == Boxes{kEmptyDeckBox});
-  state.CardGrid.Set(1, kCardText, u"first");
+  state.deck.cardGrid.Set(1, kCardText, u"first");
   messages.shown.clear();
   CHECK_FALSE(EmptyDeckRefused(state, messages));
   CHECK(messages.shown.empty());

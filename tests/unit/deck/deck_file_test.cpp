@@ -34,13 +34,13 @@ ProgramState SampleDeck(int cards) {
 TEST_CASE("all 256 bytes of a text survive a load and a save") {
   const std::string every = EveryByte();
   ProgramState state = SampleDeck(1);
-  state.CardGrid.Set(1, kCardText, u"|" + kWestern.Decode(every) + u"|");
+  state.deck.cardGrid.Set(1, kCardText, u"|" + kWestern.Decode(every) + u"|");
   DeckDisk disk;
   const std::string bytes = disk.Write(state);
   CHECK(bytes.find("|" + every + "|") == kRecordSize + 1);
   ProgramState loaded;
   disk.Load(loaded);
-  CHECK(loaded.Cell(1, kCardText) == state.Cell(1, kCardText));
+  CHECK(loaded.deck.Cell(1, kCardText) == state.deck.Cell(1, kCardText));
   CHECK(disk.Write(loaded) == bytes);
 }
 
@@ -70,15 +70,15 @@ TEST_CASE("a table without an absent row is written down to row 202 and has no t
 
 TEST_CASE("a row counts as present for the writer when its flag is not 0") {
   ProgramState state = SampleDeck(1);
-  state.CardPresent.Set(1, -1);
+  state.deck.cardPresent.Set(1, -1);
   DeckDisk disk;
   CHECK(disk.Write(state)[kRecordSize] == 'E');
 }
 
 TEST_CASE("an absent row gives a terminator with what its cells hold") {
   ProgramState state = SampleDeck(0);
-  state.CardGrid.Set(1, kCardText, u"left over");
-  state.CardGrid.Set(1, kRowNumber, u"1");
+  state.deck.cardGrid.Set(1, kCardText, u"left over");
+  state.deck.cardGrid.Set(1, kRowNumber, u"1");
   const DeckRecord record = RecordOfRow(state, 1);
   CHECK(record.cardType == u"X");
   CHECK(record.number == 0);
@@ -87,7 +87,7 @@ TEST_CASE("an absent row gives a terminator with what its cells hold") {
 
 TEST_CASE("a row without a number is written as row 0") {
   ProgramState state = SampleDeck(1);
-  state.CardGrid.Set(1, kRowNumber, u"");
+  state.deck.cardGrid.Set(1, kRowNumber, u"");
   CHECK(RecordOfRow(state, 1).number == 0);
 }
 
@@ -97,8 +97,8 @@ TEST_CASE("records behind the terminator of a shorter deck stay in the file and 
   CHECK(disk.Write(SampleDeck(3)).size() == 12 * kRecordSize);
   ProgramState state;
   disk.Load(state);
-  CHECK(state.CardCount == 3);
-  CHECK(state.Cell(4, kCardText).empty());
+  CHECK(state.deck.cardCount == 3);
+  CHECK(state.deck.Cell(4, kCardText).empty());
 }
 
 TEST_CASE("a record that can't be written is skipped and the others are written") {
@@ -117,28 +117,28 @@ TEST_CASE("a record that can't be written is skipped and the others are written"
 
 TEST_CASE("a deck loads with its cards, its count and its strings, at card 1") {
   ProgramState saved = SampleDeck(3);
-  saved.CardGrid.Set(kInfoRow, kInfoDate, u" 1/5/2026");
-  saved.CardGrid.Set(kInfoRow, kInfoType, u" Standard");
-  saved.CardGrid.Set(kInfoRow, kInfoTitle, u" Capitals");
-  saved.CardGrid.Set(kInfoRow, kInfoAuthor, u" Me");
-  saved.CardGrid.Set(kInfoRow, kInfoDescription, u" All of them");
+  saved.deck.cardGrid.Set(kInfoRow, kInfoDate, u" 1/5/2026");
+  saved.deck.cardGrid.Set(kInfoRow, kInfoType, u" Standard");
+  saved.deck.cardGrid.Set(kInfoRow, kInfoTitle, u" Capitals");
+  saved.deck.cardGrid.Set(kInfoRow, kInfoAuthor, u" Me");
+  saved.deck.cardGrid.Set(kInfoRow, kInfoDescription, u" All of them");
   DeckDisk disk;
   (void)disk.Write(saved);
   ProgramState state;
   disk.Load(state);
-  CHECK(state.CardCount == 3);
-  CHECK(state.CurrentCard == 1);
-  CHECK(state.Cell(2, kCardType) == u"E");
-  CHECK(state.Cell(2, kCardText) == u"front 2");
-  CHECK(state.Cell(2, kRowNumber) == u"2");
-  CHECK(state.Cell(2, kBackText) == u"back 2");
-  CHECK(state.CardPresent.At(2) == 1);
-  CHECK(state.CardPresent.At(4) == 0);
-  CHECK(state.DeckDate == u"1/5/2026");
-  CHECK(state.DeckTypeName == u"Standard");
-  CHECK(state.DeckTitle == u"Capitals");
-  CHECK(state.DeckAuthor == u"Me");
-  CHECK(state.DeckDescription == u"All of them");
+  CHECK(state.deck.cardCount == 3);
+  CHECK(state.deck.currentCard == 1);
+  CHECK(state.deck.Cell(2, kCardType) == u"E");
+  CHECK(state.deck.Cell(2, kCardText) == u"front 2");
+  CHECK(state.deck.Cell(2, kRowNumber) == u"2");
+  CHECK(state.deck.Cell(2, kBackText) == u"back 2");
+  CHECK(state.deck.cardPresent.At(2) == 1);
+  CHECK(state.deck.cardPresent.At(4) == 0);
+  CHECK(state.deck.date == u"1/5/2026");
+  CHECK(state.deck.typeName == u"Standard");
+  CHECK(state.deck.title == u"Capitals");
+  CHECK(state.deck.author == u"Me");
+  CHECK(state.deck.description == u"All of them");
   CHECK_FALSE(disk.file.IsOpen());
 }
 
@@ -151,11 +151,11 @@ TEST_CASE("the fields of a question land in their columns") {
   record.answer = u"B";
   const RecordBytes bytes = EncodeRecord(record, kWestern);
   const ProgramState state = Loaded({bytes.data(), bytes.size()});
-  CHECK(state.Cell(1, kChoiceA) == u"a");
-  CHECK(state.Cell(1, kChoiceB) == u"b");
-  CHECK(state.Cell(1, kChoiceC) == u"c");
-  CHECK(state.Cell(1, kChoiceD) == u"d");
-  CHECK(state.Cell(1, kAnswer) == u"B");
+  CHECK(state.deck.Cell(1, kChoiceA) == u"a");
+  CHECK(state.deck.Cell(1, kChoiceB) == u"b");
+  CHECK(state.deck.Cell(1, kChoiceC) == u"c");
+  CHECK(state.deck.Cell(1, kChoiceD) == u"d");
+  CHECK(state.deck.Cell(1, kAnswer) == u"B");
 }
 
 TEST_CASE("a load removes the blanks at both ends and nothing else") {
@@ -174,13 +174,13 @@ TEST_CASE("a load removes the blanks at both ends and nothing else") {
   };
   for (const Case& c : cases) {
     ProgramState state = SampleDeck(1);
-    state.CardGrid.Set(1, kCardText, c.saved);
+    state.deck.cardGrid.Set(1, kCardText, c.saved);
     DeckDisk disk;
     (void)disk.Write(state);
-    CHECK(state.Cell(1, kCardText) == c.saved);
+    CHECK(state.deck.Cell(1, kCardText) == c.saved);
     ProgramState loaded;
     disk.Load(loaded);
-    CHECK(loaded.Cell(1, kCardText) == c.loaded);
+    CHECK(loaded.deck.Cell(1, kCardText) == c.loaded);
   }
 }
 
@@ -188,47 +188,47 @@ TEST_CASE("a file with 201 cards loads the first 200") {
   std::string bytes = RecordBytesOf(u"I", u"", 0);
   for (int row = 1; row <= 201; ++row) bytes += RecordBytesOf(u"E", u"x", row);
   const ProgramState state = Loaded(bytes);
-  CHECK(state.CardCount == 200);
-  CHECK(state.Cell(200, kCardText) == u"x");
-  CHECK(state.Cell(201, kCardText).empty());
+  CHECK(state.deck.cardCount == 200);
+  CHECK(state.deck.Cell(200, kCardText) == u"x");
+  CHECK(state.deck.Cell(201, kCardText).empty());
 }
 
 TEST_CASE("information behind the 200th card is not read any more") {
   std::string bytes;
   for (int row = 1; row <= 200; ++row) bytes += RecordBytesOf(u"E", u"x", row);
   const ProgramState state = Loaded(bytes + RecordBytesOf(u"I", u"late", 0));
-  CHECK(state.CardCount == 200);
-  CHECK(state.CardPresent.At(kInfoRow) == 0);
+  CHECK(state.deck.cardCount == 200);
+  CHECK(state.deck.cardPresent.At(kInfoRow) == 0);
 }
 
 TEST_CASE("a card lands in the row of its number wherever it stands in the file") {
   const ProgramState state =
       Loaded(RecordBytesOf(u"E", u"seven", 7) + RecordBytesOf(u"E", u"one", 1));
-  CHECK(state.Cell(7, kCardText) == u"seven");
-  CHECK(state.Cell(7, kRowNumber) == u"7");
-  CHECK(state.Cell(1, kCardText) == u"one");
-  CHECK(state.CardCount == 2);
+  CHECK(state.deck.Cell(7, kCardText) == u"seven");
+  CHECK(state.deck.Cell(7, kRowNumber) == u"7");
+  CHECK(state.deck.Cell(1, kCardText) == u"one");
+  CHECK(state.deck.cardCount == 2);
 }
 
 TEST_CASE("a row that the file names twice counts twice and holds the later one") {
   const ProgramState state =
       Loaded(RecordBytesOf(u"E", u"first", 1) + RecordBytesOf(u"E", u"second", 1));
-  CHECK(state.Cell(1, kCardText) == u"second");
-  CHECK(state.CardCount == 2);
+  CHECK(state.deck.Cell(1, kCardText) == u"second");
+  CHECK(state.deck.cardCount == 2);
 }
 
 TEST_CASE("a file that begins with the terminator loads as no cards at card 1") {
   const ProgramState state = Loaded(RecordBytesOf(u"X", u"", 0) + RecordBytesOf(u"E", u"x", 1));
-  CHECK(state.CardCount == 0);
-  CHECK(state.CurrentCard == 1);
-  CHECK_FALSE(state.HasCards());
+  CHECK(state.deck.cardCount == 0);
+  CHECK(state.deck.currentCard == 1);
+  CHECK_FALSE(state.deck.HasCards());
 }
 
 TEST_CASE("only a capital X ends a deck; any other letter is a card") {
   for (const char16_t letter : {u'x', u'Q', u' ', u'\0', u'\u00D7'}) {
     const ProgramState state = Loaded(RecordBytesOf(Text(1, letter), u"odd", 1));
-    CHECK(state.CardCount == 1);
-    CHECK(state.Cell(1, kCardText) == u"odd");
+    CHECK(state.deck.cardCount == 1);
+    CHECK(state.deck.Cell(1, kCardText) == u"odd");
   }
 }
 
@@ -236,10 +236,10 @@ TEST_CASE("a deck without an information record has empty strings") {
   DeckDisk disk;
   disk.files.Put(kSamplePath, RecordBytesOf(u"E", u"x", 1));
   ProgramState state;
-  state.DeckTitle = u"the deck before";
+  state.deck.title = u"the deck before";
   disk.Load(state);
-  CHECK(state.DeckTitle.empty());
-  CHECK(state.CardCount == 1);
+  CHECK(state.deck.title.empty());
+  CHECK(state.deck.cardCount == 1);
 }
 
 TEST_CASE("a load leaves rows alone that the file does not name") {
@@ -247,23 +247,23 @@ TEST_CASE("a load leaves rows alone that the file does not name") {
   disk.files.Put(kSamplePath, RecordBytesOf(u"E", u"x", 1));
   ProgramState state = SampleDeck(2);
   disk.Load(state);
-  CHECK(state.CardCount == 1);
-  CHECK(state.Cell(2, kCardText) == u"front 2");
+  CHECK(state.deck.cardCount == 1);
+  CHECK(state.deck.Cell(2, kCardText) == u"front 2");
 }
 
 TEST_CASE("a file without a terminator ends with its last record") {
-  CHECK(Loaded("").CardCount == 0);
-  CHECK(Loaded(RecordBytesOf(u"E", u"x", 1)).CardCount == 1);
+  CHECK(Loaded("").deck.cardCount == 0);
+  CHECK(Loaded(RecordBytesOf(u"E", u"x", 1)).deck.cardCount == 1);
 }
 
 TEST_CASE("a record that is cut off counts from its number on, with blanks for the rest") {
   const std::string card = RecordBytesOf(u"E", u"front", 1);
-  CHECK(Loaded(card.substr(0, 446)).CardCount == 0);
+  CHECK(Loaded(card.substr(0, 446)).deck.cardCount == 0);
   for (const std::size_t length : {447U, 448U, 747U, 1191U}) {
     const ProgramState state = Loaded(card.substr(0, length));
-    CHECK(state.CardCount == 1);
-    CHECK(state.Cell(1, kCardText) == u"front");
-    CHECK(state.Cell(1, kBackText).empty());
+    CHECK(state.deck.cardCount == 1);
+    CHECK(state.deck.Cell(1, kCardText) == u"front");
+    CHECK(state.deck.Cell(1, kBackText).empty());
   }
 }
 
@@ -271,7 +271,7 @@ TEST_CASE("a number outside the table is a subscript error") {
   for (const int number : {-32768, -1, 203, 32767}) {
     CHECK(ErrorOf([&] { (void)Loaded(RecordBytesOf(u"E", u"x", number)); }) == 9);
   }
-  CHECK(Loaded(RecordBytesOf(u"E", u"x", 202)).Cell(202, kCardText) == u"x");
+  CHECK(Loaded(RecordBytesOf(u"E", u"x", 202)).deck.Cell(202, kCardText) == u"x");
 }
 
 TEST_CASE("the errors of the file reach the caller of a load") {
@@ -300,15 +300,15 @@ void CheckDamaged(const std::string& bytes) {
     CHECK(error.Number() == ErrorNumber::kSubscriptOutOfRange);
     return;
   }
-  CHECK(state.CardCount >= 0);
-  CHECK(state.CardCount <= kMostCards);
-  CHECK(state.CurrentCard == 1);
+  CHECK(state.deck.cardCount >= 0);
+  CHECK(state.deck.cardCount <= kMostCards);
+  CHECK(state.deck.currentCard == 1);
   DeckDisk disk;
   const std::string rewritten = disk.Write(state);
   CHECK(rewritten.size() % kRecordSize == 0);
   ProgramState again;
   disk.Load(again);
-  CHECK(again.CardCount <= state.CardCount);
+  CHECK(again.deck.cardCount <= state.deck.cardCount);
 }
 
 std::string WrittenDeck(int cards) {
@@ -338,7 +338,7 @@ TEST_CASE("a deck cut off anywhere loads what stands before the cut") {
     const std::size_t numberEnd = 447;
     const bool first = length >= kRecordSize + numberEnd;
     const bool second = length >= 2 * kRecordSize + numberEnd;
-    CHECK(state.CardCount == (first ? 1 : 0) + (second ? 1 : 0));
+    CHECK(state.deck.cardCount == (first ? 1 : 0) + (second ? 1 : 0));
   }
 }
 

@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-#include "platform/utf8.h"
+#include "base/utf8.h"
 #include "tests/support/life_desk.h"
 
 namespace tessara::test {

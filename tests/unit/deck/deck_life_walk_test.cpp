@@ -2,7 +2,7 @@
 #include <doctest/doctest.h>
 #include <random>
 
-#include "platform/utf8.h"
+#include "base/utf8.h"
 #include "tests/support/life_program.h"
 #include "tests/unit/deck/deck_life_model.h"
 
@@ -67,12 +67,12 @@ class Walk {
     differences_.clear();
     Expect(desk_.TakeBoxes() == std::exchange(model_.boxes, {}), "boxes");
     Expect(desk_.program.Windows().ExitStatus().has_value() == model_.ended, "end");
-    Expect(state.DeckFilePath == model_.path, "path");
-    Expect(state.DeckChanged == model_.changed, "changed");
-    Expect(state.SaveOffered == model_.offered, "save offered");
-    Expect(state.DeckOnFile == model_.onFile, "on file");
-    Expect(state.CardCount == model_.count, "count");
-    Expect(state.CurrentCard == model_.current, "card on show");
+    Expect(state.deck.filePath == model_.path, "path");
+    Expect(state.deck.changed == model_.changed, "changed");
+    Expect(state.deck.saveOffered == model_.offered, "save offered");
+    Expect(state.deck.onFile == model_.onFile, "on file");
+    Expect(state.deck.cardCount == model_.count, "count");
+    Expect(state.deck.currentCard == model_.current, "card on show");
     // A frame that ends leaves windows that were loaded meanwhile: by a save, by its own question.
     if (!model_.ended) {
       Expect(desk_.deck.IsLoaded() == model_.window, "deck window");
@@ -162,7 +162,7 @@ class Walk {
     if (command % 4 == 1) return OpenFromFrame();
     const bool extended = command % 4 == 2;
     model_.Reopen(extended);
-    (extended ? desk_.Frame().mnuExtTessara : desk_.Frame().mnuStdTessara).Press();
+    (extended ? desk_.Frame().newExtendedDeck : desk_.Frame().newStandardDeck).Press();
     return extended ? "new extended" : "new standard";
   }
 
@@ -170,7 +170,7 @@ class Walk {
     model_.dialogs.push_front(NameToOpen());
     Tell();
     model_.OpenFromFrame();
-    desk_.Frame().mnuOPenExisting.Press();
+    desk_.Frame().openExistingDeck.Press();
     return "open from the frame";
   }
 
@@ -179,7 +179,7 @@ class Walk {
     model_.dialogs.push_front(text.path);
     Tell();
     model_.Import(text.cards);
-    desk_.Frame().mnuImportFile.Press();
+    desk_.Frame().importTextFile.Press();
     return "import";
   }
 
@@ -193,7 +193,7 @@ class Walk {
   std::string InQuiz() {
     if (Roll(2) == 0) return Leave();
     model_.Study();
-    desk_.Run([this] { desk_.deck->mnuStudy_Click(); });
+    desk_.Run([this] { desk_.deck->EnterStudyMode(); });
     return "study";
   }
 
@@ -215,14 +215,14 @@ class Walk {
     if (!model_.Consistent() || !onCard) return "nothing";
     Tell();
     model_.Delete();
-    desk_.Run([this] { desk_.deck->mnuDelete_Click(); });
+    desk_.Run([this] { desk_.deck->DeleteCard(); });
     return "delete";
   }
 
   std::string Clear() {
     Tell();
     model_.Clear();
-    desk_.Run([this] { desk_.deck->mnuNCD_Click(); });
+    desk_.Run([this] { desk_.deck->ClearDeck(); });
     return "clear";
   }
 
@@ -230,21 +230,21 @@ class Walk {
     model_.dialogs.push_front(NameToOpen());
     Tell();
     model_.Open();
-    desk_.Run([this] { desk_.deck->mnuOCD_Click(); });
+    desk_.Run([this] { desk_.deck->OpenDeck(); });
     return "open";
   }
 
   std::string Save() {
     Tell();
     model_.Save();
-    desk_.Run([this] { desk_.deck->mnuSave_Click(); });
+    desk_.Run([this] { desk_.deck->SaveDeck(); });
     return "save";
   }
 
   std::string SaveAs() {
     Tell();
     model_.SaveAs();
-    desk_.Run([this] { desk_.deck->mnuSaveAs_Click(); });
+    desk_.Run([this] { desk_.deck->SaveDeckAs(); });
     return "save as";
   }
 
@@ -255,18 +255,18 @@ class Walk {
     Tell();
     if (way % 2 == 0) {
       model_.Exit();
-      desk_.Run([this] { desk_.deck->mnuExit_Click(); });
+      desk_.Run([this] { desk_.deck->CloseTessara(); });
       return "exit";
     }
     model_.Close();
-    desk_.Run([this] { desk_.deck->Command3_Click(2); });
+    desk_.Run([this] { desk_.deck->Unload(); });
     return "close";
   }
 
   std::string Quiz() {
     if (!model_.HasCards()) return "nothing";
     model_.Quiz();
-    desk_.Run([this] { desk_.deck->mnuQuiz_Click(); });
+    desk_.Run([this] { desk_.deck->EnterQuizMode(); });
     return "quiz";
   }
 
@@ -274,18 +274,18 @@ class Walk {
     const Text typed = Roll(3) == 0 ? u"" : u"title " + DecimalText(Roll(100));
     if (model_.info && model_.info->title == typed) return "nothing";
     model_.EditTitle(typed);
-    desk_.Run([this] { desk_.deck->mnuCDI_Click(); });
-    TextBox& box = desk_.info->Text1[0];
+    desk_.Run([this] { desk_.deck->ShowDeckInfo(); });
+    TextBox& box = desk_.info->fields[kTitleField];
     box.UserEdit({0, box.TextOf().size(), typed});
-    desk_.info->Command1[1].Press();
-    desk_.info->Command1[0].Press();
+    desk_.info->save.Press();
+    desk_.info->close.Press();
     return "edit title";
   }
 
   std::string CloseInfo() {
     if (!model_.info) return "nothing";
     model_.CloseInfo();
-    desk_.info->Command1[0].Press();
+    desk_.info->close.Press();
     return "close information";
   }
 
@@ -295,10 +295,10 @@ class Walk {
 
   void CompareStrings() {
     const ProgramState& state = desk_.state;
-    Expect(state.DeckDate == model_.strings.date, "date");
-    Expect(state.DeckTitle == model_.strings.title, "title");
-    Expect(state.DeckAuthor == model_.strings.author, "author");
-    Expect(state.DeckDescription == model_.strings.description, "description");
+    Expect(state.deck.date == model_.strings.date, "date");
+    Expect(state.deck.title == model_.strings.title, "title");
+    Expect(state.deck.author == model_.strings.author, "author");
+    Expect(state.deck.description == model_.strings.description, "description");
   }
 
   void CompareCards() {
@@ -306,10 +306,10 @@ class Walk {
       const auto at = static_cast<std::size_t>(row) - 1;
       const bool there = at < model_.cards.size();
       const auto card = there ? model_.cards[at] : DeckLifeModel::Card{};
-      Expect(desk_.state.Cell(row, kCardText) == card.front &&
-                 desk_.state.Cell(row, kBackText) == card.back &&
-                 (desk_.state.Cell(row, kAnswer) == u"T") == card.question &&
-                 (desk_.state.CardPresent.At(row) != 0) == there,
+      Expect(desk_.state.deck.Cell(row, kCardText) == card.front &&
+                 desk_.state.deck.Cell(row, kBackText) == card.back &&
+                 (desk_.state.deck.Cell(row, kAnswer) == u"T") == card.question &&
+                 (desk_.state.deck.cardPresent.At(row) != 0) == there,
              "row " + std::to_string(row));
     }
   }

@@ -3,7 +3,7 @@
 #include <array>
 #include <doctest/doctest.h>
 
-#include "platform/utf8.h"
+#include "base/utf8.h"
 #include "tests/support/error_of.h"
 #include "tests/support/sample_deck.h"
 

@@ -20,12 +20,12 @@ TEST_CASE("the arrows are on where there is a card to go to") {
     CAPTURE(c.current);
     CAPTURE(c.count);
     ProgramState state;
-    state.CurrentCard = c.current;
-    state.CardCount = c.count;
-    MoveButtons arrows;
+    state.deck.currentCard = c.current;
+    state.deck.cardCount = c.count;
+    MoveButtons arrows{"cmdMove"};
     SetMoveButtons(arrows, state);
-    CHECK(arrows[0].Enabled() == c.back);
-    CHECK(arrows[1].Enabled() == c.on);
+    CHECK(arrows[kPreviousCard].Enabled() == c.back);
+    CHECK(arrows[kNextCard].Enabled() == c.on);
   }
 }
 

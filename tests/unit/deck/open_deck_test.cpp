@@ -1,6 +1,6 @@
 #include <doctest/doctest.h>
 
-#include "deck/deck_window.h"
+#include "deck/deck_life.h"
 #include "tests/unit/deck/two_files.h"
 
 namespace tessara::test {
@@ -9,21 +9,21 @@ TEST_CASE("opening shows the deck of the file on its first card") {
   TwoFiles desk;
   desk.OpenFile(kB);
   CHECK(desk.deck->Caption() == u"b  [STUDY]");
-  CHECK(desk.state.CardCount == 3);
-  CHECK(desk.state.CurrentCard == 1);
-  CHECK(desk.state.DeckType == kStandardDeck);
-  CHECK(desk.state.CardMode == kStudyMode);
-  CHECK(desk.deck->NoteletCtl1.CardText() == u"front 1");
-  CHECK(desk.deck->NoteletCtl1.CardNumber() == u"1");
-  CHECK(desk.deck->NoteletCtl1.CardTotal() == u"3");
-  CHECK(desk.deck->NoteletCtl1.FrontLines());
-  CHECK(desk.deck->NoteletCtl1.FrontRule());
-  CHECK_FALSE(desk.deck->cmdMove[0].Enabled());
-  CHECK(desk.deck->cmdMove[1].Enabled());
-  CHECK(desk.deck->mnuPrint.Enabled());
-  CHECK(desk.deck->mnuNCD.Enabled());
-  CHECK(desk.deck->mnuSaveAs.Enabled());
-  CHECK_FALSE(desk.deck->mnuSave.Enabled());
+  CHECK(desk.state.deck.cardCount == 3);
+  CHECK(desk.state.deck.currentCard == 1);
+  CHECK(desk.state.deck.kind == kStandardDeck);
+  CHECK(desk.state.deck.mode == kStudyMode);
+  CHECK(desk.deck->card.CardText() == u"front 1");
+  CHECK(desk.deck->card.CardNumber() == u"1");
+  CHECK(desk.deck->card.CardTotal() == u"3");
+  CHECK(desk.deck->card.FrontLines());
+  CHECK(desk.deck->card.FrontRule());
+  CHECK_FALSE(desk.deck->arrows[kPreviousCard].Enabled());
+  CHECK(desk.deck->arrows[kNextCard].Enabled());
+  CHECK(desk.deck->printDeck.Enabled());
+  CHECK(desk.deck->clearDeck.Enabled());
+  CHECK(desk.deck->saveDeckAs.Enabled());
+  CHECK_FALSE(desk.deck->saveDeck.Enabled());
   CHECK(desk.TakeBoxes().empty());
 }
 
@@ -34,9 +34,9 @@ TEST_CASE("opening a deck of questions shows the answer card") {
                          InfoBytes({}) + RecordText(letter, u"question", 1, {}, u"") + EndBytes());
     desk.NewDeck();
     desk.OpenFile(kA);
-    CHECK(desk.state.DeckType == kExtendedDeck);
-    CHECK(desk.deck->Command3[1].Caption() == u"&Hide Answer");
-    CHECK(desk.deck->NoteletCtl1.CardText() == u"question");
+    CHECK(desk.state.deck.kind == kExtendedDeck);
+    CHECK(desk.deck->flip.Caption() == u"&Hide Answer");
+    CHECK(desk.deck->card.CardText() == u"question");
     desk.Clear();
   }
 }
@@ -57,9 +57,9 @@ TEST_CASE("an opening that was cancelled leaves the deck on show without a path"
     TwoFiles desk;
     desk.OpenFile(kA);
     desk.OpenFile(Text(answer));
-    CHECK(desk.state.DeckFilePath == answer);
+    CHECK(desk.state.deck.filePath == answer);
     CHECK(desk.deck->Caption() == u"a  [STUDY]");
-    CHECK(desk.state.CardCount == 2);
+    CHECK(desk.state.deck.cardCount == 2);
     CHECK(desk.TakeBoxes().empty());
   }
 }
@@ -82,7 +82,7 @@ TEST_CASE("a file of another extension is refused and leaves the deck without a 
     desk.OpenFile(kA);
     desk.OpenFile(Text(path));
     CHECK(desk.TakeBoxes() == Boxes{kNotADeckBox});
-    CHECK(desk.state.DeckFilePath.empty());
+    CHECK(desk.state.deck.filePath.empty());
     CHECK(desk.deck->Caption() == u"a  [STUDY]");
   }
 }
@@ -93,9 +93,9 @@ TEST_CASE("a deck of the same name is open already, and the path is kept") {
   desk.BuildCard(u"more", u"");
   desk.OpenFile(u"/elsewhere/a.tsr");
   CHECK(desk.TakeBoxes() == Boxes{{u"a Tessara is already open", 64, u"Open Existing Tessara"}});
-  CHECK(desk.state.DeckFilePath == u"/elsewhere/a.tsr");
-  CHECK(desk.state.CardCount == 3);
-  CHECK(desk.state.DeckChanged);
+  CHECK(desk.state.deck.filePath == u"/elsewhere/a.tsr");
+  CHECK(desk.state.deck.cardCount == 3);
+  CHECK(desk.state.deck.changed);
 }
 
 TEST_CASE("a Yes to saving while another deck is opened writes the old deck over the chosen file") {
@@ -110,7 +110,7 @@ TEST_CASE("a Yes to saving while another deck is opened writes the old deck over
                                                  CardBytes(2, u"front 2", u"back 2") +
                                                  CardBytes(3, u"more", u"of it") + EndBytes());
   CHECK(desk.deck->Caption() == u"b  [STUDY]");
-  CHECK(desk.state.Cell(3, kCardText) == u"more");
+  CHECK(desk.state.deck.Cell(3, kCardText) == u"more");
   CHECK(desk.FlagsNow() == DeckFlags{kB, false, false, true});
 }
 
@@ -129,22 +129,22 @@ TEST_CASE("a shorter deck leaves nothing of the longer one before it") {
   TwoFiles desk;
   desk.OpenFile(kB);
   desk.OpenFile(kA);
-  CHECK(desk.state.CardCount == 2);
-  CHECK(desk.state.Cell(3, kCardText).empty());
-  CHECK(desk.state.CardPresent.At(3) == 0);
+  CHECK(desk.state.deck.cardCount == 2);
+  CHECK(desk.state.deck.Cell(3, kCardText).empty());
+  CHECK(desk.state.deck.cardPresent.At(3) == 0);
 }
 
 TEST_CASE("a deck of unknown letter leaves the window and the deck's type as they were") {
   LifeDesk desk;
   desk.fakes.files.Put(kA, InfoBytes({}) + RecordText('Q', u"odd", 1, {}, u"") + EndBytes());
   desk.NewDeck();
-  desk.deck->Command3[1].SetCaption(u"&Show Front");
-  desk.state.DeckType = kStandardDeck;
+  desk.deck->flip.SetCaption(u"&Show Front");
+  desk.state.deck.kind = kStandardDeck;
   desk.OpenFile(kA);
-  CHECK(desk.state.DeckType == kStandardDeck);
-  CHECK(desk.deck->Command3[1].Caption() == u"&Show Front");
+  CHECK(desk.state.deck.kind == kStandardDeck);
+  CHECK(desk.deck->flip.Caption() == u"&Show Front");
   CHECK(desk.deck->Caption() == u"a  [STUDY]");
-  CHECK(desk.state.DeckOnFile);
+  CHECK(desk.state.deck.onFile);
 }
 
 TEST_CASE("opening a file without cards offers neither to clear nor to save it") {
@@ -152,11 +152,11 @@ TEST_CASE("opening a file without cards offers neither to clear nor to save it")
   desk.fakes.files.Put(kA, InfoBytes({}) + EndBytes());
   desk.NewDeck();
   desk.OpenFile(kA);
-  CHECK(desk.state.CardCount == 0);
-  CHECK(desk.state.CurrentCard == 1);
-  CHECK_FALSE(desk.deck->mnuNCD.Enabled());
-  CHECK_FALSE(desk.deck->mnuSaveAs.Enabled());
-  CHECK(desk.deck->mnuPrint.Enabled());
+  CHECK(desk.state.deck.cardCount == 0);
+  CHECK(desk.state.deck.currentCard == 1);
+  CHECK_FALSE(desk.deck->clearDeck.Enabled());
+  CHECK_FALSE(desk.deck->saveDeckAs.Enabled());
+  CHECK(desk.deck->printDeck.Enabled());
 }
 
 TEST_CASE("a file that can't be read ends the program with the error's number") {

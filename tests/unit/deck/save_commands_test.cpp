@@ -1,6 +1,6 @@
 #include <doctest/doctest.h>
 
-#include "deck/deck_window.h"
+#include "deck/deck_life.h"
 #include "tests/unit/deck/two_files.h"
 
 namespace tessara::test {
@@ -64,7 +64,7 @@ TEST_CASE("a save under a name deletes the target first only if the deck is on f
   for (const bool onFile : {false, true}) {
     LifeDesk desk;
     desk.BuildDeck(1);
-    desk.state.DeckOnFile = onFile;
+    desk.state.deck.onFile = onFile;
     desk.PutDeck(kB, 9);
     desk.SaveAs(kB);
     CHECK(desk.File(kB).size() == (onFile ? 3 : 11) * kRecordSize);
@@ -76,10 +76,10 @@ TEST_CASE("a save leaves the save command as it is until the window comes to the
   desk.OpenFile(kA);
   desk.DeleteCard();
   desk.Save();
-  CHECK(desk.deck->mnuSave.Enabled());
-  desk.info->Command1[0].Press();
+  CHECK(desk.deck->saveDeck.Enabled());
+  desk.info->close.Press();
   CHECK(desk.windows.ActiveForm() == &desk.deck.Loaded());
-  CHECK_FALSE(desk.deck->mnuSave.Enabled());
+  CHECK_FALSE(desk.deck->saveDeck.Enabled());
 }
 
 // The question about unsaved changes.
@@ -98,11 +98,11 @@ TEST_CASE("unsaved changes are asked about only where there are cards and change
     desk.NewDeck();
     if (c.cards) desk.AddTextCard(u"front", u"");
     if (!c.cards) desk.AddTextCard(u"", u"back");
-    desk.state.DeckChanged = c.changed;
+    desk.state.deck.changed = c.changed;
     desk.Answer(MessageAnswer::kNo);
     desk.CheckSave();
     CHECK(desk.TakeBoxes() == (c.asks ? Boxes{kChangesBox} : Boxes{}));
-    CHECK(desk.state.DeckChanged == c.changed);
+    CHECK(desk.state.deck.changed == c.changed);
   }
 }
 
@@ -110,7 +110,7 @@ TEST_CASE("a Yes saves to the deck's file, or asks for one, and the deck is unch
   for (const bool hasPath : {false, true}) {
     LifeDesk desk;
     desk.BuildDeck(1);
-    if (hasPath) desk.state.DeckFilePath = kA;
+    if (hasPath) desk.state.deck.filePath = kA;
     if (!hasPath) desk.Choose(kA);
     desk.Answer(MessageAnswer::kYes);
     desk.CheckSave();

@@ -12,7 +12,7 @@ const Text kPath = u"/decks/a.tsr";
 using Kept = std::vector<std::pair<Text, std::string>>;
 
 void SaveTo(LifeDesk& desk, const Text& path) {
-  desk.state.DeckFilePath = path;
+  desk.state.deck.filePath = path;
   desk.Run([&] { desk.deck->SaveTessaraToFile(path); });
 }
 
@@ -35,18 +35,18 @@ TEST_CASE("a save leaves the flags to its callers") {
   for (const bool flag : {false, true}) {
     LifeDesk desk;
     desk.BuildDeck(1);
-    desk.state.DeckChanged = desk.state.DeckOnFile = desk.state.SaveOffered = flag;
+    desk.state.deck.changed = desk.state.deck.onFile = desk.state.deck.saveOffered = flag;
     SaveTo(desk, kPath);
-    CHECK(desk.state.DeckChanged == flag);
-    CHECK(desk.state.DeckOnFile == flag);
-    CHECK(desk.state.SaveOffered == flag);
+    CHECK(desk.state.deck.changed == flag);
+    CHECK(desk.state.deck.onFile == flag);
+    CHECK(desk.state.deck.saveOffered == flag);
   }
 }
 
 TEST_CASE("the box and the caption name the deck's path, not the one that was written") {
   LifeDesk desk;
   desk.BuildDeck(1);
-  desk.state.DeckFilePath = u"/decks/named.tsr";
+  desk.state.deck.filePath = u"/decks/named.tsr";
   desk.Run([&] { desk.deck->SaveTessaraToFile(kPath); });
   CHECK(desk.File(kPath) == DeckBytes(1));
   CHECK(desk.TakeBoxes() == Boxes{SavedBox(u"/decks/named.tsr")});
@@ -58,16 +58,16 @@ TEST_CASE(
   LifeDesk desk;
   desk.NewDeck();
   desk.fakes.files.Put(kPath, "old");
-  desk.state.DeckOnFile = true;
-  desk.state.DeckTitle = u"title";
+  desk.state.deck.onFile = true;
+  desk.state.deck.title = u"title";
   desk.AddTextCard(u"", u"back");
   SaveTo(desk, kPath);
   CHECK(desk.TakeBoxes() == Boxes{kEmptyDeckBox});
   CHECK(desk.File(kPath) == "old");
-  CHECK(desk.state.DeckTitle.empty());
-  CHECK(desk.state.Cell(1, kBackText).empty());
-  CHECK(desk.state.CardPresent.At(1) == 0);
-  CHECK(desk.state.CardCount == 1);
+  CHECK(desk.state.deck.title.empty());
+  CHECK(desk.state.deck.Cell(1, kBackText).empty());
+  CHECK(desk.state.deck.cardPresent.At(1) == 0);
+  CHECK(desk.state.deck.cardCount == 1);
   CHECK(desk.deck->Caption() == u"New Deck");
   CHECK_FALSE(desk.info.IsLoaded());
 }
@@ -91,7 +91,7 @@ TEST_CASE("a save without a path asks for one, does not use it, and reports no n
 TEST_CASE("a deck that is on file is deleted before it is written") {
   LifeDesk desk;
   desk.BuildDeck(3);
-  desk.state.DeckOnFile = true;
+  desk.state.deck.onFile = true;
   desk.fakes.files.Put(kPath, DeckBytes(10));
   SaveTo(desk, kPath);
   CHECK(desk.File(kPath) == DeckBytes(3));
@@ -109,7 +109,7 @@ TEST_CASE("a deck that is not on file is written over the old one, whose end sta
 TEST_CASE("a missing file does not stop a save that deletes it first") {
   LifeDesk desk;
   desk.BuildDeck(1);
-  desk.state.DeckOnFile = true;
+  desk.state.deck.onFile = true;
   SaveTo(desk, kPath);
   CHECK(desk.File(kPath) == DeckBytes(1));
 }
@@ -122,7 +122,7 @@ TEST_CASE("the information on screen goes into the file, whatever deck it was lo
   desk.OpenFile(u"/decks/first.tsr");
   desk.info.Loaded();
   desk.OpenFile(u"/decks/second.tsr");
-  CHECK(desk.state.DeckTitle == u"second title");
+  CHECK(desk.state.deck.title == u"second title");
   desk.Save();
   const InfoTexts blankBefore = {u" 1/5/2026", u" Standard", u" first title", u" Your Name Here",
                                  u" Deck Description Here"};
@@ -144,7 +144,7 @@ TEST_CASE("a file is kept as it was before a save deletes it or writes over it")
   for (const bool onFile : {false, true}) {
     LifeDesk desk;
     desk.BuildDeck(3);
-    desk.state.DeckOnFile = onFile;
+    desk.state.deck.onFile = onFile;
     desk.fakes.files.Put(kPath, DeckBytes(10));
     SaveTo(desk, kPath);
     CHECK(desk.fakes.copies.kept == Kept{{kPath, DeckBytes(10)}});
@@ -155,7 +155,7 @@ TEST_CASE("a save that writes no file keeps none") {
   LifeDesk desk;
   desk.NewDeck();
   desk.fakes.files.Put(kPath, DeckBytes(10));
-  desk.state.DeckOnFile = true;
+  desk.state.deck.onFile = true;
   SaveTo(desk, kPath);
   CHECK(desk.fakes.copies.kept.empty());
 }
@@ -225,7 +225,7 @@ TEST_CASE("whichever operation of a save fails, the others are done and success 
     CAPTURE(failing);
     LifeDesk desk;
     desk.BuildDeck(2);
-    desk.state.DeckOnFile = true;
+    desk.state.deck.onFile = true;
     desk.fakes.files.Put(kPath, DeckBytes(9));
     const OneFault fault(desk, failing);
     SaveTo(desk, kPath);
@@ -243,7 +243,7 @@ TEST_CASE("every number that an operation can fail with is skipped") {
         ErrorNumber::kPathFileAccess, ErrorNumber::kPathNotFound}) {
     LifeDesk desk;
     desk.BuildDeck(2);
-    desk.state.DeckOnFile = true;
+    desk.state.deck.onFile = true;
     desk.fakes.files.fault = [number](MemoryFiles::Operation, const Text&) {
       return std::optional(number);
     };
@@ -266,7 +266,7 @@ TEST_CASE("a save to a name that is or becomes a folder's reports success, and t
     CAPTURE(onlyAfterDelete);
     LifeDesk desk;
     desk.BuildDeck(2);
-    desk.state.DeckOnFile = true;
+    desk.state.deck.onFile = true;
     auto& files = desk.fakes.files;
     if (onlyAfterDelete) {
       files.Put(kPath, DeckBytes(9));
@@ -281,8 +281,8 @@ TEST_CASE("a save to a name that is or becomes a folder's reports success, and t
     CHECK(desk.TakeBoxes() == Boxes{SavedBox(kPath)});
     CHECK_FALSE(files.Has(kPath));
     CHECK(files.folders.contains(kPath));
-    CHECK(desk.state.CardCount == 2);
-    CHECK(desk.state.Cell(2, kBackText) == u"back 2");
+    CHECK(desk.state.deck.cardCount == 2);
+    CHECK(desk.state.deck.Cell(2, kBackText) == u"back 2");
     CHECK_FALSE(desk.fileNumber.IsOpen());
     files.fault = nullptr;
     files.folders.erase(kPath);
@@ -294,7 +294,7 @@ TEST_CASE("a save to a name that is or becomes a folder's reports success, and t
 TEST_CASE("a file that goes away while it is kept and deleted is written anew") {
   LifeDesk desk;
   desk.BuildDeck(2);
-  desk.state.DeckOnFile = true;
+  desk.state.deck.onFile = true;
   auto& files = desk.fakes.files;
   files.Put(kPath, DeckBytes(9));
   files.fault = [&files](MemoryFiles::Operation operation, const Text& path) {

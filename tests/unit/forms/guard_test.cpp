@@ -1,6 +1,6 @@
 #include <doctest/doctest.h>
 
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
 #include "tests/unit/forms/test_windows.h"
 
 namespace tessara::test {
@@ -26,7 +26,7 @@ TEST_CASE("an error that a handler lets out is reported and ends the program") {
   CHECK(desk.renderer.exitStatus == 1);
 }
 
-TEST_CASE("an error inside Form_Load ends the program even where the loader swallows errors") {
+TEST_CASE("an error inside OnLoad ends the program even where the loader swallows errors") {
   RulesDesk desk;
   bool swallowed = false;
   bool wentOn = false;

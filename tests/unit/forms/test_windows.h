@@ -17,39 +17,39 @@ class RulesForm : public Form {
       : Form(system, std::move(name), FormKind::kChild, u"Rules"), log_(log) {
     SetWidth(3000);
     SetHeight(2000);
-    Place({{&Frame1, "Frame1", kNoIndex, nullptr, u"", {0, 0, 900, 900}, u""},
-           {&Option1[0], "Option1", 0, &Frame1, u"&One", {0, 0, 10, 10}, u""},
-           {&Option1[1], "Option1", 1, &Frame1, u"&Two", {0, 0, 10, 10}, u""},
-           {&Option2, "Option2", kNoIndex, nullptr, u"Other", {0, 0, 10, 10}, u""},
-           {&Check1, "Check1", kNoIndex, nullptr, u"C&heck", {0, 0, 10, 10}, u""},
-           {&Text1, "Text1", kNoIndex, nullptr, u"", {0, 0, 900, 10}, u"Text"},
-           {&Command1, "Command1", kNoIndex, nullptr, u"&Close", {0, 0, 10, 10}, u""}});
-    PlaceMenus(
-        {{&mnuFile, "mnuFile", nullptr, u"&File"}, {&mnuOpen, "mnuOpen", &mnuFile, u"Open"}});
+    AddControls({{&Frame1, nullptr, u"", {0, 0, 900, 900}, u""},
+                 {&Option1[0], &Frame1, u"&One", {0, 0, 10, 10}, u""},
+                 {&Option1[1], &Frame1, u"&Two", {0, 0, 10, 10}, u""},
+                 {&Option2, nullptr, u"Other", {0, 0, 10, 10}, u""},
+                 {&Check1, nullptr, u"C&heck", {0, 0, 10, 10}, u""},
+                 {&Text1, nullptr, u"", {0, 0, 900, 10}, u"Text"},
+                 {&Command1, nullptr, u"&Close", {0, 0, 10, 10}, u""}});
+    AddMenus({{&mnuFile, nullptr, u"&File"}, {&mnuOpen, &mnuFile, u"Open"}});
   }
 
-  Frame Frame1;
-  ControlArray<OptionButton, 2> Option1;
-  OptionButton Option2;
-  CheckBox Check1;
-  TextBox Text1;
-  Button Command1;
-  MenuEntry mnuFile, mnuOpen;
+  Frame Frame1{"Frame1"};
+  ControlArray<OptionButton, 2> Option1{"Option1"};
+  OptionButton Option2{"Option2"};
+  CheckBox Check1{"Check1"};
+  TextBox Text1{"Text1"};
+  Button Command1{"Command1"};
+  MenuEntry mnuFile{"mnuFile"};
+  MenuEntry mnuOpen{"mnuOpen"};
   std::function<void()> onLoad;
   std::function<void(bool&)> onUnload;
 
  protected:
-  void Form_Load() override {
+  void OnLoad() override {
     Log("load");
     if (onLoad) onLoad();
   }
-  void Form_Unload(bool& cancel) override {
+  void OnUnload(bool& cancel) override {
     Log("unload");
     if (onUnload) onUnload(cancel);
   }
-  void Form_Activate() override { Log("activate"); }
-  void Form_Resize() override { Log("resize"); }
-  void Form_LostFocus() override { Log("lost"); }
+  void OnActivate() override { Log("activate"); }
+  void OnResize() override { Log("resize"); }
+  void OnLostFocus() override { Log("lost"); }
 
  private:
   void Log(const char* event) { log_.push_back(Name() + " " + event); }
@@ -60,15 +60,15 @@ class RulesForm : public Form {
 struct RulesDesk : TestDesk {
   std::vector<std::string> log;
   std::function<void(RulesForm&)> prepare;
-  WindowSlot firstSlot{windows, [this] { return Make("First"); }};
-  WindowSlot secondSlot{windows, [this] { return Make("Second"); }};
+  WindowSlot<RulesForm> firstSlot{windows, [this] { return Make("First"); }};
+  WindowSlot<RulesForm> secondSlot{windows, [this] { return Make("Second"); }};
   Window<RulesForm> first{firstSlot};
   Window<RulesForm> second{secondSlot};
 
   std::vector<std::string> Take() { return std::exchange(log, {}); }
 
  private:
-  std::unique_ptr<Form> Make(const char* name) {
+  std::unique_ptr<RulesForm> Make(const char* name) {
     auto form = std::make_unique<RulesForm>(windows, name, log);
     if (prepare) prepare(*form);
     return form;

@@ -1,6 +1,6 @@
 #include <doctest/doctest.h>
 
-#include "platform/utf8.h"
+#include "base/utf8.h"
 #include "tests/unit/forms/test_windows.h"
 
 namespace tessara::test {

@@ -1,7 +1,7 @@
 #include <doctest/doctest.h>
 
+#include "base/run_time_error.h"
 #include "forms/place_in_frame.h"
-#include "platform/run_time_error.h"
 #include "tests/unit/forms/test_windows.h"
 
 namespace tessara::test {
@@ -16,7 +16,7 @@ TEST_CASE("a window loads at its first use and not before") {
   CHECK(desk.Take().empty());
 }
 
-TEST_CASE("a use during Form_Load does not load again") {
+TEST_CASE("a use during OnLoad does not load again") {
   RulesDesk desk;
   desk.prepare = [&](RulesForm& form) {
     form.onLoad = [&] { desk.first->SetCaption(u"loading"); };
@@ -99,7 +99,7 @@ TEST_CASE("unloading a window that is not loaded does nothing") {
   CHECK(desk.Take().empty());
 }
 
-TEST_CASE("Form_Unload may keep the window") {
+TEST_CASE("OnUnload may keep the window") {
   RulesDesk desk;
   desk.first->Show();
   desk.first->onUnload = [](bool& cancel) { cancel = true; };
@@ -133,7 +133,7 @@ TEST_CASE("a window that goes with its owner runs no event and tells nobody") {
   RulesDesk desk;
   desk.first->Show();
   {
-    WindowSlot slot(desk.windows, [&desk] {
+    WindowSlot<RulesForm> slot(desk.windows, [&desk] {
       return std::make_unique<RulesForm>(desk.windows, "Third", desk.log);
     });
     Window<RulesForm>(slot)->Show();

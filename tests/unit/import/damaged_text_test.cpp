@@ -28,9 +28,9 @@ bool EndsInOrder(const std::string& bytes, Import import) {
   const bool unforeseen =
       std::any_of(desk.messages.shown.begin(), desk.messages.shown.end(),
                   [](const FakeMessages::Shown& box) { return box.title == u"Import Error"; });
-  const bool shown = desk.shown.size() == 1 && desk.state.DeckChanged;
+  const bool shown = desk.shown.size() == 1 && desk.state.deck.changed;
   return (shown || desk.Dropped()) && desk.fileNumber.IsOpen() == unforeseen &&
-         desk.state.CardCount >= 0 && desk.state.CardCount < kRows;
+         desk.state.deck.cardCount >= 0 && desk.state.deck.cardCount < kRows;
 }
 
 struct Subject {

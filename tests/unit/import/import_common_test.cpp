@@ -8,8 +8,8 @@ namespace tessara::test {
 
 TEST_CASE("an imported deck gets the information of a new one") {
   ProgramState state;
-  state.DeckDate = u"kept";
-  state.DeckTypeName = u"kept";
+  state.deck.date = u"kept";
+  state.deck.typeName = u"kept";
   SetImportedDeckInfo(u"Extended", {2031, 12, 24}, state);
   const Text cells[] = {u"",
                         u"I",
@@ -22,33 +22,33 @@ TEST_CASE("an imported deck gets the information of a new one") {
                         u"",
                         u"Deck Description Here"};
   for (int column = 0; column < kColumns; ++column) {
-    CHECK(state.Cell(kInfoRow, column) == cells[column]);
+    CHECK(state.deck.Cell(kInfoRow, column) == cells[column]);
   }
-  CHECK(state.CardPresent.At(kInfoRow) == 1);
-  CHECK(state.DeckTitle == u"Enter Title Here");
-  CHECK(state.DeckAuthor == u"Your Name Here");
-  CHECK(state.DeckDescription == u"Deck Description Here");
-  CHECK(state.DeckDate == u"kept");
-  CHECK(state.DeckTypeName == u"kept");
+  CHECK(state.deck.cardPresent.At(kInfoRow) == 1);
+  CHECK(state.deck.title == u"Enter Title Here");
+  CHECK(state.deck.author == u"Your Name Here");
+  CHECK(state.deck.description == u"Deck Description Here");
+  CHECK(state.deck.date == u"kept");
+  CHECK(state.deck.typeName == u"kept");
 }
 
 TEST_CASE("abandoning an import drops the cards and keeps the count and the standard numbers") {
   ProgramState state;
   FillDeck(state, 3);
-  state.ImportCardNumber = 4;
-  state.ImportPrevCard = 3;
-  state.ImportStdCard = 6;
-  state.ImportStdPrev = 5;
-  state.ImportLastLetter = u"B";
+  state.import.cardNumber = 4;
+  state.import.previousCard = 3;
+  state.import.standardCard = 6;
+  state.import.previousStandardCard = 5;
+  state.import.lastLetter = u"B";
   AbandonImport(state);
-  CHECK_FALSE(state.HasCards());
-  CHECK(state.CardPresent.At(0) == 0);
-  CHECK(state.CardCount == 3);
-  CHECK(state.ImportCardNumber == 0);
-  CHECK(state.ImportPrevCard == 0);
-  CHECK(state.ImportStdCard == 6);
-  CHECK(state.ImportStdPrev == 5);
-  CHECK(state.ImportLastLetter == u"B");
+  CHECK_FALSE(state.deck.HasCards());
+  CHECK(state.deck.cardPresent.At(0) == 0);
+  CHECK(state.deck.cardCount == 3);
+  CHECK(state.import.cardNumber == 0);
+  CHECK(state.import.previousCard == 0);
+  CHECK(state.import.standardCard == 6);
+  CHECK(state.import.previousStandardCard == 5);
+  CHECK(state.import.lastLetter == u"B");
 }
 
 TEST_CASE("a file that can't be opened or read is an error that the readers tell") {

@@ -3,10 +3,10 @@
 #include <ostream>
 #include <vector>
 
-#include "import/TextImport.h"
-#include "import/TextImport2.h"
+#include "base/utf8.h"
+#include "import/extended_import.h"
 #include "import/import_common.h"
-#include "platform/utf8.h"
+#include "import/standard_import.h"
 #include "tests/support/fake_messages.h"
 #include "tests/support/sample_deck.h"
 #include "tests/unit/import/text_file.h"
@@ -46,14 +46,14 @@ struct CardRow {
 
 inline CardRow RowOf(const ProgramState& state, int row) {
   CardRow card;
-  card.type = state.Cell(row, kCardType);
-  card.text = state.Cell(row, kCardText);
-  card.number = state.Cell(row, kRowNumber);
+  card.type = state.deck.Cell(row, kCardType);
+  card.text = state.deck.Cell(row, kCardText);
+  card.number = state.deck.Cell(row, kRowNumber);
   for (int at = 0; at < 4; ++at)
-    card.choices[static_cast<std::size_t>(at)] = state.Cell(row, kChoiceA + at);
-  card.answer = state.Cell(row, kAnswer);
-  card.back = state.Cell(row, kBackText);
-  card.stray = state.Cell(row, kStray);
+    card.choices[static_cast<std::size_t>(at)] = state.deck.Cell(row, kChoiceA + at);
+  card.answer = state.deck.Cell(row, kAnswer);
+  card.back = state.deck.Cell(row, kBackText);
+  card.stray = state.deck.Cell(row, kStray);
   return card;
 }
 
@@ -91,12 +91,12 @@ struct ImportDesk {
   }
 
   /// True where the import has left no card, and no deck was brought up.
-  [[nodiscard]] bool Dropped() const { return shown.empty() && !state.DeckChanged && Empty(); }
+  [[nodiscard]] bool Dropped() const { return shown.empty() && !state.deck.changed && Empty(); }
   /// True where rows 0 to 200 are absent, and those of cards blank.
   [[nodiscard]] bool Empty() const {
-    if (state.CardPresent.At(kInfoRow) != 0) return false;
+    if (state.deck.cardPresent.At(kInfoRow) != 0) return false;
     for (int row = 1; row <= kMostCards; ++row) {
-      if (state.CardPresent.At(row) != 0 || RowOf(state, row) != CardRow()) return false;
+      if (state.deck.cardPresent.At(row) != 0 || RowOf(state, row) != CardRow()) return false;
     }
     return true;
   }

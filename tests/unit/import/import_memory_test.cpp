@@ -67,7 +67,7 @@ long MemoryOfImport(std::string_view line, std::uint64_t size) {
                              context.codePage, context.today, context.setCardTotal,
                              context.showDeck};
   ImportStandard(kTextPath, ofDisk);
-  CHECK(desk.state.Cell(1, kCardText).size() <= kLongestImportedText);
+  CHECK(desk.state.deck.Cell(1, kCardText).size() <= kLongestImportedText);
   return disk.mostResident - before;
 }
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <string>
 
-#include "deck/card_table.h"
-#include "platform/code_page.h"
+#include "base/code_page.h"
+#include "deck/program_state.h"
 
 namespace tessara::test {
 
@@ -15,10 +15,10 @@ class ImportText {
   static std::string OfStandardDeck(const ProgramState& state, std::size_t lineLength) {
     ImportText text;
     text.Add(u"STD");
-    for (int row = 1; row <= state.CardCount; ++row) {
+    for (int row = 1; row <= state.deck.cardCount; ++row) {
       text.Add(DecimalText(row) + u".");
-      text.AddSide(u"*>F", state.Cell(row, kCardText), lineLength);
-      text.AddSide(u"*>B", state.Cell(row, kBackText), lineLength);
+      text.AddSide(u"*>F", state.deck.Cell(row, kCardText), lineLength);
+      text.AddSide(u"*>B", state.deck.Cell(row, kBackText), lineLength);
       text.Add(u"");
     }
     return text.bytes_;
@@ -27,10 +27,10 @@ class ImportText {
   static std::string OfExtendedDeck(const ProgramState& state) {
     ImportText text;
     text.Add(u"EXT");
-    for (int row = 1; row <= state.CardCount; ++row) {
-      text.Add(DecimalText(row) + u"." + state.Cell(row, kCardText));
-      for (int at = 0; at < 4; ++at) text.AddChoice(at, state.Cell(row, kChoiceA + at));
-      text.Add(u"=" + state.Cell(row, kAnswer));
+    for (int row = 1; row <= state.deck.cardCount; ++row) {
+      text.Add(DecimalText(row) + u"." + state.deck.Cell(row, kCardText));
+      for (int at = 0; at < 4; ++at) text.AddChoice(at, state.deck.Cell(row, kChoiceA + at));
+      text.Add(u"=" + state.deck.Cell(row, kAnswer));
       text.Add(u"");
     }
     return text.bytes_;

@@ -3,8 +3,8 @@
 #include <doctest/doctest.h>
 #include <string>
 
+#include "base/utf8.h"
 #include "deck/deck_file.h"
-#include "platform/utf8.h"
 #include "tests/support/program_desk.h"
 #include "tests/unit/import/command_desk.h"
 
@@ -28,7 +28,7 @@ TEST_CASE("the command asks for a text file and does nothing where none is chose
   CHECK(desk.fakes.dialogs.fileRequests[0].mode == FileDialogMode::kOpen);
   CHECK(desk.fakes.dialogs.fileRequests[0].filter == u"Text File|*.txt");
   CHECK(desk.Told().empty());
-  CHECK_FALSE(desk.state.SaveOffered);
+  CHECK_FALSE(desk.state.deck.saveOffered);
   CHECK_FALSE(desk.deck.IsLoaded());
 }
 
@@ -38,15 +38,15 @@ TEST_CASE("a standard text comes up as a new deck in study mode") {
   CHECK(desk.Told().empty());
   CHECK(desk.deck->Visible());
   CHECK(desk.deck->Caption() == u"New Deck");
-  CHECK(desk.deck->Command3[1].Caption() == u"&Show Back");
-  CHECK(desk.state.DeckType == kStandardDeck);
-  CHECK(desk.state.CurrentCard == 1);
-  CHECK(desk.state.CardCount == 1);
-  CHECK(desk.state.DeckChanged);
-  CHECK(desk.state.SaveOffered);
-  CHECK(desk.deck->mnuSave.Enabled());
-  CHECK(desk.deck->mnuSaveAs.Enabled());
-  CHECK(desk.state.DeckFilePath.empty());
+  CHECK(desk.deck->flip.Caption() == u"&Show Back");
+  CHECK(desk.state.deck.kind == kStandardDeck);
+  CHECK(desk.state.deck.currentCard == 1);
+  CHECK(desk.state.deck.cardCount == 1);
+  CHECK(desk.state.deck.changed);
+  CHECK(desk.state.deck.saveOffered);
+  CHECK(desk.deck->saveDeck.Enabled());
+  CHECK(desk.deck->saveDeckAs.Enabled());
+  CHECK(desk.state.deck.filePath.empty());
   CHECK_FALSE(desk.fileNumber.IsOpen());
 }
 
@@ -55,10 +55,10 @@ TEST_CASE("an extended text comes up with the answer of its first card") {
   desk.Import(kExtendedText);
   CHECK(desk.deck->Visible());
   CHECK(desk.deck->Caption() == u"New Deck");
-  CHECK(desk.state.DeckType == kExtendedDeck);
-  CHECK(desk.deck->NoteletCtl1.CardText() == u"question");
-  CHECK(desk.deck->Label2.Caption() == u"FALSE");
-  CHECK(desk.state.SaveOffered);
+  CHECK(desk.state.deck.kind == kExtendedDeck);
+  CHECK(desk.deck->card.CardText() == u"question");
+  CHECK(desk.deck->answer.Caption() == u"FALSE");
+  CHECK(desk.state.deck.saveOffered);
 }
 
 TEST_CASE("the first line names the format in any case, with blanks, and with nothing else") {
@@ -74,8 +74,8 @@ TEST_CASE("the first line names the format in any case, with blanks, and with no
     CommandDesk desk;
     desk.Import(c.line + "\r\n*END*\r\n");
     CHECK((desk.Told().front() == kUnknownFormat) != c.known);
-    CHECK(desk.state.SaveOffered == c.known);
-    CHECK(desk.deck.IsLoaded() == (c.known && desk.state.DeckChanged));
+    CHECK(desk.state.deck.saveOffered == c.known);
+    CHECK(desk.deck.IsLoaded() == (c.known && desk.state.deck.changed));
     CHECK_FALSE(desk.fileNumber.IsOpen());
   }
 }
@@ -83,15 +83,15 @@ TEST_CASE("the first line names the format in any case, with blanks, and with no
 TEST_CASE("a first line of ext selects the extended reader") {
   CommandDesk desk;
   desk.Import(" ext \r\n1.question\r\n=T\r\n");
-  CHECK(desk.state.DeckType == kExtendedDeck);
-  CHECK(desk.state.Cell(1, kCardType) == u"T");
+  CHECK(desk.state.deck.kind == kExtendedDeck);
+  CHECK(desk.state.deck.Cell(1, kCardType) == u"T");
 }
 
 TEST_CASE("texts of this platform are read: LF, UTF-8, a byte order mark") {
   CommandDesk desk;
   desk.Import("\xEF\xBB\xBFSTD\n1.\n*>F\nna\xC3\xAFve\n*>B\nb\n");
   CHECK(desk.Told().empty());
-  CHECK(desk.state.Cell(1, kCardText) == u"na\u00EFve");
+  CHECK(desk.state.deck.Cell(1, kCardText) == u"na\u00EFve");
 }
 
 TEST_CASE("the type line alone tells that there are no cards and shows an empty window") {
@@ -99,7 +99,7 @@ TEST_CASE("the type line alone tells that there are no cards and shows an empty 
   desk.Import("STD");
   CHECK(desk.Told() == Boxes{kNoCards});
   CHECK(desk.deck->Visible());
-  CHECK_FALSE(desk.state.HasCards());
+  CHECK_FALSE(desk.state.deck.HasCards());
 }
 
 TEST_CASE("a failed import brings up no window but leaves the offer to save") {
@@ -107,8 +107,8 @@ TEST_CASE("a failed import brings up no window but leaves the offer to save") {
   desk.Import("EXT\r\n1.Q\r\n=x\r\n");
   CHECK(desk.Told().empty());
   CHECK_FALSE(desk.deck->Visible());
-  CHECK(desk.state.SaveOffered);
-  CHECK_FALSE(desk.state.HasCards());
+  CHECK(desk.state.deck.saveOffered);
+  CHECK_FALSE(desk.state.deck.HasCards());
 }
 
 TEST_CASE("an error on the very first card shows two boxes") {
@@ -140,7 +140,7 @@ TEST_CASE("after an unforeseen error the next import ends the program") {
   CommandDesk desk;
   desk.Import("EXT\r\n1\r\n");
   CHECK(desk.Told() == Boxes{UnforeseenError(u"Type mismatch")});
-  CHECK(desk.state.SaveOffered);
+  CHECK(desk.state.deck.saveOffered);
   CHECK_FALSE(desk.windows.ExitStatus());
   desk.Import(kStandardText);
   CHECK(desk.Told() == Boxes{ErrorReport(u"55", u"File already open")});
@@ -155,10 +155,10 @@ TEST_CASE("after an unforeseen error a deck opened from either menu ends the pro
     desk.fakes.files.Put(u"/texts/birds.tsr", ProgramDesk::DeckBytes(3));
     desk.Start();
     desk.fakes.dialogs.files = {kTextPath, u"/texts/birds.tsr"};
-    desk.Frame().mnuImportFile.Press();
+    desk.Frame().importTextFile.Press();
     CHECK(desk.fakes.messages.Take() == Boxes{UnforeseenError(u"Type mismatch")});
     CHECK_FALSE(desk.program.Windows().ExitStatus());
-    (fromFrame ? desk.Frame().mnuOPenExisting : desk.Deck().mnuOCD).Press();
+    (fromFrame ? desk.Frame().openExistingDeck : desk.Deck().openDeck).Press();
     CHECK(desk.fakes.messages.Take() == Boxes{ErrorReport(u"55", u"File already open")});
     CHECK(desk.program.Windows().ExitStatus() == 1);
   }
@@ -187,11 +187,11 @@ TEST_CASE("the first save after an import asks for a name and stores the type of
     CommandDesk desk;
     desk.Import(c.bytes);
     desk.fakes.dialogs.files.emplace_back(u"/texts/deck.tsr");
-    desk.deck->mnuSave_Click();
+    desk.deck->SaveDeck();
     CHECK(desk.fakes.dialogs.fileRequests.back().mode == FileDialogMode::kSave);
-    CHECK(desk.state.Cell(kInfoRow, kInfoType) == c.type);
+    CHECK(desk.state.deck.Cell(kInfoRow, kInfoType) == c.type);
     CHECK(desk.fakes.files.Bytes(u"/texts/deck.tsr").find(ToUtf8(c.type)) != std::string::npos);
-    CHECK_FALSE(desk.state.SaveOffered);
+    CHECK_FALSE(desk.state.deck.saveOffered);
   }
 }
 
@@ -201,12 +201,12 @@ TEST_CASE("a deck of 202 cards is saved whole and loaded back as 200") {
   CommandDesk desk;
   desk.Import(bytes);
   desk.fakes.dialogs.files.emplace_back(u"/texts/deck.tsr");
-  desk.deck->mnuSave_Click();
+  desk.deck->SaveDeck();
   constexpr std::size_t kInfoAndCards = 1 + 202;
   CHECK(desk.fakes.files.Bytes(u"/texts/deck.tsr").size() == kInfoAndCards * kRecordSize);
   ProgramState loaded;
   LoadDeckFromFile(u"/texts/deck.tsr", loaded, desk.fileNumber, CodePage::Western());
-  CHECK(loaded.CardCount == 200);
+  CHECK(loaded.deck.cardCount == 200);
 }
 
 }  // namespace tessara::test

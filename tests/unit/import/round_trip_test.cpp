@@ -28,16 +28,16 @@ class Chance {
 };
 
 int NewRow(ProgramState& state, const Text& type, const Text& text) {
-  const int row = ++state.CardCount;
-  state.CardGrid.Set(row, kCardType, type);
-  state.CardGrid.Set(row, kCardText, text);
-  state.CardGrid.Set(row, kRowNumber, DecimalText(row));
+  const int row = ++state.deck.cardCount;
+  state.deck.cardGrid.Set(row, kCardType, type);
+  state.deck.cardGrid.Set(row, kCardText, text);
+  state.deck.cardGrid.Set(row, kRowNumber, DecimalText(row));
   return row;
 }
 
 void AddTextCard(ProgramState& state, Chance& chance) {
   const int row = NewRow(state, u"E", chance.Words(444));
-  state.CardGrid.Set(row, kBackText, chance.UpTo(9) == 0 ? u"" : chance.Words(444));
+  state.deck.cardGrid.Set(row, kBackText, chance.UpTo(9) == 0 ? u"" : chance.Words(444));
 }
 
 void AddQuestion(ProgramState& state, Chance& chance) {
@@ -45,16 +45,16 @@ void AddQuestion(ProgramState& state, Chance& chance) {
   const int row = NewRow(state, trueFalse ? u"T" : u"M", chance.Words(444));
   const TextView keys = trueFalse ? u"TF" : u"ABCD";
   for (int at = 0; !trueFalse && at < 4; ++at) {
-    if (chance.UpTo(5) > 0) state.CardGrid.Set(row, kChoiceA + at, chance.Words(75));
+    if (chance.UpTo(5) > 0) state.deck.cardGrid.Set(row, kChoiceA + at, chance.Words(75));
   }
   const auto key = static_cast<std::size_t>(chance.UpTo(static_cast<int>(keys.size()) - 1));
-  state.CardGrid.Set(row, kAnswer, Text(1, keys[key]));
+  state.deck.cardGrid.Set(row, kAnswer, Text(1, keys[key]));
 }
 
 void CheckSameCards(const ImportDesk& desk, const ProgramState& written) {
   CHECK(desk.messages.shown.empty());
-  CHECK(desk.state.CardCount == written.CardCount);
-  for (int row = 1; row <= written.CardCount; ++row) {
+  CHECK(desk.state.deck.cardCount == written.deck.cardCount);
+  for (int row = 1; row <= written.deck.cardCount; ++row) {
     CHECK(RowOf(desk.state, row) == RowOf(written, row));
   }
 }

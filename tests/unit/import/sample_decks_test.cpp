@@ -39,7 +39,7 @@ TEST_CASE("the sample texts import to the cards of the sample decks, byte for by
     ImportDesk desk;
     (desk.*c.import)(BytesOfFile(std::filesystem::path(TESSARA_SAMPLE_TEXTS) / (c.name + ".txt")));
     CHECK(desk.messages.shown.empty());
-    CHECK(desk.state.CardCount >= c.fewestCards);
+    CHECK(desk.state.deck.cardCount >= c.fewestCards);
     const std::string deck =
         BytesOfFile(std::filesystem::path(TESSARA_SAMPLE_DECKS) / (c.name + ".tsr"));
     CHECK(CardRecords(desk) == deck.substr(kRecordSize));

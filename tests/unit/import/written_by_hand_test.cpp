@@ -48,16 +48,16 @@ struct HandWritten {
 
 /// The parts of a card that a text file can fill, a bar between them.
 Text Card(const ProgramState& state, int row) {
-  Text card = state.Cell(row, kCardType);
+  Text card = state.deck.Cell(row, kCardType);
   for (int column : {kCardText, kChoiceA, kChoiceB, kChoiceC, kChoiceD, kAnswer, kBackText}) {
-    if (!state.Cell(row, column).empty()) card += u"|" + state.Cell(row, column);
+    if (!state.deck.Cell(row, column).empty()) card += u"|" + state.deck.Cell(row, column);
   }
   return card;
 }
 
 std::vector<Text> CardsOf(const ProgramState& state) {
   std::vector<Text> cards;
-  for (int row = 1; row <= kMostCards && state.CardPresent.At(row) != 0; ++row)
+  for (int row = 1; row <= kMostCards && state.deck.cardPresent.At(row) != 0; ++row)
     cards.push_back(Card(state, row));
   return cards;
 }

@@ -11,8 +11,8 @@ namespace {
 struct Sheet {
   test::RecordingSpreadsheet server;
   std::shared_ptr<Worksheet> worksheet = server.Bind(u"")->ActiveSheet();
-  CheckBox Check2;
-  CardSheet cards{*worksheet, Check2};
+  CheckBox flipPrint{"Check2"};
+  CardSheet cards{*worksheet, flipPrint};
 
   Sheet() { server.record.Take(); }
 };
@@ -60,7 +60,7 @@ TEST_CASE("each placement sets the fonts of its side anew before it writes") {
 TEST_CASE("the box chooses the way of turning, and is read at each placement") {
   Sheet sheet;
   for (const bool flips : {false, true, false}) {
-    sheet.Check2.SetTicked(flips);
+    sheet.flipPrint.SetTicked(flips);
     sheet.cards.PlaceBackText(u"x", kFirstSlot);
     CHECK(sheet.server.record.Take().back() == (flips ? "A7 = x" : "C1 = x"));
   }

@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <doctest/doctest.h>
 
-#include "platform/run_time_error.h"
-#include "printing/PrintCard.h"
+#include "base/run_time_error.h"
+#include "printing/print_window.h"
 #include "tests/unit/printing/print_desk.h"
 
 namespace tessara {
@@ -13,25 +13,25 @@ using Calls = std::vector<std::string>;
 using Shown = test::FakeMessages::Shown;
 
 /// A print window in flat mode.
-PrintCard& OpenFlat(PrintDesk& desk, int ticked) {
-  PrintCard& window = desk.OpenTicked(ticked);
-  window.Check1.SetTicked(true);
+PrintWindow& OpenFlat(PrintDesk& desk, int ticked) {
+  PrintWindow& window = desk.OpenTicked(ticked);
+  window.flatSheet.SetTicked(true);
   return window;
 }
 
 Calls PrintFlat(PrintDesk& desk, int ticked) {
-  PrintCard& window = OpenFlat(desk, ticked);
+  PrintWindow& window = OpenFlat(desk, ticked);
   desk.ChoosePrinter();
-  window.Command1[1].Press();
+  window.print.Press();
   return desk.surface.record.Take();
 }
 
 void DescribeDeck(ProgramState& state) {
-  state.DeckTitle = u"Capitals";
-  state.DeckAuthor = u"Ada";
-  state.DeckDate = u"1/5/2026";
-  state.DeckDescription = u"of Europe";
-  state.DeckTypeName = u"Standard";
+  state.deck.title = u"Capitals";
+  state.deck.author = u"Ada";
+  state.deck.date = u"1/5/2026";
+  state.deck.description = u"of Europe";
+  state.deck.typeName = u"Standard";
 }
 
 const Calls kHeader{"Destination /home/me/cards.pdf",
@@ -84,8 +84,8 @@ TEST_CASE("the header counts all cards of the deck") {
 
 TEST_CASE("an extended deck has its answers for backs") {
   PrintDesk desk;
-  desk.state.DeckType = kExtendedDeck;
-  desk.state.CardGrid.Set(2, kAnswer, u"T");
+  desk.state.deck.kind = kExtendedDeck;
+  desk.state.deck.cardGrid.Set(2, kAnswer, u"T");
   const Calls calls = PrintFlat(desk, 1);
   const auto italic = std::find(calls.begin(), calls.end(), "Italic on");
   REQUIRE(italic != calls.end());
@@ -94,20 +94,20 @@ TEST_CASE("an extended deck has its answers for backs") {
 
 TEST_CASE("a document leaves the number of the last ticked card and no position behind") {
   PrintDesk desk(4);
-  desk.state.FlatLastY = 77;
+  desk.state.printing.flatLastY = 77;
   PrintFlat(desk, 2);
-  CHECK(desk.state.CurrentCard == 2);
-  CHECK(desk.state.FlatLastY == 0);
+  CHECK(desk.state.deck.currentCard == 2);
+  CHECK(desk.state.printing.flatLastY == 0);
 }
 
 TEST_CASE("each further flat copy is asked for and is a whole document") {
   for (const bool wanted : {true, false}) {
     CAPTURE(wanted);
     PrintDesk desk;
-    PrintCard& window = OpenFlat(desk, 1);
+    PrintWindow& window = OpenFlat(desk, 1);
     desk.ChoosePrinter(2);
     desk.fakes.messages.answers = {wanted ? MessageAnswer::kYes : MessageAnswer::kNo};
-    window.Command1[1].Press();
+    window.print.Press();
     const auto& shown = desk.fakes.messages.shown;
     REQUIRE(shown.size() == 2);
     constexpr int kFlags = 36;
@@ -116,33 +116,33 @@ TEST_CASE("each further flat copy is asked for and is a whole document") {
     CHECK(shown[1].title == u"PRINT");
     CHECK(desk.surface.record.Count("End") == (wanted ? 2 : 1));
     CHECK(desk.surface.record.Count("Copies 1") == (wanted ? 3 : 2));
-    CHECK_FALSE(desk.state.PrintCancelled);
+    CHECK_FALSE(desk.state.printing.cancelled);
   }
 }
 
 TEST_CASE("a word wider than the page drops the document, and the next one starts afresh") {
   PrintDesk desk;
-  desk.state.CardGrid.Set(2, kCardText, Text(41, u'x'));
-  PrintCard& window = OpenFlat(desk, 1);
+  desk.state.deck.cardGrid.Set(2, kCardText, Text(41, u'x'));
+  PrintWindow& window = OpenFlat(desk, 1);
   desk.ChoosePrinter();
   bool flagBehindTheBox = true;
   desk.fakes.messages.whileShown = [&](const Shown&) {
-    flagBehindTheBox = desk.state.PrintCancelled;
+    flagBehindTheBox = desk.state.printing.cancelled;
   };
-  window.Command1[1].Press();
+  window.print.Press();
   CHECK(desk.fakes.messages.Take() ==
         std::vector<Shown>{{u"Printing was cancelled", kOkOnly, u"Cancel Printing"}});
   CHECK_FALSE(flagBehindTheBox);
-  CHECK(desk.state.PrintCancelled);
+  CHECK(desk.state.printing.cancelled);
   CHECK(desk.surface.record.Count("End") == 0);
   CHECK(desk.surface.record.calls.back() == "Drop");
-  CHECK(desk.state.FlatLastY == 1000);
+  CHECK(desk.state.printing.flatLastY == 1000);
 
-  desk.state.CardGrid.Set(2, kCardText, u"short");
+  desk.state.deck.cardGrid.Set(2, kCardText, u"short");
   desk.ChoosePrinter();
-  window.Command1[1].Press();
+  window.print.Press();
   CHECK(desk.surface.record.Count("End") == 1);
-  CHECK(desk.state.FlatLastY == 0);
+  CHECK(desk.state.printing.flatLastY == 0);
 }
 
 TEST_CASE("an error of any operation of the surface cancels the flat job") {
@@ -152,23 +152,23 @@ TEST_CASE("an error of any operation of the surface cancels the flat job") {
   for (const char* failing : failures) {
     CAPTURE(failing);
     PrintDesk desk;
-    PrintCard& window = OpenFlat(desk, 1);
+    PrintWindow& window = OpenFlat(desk, 1);
     desk.ChoosePrinter();
     desk.surface.record.FailAt(failing, ErrorNumber::kPrinterError);
-    window.Command1[1].Press();
+    window.print.Press();
     CHECK(desk.fakes.messages.shown ==
           std::vector<Shown>{{u"Printing was cancelled", kOkOnly, u"Cancel Printing"}});
     CHECK(desk.surface.record.Count("Drop") == 1);
-    CHECK(desk.state.PrintCancelled);
+    CHECK(desk.state.printing.cancelled);
   }
 }
 
 TEST_CASE("flat sheets need no spreadsheet server") {
   PrintDesk desk;
-  desk.state.CanPrintCards = false;
-  PrintCard& window = desk.OpenTicked(1);
+  desk.state.printing.canPrintCards = false;
+  PrintWindow& window = desk.OpenTicked(1);
   desk.ChoosePrinter();
-  window.Command1[1].Press();
+  window.print.Press();
   CHECK(desk.surface.record.Count("End") == 1);
   CHECK(desk.server.record.calls == Calls{"Box PRINT"});
 }

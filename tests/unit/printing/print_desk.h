@@ -3,10 +3,10 @@
 #include <memory>
 #include <string>
 
+#include "base/utf8.h"
 #include "deck/app_context.h"
 #include "forms/window.h"
-#include "platform/utf8.h"
-#include "printing/PrintCard.h"
+#include "printing/print_window.h"
 #include "printing/spreadsheet_job.h"
 #include "tests/support/fake_machine.h"
 #include "tests/support/headless_renderer.h"
@@ -30,16 +30,16 @@ class PrintDesk {
   TestFrame frame;
   AppContext app{windows, machine, state, frame};
   SpreadsheetJob job{machine};
-  WindowSlot deckSlot{windows, [this] {
-                        return std::make_unique<Form>(windows, "frmMain", FormKind::kChild, u"");
-                      }};
-  WindowSlot slot{windows,
-                  [this] { return std::make_unique<PrintCard>(app, job, Window<Form>(deckSlot)); }};
-  Window<PrintCard> window{slot};
+  WindowSlot<Form> deckSlot{
+      windows,
+      [this] { return std::make_unique<Form>(windows, "frmMain", FormKind::kChild, u""); }};
+  WindowSlot<PrintWindow> slot{
+      windows, [this] { return std::make_unique<PrintWindow>(app, job, Window<Form>(deckSlot)); }};
+  Window<PrintWindow> window{slot};
 
   explicit PrintDesk(int cards = 3) {
     windows.SetRenderer(renderer);
-    state.CanPrintCards = true;
+    state.printing.canPrintCards = true;
     FillDeck(cards);
     deckSlot.Instance().Show();
     fakes.messages.whileShown = [this](const FakeMessages::Shown& box) {
@@ -50,14 +50,14 @@ class PrintDesk {
   }
 
   /// The window, loaded.
-  PrintCard& Open() const { return window.Loaded(); }
+  PrintWindow& Open() const { return window.Loaded(); }
   /// The window with its first items ticked.
-  PrintCard& OpenTicked(int ticked) {
-    PrintCard& opened = Open();
+  PrintWindow& OpenTicked(int ticked) {
+    PrintWindow& opened = Open();
     for (int item = 1; item <= ticked; ++item) Tick(item);
     return opened;
   }
-  void Tick(int item) const { Open().ListView1.UserClick(item, ListView::HitPart::kCheckBox); }
+  void Tick(int item) const { Open().cards.UserClick(item, ListView::HitPart::kCheckBox); }
   /// What the next printer dialog answers: a PDF file.
   void ChoosePrinter(int copies = 1) {
     fakes.dialogs.printers.emplace_back(PrinterChoice{{u"", u"/home/me/cards.pdf"}, copies});
@@ -71,13 +71,13 @@ class PrintDesk {
     return fakes.Get();
   }
   void FillDeck(int cards) {
-    state.CardCount = static_cast<std::int16_t>(cards);
+    state.deck.cardCount = static_cast<std::int16_t>(cards);
     for (int row = 1; row <= cards; ++row) {
-      state.CardGrid.Set(row, kCardType, u"E");
-      state.CardGrid.Set(row, kCardText, u"front " + DecimalText(row));
-      state.CardGrid.Set(row, kBackText, u"back " + DecimalText(row));
+      state.deck.cardGrid.Set(row, kCardType, u"E");
+      state.deck.cardGrid.Set(row, kCardText, u"front " + DecimalText(row));
+      state.deck.cardGrid.Set(row, kBackText, u"back " + DecimalText(row));
     }
-    state.DeckFilePath = u"/home/me/capitals.tsr";
+    state.deck.filePath = u"/home/me/capitals.tsr";
   }
 };
 

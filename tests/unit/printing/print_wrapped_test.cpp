@@ -2,7 +2,7 @@
 
 #include <doctest/doctest.h>
 
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
 #include "tests/support/recording_print_surface.h"
 
 namespace tessara {
@@ -13,11 +13,11 @@ using Calls = std::vector<std::string>;
 /// A page ten characters wide.
 struct Page {
   test::RecordingPrintSurface surface;
-  std::int16_t FlatLastY = 0;
+  std::int16_t lastY = 0;
 
   Page() { surface.pageWidth = 1000; }
   Calls Wrap(const Text& text) {
-    const Text result = PrintWrapped(text, surface, FlatLastY);
+    const Text result = PrintWrapped(text, surface, lastY);
     CHECK(result.empty());
     return surface.record.Take();
   }
@@ -79,10 +79,10 @@ TEST_CASE("the position after the last line is kept as a whole number") {
   Page page;
   page.surface.y = 300.5;
   page.Wrap(u"aaa bbb ccc");
-  CHECK(page.FlatLastY == 700);
+  CHECK(page.lastY == 700);
   page.surface.y = 301.5;
   page.Wrap(u"aaa");
-  CHECK(page.FlatLastY == 502);
+  CHECK(page.lastY == 502);
 }
 
 TEST_CASE("the text begins a new page where it would come within 1000 twips of the bottom") {
@@ -103,27 +103,27 @@ TEST_CASE("the text begins a new page where it would come within 1000 twips of t
   for (const Case& c : cases) {
     CAPTURE(c.before);
     Page page;
-    page.FlatLastY = c.before;
+    page.lastY = c.before;
     page.surface.y = c.before;
     const Calls calls = page.Wrap(c.text);
     CHECK((calls.front() == "New page") == c.newPage);
-    if (c.newPage) CHECK(page.FlatLastY == page.surface.TextHeight(c.text));
+    if (c.newPage) CHECK(page.lastY == page.surface.TextHeight(c.text));
   }
 }
 
 TEST_CASE("the page test comes once and before the error of a run that is too wide") {
   Page page;
-  page.FlatLastY = 14000;
+  page.lastY = 14000;
   CHECK_THROWS_AS(page.Wrap(u"0123456789abc"), RunTimeError);
   CHECK(page.surface.record.calls == Calls{"New page"});
-  CHECK(page.FlatLastY == 0);
+  CHECK(page.lastY == 0);
 }
 
 TEST_CASE("a failing surface leaves the position of the last line that was written") {
   Page page;
   page.surface.record.FailAt("Line", ErrorNumber::kPrinterError, 2);
   CHECK_THROWS_AS(page.Wrap(u"aaa bbb ccc ddd"), RunTimeError);
-  CHECK(page.FlatLastY == 200);
+  CHECK(page.lastY == 200);
 }
 
 }  // namespace

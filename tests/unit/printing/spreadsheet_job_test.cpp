@@ -2,7 +2,7 @@
 
 #include <doctest/doctest.h>
 
-#include "platform/run_time_error.h"
+#include "base/run_time_error.h"
 #include "tests/support/fake_machine.h"
 #include "tests/support/recording_spreadsheet.h"
 

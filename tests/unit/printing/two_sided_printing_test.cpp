@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <doctest/doctest.h>
 
-#include "platform/run_time_error.h"
-#include "printing/PrintCard.h"
+#include "base/run_time_error.h"
+#include "printing/print_window.h"
 #include "tests/unit/printing/print_desk.h"
 
 namespace tessara {
@@ -17,10 +17,10 @@ constexpr TextView kNote = u"ALL SELECTED CARDS PRINTED";
 
 /// Prints the first cards of a deck of that many and returns the sheets.
 std::vector<Cells> Print(PrintDesk& desk, int cards, bool flip) {
-  PrintCard& window = desk.OpenTicked(cards);
-  window.Check2.SetTicked(flip);
+  PrintWindow& window = desk.OpenTicked(cards);
+  window.flipPrint.SetTicked(flip);
   desk.ChoosePrinter();
-  window.Command1[1].Press();
+  window.print.Press();
   return desk.server.sheets;
 }
 
@@ -150,11 +150,11 @@ TEST_CASE("a pass prints a sheet for each eight cards and its last one tells its
 
 TEST_CASE("only the ticked cards are printed, in the order of the list") {
   PrintDesk desk(6);
-  PrintCard& window = desk.Open();
+  PrintWindow& window = desk.Open();
   desk.Tick(5);
   desk.Tick(2);
   desk.ChoosePrinter();
-  window.Command1[1].Press();
+  window.print.Press();
   CHECK(desk.server.sheets[0].at("A1") == u"front 2");
   CHECK(desk.server.sheets[0].at("A3") == u"front 5");
   CHECK(desk.server.sheets[0].at("A5") == kNote);
@@ -162,9 +162,9 @@ TEST_CASE("only the ticked cards are printed, in the order of the list") {
 
 TEST_CASE("the server and the print surface go where the dialog says, with one copy each") {
   PrintDesk desk;
-  PrintCard& window = desk.OpenTicked(1);
+  PrintWindow& window = desk.OpenTicked(1);
   desk.fakes.dialogs.printers.emplace_back(PrinterChoice{{u"Office", u""}, 1});
-  window.Command1[1].Press();
+  window.print.Press();
   CHECK(desk.server.record.Count("Destination Office") == 1);
   CHECK(desk.surface.record.calls.front() == "Destination Office");
   CHECK(desk.surface.record.Count("Copies 1") == 1);
@@ -172,10 +172,10 @@ TEST_CASE("the server and the print surface go where the dialog says, with one c
 
 TEST_CASE("each further copy is asked for, and a No ends the job without a failure") {
   PrintDesk desk;
-  PrintCard& window = desk.OpenTicked(1);
+  PrintWindow& window = desk.OpenTicked(1);
   desk.ChoosePrinter(3);
   desk.fakes.messages.answers = {MessageAnswer::kYes, MessageAnswer::kNo};
-  window.Command1[1].Press();
+  window.print.Press();
   CHECK(desk.server.sheets.size() == 4);
   const std::vector<Shown> shown = desk.fakes.messages.shown;
   REQUIRE(shown.size() == 7);
@@ -185,14 +185,14 @@ TEST_CASE("each further copy is asked for, and a No ends the job without a failu
   CHECK(shown[5].text == u"Perparing to print copy # 3 of 3, do want to continue?");
   CHECK(shown[6].text == u"capitals has finished printing.");
   CHECK(desk.server.record.Count("Finish") == 1);
-  CHECK_FALSE(desk.state.PrintCancelled);
+  CHECK_FALSE(desk.state.printing.cancelled);
 }
 
 TEST_CASE("no copy at all prints nothing and is no failure") {
   PrintDesk desk;
-  PrintCard& window = desk.OpenTicked(1);
+  PrintWindow& window = desk.OpenTicked(1);
   desk.ChoosePrinter(0);
-  window.Command1[1].Press();
+  window.print.Press();
   CHECK(desk.server.sheets.empty());
   CHECK(desk.fakes.messages.shown.back().title == u"PRINT");
 }
@@ -200,10 +200,10 @@ TEST_CASE("no copy at all prints nothing and is no failure") {
 TEST_CASE(
     "the fronts of a second copy carry the first copy's last backs where they write nothing") {
   PrintDesk desk;
-  PrintCard& window = desk.OpenTicked(3);
+  PrintWindow& window = desk.OpenTicked(3);
   desk.ChoosePrinter(2);
   desk.fakes.messages.answers = {MessageAnswer::kYes};
-  window.Command1[1].Press();
+  window.print.Press();
   REQUIRE(desk.server.sheets.size() == 4);
   CHECK(desk.server.sheets[2] == Cells{{"A1", u"front 1"},
                                        {"A3", u"front 2"},
@@ -219,9 +219,9 @@ TEST_CASE(
 
 TEST_CASE("a card without an answer takes its slot with an empty back") {
   PrintDesk desk(2);
-  desk.state.DeckType = kExtendedDeck;
-  desk.state.CardGrid.Set(1, kAnswer, u"?");
-  desk.state.CardGrid.Set(2, kAnswer, u"T");
+  desk.state.deck.kind = kExtendedDeck;
+  desk.state.deck.cardGrid.Set(1, kAnswer, u"?");
+  desk.state.deck.cardGrid.Set(2, kAnswer, u"T");
   const std::vector<Cells> sheets = Print(desk, 2, false);
   CHECK(desk.server.record.Count("C1 = ") == 2);  // the clearing is the other one
   CHECK(sheets[1] == Cells{{"C3", u"TRUE"}, {"C5", Text(kNote)}, {"C6", u"' Page 1 - Back "}});
@@ -229,9 +229,9 @@ TEST_CASE("a card without an answer takes its slot with an empty back") {
 
 TEST_CASE("a cancelled printer dialog prints nothing, and the job closes") {
   PrintDesk desk;
-  PrintCard& window = desk.OpenTicked(1);
+  PrintWindow& window = desk.OpenTicked(1);
   desk.CancelPrinter();
-  window.Command1[1].Press();
+  window.print.Press();
   CHECK(desk.server.record.calls == Calls{"Bind /opt/tessara/Notelet.xlt", "ActiveSheet",
                                           "Alerts off", "Box Cancel Printing", "Close"});
   CHECK(desk.surface.record.calls == Calls{"Box Cancel Printing"});
@@ -243,17 +243,17 @@ TEST_CASE("an error of any operation ends the printing, keeps its sheets, and th
   for (const char* failing : failures) {
     CAPTURE(failing);
     PrintDesk desk;
-    PrintCard& window = desk.OpenTicked(1);
+    PrintWindow& window = desk.OpenTicked(1);
     desk.ChoosePrinter();
     desk.server.record.FailAt(failing, ErrorNumber::kAutomationError);
-    window.Command1[1].Press();
+    window.print.Press();
     CHECK(desk.fakes.messages.shown.back() ==
           Shown{u"Printing was cancelled", kOkOnly, u"Cancel Printing"});
     CHECK(desk.server.record.calls.back() == "Close");
     const bool begun = std::string(failing) != "Destination";
     CHECK(desk.server.record.Count("Finish") == (begun ? 1 : 0));
-    CHECK_FALSE(desk.state.PrintCancelled);
-    CHECK(window.Command1[1].Enabled());
+    CHECK_FALSE(desk.state.printing.cancelled);
+    CHECK(window.print.Enabled());
   }
 }
 
@@ -274,10 +274,10 @@ TEST_CASE("a missing object is told in other words than all other errors") {
   };
   for (const Case& c : cases) {
     PrintDesk desk;
-    PrintCard& window = desk.OpenTicked(1);
+    PrintWindow& window = desk.OpenTicked(1);
     desk.ChoosePrinter();
     desk.server.record.FailAt("Print", c.number);
-    window.Command1[1].Press();
+    window.print.Press();
     CHECK(desk.fakes.messages.shown.back() == c.box);
   }
 }
@@ -286,10 +286,10 @@ TEST_CASE("an error in sending the sheets off cancels the job, told once") {
   for (const char* failing : {"Finish", "Print"}) {
     CAPTURE(failing);
     PrintDesk desk;
-    PrintCard& window = desk.OpenTicked(1);
+    PrintWindow& window = desk.OpenTicked(1);
     desk.ChoosePrinter();
     desk.server.record.FailAt(failing, ErrorNumber::kDiskFull);
-    window.Command1[1].Press();
+    window.print.Press();
     CHECK(desk.server.record.Count("Box Cancel Printing") == 1);
     CHECK(desk.server.record.Count("Finish") == 1);
     CHECK(desk.server.record.Count("Box PRINT") == 0);
@@ -298,10 +298,10 @@ TEST_CASE("an error in sending the sheets off cancels the job, told once") {
 
 TEST_CASE("a printer that can't be set up cancels the job before its first sheet") {
   PrintDesk desk;
-  PrintCard& window = desk.OpenTicked(1);
+  PrintWindow& window = desk.OpenTicked(1);
   desk.ChoosePrinter();
   desk.surface.record.FailAt("Copies", ErrorNumber::kPrinterError);
-  window.Command1[1].Press();
+  window.print.Press();
   CHECK(desk.server.sheets.empty());
   CHECK(desk.fakes.messages.shown.back().title == u"Cancel Printing");
 }

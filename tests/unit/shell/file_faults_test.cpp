@@ -39,12 +39,12 @@ struct FaultDesk {
     fakes.files.Put(u"/decks/ext.txt", Lines({"EXT", "1.Question", "=T"}));
   }
 
-  frmMain& Deck() { return program.DeckWindowOf().Loaded(); }
+  DeckWindow& Deck() { return program.DeckWindowOf().Loaded(); }
   void Choose(const Text& path) { fakes.dialogs.files.push_back(path); }
   void Run(const std::function<void()>& command) { program.Windows().Run(command); }
   void OpenFromMenu() {
     Choose(kDeck);
-    Run([this] { Deck().mnuOCD_Click(); });
+    Run([this] { Deck().OpenDeck(); });
   }
   void CloseDeckWindow() {
     fakes.messages.answers = {MessageAnswer::kYes};
@@ -56,7 +56,8 @@ struct FaultDesk {
   [[nodiscard]] std::vector<Text> Table() const {
     std::vector<Text> cells;
     for (int row = 0; row < kRows; ++row) {
-      for (int column = 0; column < kColumns; ++column) cells.push_back(state.Cell(row, column));
+      for (int column = 0; column < kColumns; ++column)
+        cells.push_back(state.deck.Cell(row, column));
     }
     return cells;
   }
@@ -128,7 +129,7 @@ TEST_CASE("whatever fails in a load from the menus ends the program with its rep
       [](FaultDesk& desk) {
         desk.CloseDeckWindow();
         desk.Choose(kDeck);
-        desk.Run([&desk] { desk.program.FrameWindow()->mnuOPenExisting_Click(); });
+        desk.Run([&desk] { desk.program.FrameWindow()->OpenExistingDeck(); });
       },
   };
   for (const Action& open : opens) {
@@ -150,12 +151,12 @@ TEST_CASE(
   };
   for (const Action& prepare : prepares) {
     std::vector<Text> table;
-    const auto save = [](FaultDesk& desk) { desk.Run([&] { desk.Deck().mnuSave_Click(); }); };
+    const auto save = [](FaultDesk& desk) { desk.Run([&] { desk.Deck().SaveDeck(); }); };
     FailEachInTurn(
         prepare,
         [&](FaultDesk& desk) {
-          desk.state.CardGrid.Set(1, kCardText, u"changed");
-          desk.state.CardGrid.Set(kCards, kBackText, Text(500, u'x'));
+          desk.state.deck.cardGrid.Set(1, kCardText, u"changed");
+          desk.state.deck.cardGrid.Set(kCards, kBackText, Text(500, u'x'));
           save(desk);
           table = desk.Table();
         },
@@ -163,16 +164,16 @@ TEST_CASE(
           CHECK_FALSE(desk.HasEnded());
           CHECK(desk.fakes.messages.shown.size() == 1);
           CHECK(desk.fakes.messages.shown[0].title == u"Save");
-          CHECK(desk.state.Cell(1, kCardText) == u"changed");
-          CHECK(desk.state.Cell(kCards, kBackText) == Text(500, u'x'));
+          CHECK(desk.state.deck.Cell(1, kCardText) == u"changed");
+          CHECK(desk.state.deck.Cell(kCards, kBackText) == Text(500, u'x'));
           save(desk);
           CHECK(desk.Table() == table);
           CHECK(desk.fakes.files.Bytes(kDeck).size() == (kCards + 2) * kRecordSize);
           FaultDesk next;
           next.fakes.files.Put(kDeck, desk.fakes.files.Bytes(kDeck));
           next.program.Main(kDeck);
-          CHECK(next.state.CardCount == kCards);
-          CHECK(next.state.Cell(1, kCardText) == u"changed");
+          CHECK(next.state.deck.cardCount == kCards);
+          CHECK(next.state.deck.Cell(1, kCardText) == u"changed");
         });
   }
 }
@@ -188,30 +189,30 @@ TEST_CASE(
       {"Save As",
        [](FaultDesk& desk) {
          desk.Choose(u"/decks/other.tsr");
-         desk.Run([&desk] { desk.Deck().mnuSaveAs_Click(); });
+         desk.Run([&desk] { desk.Deck().SaveDeckAs(); });
        },
        true},
       {"Yes to the question of a deck without a file",
        [](FaultDesk& desk) {
-         desk.state.DeckFilePath.clear();
+         desk.state.deck.filePath.clear();
          desk.fakes.messages.answers = {MessageAnswer::kYes};
          desk.Choose(u"/decks/other.tsr");
          desk.Choose(u"/decks/other.tsr");
-         desk.Run([&desk] { desk.Deck().mnuNCD_Click(); });
+         desk.Run([&desk] { desk.Deck().ClearDeck(); });
        },
        false},
       {"Yes to the question of a deck with a file",
        [](FaultDesk& desk) {
          desk.fakes.messages.answers = {MessageAnswer::kYes};
-         desk.Run([&desk] { desk.Deck().mnuNCD_Click(); });
+         desk.Run([&desk] { desk.Deck().ClearDeck(); });
        },
        false},
   };
   const Action changedDeck = [](FaultDesk& desk) {
     kPlainStart(desk);
     desk.OpenFromMenu();
-    desk.state.DeckChanged = true;
-    desk.state.SaveOffered = true;
+    desk.state.deck.changed = true;
+    desk.state.deck.saveOffered = true;
   };
   for (const Case& c : cases) {
     CAPTURE(c.name);
@@ -220,7 +221,7 @@ TEST_CASE(
           CHECK_FALSE(desk.HasEnded());
           REQUIRE_FALSE(desk.fakes.messages.shown.empty());
           CHECK(desk.fakes.messages.shown.back().title == u"Save");
-          CHECK(desk.state.HasCards() == c.keepsCards);
+          CHECK(desk.state.deck.HasCards() == c.keepsCards);
         });
     CHECK(operations >= 1 + kCards + 2);
   }
@@ -235,7 +236,7 @@ TEST_CASE(
         [path](FaultDesk& desk) {
           desk.CloseDeckWindow();
           desk.Choose(Text(path));
-          desk.Run([&desk] { desk.program.FrameWindow()->mnuImportFile_Click(); });
+          desk.Run([&desk] { desk.program.FrameWindow()->ImportDeck(); });
         },
         [](FaultDesk& desk, const Fault& fault) {
           const bool firstLook = desk.faulty.opens == 1;
@@ -246,8 +247,8 @@ TEST_CASE(
           CHECK_FALSE(desk.HasEnded());
           REQUIRE_FALSE(desk.fakes.messages.shown.empty());
           CHECK(desk.fakes.messages.shown[0].title == u"Import Error");
-          for (int row = 0; row < kRows; ++row) CHECK(desk.state.CardPresent.At(row) == 0);
-          desk.program.FrameWindow()->mnuStdTessara.Press();
+          for (int row = 0; row < kRows; ++row) CHECK(desk.state.deck.cardPresent.At(row) == 0);
+          desk.program.FrameWindow()->newStandardDeck.Press();
           CHECK(desk.Deck().Visible());
         });
     CHECK(operations >= 4);

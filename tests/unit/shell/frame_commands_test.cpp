@@ -13,13 +13,13 @@ const Text kPath = u"/decks/birds.tsr";
 struct Front {
   const char* window;
   TextView deckType;
-  MenuEntry frmMain::*command;
+  MenuEntry DeckWindow::*command;
 };
 
-constexpr Front kTextBuilder = {"frmEssay", u"E", &frmMain::mnuACTTD};
-constexpr Front kQuestionBuilder = {"frmQuestion", u"T", &frmMain::mnuACTTD};
-constexpr Front kInformation = {"frmInfo", u"E", &frmMain::mnuCDI};
-constexpr Front kPrint = {"PrintCard", u"E", &frmMain::mnuPrint};
+constexpr Front kTextBuilder = {"frmEssay", u"E", &DeckWindow::createOrEditCard};
+constexpr Front kQuestionBuilder = {"frmQuestion", u"T", &DeckWindow::createOrEditCard};
+constexpr Front kInformation = {"frmInfo", u"E", &DeckWindow::deckInfo};
+constexpr Front kPrint = {"PrintCard", u"E", &DeckWindow::printDeck};
 /// Windows that leave the frame's file menu alone.
 constexpr Front kFileMenuFronts[] = {kTextBuilder, kQuestionBuilder, kInformation};
 
@@ -44,21 +44,21 @@ TEST_CASE("a new deck with a window in front brings up the deck that is there, i
     CAPTURE(front.window);
     FrontDesk desk(front);
     SUBCASE("standard") {
-      desk.Frame().mnuStdTessara.Press();
-      CHECK(desk.state.DeckType == kStandardDeck);
-      CHECK(desk.Deck().Command3[1].Caption() == u"&Show Back");
-      CHECK_FALSE(desk.Deck().Picture1.Visible());
+      desk.Frame().newStandardDeck.Press();
+      CHECK(desk.state.deck.kind == kStandardDeck);
+      CHECK(desk.Deck().flip.Caption() == u"&Show Back");
+      CHECK_FALSE(desk.Deck().answerCard.Visible());
     }
     SUBCASE("extended") {
-      desk.Frame().mnuExtTessara.Press();
-      CHECK(desk.state.DeckType == kExtendedDeck);
-      CHECK(desk.Deck().Command3[1].Caption() == u"&Hide Answer");
-      CHECK(desk.Deck().Picture1.Visible());
+      desk.Frame().newExtendedDeck.Press();
+      CHECK(desk.state.deck.kind == kExtendedDeck);
+      CHECK(desk.Deck().flip.Caption() == u"&Hide Answer");
+      CHECK(desk.Deck().answerCard.Visible());
     }
     CHECK(desk.FrontName() == "frmMain");
-    CHECK(desk.state.CardCount == 2);
+    CHECK(desk.state.deck.cardCount == 2);
     CHECK(desk.Deck().Caption() == u"birds  [STUDY]");
-    CHECK(desk.Deck().mnuGTP.Enabled());
+    CHECK(desk.Deck().goToCard.Enabled());
   }
 }
 
@@ -67,10 +67,10 @@ TEST_CASE("opening from the frame empties the table before it asks, and a cancel
     CAPTURE(front.window);
     FrontDesk desk(front);
     desk.fakes.dialogs.files = {u""};
-    desk.Frame().mnuOPenExisting.Press();
-    CHECK_FALSE(desk.state.HasCards());
-    CHECK(desk.state.CardCount == 2);
-    CHECK(desk.state.DeckFilePath == kPath);
+    desk.Frame().openExistingDeck.Press();
+    CHECK_FALSE(desk.state.deck.HasCards());
+    CHECK(desk.state.deck.cardCount == 2);
+    CHECK(desk.state.deck.filePath == kPath);
     CHECK(desk.FrontName() == front.window);
   }
 }
@@ -79,15 +79,15 @@ TEST_CASE("a deck opened from the frame takes the place of the one behind the wi
   for (const Front& front : kFileMenuFronts) {
     CAPTURE(front.window);
     FrontDesk desk(front);
-    desk.state.DeckOnFile = true;
+    desk.state.deck.onFile = true;
     desk.fakes.files.Put(u"/decks/fish.tsr", ProgramDesk::DeckBytes(3));
     desk.fakes.dialogs.files = {u"/decks/fish.tsr"};
-    desk.Frame().mnuOPenExisting.Press();
+    desk.Frame().openExistingDeck.Press();
     CHECK(desk.FrontName() == "frmMain");
     CHECK(desk.Deck().Caption() == u"fish  [STUDY]");
-    CHECK(desk.Deck().NoteletCtl1.CardTotal() == u"3");
-    CHECK(desk.state.DeckType == kStandardDeck);
-    CHECK(desk.state.DeckOnFile);
+    CHECK(desk.Deck().card.CardTotal() == u"3");
+    CHECK(desk.state.deck.kind == kStandardDeck);
+    CHECK(desk.state.deck.onFile);
     CHECK(desk.fakes.messages.shown.empty());
   }
 }
@@ -98,11 +98,11 @@ TEST_CASE("an import with a window in front makes its deck in the place of the o
     FrontDesk desk(front);
     desk.fakes.files.Put(u"/texts/sea.txt", "STD\r\n1.\r\n*>F\r\nsea\r\n*>B\r\nmer\r\n\r\n");
     desk.fakes.dialogs.files = {u"/texts/sea.txt"};
-    desk.Frame().mnuImportFile.Press();
+    desk.Frame().importTextFile.Press();
     CHECK(desk.FrontName() == "frmMain");
-    CHECK(desk.Deck().NoteletCtl1.CardText() == u"sea");
-    CHECK(desk.state.CardCount == 1);
-    CHECK(desk.state.SaveOffered);
+    CHECK(desk.Deck().card.CardText() == u"sea");
+    CHECK(desk.state.deck.cardCount == 1);
+    CHECK(desk.state.deck.saveOffered);
     CHECK(desk.fakes.messages.shown.empty());
     CHECK(desk.fakes.dialogs.fileRequests.back().filter == u"Text File|*.txt");
   }
@@ -113,18 +113,18 @@ TEST_CASE("set-up and help stand in front of any window, and leave it as it is")
     CAPTURE(front.window);
     FrontDesk desk(front);
     SUBCASE("set-up, unless the file menu is off") {
-      desk.Frame().mnuSetup.Press();
-      const bool printing = desk.program.PrintWindow().IsLoaded();
+      desk.Frame().setUp.Press();
+      const bool printing = desk.program.PrintWindowOf().IsLoaded();
       CHECK(desk.FrontName() == (printing ? "PrintCard" : "FrmSetUp"));
     }
     SUBCASE("help") {
-      desk.Frame().mnuHelpTopics.Press();
+      desk.Frame().helpTopics.Press();
       CHECK(desk.fakes.desktop.helpShown == std::vector<Text>{u"/opt/tessara/TessaraHelp.chm"});
     }
     SUBCASE("About") {
-      desk.Frame().mnuAbout.Press();
+      desk.Frame().about.Press();
       CHECK(desk.FrontName() == "frmAbout");
-      desk.program.AboutBox()->cmdOK.Press();
+      desk.program.AboutBoxOf()->ok.Press();
       CHECK(desk.FrontName() == front.window);
     }
     SUBCASE("separation instructions") {
@@ -133,23 +133,23 @@ TEST_CASE("set-up and help stand in front of any window, and leave it as it is")
         inFront = form.Name();
         form.Unload();
       };
-      desk.Frame().mnuSC.Press();
+      desk.Frame().separatingCards.Press();
       CHECK(inFront == "frmInstruct");
       CHECK(desk.FrontName() == front.window);
     }
-    CHECK(desk.state.CardCount == 2);
+    CHECK(desk.state.deck.cardCount == 2);
   }
 }
 
 TEST_CASE("while the print window is open the frame's file menu is off, and on again behind it") {
   FrontDesk desk(kPrint);
-  desk.Frame().mnuExtTessara.Press();
-  desk.Frame().mnuOPenExisting.Press();
-  desk.Frame().mnuExit.Press();
+  desk.Frame().newExtendedDeck.Press();
+  desk.Frame().openExistingDeck.Press();
+  desk.Frame().exit.Press();
   CHECK(desk.FrontName() == "PrintCard");
-  CHECK(desk.state.HasCards());
-  desk.program.PrintWindow().Unload();
-  CHECK(desk.Frame().mnuFile.Enabled());
+  CHECK(desk.state.deck.HasCards());
+  desk.program.PrintWindowOf().Unload();
+  CHECK(desk.Frame().fileMenu.Enabled());
 }
 
 }  // namespace tessara::test

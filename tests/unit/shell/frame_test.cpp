@@ -11,7 +11,7 @@ namespace {
 
 /// The frame alone, its deck window closed.
 void CloseDeckWindow(ProgramDesk& desk) {
-  desk.Deck().Command3[2].Press();
+  desk.Deck().closeDeck.Press();
   REQUIRE_FALSE(desk.program.DeckWindowOf().IsLoaded());
 }
 
@@ -47,23 +47,23 @@ TEST_CASE("a tile larger than the screen is painted once") {
 TEST_CASE("the frame's menus hold their commands in their order") {
   ProgramDesk desk;
   desk.Start();
-  const MDIForm1& frame = desk.Frame();
-  CHECK(CaptionsOf(frame.mnuFile) == std::vector<Text>{u"&New", u"&Open Existing Deck", u"Set &Up",
-                                                       u"Import Text File", u"-", u"&Exit"});
-  CHECK(CaptionsOf(frame.mnuNew) == std::vector<Text>{u"&Standard Tessara", u"E&xtended Tessara"});
-  CHECK(CaptionsOf(frame.mnuHelp) ==
+  const ProgramFrame& frame = desk.Frame();
+  CHECK(CaptionsOf(frame.fileMenu) == std::vector<Text>{u"&New", u"&Open Existing Deck", u"Set &Up",
+                                                        u"Import Text File", u"-", u"&Exit"});
+  CHECK(CaptionsOf(frame.newMenu) == std::vector<Text>{u"&Standard Tessara", u"E&xtended Tessara"});
+  CHECK(CaptionsOf(frame.helpMenu) ==
         std::vector<Text>{u"&Tessara Help Topics", u"&About", u"Separating the cards"});
 }
 
 TEST_CASE("the tiles stand under their twenty keys, in their order") {
   ProgramDesk desk;
   desk.Start();
-  desk.program.SetUpWindow().Loaded();
+  desk.program.SetUpWindowOf().Loaded();
   const TextView keys[] = {
       u"<NONE>",   u"DEFAULT",  u"DIGITAL", u"DESERT",   u"STUCCO",  u"BARS",     u"BLUESPH",
       u"CCURTIAN", u"CH_LINK",  u"GRANITE", u"NEONGRID", u"NETWORK", u"OHIOSTAR", u"OLDBLUE",
       u"P_GRID",   u"REDBRICK", u"S_NOISE", u"STRIPES",  u"THREADS", u"WD_FLOOR", u"SOFTGRID"};
-  ComboBox& combo = desk.program.SetUpWindow()->Combo1;
+  ComboBox& combo = desk.program.SetUpWindowOf()->backdrops;
   REQUIRE(combo.Count() == 21);
   for (int index = 0; index < 21; ++index) CHECK(combo.Item(index) == keys[index]);
 }
@@ -73,19 +73,19 @@ TEST_CASE("new decks come up in their view with the frame's own caption of the f
   desk.Start();
   CloseDeckWindow(desk);
   SUBCASE("standard") {
-    desk.Frame().mnuStdTessara.Press();
-    CHECK(desk.state.DeckType == kStandardDeck);
-    CHECK(desk.Deck().Command3[1].Caption() == u"&Show Back");
+    desk.Frame().newStandardDeck.Press();
+    CHECK(desk.state.deck.kind == kStandardDeck);
+    CHECK(desk.Deck().flip.Caption() == u"&Show Back");
   }
   SUBCASE("extended") {
-    desk.Frame().mnuExtTessara.Press();
-    CHECK(desk.state.DeckType == kExtendedDeck);
-    CHECK(desk.Deck().Command3[1].Caption() == u"&Hide Answer");
-    CHECK(desk.Deck().Picture1.Visible());
+    desk.Frame().newExtendedDeck.Press();
+    CHECK(desk.state.deck.kind == kExtendedDeck);
+    CHECK(desk.Deck().flip.Caption() == u"&Hide Answer");
+    CHECK(desk.Deck().answerCard.Visible());
   }
   CHECK(desk.Deck().Visible());
   CHECK(desk.Deck().Caption() == u"New Deck");
-  CHECK_FALSE(desk.Deck().mnuGTP.Enabled());
+  CHECK_FALSE(desk.Deck().goToCard.Enabled());
 }
 
 TEST_CASE("an existing deck is opened from the frame and is not on file") {
@@ -94,10 +94,10 @@ TEST_CASE("an existing deck is opened from the frame and is not on file") {
   desk.Start();
   CloseDeckWindow(desk);
   desk.fakes.dialogs.files = {u"/decks/birds.tsr"};
-  desk.Frame().mnuOPenExisting.Press();
+  desk.Frame().openExistingDeck.Press();
   CHECK(desk.Deck().Caption() == u"birds  [STUDY]");
-  CHECK(desk.Deck().NoteletCtl1.CardText() == u"front 1");
-  CHECK_FALSE(desk.state.DeckOnFile);
+  CHECK(desk.Deck().card.CardText() == u"front 1");
+  CHECK_FALSE(desk.state.deck.onFile);
   CHECK(desk.fakes.dialogs.fileRequests.back().filter == u"Study Cards|*.tsr");
   CHECK(desk.fakes.dialogs.fileRequests.back().flags == 4100);
   CHECK(desk.fakes.dialogs.fileRequests.back().initialFolder == u"/opt/tessara");
@@ -112,8 +112,8 @@ TEST_CASE("a deck opened from the frame can be saved under another name") {
   for (const TextView path : {u"/decks/birds.tsr", u"/decks/none.tsr"}) {
     CloseDeckWindow(desk);
     desk.fakes.dialogs.files = {Text(path)};
-    desk.Frame().mnuOPenExisting.Press();
-    CHECK(desk.Deck().mnuSaveAs.Enabled() == (desk.state.CardCount > 0));
+    desk.Frame().openExistingDeck.Press();
+    CHECK(desk.Deck().saveDeckAs.Enabled() == (desk.state.deck.cardCount > 0));
   }
 }
 
@@ -124,13 +124,13 @@ TEST_CASE("a deck opened from the frame is written over in place once, then dele
   desk.Start();
   CloseDeckWindow(desk);
   desk.fakes.dialogs.files = {path};
-  desk.Frame().mnuOPenExisting.Press();
+  desk.Frame().openExistingDeck.Press();
   desk.fakes.messages.answers = {MessageAnswer::kYes};
-  desk.Deck().mnuDelete.Press();
-  desk.program.Windows().Run([&] { desk.Deck().mnuSave_Click(); });
+  desk.Deck().deleteCard.Press();
+  desk.program.Windows().Run([&] { desk.Deck().SaveDeck(); });
   CHECK(desk.fakes.files.Bytes(path).size() == 4 * kRecordSize);
-  CHECK(desk.state.DeckOnFile);
-  desk.program.Windows().Run([&] { desk.Deck().mnuSave_Click(); });
+  CHECK(desk.state.deck.onFile);
+  desk.program.Windows().Run([&] { desk.Deck().SaveDeck(); });
   CHECK(desk.fakes.files.Bytes(path).size() == 3 * kRecordSize);
 }
 
@@ -138,9 +138,9 @@ TEST_CASE("a path in capitals is refused by both open commands") {
   ProgramDesk desk;
   desk.Start();
   desk.fakes.dialogs.files = {u"/decks/BIRDS.TSR", u"/decks/BIRDS.TSR"};
-  desk.Deck().mnuOCD.Press();
+  desk.Deck().openDeck.Press();
   CloseDeckWindow(desk);
-  desk.Frame().mnuOPenExisting.Press();
+  desk.Frame().openExistingDeck.Press();
   const FakeMessages::Shown refusal{u"This is not a valid Tessara file", 16, u"Error Opening File"};
   CHECK(desk.fakes.messages.shown == std::vector{refusal, refusal});
   CHECK_FALSE(desk.program.DeckWindowOf().IsLoaded());
@@ -149,8 +149,8 @@ TEST_CASE("a path in capitals is refused by both open commands") {
 TEST_CASE("help opens the help file of the program's folder from both menus") {
   ProgramDesk desk;
   desk.Start();
-  desk.Frame().mnuHelpTopics.Press();
-  desk.Deck().mnuHelpTopic.Press();
+  desk.Frame().helpTopics.Press();
+  desk.Deck().helpTopics.Press();
   const Text path = u"/opt/tessara/TessaraHelp.chm";
   CHECK(desk.fakes.desktop.helpShown == std::vector{path, path});
 }
@@ -158,18 +158,18 @@ TEST_CASE("help opens the help file of the program's folder from both menus") {
 TEST_CASE("the About box closes by its button, a click, the loss of the focus and its link") {
   ProgramDesk desk;
   desk.Start();
-  desk.Deck().mnuAbout.Press();
-  REQUIRE(desk.program.AboutBox().IsLoaded());
-  frmAbout& about = desk.program.AboutBox().Loaded();
+  desk.Deck().about.Press();
+  REQUIRE(desk.program.AboutBoxOf().IsLoaded());
+  AboutBox& about = desk.program.AboutBoxOf().Loaded();
   CHECK(desk.program.Windows().ActiveForm() == &about);
   SUBCASE("button") {
-    about.cmdOK.Press();
+    about.ok.Press();
   }
   SUBCASE("Return") {
     CHECK(about.UserReturn());
   }
   SUBCASE("Return on the link") {
-    about.Label2.SetFocus();
+    about.mailLink.SetFocus();
     CHECK(about.UserReturn());
     CHECK(desk.fakes.desktop.opened.size() == 1);
   }
@@ -189,23 +189,23 @@ TEST_CASE("the About box closes by its button, a click, the loss of the focus an
     desk.Deck().UserClick();
   }
   SUBCASE("link") {
-    about.Label2.UserClick();
+    about.mailLink.UserClick();
     REQUIRE(desk.fakes.desktop.opened.size() == 1);
     const Text target = std::get<0>(desk.fakes.desktop.opened[0]);
     CHECK(target.starts_with(u"mailto:"));
     CHECK(target.ends_with(u"?SUBJECT=Re: Tessara 1.0"));
     CHECK(std::get<2>(desk.fakes.desktop.opened[0]) == ShowState::kNormal);
   }
-  CHECK_FALSE(desk.program.AboutBox().IsLoaded());
+  CHECK_FALSE(desk.program.AboutBoxOf().IsLoaded());
 }
 
 TEST_CASE("a second About brings the same box forward") {
   ProgramDesk desk;
   desk.Start();
-  desk.Deck().mnuAbout.Press();
-  frmAbout& about = desk.program.AboutBox().Loaded();
-  desk.Frame().mnuAbout.Press();
-  CHECK(&about == &desk.program.AboutBox().Loaded());
+  desk.Deck().about.Press();
+  AboutBox& about = desk.program.AboutBoxOf().Loaded();
+  desk.Frame().about.Press();
+  CHECK(&about == &desk.program.AboutBoxOf().Loaded());
   CHECK(desk.program.Windows().ActiveForm() == &about);
 }
 
@@ -213,18 +213,18 @@ TEST_CASE("an information window that outlives its deck brings the deck window b
   ProgramDesk desk;
   desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(2));
   desk.Start(u"/decks/birds.tsr");
-  desk.program.Windows().Run([&] { desk.Deck().mnuSave_Click(); });
+  desk.program.Windows().Run([&] { desk.Deck().SaveDeck(); });
   REQUIRE(desk.program.InfoWindow().IsLoaded());
   desk.fakes.messages.answers = {MessageAnswer::kYes};
-  desk.Deck().Command3[2].Press();
+  desk.Deck().closeDeck.Press();
   REQUIRE_FALSE(desk.program.DeckWindowOf().IsLoaded());
   CHECK(desk.program.InfoWindow()->Visible());
-  CHECK(desk.program.InfoWindow()->Text1[0].TextOf() == u" Birds");
-  desk.program.InfoWindow()->Command1[0].Press();
+  CHECK(desk.program.InfoWindow()->fields[kTitleField].TextOf() == u" Birds");
+  desk.program.InfoWindow()->close.Press();
   CHECK(desk.program.DeckWindowOf().IsLoaded());
   CHECK_FALSE(desk.Deck().Visible());
   CHECK(desk.program.Windows().ActiveForm() == nullptr);
-  desk.Frame().mnuStdTessara.Press();
+  desk.Frame().newStandardDeck.Press();
   CHECK(desk.Deck().Visible());
   CHECK(desk.Deck().Caption() == u"New Deck");
 }
@@ -232,17 +232,17 @@ TEST_CASE("an information window that outlives its deck brings the deck window b
 TEST_CASE("hovering the link shows the icon until the pointer is on the window again") {
   ProgramDesk desk;
   desk.Start();
-  desk.Deck().mnuAbout.Press();
-  frmAbout& about = desk.program.AboutBox().Loaded();
-  CHECK_FALSE(about.Image1.Visible());
-  about.Label2.UserMouseMove();
-  CHECK(about.Image1.Visible());
-  CHECK(about.Label2.FontOf().bold);
-  about.cmdOK.UserMouseMove();
-  CHECK(about.Image1.Visible());
+  desk.Deck().about.Press();
+  AboutBox& about = desk.program.AboutBoxOf().Loaded();
+  CHECK_FALSE(about.envelope.Visible());
+  about.mailLink.UserMouseMove();
+  CHECK(about.envelope.Visible());
+  CHECK(about.mailLink.FontOf().bold);
+  about.ok.UserMouseMove();
+  CHECK(about.envelope.Visible());
   about.UserMouseMove();
-  CHECK_FALSE(about.Image1.Visible());
-  CHECK_FALSE(about.Label2.FontOf().bold);
+  CHECK_FALSE(about.envelope.Visible());
+  CHECK_FALSE(about.mailLink.FontOf().bold);
 }
 
 TEST_CASE("a document that is missing is reported, other failures are not") {
@@ -265,7 +265,7 @@ TEST_CASE("closing the frame ends the program, unless the deck window refuses") 
   desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(2));
   desk.Start(u"/decks/birds.tsr");
   SUBCASE("during a quiz everything stays open") {
-    desk.Deck().mnuQuiz.Press();
+    desk.Deck().quiz.Press();
     desk.Frame().UserClose();
     CHECK(desk.fakes.messages.shown.back().text ==
           u"Tessara must be in study mode before quiting.");
@@ -293,12 +293,12 @@ TEST_CASE("the frame closes with each child window open, and none comes back on 
     std::function<void(ProgramDesk&)> open;
   };
   const Case cases[] = {
-      {"frmEssay", u"E", [](ProgramDesk& desk) { desk.Deck().mnuACTTD.Press(); }},
-      {"frmQuestion", u"T", [](ProgramDesk& desk) { desk.Deck().mnuACTTD.Press(); }},
-      {"PrintCard", u"E", [](ProgramDesk& desk) { desk.Deck().mnuPrint.Press(); }},
-      {"frmInfo", u"E", [](ProgramDesk& desk) { desk.Deck().mnuCDI.Press(); }},
-      {"FrmSetUp", u"E", [](ProgramDesk& desk) { desk.Frame().mnuSetup.Press(); }},
-      {"frmAbout", u"E", [](ProgramDesk& desk) { desk.Deck().mnuAbout.Press(); }},
+      {"frmEssay", u"E", [](ProgramDesk& desk) { desk.Deck().createOrEditCard.Press(); }},
+      {"frmQuestion", u"T", [](ProgramDesk& desk) { desk.Deck().createOrEditCard.Press(); }},
+      {"PrintCard", u"E", [](ProgramDesk& desk) { desk.Deck().printDeck.Press(); }},
+      {"frmInfo", u"E", [](ProgramDesk& desk) { desk.Deck().deckInfo.Press(); }},
+      {"FrmSetUp", u"E", [](ProgramDesk& desk) { desk.Frame().setUp.Press(); }},
+      {"frmAbout", u"E", [](ProgramDesk& desk) { desk.Deck().about.Press(); }},
   };
   for (const Case& c : cases) {
     CAPTURE(c.window);

@@ -101,7 +101,7 @@ void CheckNextStart(const ChangedDeck& deck) {
   const int records = static_cast<int>(size / kRecordSize);
   CHECK(next.renderer.exitStatus == -1);
   CHECK(next.fakes.messages.shown.empty());
-  CHECK(next.state.CardCount == std::clamp(records - 1, 0, kCards));
+  CHECK(next.state.deck.cardCount == std::clamp(records - 1, 0, kCards));
 }
 
 }  // namespace

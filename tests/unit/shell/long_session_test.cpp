@@ -77,7 +77,7 @@ TEST_CASE("a hundred deck loads leave nothing behind") {
   const MemoryUse growth = GrowthOf([&] {
     for (int load = 0; load < kRounds; ++load) {
       session.fakes.dialogs.files = {load % 2 == 0 ? u"/decks/other.tsr" : u"/decks/birds.tsr"};
-      session.Deck().mnuOCD.Press();
+      session.Deck().openDeck.Press();
       session.fakes.dialogs.fileRequests.clear();
       session.fakes.desktop.pointers.clear();
     }

@@ -1,6 +1,6 @@
 #include <doctest/doctest.h>
 
-#include "platform/utf8.h"
+#include "base/utf8.h"
 #include "tests/support/program_desk.h"
 
 namespace tessara::test {
@@ -14,13 +14,13 @@ TEST_CASE("a plain start brings up the frame and an empty deck window") {
   CHECK(desk.Deck().Caption() == u"New Deck");
   CHECK(desk.Deck().Width() == 7230);
   CHECK(desk.Deck().Height() == 6315);
-  CHECK(desk.Deck().Command3[1].Caption() == u"&Show Back");
-  CHECK_FALSE(desk.Deck().Command3[1].Enabled());
-  CHECK_FALSE(desk.Deck().mnuMode.Enabled());
-  CHECK_FALSE(desk.Deck().mnuGTP.Enabled());
-  CHECK(desk.Deck().mnuStudy.Checked());
-  CHECK(desk.state.CardPresent.At(0) == 1);
-  CHECK(desk.state.CurrentCard == 0);
+  CHECK(desk.Deck().flip.Caption() == u"&Show Back");
+  CHECK_FALSE(desk.Deck().flip.Enabled());
+  CHECK_FALSE(desk.Deck().modeMenu.Enabled());
+  CHECK_FALSE(desk.Deck().goToCard.Enabled());
+  CHECK(desk.Deck().study.Checked());
+  CHECK(desk.state.deck.cardPresent.At(0) == 1);
+  CHECK(desk.state.deck.currentCard == 0);
   CHECK(desk.fakes.messages.shown.empty());
 }
 
@@ -30,14 +30,14 @@ TEST_CASE("a deck on the command line comes up in study mode") {
     desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(3, type));
     desk.Start(u"/decks/birds.tsr");
     CHECK(desk.Deck().Caption() == u"birds  [STUDY]");
-    CHECK(desk.Deck().NoteletCtl1.CardText() == u"front 1");
-    CHECK(desk.Deck().NoteletCtl1.CardTotal() == u"3");
-    CHECK(desk.state.DeckFilePath == u"/decks/birds.tsr");
-    CHECK(desk.state.DeckType == (type == u"T" ? kExtendedDeck : kStandardDeck));
-    CHECK(desk.state.CommandLineFile.empty());
-    CHECK_FALSE(desk.state.DeckFromCommandLine);
-    CHECK_FALSE(desk.state.DeckOnFile);
-    CHECK(desk.Deck().mnuSaveAs.Enabled());
+    CHECK(desk.Deck().card.CardText() == u"front 1");
+    CHECK(desk.Deck().card.CardTotal() == u"3");
+    CHECK(desk.state.deck.filePath == u"/decks/birds.tsr");
+    CHECK(desk.state.deck.kind == (type == u"T" ? kExtendedDeck : kStandardDeck));
+    CHECK(desk.state.start.commandLineFile.empty());
+    CHECK_FALSE(desk.state.start.deckFromCommandLine);
+    CHECK_FALSE(desk.state.deck.onFile);
+    CHECK(desk.Deck().saveDeckAs.Enabled());
     CHECK(desk.Deck().Width() == 7230);
     CHECK(desk.Deck().Height() == 6315);
   }
@@ -49,8 +49,8 @@ TEST_CASE("a deck on the command line shows the design's colours, whatever the s
   desk.fakes.settings.values[u"SmallCardColor"] = u"1";
   desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(1));
   desk.Start(u"/decks/birds.tsr");
-  CHECK(desk.Deck().NoteletCtl1.CardColor() == u"Q");
-  CHECK(desk.Deck().Picture1.PictureOf().file == "skins/white_3d.png");
+  CHECK(desk.Deck().card.CardColor() == u"Q");
+  CHECK(desk.Deck().answerCard.PictureOf().file == "skins/white_3d.png");
 }
 
 TEST_CASE("a deck on the command line is left as its view has placed it") {
@@ -58,10 +58,10 @@ TEST_CASE("a deck on the command line is left as its view has placed it") {
   // Without an information record row 0 would be present only by the steps of a plain start.
   desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(2).substr(kRecordSize));
   desk.Start(u"/decks/birds.tsr");
-  CHECK(desk.state.CardPresent.At(kInfoRow) == 0);
-  CHECK(desk.Deck().Command3[1].Enabled());
-  CHECK(desk.Deck().mnuMode.Enabled());
-  CHECK(desk.Deck().mnuGTP.Enabled());
+  CHECK(desk.state.deck.cardPresent.At(kInfoRow) == 0);
+  CHECK(desk.Deck().flip.Enabled());
+  CHECK(desk.Deck().modeMenu.Enabled());
+  CHECK(desk.Deck().goToCard.Enabled());
   CHECK(desk.Deck().Left() == (desk.Frame().ScaleWidth() - 7230) / 2);
   CHECK(desk.Deck().Top() == (desk.Frame().ScaleHeight() - 6315) / 2);
 }
@@ -99,8 +99,8 @@ TEST_CASE("an empty deck file comes up as no cards") {
   ProgramDesk desk;
   desk.fakes.files.Put(u"/decks/empty.tsr", "");
   desk.Start(u"/decks/empty.tsr");
-  CHECK(desk.state.CardCount == 0);
-  CHECK(desk.state.CurrentCard == 1);
+  CHECK(desk.state.deck.cardCount == 0);
+  CHECK(desk.state.deck.currentCard == 1);
   CHECK(desk.fakes.messages.shown.empty());
 }
 
@@ -125,9 +125,9 @@ TEST_CASE("the settings are read in their order, with defaults, and nothing is w
         std::vector<Text>{u"ShowSplash", u"LargeCardColor", u"LargeCard3D", u"SmallCardColor",
                           u"SmallCard3D", u"BackDrop", u"FirstLoad"});
   CHECK(desk.fakes.settings.writes.empty());
-  CHECK(desk.state.ShowSplash == u"1");
-  CHECK(desk.state.LargeCard3D == u"1");
-  CHECK(desk.state.BackDrop == u"DEFAULT");
+  CHECK(desk.state.settings.showSplash == u"1");
+  CHECK(desk.state.settings.largeCard3D == u"1");
+  CHECK(desk.state.settings.backdrop == u"DEFAULT");
 }
 
 TEST_CASE("nonsense in the settings ends the start with the classic errors") {

@@ -3,8 +3,8 @@
 #include <doctest/doctest.h>
 #include <set>
 
+#include "base/utf8.h"
 #include "deck/double_amps.h"
-#include "platform/utf8.h"
 #include "tests/support/hostile_texts.h"
 #include "tests/support/program_desk.h"
 #include "tests/support/window_tour.h"
@@ -49,14 +49,14 @@ TEST_CASE("any text of a text card is on the card as it stands, and does nothing
     desk.fakes.files.Put(kDeck, DeckSaying(text, u"E"));
     desk.Start(kDeck);
     const Text shown = DoubleAmps(text);
-    CHECK(desk.Deck().NoteletCtl1.CardText() == shown);
-    desk.Deck().Command3[1].Press();
-    CHECK(desk.Deck().NoteletCtl1.CardText() == shown);
-    desk.Deck().cmdMove[1].Press();
-    desk.Deck().mnuQuiz.Press();
-    desk.Deck().mnuTest.Press();
-    CHECK(desk.Deck().NoteletCtl1.CardText() == shown);
-    desk.Deck().mnuStudy.Press();
+    CHECK(desk.Deck().card.CardText() == shown);
+    desk.Deck().flip.Press();
+    CHECK(desk.Deck().card.CardText() == shown);
+    desk.Deck().arrows[kNextCard].Press();
+    desk.Deck().quiz.Press();
+    desk.Deck().test.Press();
+    CHECK(desk.Deck().card.CardText() == shown);
+    desk.Deck().study.Press();
     desk.tour.GoRound();
     desk.CheckNothingElse(kDeck);
   }
@@ -68,12 +68,12 @@ TEST_CASE("any text of a question is on the card, the answer and the choices as 
     WatchedDesk desk;
     desk.fakes.files.Put(kDeck, DeckSaying(text, u"M"));
     desk.Start(kDeck);
-    CHECK(desk.Deck().NoteletCtl1.CardText() == DoubleAmps(text));
-    CHECK(desk.Deck().Label2.Caption().find(DoubleAmps(text)) != Text::npos);
-    desk.Deck().mnuTest.Press();
-    for (const OptionButton& option : desk.Deck().Option1) CHECK(option.Caption() == text);
-    desk.Deck().Option1[1].Press();
-    desk.Deck().Command3[0].Press();
+    CHECK(desk.Deck().card.CardText() == DoubleAmps(text));
+    CHECK(desk.Deck().answer.Caption().find(DoubleAmps(text)) != Text::npos);
+    desk.Deck().test.Press();
+    for (const OptionButton& option : desk.Deck().choices) CHECK(option.Caption() == text);
+    desk.Deck().choices[1].Press();
+    desk.Deck().nextOrScore.Press();
     desk.CheckNothingElse(kDeck);
   }
 }
@@ -84,14 +84,14 @@ TEST_CASE("any text of a deck is in the builders and the information window as i
     WatchedDesk desk;
     desk.fakes.files.Put(kDeck, DeckSaying(text, u"E"));
     desk.Start(kDeck);
-    desk.Deck().mnuCDI.Press();
+    desk.Deck().deckInfo.Press();
     // A blank stands in front.
-    for (const TextBox& box : desk.program.InfoWindow()->Text1)
+    for (const TextBox& box : desk.program.InfoWindow()->fields)
       CHECK(Trimmed(box.TextOf()) == text);
     desk.program.InfoWindow()->UserClose();
-    desk.Deck().mnuACTTD.Press();
-    CHECK(desk.program.TextBuilder()->Text1[0].TextOf() == text);
-    CHECK(desk.program.TextBuilder()->Text1[1].TextOf() == text);
+    desk.Deck().createOrEditCard.Press();
+    CHECK(desk.program.TextBuilder()->sides[kFrontSide].TextOf() == text);
+    CHECK(desk.program.TextBuilder()->sides[kBackSide].TextOf() == text);
     desk.CheckNothingElse(kDeck);
   }
 }
@@ -101,14 +101,14 @@ TEST_CASE("any text comes through a save as it stands") {
     WatchedDesk desk;
     desk.fakes.files.Put(kDeck, DeckSaying(text, u"E"));
     desk.Start(kDeck);
-    desk.program.Windows().Run([&] { desk.Deck().mnuSave_Click(); });
+    desk.program.Windows().Run([&] { desk.Deck().SaveDeck(); });
     CHECK(desk.fakes.messages.shown.back().text == u"This file has been saved to " + kDeck);
     WatchedDesk next;
     next.fakes.files.Put(kDeck, desk.fakes.files.Bytes(kDeck));
     next.Start(kDeck);
-    CHECK(next.state.Cell(2, kCardText) == text);
-    CHECK(next.state.Cell(2, kBackText) == text);
-    CHECK(next.state.DeckTitle == text);
+    CHECK(next.state.deck.Cell(2, kCardText) == text);
+    CHECK(next.state.deck.Cell(2, kBackText) == text);
+    CHECK(next.state.deck.title == text);
   }
 }
 
@@ -124,8 +124,8 @@ TEST_CASE("any text to import is on the card as it stands, and does nothing else
       desk.Start();
       desk.Deck().UserClose();
       desk.fakes.dialogs.files = {path};
-      desk.Frame().mnuImportFile.Press();
-      CHECK(desk.Deck().NoteletCtl1.CardText().find(DoubleAmps(text)) != Text::npos);
+      desk.Frame().importTextFile.Press();
+      CHECK(desk.Deck().card.CardText().find(DoubleAmps(text)) != Text::npos);
       desk.CheckNothingElse(path);
     }
   }
@@ -135,23 +135,23 @@ TEST_CASE("any text goes to the sheet and to the page as it stands") {
   for (const Text& text : kHostileTexts) {
     CAPTURE(ToUtf8(text));
     PrintDesk sheets(1);
-    sheets.state.CardGrid.Set(1, kCardText, text);
-    sheets.state.CardGrid.Set(1, kBackText, text);
+    sheets.state.deck.cardGrid.Set(1, kCardText, text);
+    sheets.state.deck.cardGrid.Set(1, kBackText, text);
     sheets.ChoosePrinter();
-    sheets.OpenTicked(1).Command1[1].Press();
+    sheets.OpenTicked(1).print.Press();
     REQUIRE(sheets.server.sheets.size() == 2);
     CHECK(sheets.server.sheets[0].at("A1") == text);
     CHECK(sheets.server.sheets[1].at("C1") == text);
 
     PrintDesk pages(2);
     pages.surface.pageWidth = 1000000;
-    pages.state.DeckTitle = text;
+    pages.state.deck.title = text;
     // The heading of a card stands above the texts of the next one.
-    pages.state.CardGrid.Set(2, kCardText, text);
-    PrintCard& window = pages.OpenTicked(1);
-    window.Check1.SetTicked(true);
+    pages.state.deck.cardGrid.Set(2, kCardText, text);
+    PrintWindow& window = pages.OpenTicked(1);
+    window.flatSheet.SetTicked(true);
     pages.ChoosePrinter();
-    window.Command1[1].Press();
+    window.print.Press();
     CHECK(pages.surface.record.Count("Line TITLE: " + ToUtf8(text)) == 1);
     CHECK(pages.surface.record.Count("Line " + ToUtf8(text)) == 1);
   }
@@ -165,7 +165,7 @@ TEST_CASE("any name of a deck is in the title and the boxes as it stands") {
     desk.fakes.files.Put(path, ProgramDesk::DeckBytes(1));
     desk.Start(path);
     CHECK(desk.Deck().Caption() == name.substr(0, name.find(u'.')) + u"  [STUDY]");
-    desk.program.Windows().Run([&] { desk.Deck().mnuSave_Click(); });
+    desk.program.Windows().Run([&] { desk.Deck().SaveDeck(); });
     CHECK(desk.fakes.messages.shown.back().text == u"This file has been saved to " + path);
     desk.CheckNothingElse(path);
   }

@@ -1,7 +1,7 @@
 #include <doctest/doctest.h>
 #include <optional>
 
-#include "platform/utf8.h"
+#include "base/utf8.h"
 #include "tests/support/deck_desk.h"
 
 namespace tessara::test {
@@ -12,13 +12,13 @@ using Shown = FakeMessages::Shown;
 
 void Delete(DeckDesk& desk, MessageAnswer answer) {
   desk.fakes.messages.answers = {answer};
-  desk.deck->mnuDelete.Press();
+  desk.deck->deleteCard.Press();
 }
 
 /// The boxes that an answer to the question for a card number brings.
 std::vector<Shown> GoTo(DeckDesk& desk, const std::optional<Text>& answer) {
   desk.fakes.dialogs.texts = {answer};
-  desk.deck->mnuGTP_Click();
+  desk.deck->AskForCard();
   return desk.fakes.messages.Take();
 }
 
@@ -27,7 +27,7 @@ std::vector<Shown> GoTo(DeckDesk& desk, const std::optional<Text>& answer) {
 TEST_CASE("a delete asks with the card's number in the title") {
   DeckDesk desk;
   desk.OpenStandardDeck(3);
-  desk.deck->cmdMove[1].Press();
+  desk.deck->arrows[kNextCard].Press();
   Delete(desk, MessageAnswer::kNo);
   CHECK(desk.fakes.messages.shown ==
         std::vector<Shown>{{u"Deletion is permanent, are you sure?", 4, u"Delete Card # 2"}});
@@ -46,17 +46,17 @@ TEST_CASE("a delete shows the card that took the place, or the new last one") {
     CAPTURE(c.deleted);
     DeckDesk desk;
     desk.OpenStandardDeck(c.cards);
-    for (int card = 1; card < c.deleted; ++card) desk.deck->cmdMove[1].Press();
+    for (int card = 1; card < c.deleted; ++card) desk.deck->arrows[kNextCard].Press();
     Delete(desk, MessageAnswer::kYes);
-    CHECK(desk.state.CurrentCard == c.current);
-    CHECK(desk.state.CardCount == c.cards - 1);
-    CHECK(desk.deck->NoteletCtl1.CardText() == c.text);
-    CHECK(desk.deck->NoteletCtl1.CardNumber() == DecimalText(c.current));
-    CHECK(desk.deck->NoteletCtl1.CardTotal() == DecimalText(c.cards - 1));
+    CHECK(desk.state.deck.currentCard == c.current);
+    CHECK(desk.state.deck.cardCount == c.cards - 1);
+    CHECK(desk.deck->card.CardText() == c.text);
+    CHECK(desk.deck->card.CardNumber() == DecimalText(c.current));
+    CHECK(desk.deck->card.CardTotal() == DecimalText(c.cards - 1));
     for (int row = 1; row < c.cards; ++row) {
-      CHECK(desk.state.Cell(row, kRowNumber) == DecimalText(row));
+      CHECK(desk.state.deck.Cell(row, kRowNumber) == DecimalText(row));
     }
-    CHECK(desk.state.CardPresent.At(c.cards) == 0);
+    CHECK(desk.state.deck.cardPresent.At(c.cards) == 0);
   }
 }
 
@@ -64,11 +64,11 @@ TEST_CASE("any answer to the deletion turns the save command on") {
   for (const MessageAnswer answer : {MessageAnswer::kNo, MessageAnswer::kYes}) {
     DeckDesk desk;
     desk.OpenStandardDeck(3);
-    desk.deck->mnuSave.SetEnabled(false);
+    desk.deck->saveDeck.SetEnabled(false);
     Delete(desk, answer);
-    CHECK(desk.state.DeckChanged);
-    CHECK(desk.deck->mnuSave.Enabled());
-    CHECK(desk.state.CardCount == (answer == MessageAnswer::kNo ? 3 : 2));
+    CHECK(desk.state.deck.changed);
+    CHECK(desk.deck->saveDeck.Enabled());
+    CHECK(desk.state.deck.cardCount == (answer == MessageAnswer::kNo ? 3 : 2));
   }
 }
 
@@ -76,16 +76,16 @@ TEST_CASE("a deck emptied card by card ends with its front on show and its comma
   for (const bool extended : {false, true}) {
     DeckDesk desk;
     extended ? desk.OpenExtendedDeck(1) : desk.OpenStandardDeck(1);
-    desk.deck->Command3[1].Press();
+    desk.deck->flip.Press();
     Delete(desk, MessageAnswer::kYes);
-    CHECK(desk.deck->NoteletCtl1.CardText().empty());
-    CHECK(desk.deck->NoteletCtl1.FrontRule());
-    CHECK(desk.deck->NoteletCtl1.FrontLines());
-    CHECK(desk.deck->Label2.Caption().empty());
-    CHECK_FALSE(desk.deck->mnuDelete.Enabled());
-    CHECK_FALSE(desk.deck->mnuGTP.Enabled());
-    CHECK_FALSE(desk.deck->mnuPrint.Enabled());
-    CHECK_FALSE(desk.deck->Command3[1].Enabled());
+    CHECK(desk.deck->card.CardText().empty());
+    CHECK(desk.deck->card.FrontRule());
+    CHECK(desk.deck->card.FrontLines());
+    CHECK(desk.deck->answer.Caption().empty());
+    CHECK_FALSE(desk.deck->deleteCard.Enabled());
+    CHECK_FALSE(desk.deck->goToCard.Enabled());
+    CHECK_FALSE(desk.deck->printDeck.Enabled());
+    CHECK_FALSE(desk.deck->flip.Enabled());
   }
 }
 
@@ -93,47 +93,47 @@ TEST_CASE("a delete down to one card turns go-to off, and leaves printing on") {
   DeckDesk desk;
   desk.OpenStandardDeck(3);
   Delete(desk, MessageAnswer::kYes);
-  CHECK(desk.deck->mnuGTP.Enabled());
+  CHECK(desk.deck->goToCard.Enabled());
   Delete(desk, MessageAnswer::kYes);
-  CHECK_FALSE(desk.deck->mnuGTP.Enabled());
-  CHECK(desk.deck->mnuPrint.Enabled());
-  CHECK(desk.deck->mnuDelete.Enabled());
-  CHECK(desk.deck->Command3[1].Enabled());
+  CHECK_FALSE(desk.deck->goToCard.Enabled());
+  CHECK(desk.deck->printDeck.Enabled());
+  CHECK(desk.deck->deleteCard.Enabled());
+  CHECK(desk.deck->flip.Enabled());
 }
 
 TEST_CASE("a delete shows the front under either caption, without its decorations on a back") {
   DeckDesk desk;
   desk.OpenStandardDeck(3);
-  desk.deck->Command3[1].Press();
+  desk.deck->flip.Press();
   Delete(desk, MessageAnswer::kYes);
-  CHECK(desk.deck->Command3[1].Caption() == u"&Show Front");
-  CHECK(desk.deck->NoteletCtl1.CardText() == u"front 2");
-  CHECK_FALSE(desk.deck->NoteletCtl1.FrontLines());
-  desk.deck->cmdMove[1].Press();
-  CHECK(desk.deck->NoteletCtl1.CardText() == u"back 3");
+  CHECK(desk.deck->flip.Caption() == u"&Show Front");
+  CHECK(desk.deck->card.CardText() == u"front 2");
+  CHECK_FALSE(desk.deck->card.FrontLines());
+  desk.deck->arrows[kNextCard].Press();
+  CHECK(desk.deck->card.CardText() == u"back 3");
 }
 
 TEST_CASE("a delete in an extended deck shows the next answer, its flip button off in study only") {
   DeckDesk desk;
   desk.OpenExtendedDeck(3);
   Delete(desk, MessageAnswer::kYes);
-  CHECK(desk.deck->NoteletCtl1.CardText() == u"question 2");
-  CHECK(desk.deck->Label2.Caption() == u"two");
-  CHECK_FALSE(desk.deck->Command3[1].Enabled());
-  desk.deck->mnuQuiz.Press();
+  CHECK(desk.deck->card.CardText() == u"question 2");
+  CHECK(desk.deck->answer.Caption() == u"two");
+  CHECK_FALSE(desk.deck->flip.Enabled());
+  desk.deck->quiz.Press();
   desk.fakes.messages.answers = {MessageAnswer::kYes};
-  desk.deck->mnuDelete_Click();
-  CHECK(desk.deck->Command3[1].Enabled());
+  desk.deck->DeleteCard();
+  CHECK(desk.deck->flip.Enabled());
 }
 
 TEST_CASE("a delete of the card that had the last arrow gives the focus to one that works") {
   DeckDesk desk;
   desk.OpenStandardDeck(3);
-  desk.deck->cmdMove[1].Press();
-  CHECK(desk.deck->FocusedControl() == &desk.deck->cmdMove[1]);
+  desk.deck->arrows[kNextCard].Press();
+  CHECK(desk.deck->FocusedControl() == &desk.deck->arrows[kNextCard]);
   Delete(desk, MessageAnswer::kYes);
-  CHECK_FALSE(desk.deck->cmdMove[1].Enabled());
-  CHECK(desk.deck->FocusedControl() == &desk.deck->cmdMove[0]);
+  CHECK_FALSE(desk.deck->arrows[kNextCard].Enabled());
+  CHECK(desk.deck->FocusedControl() == &desk.deck->arrows[kPreviousCard]);
 }
 
 TEST_CASE("the menus follow the number of cards") {
@@ -142,24 +142,24 @@ TEST_CASE("the menus follow the number of cards") {
     desk.OpenStandardDeck(cards);
     desk.deck->ShowCardBack(true);
     desk.deck->CardDel_Std();
-    CHECK(desk.deck->mnuDelete.Enabled() == (cards > 0));
-    CHECK(desk.deck->mnuGTP.Enabled() == (cards > 0));
-    CHECK_FALSE(desk.deck->Command3[1].Enabled());
-    CHECK(desk.deck->NoteletCtl1.FrontLines() == (cards == 0));
-    CHECK(desk.deck->NoteletCtl1.FrontRule() == (cards == 0));
+    CHECK(desk.deck->deleteCard.Enabled() == (cards > 0));
+    CHECK(desk.deck->goToCard.Enabled() == (cards > 0));
+    CHECK_FALSE(desk.deck->flip.Enabled());
+    CHECK(desk.deck->card.FrontLines() == (cards == 0));
+    CHECK(desk.deck->card.FrontRule() == (cards == 0));
   }
 }
 
 TEST_CASE("go-to asks with the card on show as the default") {
   DeckDesk desk;
   desk.OpenStandardDeck(3);
-  desk.deck->cmdMove[1].Press();
+  desk.deck->arrows[kNextCard].Press();
   GoTo(desk, std::nullopt);
   const FakeDialogs::TextRequest& request = desk.fakes.dialogs.textRequests.back();
   CHECK(request.prompt == u"Please enter a card number.");
   CHECK(request.title == u"Go To Card");
   CHECK(request.defaultText == u"2");
-  CHECK(desk.state.CurrentCard == 2);
+  CHECK(desk.state.deck.currentCard == 2);
 }
 
 TEST_CASE("go-to reads any number that a 16-bit integer can be made of") {
@@ -175,12 +175,12 @@ TEST_CASE("go-to reads any number that a 16-bit integer can be made of") {
     DeckDesk desk;
     desk.OpenStandardDeck(5);
     CHECK(GoTo(desk, Text(c.answer)).empty());
-    CHECK(desk.state.CurrentCard == c.card);
-    CHECK(desk.deck->NoteletCtl1.CardText() == u"front " + DecimalText(c.card));
-    CHECK(desk.deck->NoteletCtl1.CardNumber() == DecimalText(c.card));
-    CHECK(desk.deck->NoteletCtl1.CardTotal() == u"5");
-    CHECK(desk.deck->cmdMove[0].Enabled() == (c.card > 1));
-    CHECK(desk.deck->cmdMove[1].Enabled() == (c.card < 5));
+    CHECK(desk.state.deck.currentCard == c.card);
+    CHECK(desk.deck->card.CardText() == u"front " + DecimalText(c.card));
+    CHECK(desk.deck->card.CardNumber() == DecimalText(c.card));
+    CHECK(desk.deck->card.CardTotal() == u"5");
+    CHECK(desk.deck->arrows[kPreviousCard].Enabled() == (c.card > 1));
+    CHECK(desk.deck->arrows[kNextCard].Enabled() == (c.card < 5));
   }
 }
 
@@ -229,30 +229,30 @@ TEST_CASE("go-to answers what is no card of the deck with a box, or with nothing
     DeckDesk desk;
     desk.OpenStandardDeck(c.cards);
     CHECK(GoTo(desk, Text(c.answer)) == c.boxes);
-    CHECK(desk.state.CurrentCard == 1);
+    CHECK(desk.state.deck.currentCard == 1);
   }
 }
 
 TEST_CASE("a jump keeps the side on show") {
   DeckDesk standard;
   standard.OpenStandardDeck(3);
-  standard.deck->Command3[1].Press();
+  standard.deck->flip.Press();
   GoTo(standard, u"3");
-  CHECK(standard.deck->NoteletCtl1.CardText() == u"back 3");
-  CHECK(standard.deck->Command3[1].Caption() == u"&Show Front");
+  CHECK(standard.deck->card.CardText() == u"back 3");
+  CHECK(standard.deck->flip.Caption() == u"&Show Front");
   DeckDesk extended;
   extended.OpenExtendedDeck(3);
   GoTo(extended, u"2");
-  CHECK(extended.deck->Label2.Caption() == u"two");
-  CHECK(extended.deck->Picture1.Visible());
+  CHECK(extended.deck->answer.Caption() == u"two");
+  CHECK(extended.deck->answerCard.Visible());
 }
 
 TEST_CASE("a jump to an end of the deck gives the focus to the arrow that works") {
   DeckDesk desk;
   desk.OpenStandardDeck(3);
-  desk.deck->cmdMove[1].Press();
+  desk.deck->arrows[kNextCard].Press();
   GoTo(desk, u"3");
-  CHECK(desk.deck->FocusedControl() == &desk.deck->cmdMove[0]);
+  CHECK(desk.deck->FocusedControl() == &desk.deck->arrows[kPreviousCard]);
 }
 
 }  // namespace tessara::test

@@ -9,20 +9,20 @@ namespace {
 constexpr std::int32_t kModes[] = {kStudyMode, kQuizMode, kTestMode};
 
 void Enter(DeckDesk& desk, std::int32_t mode) {
-  MenuEntry* const entries[] = {&desk.deck->mnuStudy, &desk.deck->mnuQuiz, &desk.deck->mnuTest};
+  MenuEntry* const entries[] = {&desk.deck->study, &desk.deck->quiz, &desk.deck->test};
   entries[mode]->Press();
 }
 
 /// Leaves traces of a mode: another card or side, a banner, points.
 void GoOn(DeckDesk& desk, std::int32_t mode, bool extended) {
   if (mode != kTestMode) {
-    desk.deck->cmdMove[1].Press();
-    desk.deck->Command3[1].Press();
+    desk.deck->arrows[kNextCard].Press();
+    desk.deck->flip.Press();
   } else if (extended) {
-    desk.deck->Option1[0].Press();
+    desk.deck->choices[0].Press();
   } else {
-    desk.deck->Command3[1].Press();
-    desk.deck->Command1[2].Press();
+    desk.deck->flip.Press();
+    desk.deck->credits[kPartialCredit].Press();
   }
 }
 
@@ -58,32 +58,32 @@ constexpr Entry kEntries[] = {
 };
 
 void CheckEntered(DeckDesk& desk, const Entry& entry) {
-  const frmMain& deck = desk.deck.Loaded();
-  CHECK(desk.state.CardMode == entry.mode);
-  CHECK(desk.state.CurrentCard == 1);
-  CHECK(desk.state.TestPoints == 0);
-  CHECK(deck.NoteletCtl1.CardNumber() == u"1");
-  CHECK(deck.NoteletCtl1.CardText() == (entry.extended ? u"question 1" : u"front 1"));
-  CHECK(deck.NoteletCtl1.CardBanner().empty());
-  CHECK(deck.NoteletCtl1.FrontLines());
-  CHECK(deck.NoteletCtl1.FrontRule());
+  const DeckWindow& deck = desk.deck.Loaded();
+  CHECK(desk.state.deck.mode == entry.mode);
+  CHECK(desk.state.deck.currentCard == 1);
+  CHECK(desk.state.deck.testPoints == 0);
+  CHECK(deck.card.CardNumber() == u"1");
+  CHECK(deck.card.CardText() == (entry.extended ? u"question 1" : u"front 1"));
+  CHECK(deck.card.CardBanner().empty());
+  CHECK(deck.card.FrontLines());
+  CHECK(deck.card.FrontRule());
   CHECK(deck.Caption() == entry.title);
-  CHECK(deck.mnuStudy.Checked() == (entry.mode == kStudyMode));
-  CHECK(deck.mnuQuiz.Checked() == (entry.mode == kQuizMode));
-  CHECK(deck.mnuTest.Checked() == (entry.mode == kTestMode));
-  CHECK(deck.mnuFile.Enabled() == entry.commands);
-  CHECK(deck.mnuUtility.Enabled() == entry.commands);
-  CHECK(deck.mnuMode.Enabled());
-  CHECK(deck.mnuHelp.Enabled());
-  CHECK(deck.cmdMove[0].Enabled() == entry.previous);
-  CHECK(deck.cmdMove[1].Enabled() == entry.next);
-  CHECK(deck.Command3[0].Caption() == entry.nextStep);
-  if (entry.flip != kAsItWas) CHECK(deck.Command3[1].Caption() == entry.flip);
-  CHECK(deck.Command3[1].Enabled() == entry.flipEnabled);
-  CHECK(deck.Command3[2].Enabled());
-  CHECK(deck.Frame1.Visible() == entry.credit);
-  CHECK(deck.Frame2.Visible() == entry.choices);
-  CHECK(deck.Picture1.Visible() == entry.answer);
+  CHECK(deck.study.Checked() == (entry.mode == kStudyMode));
+  CHECK(deck.quiz.Checked() == (entry.mode == kQuizMode));
+  CHECK(deck.test.Checked() == (entry.mode == kTestMode));
+  CHECK(deck.fileMenu.Enabled() == entry.commands);
+  CHECK(deck.utilityMenu.Enabled() == entry.commands);
+  CHECK(deck.modeMenu.Enabled());
+  CHECK(deck.helpMenu.Enabled());
+  CHECK(deck.arrows[kPreviousCard].Enabled() == entry.previous);
+  CHECK(deck.arrows[kNextCard].Enabled() == entry.next);
+  CHECK(deck.nextOrScore.Caption() == entry.nextStep);
+  if (entry.flip != kAsItWas) CHECK(deck.flip.Caption() == entry.flip);
+  CHECK(deck.flip.Enabled() == entry.flipEnabled);
+  CHECK(deck.closeDeck.Enabled());
+  CHECK(deck.creditPanel.Visible() == entry.credit);
+  CHECK(deck.choicePanel.Visible() == entry.choices);
+  CHECK(deck.answerCard.Visible() == entry.answer);
 }
 
 }  // namespace
@@ -105,7 +105,7 @@ TEST_CASE("every mode can be entered from every mode, and starts over on card 1"
         // The one button that a test does not reset: it is on after an answered question.
         const bool answered = from == kTestMode && afterSteps && entry.extended;
         const bool leftOn = answered && entry.mode == kTestMode;
-        CHECK(desk.deck->Command3[0].Enabled() == leftOn);
+        CHECK(desk.deck->nextOrScore.Enabled() == leftOn);
       }
     }
   }
@@ -115,15 +115,15 @@ TEST_CASE("a change of mode leaves the deck and its flags alone") {
   for (const std::int32_t mode : kModes) {
     DeckDesk desk;
     desk.OpenStandardDeck(2);
-    desk.state.DeckFilePath = u"/decks/birds.tsr";
-    desk.state.DeckChanged = true;
-    desk.state.SaveOffered = true;
+    desk.state.deck.filePath = u"/decks/birds.tsr";
+    desk.state.deck.changed = true;
+    desk.state.deck.saveOffered = true;
     Enter(desk, mode);
-    CHECK(desk.state.DeckFilePath == u"/decks/birds.tsr");
-    CHECK(desk.state.DeckChanged);
-    CHECK(desk.state.SaveOffered);
-    CHECK(desk.state.CardCount == 2);
-    CHECK(desk.state.Cell(2, kBackText) == u"back 2");
+    CHECK(desk.state.deck.filePath == u"/decks/birds.tsr");
+    CHECK(desk.state.deck.changed);
+    CHECK(desk.state.deck.saveOffered);
+    CHECK(desk.state.deck.cardCount == 2);
+    CHECK(desk.state.deck.Cell(2, kBackText) == u"back 2");
     CHECK(desk.deck->Caption().starts_with(u"birds  ["));
   }
 }
@@ -133,7 +133,7 @@ TEST_CASE("the window can't be closed outside study, and says why") {
     DeckDesk desk;
     desk.OpenStandardDeck(2);
     Enter(desk, mode);
-    desk.deck->Command3[2].Press();
+    desk.deck->closeDeck.Press();
     desk.deck->UserClose();
     CHECK(desk.deck.IsLoaded());
     CHECK(desk.deck->Visible());
@@ -147,9 +147,9 @@ TEST_CASE("in study the close button closes a deck after a question") {
   DeckDesk desk;
   desk.OpenStandardDeck(2);
   desk.fakes.messages.answers = {MessageAnswer::kYes};
-  desk.deck->Command3[2].Press();
+  desk.deck->closeDeck.Press();
   CHECK_FALSE(desk.deck.IsLoaded());
-  CHECK(desk.state.CardCount == 0);
+  CHECK(desk.state.deck.cardCount == 0);
 }
 
 TEST_CASE("an activation in a quiz or a test sets the arrows by the place in the deck") {
@@ -157,16 +157,16 @@ TEST_CASE("an activation in a quiz or a test sets the arrows by the place in the
     DeckDesk desk;
     desk.OpenExtendedDeck(3);
     Enter(desk, mode);
-    desk.deck->cmdMove[1].Press();
+    desk.deck->arrows[kNextCard].Press();
     desk.deck->Hide();
     desk.deck->Show();
     const bool moved = mode == kQuizMode;
-    CHECK(desk.state.CurrentCard == (moved ? 2 : 1));
-    CHECK(desk.deck->cmdMove[0].Enabled() == moved);
-    CHECK(desk.deck->cmdMove[1].Enabled());
-    CHECK(desk.state.CardMode == mode);
-    CHECK_FALSE(desk.deck->mnuFile.Enabled());
-    CHECK(desk.deck->Picture1.Visible() == false);
+    CHECK(desk.state.deck.currentCard == (moved ? 2 : 1));
+    CHECK(desk.deck->arrows[kPreviousCard].Enabled() == moved);
+    CHECK(desk.deck->arrows[kNextCard].Enabled());
+    CHECK(desk.state.deck.mode == mode);
+    CHECK_FALSE(desk.deck->fileMenu.Enabled());
+    CHECK(desk.deck->answerCard.Visible() == false);
   }
 }
 

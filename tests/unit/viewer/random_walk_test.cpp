@@ -20,7 +20,7 @@ class Walk {
  public:
   Walk(bool extended, int cards, unsigned seed) : random_(seed), cards_(cards) {
     extended ? desk_.OpenExtendedDeck(cards) : desk_.OpenStandardDeck(cards);
-    desk_.deck->mnuStudy.Press();
+    desk_.deck->study.Press();
     ListSteps();
   }
 
@@ -36,7 +36,7 @@ class Walk {
     CheckAll();
   }
 
-  [[nodiscard]] bool Over() const { return desk_.state.CardCount == 0; }
+  [[nodiscard]] bool Over() const { return desk_.state.deck.cardCount == 0; }
 
  private:
   struct Step {
@@ -47,38 +47,38 @@ class Walk {
   std::size_t Random(int count) { return random_() % static_cast<unsigned>(count); }
 
   void ListSteps() {
-    frmMain& deck = desk_.deck.Loaded();
+    DeckWindow& deck = desk_.deck.Loaded();
     const auto press = [this](auto& control, int times) {
       for (int at = 0; at < times; ++at) {
         steps_.push_back({control.Name(), [&control] { control.Press(); }});
       }
     };
-    for (Button& button : deck.cmdMove) press(button, 3);
-    for (Button& button : deck.Command1) press(button, 2);
-    for (OptionButton& option : deck.Option1) press(option, 2);
-    press(deck.Command3[0], 4);
-    press(deck.Command3[1], 6);
-    for (MenuEntry* entry : {&deck.mnuStudy, &deck.mnuQuiz, &deck.mnuTest}) press(*entry, 1);
+    for (Button& button : deck.arrows) press(button, 3);
+    for (Button& button : deck.credits) press(button, 2);
+    for (OptionButton& option : deck.choices) press(option, 2);
+    press(deck.nextOrScore, 4);
+    press(deck.flip, 6);
+    for (MenuEntry* entry : {&deck.study, &deck.quiz, &deck.test}) press(*entry, 1);
     steps_.push_back({"activate", [&deck] {
                         deck.Hide();
                         deck.Show();
                       }});
     steps_.push_back({"close", [this, &deck] {
                         desk_.fakes.messages.answers = {MessageAnswer::kNo, MessageAnswer::kNo};
-                        deck.Command3[2].Press();
+                        deck.closeDeck.Press();
                       }});
     steps_.push_back({"delete", [this] { Delete(); }});
     steps_.push_back({"go-to", [this, &deck] {
                         const int number = static_cast<int>(Random(cards_ + 4)) - 2;
                         desk_.fakes.dialogs.texts = {DecimalText(number)};
-                        deck.mnuGTP.Press();
+                        deck.goToCard.Press();
                       }});
   }
 
   void Delete() {
     const bool agreed = Random(12) == 0;
     desk_.fakes.messages.answers = {agreed ? MessageAnswer::kYes : MessageAnswer::kNo};
-    desk_.deck->mnuDelete.Press();
+    desk_.deck->deleteCard.Press();
     frontOnShow_ = frontOnShow_ || !desk_.fakes.messages.shown.empty();
   }
 
@@ -91,75 +91,76 @@ class Walk {
   }
 
   void CheckPanels() const {
-    const frmMain& deck = Deck();
-    const bool panels[] = {deck.Frame1.Visible(), deck.Frame2.Visible(), deck.Picture1.Visible()};
+    const DeckWindow& deck = Deck();
+    const bool panels[] = {deck.creditPanel.Visible(), deck.choicePanel.Visible(),
+                           deck.answerCard.Visible()};
     CHECK(std::count(std::begin(panels), std::end(panels), true) <= 1);
-    CHECK(deck.Frame1.Visible() == (Testing() && !Extended()));
-    CHECK(deck.Frame2.Visible() == (Testing() && Extended()));
+    CHECK(deck.creditPanel.Visible() == (Testing() && !Extended()));
+    CHECK(deck.choicePanel.Visible() == (Testing() && Extended()));
   }
 
   /// A delete shows the front under either caption, until the card is painted anew.
   void CheckSide() {
-    const TextView caption = Deck().Command3[1].Caption();
+    const TextView caption = Deck().flip.Caption();
     const ProgramState& state = desk_.state;
     const auto shows = [&](int column) {
-      return Deck().NoteletCtl1.CardText() == DoubleAmps(state.Cell(state.CurrentCard, column));
+      return Deck().card.CardText() == DoubleAmps(state.deck.Cell(state.deck.currentCard, column));
     };
     if (Extended()) {
       CHECK((caption == u"&Hide Answer" || caption == u"&Show Answer"));
       CHECK(shows(kCardText));
-      CHECK(Deck().NoteletCtl1.FrontLines());
-      if (!Testing()) CHECK(Deck().Picture1.Visible() == (caption == u"&Hide Answer"));
-      if (Deck().Picture1.Visible()) {
-        const Text key = state.Cell(state.CurrentCard, kAnswer);
-        CHECK(Deck().Label2.Caption() == AnswerText(key, state.CurrentCard, state));
+      CHECK(Deck().card.FrontLines());
+      if (!Testing()) CHECK(Deck().answerCard.Visible() == (caption == u"&Hide Answer"));
+      if (Deck().answerCard.Visible()) {
+        const Text key = state.deck.Cell(state.deck.currentCard, kAnswer);
+        CHECK(Deck().answer.Caption() == AnswerText(key, state.deck.currentCard, state));
       }
       return;
     }
     const bool back = caption == u"&Show Front";
     CHECK((back || caption == u"&Show Back"));
-    CHECK(Deck().NoteletCtl1.FrontLines() == (!back || state.CardCount == 0));
-    CHECK(Deck().NoteletCtl1.FrontRule() == Deck().NoteletCtl1.FrontLines());
+    CHECK(Deck().card.FrontLines() == (!back || state.deck.cardCount == 0));
+    CHECK(Deck().card.FrontRule() == Deck().card.FrontLines());
     const bool agrees = shows(back ? kBackText : kCardText);
     CHECK((agrees || (frontOnShow_ && shows(kCardText))));
     frontOnShow_ = frontOnShow_ && !agrees;
   }
 
   void CheckPoints() const {
-    const double points = desk_.state.TestPoints;
+    const double points = desk_.state.deck.testPoints;
     CHECK(points >= 0);
-    CHECK(points <= desk_.state.CardCount);
+    CHECK(points <= desk_.state.deck.cardCount);
     CHECK(points * 2 == static_cast<int>(points * 2));
     if (!Testing()) CHECK(points == 0);
   }
 
   void CheckMenus() const {
-    const frmMain& deck = Deck();
-    const std::int32_t mode = desk_.state.CardMode;
-    CHECK(deck.mnuStudy.Checked() == (mode == kStudyMode));
-    CHECK(deck.mnuQuiz.Checked() == (mode == kQuizMode));
-    CHECK(deck.mnuTest.Checked() == (mode == kTestMode));
-    CHECK(deck.mnuFile.Enabled() == (mode == kStudyMode));
-    CHECK(deck.mnuUtility.Enabled() == (mode == kStudyMode));
-    CHECK(deck.mnuDelete.Enabled() == (desk_.state.CardCount > 0));
+    const DeckWindow& deck = Deck();
+    const std::int32_t mode = desk_.state.deck.mode;
+    CHECK(deck.study.Checked() == (mode == kStudyMode));
+    CHECK(deck.quiz.Checked() == (mode == kQuizMode));
+    CHECK(deck.test.Checked() == (mode == kTestMode));
+    CHECK(deck.fileMenu.Enabled() == (mode == kStudyMode));
+    CHECK(deck.utilityMenu.Enabled() == (mode == kStudyMode));
+    CHECK(deck.deleteCard.Enabled() == (desk_.state.deck.cardCount > 0));
     constexpr TextView kMarks[] = {u"[STUDY]", u"[QUIZ]", u"[TEST]"};
     CHECK(deck.Caption() == u"  " + Text(kMarks[mode]));
-    if (!Testing() || !Extended()) CHECK_FALSE(deck.Command3[0].Enabled());
+    if (!Testing() || !Extended()) CHECK_FALSE(deck.nextOrScore.Enabled());
   }
 
   void CheckPlace() const {
     const ProgramState& state = desk_.state;
     CHECK(Deck().Visible());
-    CHECK(state.CurrentCard >= (state.CardCount == 0 ? 0 : 1));
-    if (state.CardMode != kQuizMode) CHECK(state.CurrentCard <= state.CardCount);
-    CHECK(Deck().NoteletCtl1.CardNumber() == DecimalText(state.CurrentCard));
-    CHECK(Deck().NoteletCtl1.CardTotal() == DecimalText(state.CardCount));
+    CHECK(state.deck.currentCard >= (state.deck.cardCount == 0 ? 0 : 1));
+    if (state.deck.mode != kQuizMode) CHECK(state.deck.currentCard <= state.deck.cardCount);
+    CHECK(Deck().card.CardNumber() == DecimalText(state.deck.currentCard));
+    CHECK(Deck().card.CardTotal() == DecimalText(state.deck.cardCount));
     CHECK_FALSE(desk_.windows.ExitStatus());
   }
 
-  [[nodiscard]] const frmMain& Deck() const { return desk_.deck.Instance(); }
-  [[nodiscard]] bool Testing() const { return desk_.state.CardMode == kTestMode; }
-  [[nodiscard]] bool Extended() const { return desk_.state.DeckType == kExtendedDeck; }
+  [[nodiscard]] const DeckWindow& Deck() const { return desk_.deck.Instance(); }
+  [[nodiscard]] bool Testing() const { return desk_.state.deck.mode == kTestMode; }
+  [[nodiscard]] bool Extended() const { return desk_.state.deck.kind == kExtendedDeck; }
 
   std::mt19937 random_;
   DeckDesk desk_;

@@ -11,8 +11,8 @@ namespace {
 enum Credit { kNone = 0, kFull = 1, kPartial = 2 };
 
 void Grade(DeckDesk& desk, Credit credit) {
-  desk.deck->Command3[1].Press();
-  desk.deck->Command1[credit].Press();
+  desk.deck->flip.Press();
+  desk.deck->credits[credit].Press();
 }
 
 }  // namespace
@@ -20,23 +20,23 @@ void Grade(DeckDesk& desk, Credit credit) {
 TEST_CASE("a standard test opens grading with a flip and closes it with a grade") {
   DeckDesk desk;
   desk.OpenStandardDeck(2);
-  desk.deck->mnuTest.Press();
-  CHECK(desk.deck->Frame1.Visible());
-  CHECK_FALSE(desk.deck->Frame1.Enabled());
-  CHECK_FALSE(desk.deck->Frame2.Visible());
-  CHECK(desk.deck->Command3[0].Caption().empty());
-  desk.deck->Command1[kFull].Press();
-  CHECK(desk.state.TestPoints == 0);
-  desk.deck->Command3[1].Press();
-  CHECK(desk.deck->Frame1.Enabled());
-  CHECK(desk.deck->NoteletCtl1.CardText() == u"back 1");
-  desk.deck->Command3[1].Press();
-  CHECK(desk.deck->Frame1.Enabled());
-  desk.deck->Command1[kPartial].Press();
-  CHECK(desk.state.TestPoints == 0.5);
-  CHECK_FALSE(desk.deck->Frame1.Enabled());
-  CHECK(desk.deck->NoteletCtl1.CardText() == u"front 2");
-  CHECK(desk.deck->Command3[1].Caption() == u"&Show Back");
+  desk.deck->test.Press();
+  CHECK(desk.deck->creditPanel.Visible());
+  CHECK_FALSE(desk.deck->creditPanel.Enabled());
+  CHECK_FALSE(desk.deck->choicePanel.Visible());
+  CHECK(desk.deck->nextOrScore.Caption().empty());
+  desk.deck->credits[kFull].Press();
+  CHECK(desk.state.deck.testPoints == 0);
+  desk.deck->flip.Press();
+  CHECK(desk.deck->creditPanel.Enabled());
+  CHECK(desk.deck->card.CardText() == u"back 1");
+  desk.deck->flip.Press();
+  CHECK(desk.deck->creditPanel.Enabled());
+  desk.deck->credits[kPartial].Press();
+  CHECK(desk.state.deck.testPoints == 0.5);
+  CHECK_FALSE(desk.deck->creditPanel.Enabled());
+  CHECK(desk.deck->card.CardText() == u"front 2");
+  CHECK(desk.deck->flip.Caption() == u"&Show Back");
 }
 
 TEST_CASE("the score of a standard test counts points in halves") {
@@ -53,9 +53,9 @@ TEST_CASE("the score of a standard test counts points in halves") {
   for (const Case& c : cases) {
     DeckDesk desk;
     desk.OpenStandardDeck(static_cast<int>(c.credits.size()));
-    desk.deck->mnuTest.Press();
+    desk.deck->test.Press();
     for (const Credit credit : c.credits) Grade(desk, credit);
-    CHECK(desk.deck->NoteletCtl1.CardBanner() == c.banner);
+    CHECK(desk.deck->card.CardBanner() == c.banner);
     CHECK(desk.fakes.messages.shown ==
           std::vector<FakeMessages::Shown>{
               {u"You have completed this test. After viewing your score at the top of the last "
@@ -67,49 +67,49 @@ TEST_CASE("the score of a standard test counts points in halves") {
 TEST_CASE("the last card can't be graded twice, and its banner stays while it is turned") {
   DeckDesk desk;
   desk.OpenStandardDeck(1);
-  desk.deck->mnuTest.Press();
+  desk.deck->test.Press();
   Grade(desk, kFull);
-  const Text banner = desk.deck->NoteletCtl1.CardBanner();
-  desk.deck->Command3[1].Press();
-  CHECK_FALSE(desk.deck->Frame1.Enabled());
-  CHECK(desk.deck->NoteletCtl1.CardBanner() == banner);
+  const Text banner = desk.deck->card.CardBanner();
+  desk.deck->flip.Press();
+  CHECK_FALSE(desk.deck->creditPanel.Enabled());
+  CHECK(desk.deck->card.CardBanner() == banner);
   SUBCASE("a new test clears the banner and grading opens again") {
-    desk.deck->mnuTest.Press();
-    CHECK(desk.deck->NoteletCtl1.CardBanner().empty());
-    desk.deck->Command3[1].Press();
-    CHECK(desk.deck->Frame1.Enabled());
+    desk.deck->test.Press();
+    CHECK(desk.deck->card.CardBanner().empty());
+    desk.deck->flip.Press();
+    CHECK(desk.deck->creditPanel.Enabled());
   }
 }
 
 TEST_CASE("choices are judged by the key") {
   DeckDesk desk;
   desk.OpenExtendedDeck(2);
-  desk.deck->mnuTest.Press();
-  CHECK(desk.deck->Frame2.Visible());
-  CHECK(desk.deck->Option1[0].Caption() == u"TRUE");
-  CHECK(desk.deck->Option1[1].Caption() == u"FALSE");
-  CHECK_FALSE(desk.deck->Option1[2].Visible());
-  CHECK_FALSE(desk.deck->Command3[0].Enabled());
-  desk.deck->Option1[0].Press();
-  CHECK(desk.deck->NoteletCtl1.CardBanner() == u"CORRECT");
-  CHECK_FALSE(desk.deck->Frame2.Enabled());
-  CHECK(desk.deck->Command3[0].Caption() == u"Next Question");
-  desk.deck->Command3[0].Press();
-  CHECK(desk.deck->NoteletCtl1.CardBanner().empty());
-  CHECK(desk.deck->Frame2.Enabled());
-  CHECK_FALSE(desk.deck->Option1[0].Selected());
-  CHECK(desk.deck->Option1[3].Caption() == u"four");
-  desk.deck->Option1[2].Press();
-  CHECK(desk.deck->NoteletCtl1.CardBanner() == u"WRONG");
-  CHECK(desk.deck->Option1[1].ForeColor() == FixedColor(0, 0, 255));
-  CHECK(desk.deck->Command3[0].Caption() == u"Show Score");
-  desk.deck->Command3[0].Press();
-  CHECK(desk.deck->Option1[1].ForeColor() == Color{});
-  CHECK(desk.deck->NoteletCtl1.CardBanner() == u"SCORE: 50% ... RETURN TO STUDY MODE");
+  desk.deck->test.Press();
+  CHECK(desk.deck->choicePanel.Visible());
+  CHECK(desk.deck->choices[0].Caption() == u"TRUE");
+  CHECK(desk.deck->choices[1].Caption() == u"FALSE");
+  CHECK_FALSE(desk.deck->choices[2].Visible());
+  CHECK_FALSE(desk.deck->nextOrScore.Enabled());
+  desk.deck->choices[0].Press();
+  CHECK(desk.deck->card.CardBanner() == u"CORRECT");
+  CHECK_FALSE(desk.deck->choicePanel.Enabled());
+  CHECK(desk.deck->nextOrScore.Caption() == u"Next Question");
+  desk.deck->nextOrScore.Press();
+  CHECK(desk.deck->card.CardBanner().empty());
+  CHECK(desk.deck->choicePanel.Enabled());
+  CHECK_FALSE(desk.deck->choices[0].Selected());
+  CHECK(desk.deck->choices[3].Caption() == u"four");
+  desk.deck->choices[2].Press();
+  CHECK(desk.deck->card.CardBanner() == u"WRONG");
+  CHECK(desk.deck->choices[1].ForeColor() == FixedColor(0, 0, 255));
+  CHECK(desk.deck->nextOrScore.Caption() == u"Show Score");
+  desk.deck->nextOrScore.Press();
+  CHECK(desk.deck->choices[1].ForeColor() == Color{});
+  CHECK(desk.deck->card.CardBanner() == u"SCORE: 50% ... RETURN TO STUDY MODE");
   CHECK(desk.fakes.messages.shown ==
         std::vector<FakeMessages::Shown>{
             {u" Your score is 50% please return to STUDY mode.", 0, u"Test Complete"}});
-  CHECK_FALSE(desk.deck->Command3[0].Enabled());
+  CHECK_FALSE(desk.deck->nextOrScore.Enabled());
 }
 
 TEST_CASE("percentages are whole, a half rounded up") {
@@ -123,12 +123,12 @@ TEST_CASE("percentages are whole, a half rounded up") {
     DeckDesk desk;
     for (int card = 0; card < c.cards; ++card) desk.AddTrueFalse(u"?", u"T");
     desk.Open(kExtendedDeck);
-    desk.deck->mnuTest.Press();
+    desk.deck->test.Press();
     for (int card = 0; card < c.cards; ++card) {
-      desk.deck->Option1[card < c.right ? 0 : 1].Press();
-      desk.deck->Command3[0].Press();
+      desk.deck->choices[card < c.right ? 0 : 1].Press();
+      desk.deck->nextOrScore.Press();
     }
-    CHECK(desk.deck->NoteletCtl1.CardBanner() ==
+    CHECK(desk.deck->card.CardBanner() ==
           u"SCORE: " + Text(c.text) + u"% ... RETURN TO STUDY MODE");
   }
 }
@@ -141,11 +141,11 @@ TEST_CASE("scores of random tests are those of a count by hand") {
     CAPTURE(test);
     DeckDesk text;
     text.OpenStandardDeck(cards);
-    text.deck->mnuTest.Press();
+    text.deck->test.Press();
     int halves = 0;
     DeckDesk questions;
     questions.OpenExtendedDeck(cards);
-    questions.deck->mnuTest.Press();
+    questions.deck->test.Press();
     int right = 0;
     for (int card = 1; card <= cards; ++card) {
       const auto credit = static_cast<Credit>(roll(3));
@@ -154,14 +154,14 @@ TEST_CASE("scores of random tests are those of a count by hand") {
       // Every key is TRUE or B.
       const int choice = static_cast<int>(roll(card % 2 == 1 ? 2 : 4));
       right += choice == (card % 2 == 1 ? 0 : 1) ? 1 : 0;
-      questions.deck->Option1[choice].Press();
-      questions.deck->Command3[0].Press();
+      questions.deck->choices[choice].Press();
+      questions.deck->nextOrScore.Press();
     }
     const Text points = DecimalText(halves / 2) + (halves % 2 == 1 ? u".5" : u"");
-    CHECK(text.deck->NoteletCtl1.CardBanner() ==
+    CHECK(text.deck->card.CardBanner() ==
           u"Complete: You scored " + points + u" points out of a possible " + DecimalText(cards));
     const int percent = (200 * right + cards) / (2 * cards);
-    CHECK(questions.deck->NoteletCtl1.CardBanner() ==
+    CHECK(questions.deck->card.CardBanner() ==
           u"SCORE: " + DecimalText(percent) + u"% ... RETURN TO STUDY MODE");
   }
 }
@@ -169,63 +169,63 @@ TEST_CASE("scores of random tests are those of a count by hand") {
 TEST_CASE("a new test from an answered card leaves the next button on, and it skips card 1") {
   DeckDesk desk;
   desk.OpenExtendedDeck(3);
-  desk.deck->mnuTest.Press();
-  desk.deck->Option1[0].Press();
-  desk.deck->mnuTest.Press();
-  CHECK(desk.deck->Command3[0].Enabled());
-  CHECK(desk.deck->Command3[0].Caption() == u"Next Question");
-  desk.deck->Command3[0].Press();
-  CHECK(desk.state.CurrentCard == 2);
-  CHECK(desk.state.TestPoints == 0);
+  desk.deck->test.Press();
+  desk.deck->choices[0].Press();
+  desk.deck->test.Press();
+  CHECK(desk.deck->nextOrScore.Enabled());
+  CHECK(desk.deck->nextOrScore.Caption() == u"Next Question");
+  desk.deck->nextOrScore.Press();
+  CHECK(desk.state.deck.currentCard == 2);
+  CHECK(desk.state.deck.testPoints == 0);
 }
 
 TEST_CASE("a key that fits no choice is always wrong, an empty key of a third type right") {
   DeckDesk desk;
   desk.AddChoice(u"?", {u"one", u"two"}, u"X");
   desk.Open(kExtendedDeck);
-  desk.deck->mnuTest.Press();
-  desk.deck->Option1[1].Press();
-  CHECK(desk.deck->NoteletCtl1.CardBanner() == u"WRONG");
-  CHECK(desk.deck->Option1[0].ForeColor() == FixedColor(0, 0, 255));
+  desk.deck->test.Press();
+  desk.deck->choices[1].Press();
+  CHECK(desk.deck->card.CardBanner() == u"WRONG");
+  CHECK(desk.deck->choices[0].ForeColor() == FixedColor(0, 0, 255));
   DeckDesk third;
   third.AddTrueFalse(u"?", u"");
   third.Open(kExtendedDeck);
-  third.deck->mnuTest.Press();
-  third.state.CardGrid.Set(1, kCardType, u"Z");
-  third.deck->Option1[1].Press();
-  CHECK(third.deck->NoteletCtl1.CardBanner() == u"CORRECT");
+  third.deck->test.Press();
+  third.state.deck.cardGrid.Set(1, kCardType, u"Z");
+  third.deck->choices[1].Press();
+  CHECK(third.deck->card.CardBanner() == u"CORRECT");
 }
 
 TEST_CASE("choices with a gap show a gap, and their ampersands mark accelerators") {
   DeckDesk desk;
   desk.AddChoice(u"?", {u"salt & pepper", u"", u"three"}, u"A");
   desk.Open(kExtendedDeck);
-  desk.deck->mnuTest.Press();
-  CHECK(desk.deck->Option1[0].Caption() == u"salt & pepper");
-  CHECK(desk.deck->Option1[0].Visible());
-  CHECK_FALSE(desk.deck->Option1[1].Visible());
-  CHECK(desk.deck->Option1[2].Visible());
-  CHECK_FALSE(desk.deck->Option1[3].Visible());
+  desk.deck->test.Press();
+  CHECK(desk.deck->choices[0].Caption() == u"salt & pepper");
+  CHECK(desk.deck->choices[0].Visible());
+  CHECK_FALSE(desk.deck->choices[1].Visible());
+  CHECK(desk.deck->choices[2].Visible());
+  CHECK_FALSE(desk.deck->choices[3].Visible());
 }
 
 TEST_CASE("choices mean nothing outside a test, arrows nothing inside one") {
   DeckDesk desk;
   desk.OpenExtendedDeck(3);
-  desk.deck->Option1_Click(0);
-  CHECK(desk.deck->NoteletCtl1.CardBanner().empty());
-  desk.deck->mnuTest.Press();
+  desk.deck->JudgeChoice(0);
+  CHECK(desk.deck->card.CardBanner().empty());
+  desk.deck->test.Press();
   desk.deck->Hide();
   desk.deck->Show();
-  CHECK(desk.deck->cmdMove[1].Enabled());
-  desk.deck->cmdMove[1].Press();
-  CHECK(desk.state.CurrentCard == 1);
+  CHECK(desk.deck->arrows[kNextCard].Enabled());
+  desk.deck->arrows[kNextCard].Press();
+  CHECK(desk.state.deck.currentCard == 1);
 }
 
 TEST_CASE("a standard test makes all choices invisible") {
   DeckDesk desk;
   desk.OpenStandardDeck(1);
-  desk.deck->mnuTest.Press();
-  for (const OptionButton& option : desk.deck->Option1) CHECK_FALSE(option.Visible());
+  desk.deck->test.Press();
+  for (const OptionButton& option : desk.deck->choices) CHECK_FALSE(option.Visible());
 }
 
 TEST_CASE("the states of a standard test, step by step") {
@@ -250,18 +250,18 @@ TEST_CASE("the states of a standard test, step by step") {
   DeckDesk desk;
   desk.OpenStandardDeck(2);
   for (const Step& step : kWalk) {
-    if (step.event == kStart) desk.deck->mnuTest.Press();
-    if (step.event == kFlip) desk.deck->Command3[1].Press();
-    if (step.event == kGrade) desk.deck->Command1[kFull].Press();
+    if (step.event == kStart) desk.deck->test.Press();
+    if (step.event == kFlip) desk.deck->flip.Press();
+    if (step.event == kGrade) desk.deck->credits[kFull].Press();
     CAPTURE(&step - kWalk);
-    CHECK(desk.state.CurrentCard == step.card);
-    CHECK(desk.deck->NoteletCtl1.CardText() ==
+    CHECK(desk.state.deck.currentCard == step.card);
+    CHECK(desk.deck->card.CardText() ==
           (step.backOnShow ? u"back " : u"front ") + DecimalText(step.card));
-    CHECK(desk.deck->Frame1.Visible());
-    CHECK(desk.deck->Frame1.Enabled() == step.gradable);
-    CHECK(desk.state.TestPoints == step.points);
-    CHECK(desk.deck->Command3[1].Enabled());
-    CHECK(desk.deck->NoteletCtl1.CardBanner().empty() != step.finished);
+    CHECK(desk.deck->creditPanel.Visible());
+    CHECK(desk.deck->creditPanel.Enabled() == step.gradable);
+    CHECK(desk.state.deck.testPoints == step.points);
+    CHECK(desk.deck->flip.Enabled());
+    CHECK(desk.deck->card.CardBanner().empty() != step.finished);
   }
   CHECK(desk.fakes.messages.shown.size() == 1);
 }
@@ -297,19 +297,19 @@ TEST_CASE("the states of an extended test, step by step") {
   desk.AddTrueFalse(u"?", u"T");
   desk.Open(kExtendedDeck);
   for (const Step& step : kWalk) {
-    if (step.event == kStart) desk.deck->mnuTest.Press();
-    if (step.event == kRight) desk.deck->Option1[0].Press();
-    if (step.event == kWrong) desk.deck->Option1[1].Press();
-    if (step.event == kNext) desk.deck->Command3[0].Press();
+    if (step.event == kStart) desk.deck->test.Press();
+    if (step.event == kRight) desk.deck->choices[0].Press();
+    if (step.event == kWrong) desk.deck->choices[1].Press();
+    if (step.event == kNext) desk.deck->nextOrScore.Press();
     CAPTURE(&step - kWalk);
-    CHECK(desk.state.CurrentCard == step.card);
-    CHECK(desk.deck->Frame2.Visible());
-    CHECK(desk.deck->Frame2.Enabled() == step.waiting);
-    CHECK(desk.deck->Command3[0].Enabled() == step.nextEnabled);
-    CHECK(desk.deck->Command3[0].Caption() == step.next);
-    CHECK(desk.deck->NoteletCtl1.CardBanner() == step.banner);
-    CHECK(desk.state.TestPoints == step.points);
-    const bool chosen = desk.deck->Option1[0].Selected() || desk.deck->Option1[1].Selected();
+    CHECK(desk.state.deck.currentCard == step.card);
+    CHECK(desk.deck->choicePanel.Visible());
+    CHECK(desk.deck->choicePanel.Enabled() == step.waiting);
+    CHECK(desk.deck->nextOrScore.Enabled() == step.nextEnabled);
+    CHECK(desk.deck->nextOrScore.Caption() == step.next);
+    CHECK(desk.deck->card.CardBanner() == step.banner);
+    CHECK(desk.state.deck.testPoints == step.points);
+    const bool chosen = desk.deck->choices[0].Selected() || desk.deck->choices[1].Selected();
     CHECK(chosen != step.waiting);
   }
   CHECK(desk.fakes.messages.shown.size() == 1);
@@ -326,12 +326,12 @@ TEST_CASE("each choice of each type stands for a key") {
       DeckDesk desk;
       desk.AddChoice(u"?", {u"one", u"two", u"three", u"four"}, u"A");
       desk.Open(kExtendedDeck);
-      desk.deck->mnuTest.Press();
-      desk.state.CardGrid.Set(1, kCardType, Text(c.type));
-      desk.state.CardGrid.Set(1, kAnswer,
-                              u" " + Text(c.keys[static_cast<std::size_t>(choice)]) + u" ");
-      desk.deck->Option1_Click(choice);
-      CHECK(desk.deck->NoteletCtl1.CardBanner() == u"CORRECT");
+      desk.deck->test.Press();
+      desk.state.deck.cardGrid.Set(1, kCardType, Text(c.type));
+      desk.state.deck.cardGrid.Set(1, kAnswer,
+                                   u" " + Text(c.keys[static_cast<std::size_t>(choice)]) + u" ");
+      desk.deck->JudgeChoice(choice);
+      CHECK(desk.deck->card.CardBanner() == u"CORRECT");
     }
   }
 }
@@ -339,10 +339,10 @@ TEST_CASE("each choice of each type stands for a key") {
 TEST_CASE("a grade of the last card counts before the test is said to be over") {
   DeckDesk desk;
   desk.OpenStandardDeck(1);
-  desk.deck->mnuTest.Press();
+  desk.deck->test.Press();
   desk.fakes.messages.whileShown = [&desk](const FakeMessages::Shown&) {
-    CHECK(desk.state.TestPoints == 0.5);
-    CHECK(desk.deck->NoteletCtl1.CardBanner().empty());
+    CHECK(desk.state.deck.testPoints == 0.5);
+    CHECK(desk.deck->card.CardBanner().empty());
   };
   Grade(desk, kPartial);
   CHECK(desk.fakes.messages.shown.size() == 1);
@@ -351,58 +351,58 @@ TEST_CASE("a grade of the last card counts before the test is said to be over") 
 TEST_CASE("the mark of the right choice stays when a test is left, until the next one") {
   DeckDesk desk;
   desk.OpenExtendedDeck(2);
-  desk.deck->mnuTest.Press();
-  desk.deck->Option1[1].Press();
-  desk.deck->mnuStudy.Press();
-  CHECK(desk.deck->Option1[0].ForeColor() == FixedColor(0, 0, 255));
-  CHECK(desk.deck->Option1[1].Selected());
-  desk.deck->mnuTest.Press();
-  CHECK(desk.deck->Option1[0].ForeColor() == Color{});
-  CHECK_FALSE(desk.deck->Option1[1].Selected());
+  desk.deck->test.Press();
+  desk.deck->choices[1].Press();
+  desk.deck->study.Press();
+  CHECK(desk.deck->choices[0].ForeColor() == FixedColor(0, 0, 255));
+  CHECK(desk.deck->choices[1].Selected());
+  desk.deck->test.Press();
+  CHECK(desk.deck->choices[0].ForeColor() == Color{});
+  CHECK_FALSE(desk.deck->choices[1].Selected());
 }
 
 TEST_CASE("the focus of a question is on its first choice that is there") {
   DeckDesk desk;
   desk.AddChoice(u"?", {u"", u"two", u"three"}, u"B");
   desk.Open(kExtendedDeck);
-  desk.deck->mnuTest.Press();
-  CHECK(desk.deck->FocusedControl() == &desk.deck->Option1[1]);
+  desk.deck->test.Press();
+  CHECK(desk.deck->FocusedControl() == &desk.deck->choices[1]);
 }
 
 TEST_CASE("after the score the focus is where the score can be read, or on what still works") {
   DeckDesk extended;
   extended.OpenExtendedDeck(1);
-  extended.deck->mnuTest.Press();
-  extended.deck->Option1[0].Press();
-  extended.deck->Command3[0].Press();
-  CHECK(extended.deck->FocusedControl() == &extended.deck->NoteletCtl1);
+  extended.deck->test.Press();
+  extended.deck->choices[0].Press();
+  extended.deck->nextOrScore.Press();
+  CHECK(extended.deck->FocusedControl() == &extended.deck->card);
   DeckDesk standard;
   standard.OpenStandardDeck(2);
-  standard.deck->mnuTest.Press();
+  standard.deck->test.Press();
   Grade(standard, kFull);
   Grade(standard, kFull);
-  CHECK(standard.deck->FocusedControl() == &standard.deck->Command3[1]);
-  standard.deck->mnuTest.Press();
-  standard.deck->Command3[1].Press();
-  standard.deck->mnuStudy.Press();
-  CHECK(standard.deck->FocusedControl() == &standard.deck->cmdMove[1]);
+  CHECK(standard.deck->FocusedControl() == &standard.deck->flip);
+  standard.deck->test.Press();
+  standard.deck->flip.Press();
+  standard.deck->study.Press();
+  CHECK(standard.deck->FocusedControl() == &standard.deck->arrows[kNextCard]);
 }
 
 TEST_CASE("the focus follows the steps of a test") {
   DeckDesk standard;
   standard.OpenStandardDeck(2);
-  standard.deck->mnuTest.Press();
-  CHECK(standard.deck->FocusedControl() == &standard.deck->Command3[1]);
-  standard.deck->Command3[1].Press();
-  CHECK(standard.deck->FocusedControl() == &standard.deck->Command1[1]);
-  standard.deck->Command1[1].Press();
-  CHECK(standard.deck->FocusedControl() == &standard.deck->Command3[1]);
+  standard.deck->test.Press();
+  CHECK(standard.deck->FocusedControl() == &standard.deck->flip);
+  standard.deck->flip.Press();
+  CHECK(standard.deck->FocusedControl() == &standard.deck->credits[kFullCredit]);
+  standard.deck->credits[kFullCredit].Press();
+  CHECK(standard.deck->FocusedControl() == &standard.deck->flip);
   DeckDesk extended;
   extended.OpenExtendedDeck(2);
-  extended.deck->mnuTest.Press();
-  CHECK(extended.deck->FocusedControl() == &extended.deck->Option1[0]);
-  extended.deck->Option1[1].Press();
-  CHECK(extended.deck->FocusedControl() == &extended.deck->Command3[0]);
+  extended.deck->test.Press();
+  CHECK(extended.deck->FocusedControl() == &extended.deck->choices[0]);
+  extended.deck->choices[1].Press();
+  CHECK(extended.deck->FocusedControl() == &extended.deck->nextOrScore);
 }
 
 }  // namespace tessara::test

@@ -34,21 +34,21 @@ TEST_CASE("the settings choose the colours, the shadow and the skin") {
   };
   for (const Case& c : cases) {
     DeckDesk desk;
-    desk.state.LargeCardColor = c.largeColor;
-    desk.state.LargeCard3D = c.large3D;
-    desk.state.SmallCardColor = c.smallColor;
-    desk.state.SmallCard3D = c.small3D;
+    desk.state.settings.largeCardColor = c.largeColor;
+    desk.state.settings.largeCard3D = c.large3D;
+    desk.state.settings.smallCardColor = c.smallColor;
+    desk.state.settings.smallCard3D = c.small3D;
     desk.deck.Loaded();
-    CHECK(desk.deck->NoteletCtl1.CardColor() == c.cardColor);
-    CHECK(desk.deck->Shape1.Visible() == c.shadow);
-    CHECK(desk.deck->Picture1.PictureOf().file == c.skin);
-    CHECK(desk.deck->NoteletCtl1.Place() == Bounds{120, 120, 6855, 3615});
+    CHECK(desk.deck->card.CardColor() == c.cardColor);
+    CHECK(desk.deck->cardShadow.Visible() == c.shadow);
+    CHECK(desk.deck->answerCard.PictureOf().file == c.skin);
+    CHECK(desk.deck->card.BoundsOf() == Bounds{120, 120, 6855, 3615});
   }
 }
 
 TEST_CASE("a setting that holds no number ends the program at the load") {
   DeckDesk desk;
-  desk.state.LargeCard3D = u"deep";
+  desk.state.settings.largeCard3D = u"deep";
   desk.windows.Run([&] { desk.deck.Loaded(); });
   CHECK(desk.fakes.messages.shown.back().text == u"Run-time error '13':\r\n\r\nType mismatch");
   CHECK(desk.windows.ExitStatus() == 1);
@@ -91,13 +91,13 @@ TEST_CASE("the shapes of a deck type and a mode") {
       desk.OpenStandardDeck(3);
       desk.deck->ConfigureStandardCard(c.mode);
     }
-    CHECK(desk.deck->Frame1.Visible() == c.credit);
-    CHECK(desk.deck->Frame2.Visible() == c.choices);
-    CHECK(desk.deck->Picture1.Visible() == c.answer);
-    CHECK(desk.deck->Command3[1].Caption() == c.flip);
-    CHECK(desk.deck->Command3[1].Enabled() == c.flipEnabled);
-    CHECK(desk.deck->cmdMove[0].Enabled() == c.back);
-    CHECK(desk.deck->cmdMove[1].Enabled() == c.next);
+    CHECK(desk.deck->creditPanel.Visible() == c.credit);
+    CHECK(desk.deck->choicePanel.Visible() == c.choices);
+    CHECK(desk.deck->answerCard.Visible() == c.answer);
+    CHECK(desk.deck->flip.Caption() == c.flip);
+    CHECK(desk.deck->flip.Enabled() == c.flipEnabled);
+    CHECK(desk.deck->arrows[kPreviousCard].Enabled() == c.back);
+    CHECK(desk.deck->arrows[kNextCard].Enabled() == c.next);
   }
 }
 
@@ -106,10 +106,10 @@ TEST_CASE("a quiz shows the front of card 1 undoubled for a moment, a test hides
   desk.AddTextCard(u"a & b", u"");
   desk.Open(kStandardDeck);
   desk.deck->ConfigureStandardCard(kQuizMode);
-  CHECK(desk.deck->NoteletCtl1.CardText() == u"a & b");
-  desk.deck->Picture1.SetVisible(true);
+  CHECK(desk.deck->card.CardText() == u"a & b");
+  desk.deck->answerCard.SetVisible(true);
   desk.deck->ConfigureStandardCard(kTestMode);
-  CHECK(desk.deck->Picture1.Visible());
+  CHECK(desk.deck->answerCard.Visible());
 }
 
 }  // namespace tessara::test

@@ -1,0 +1,59 @@
+#include "adapters/libreoffice/calc_server.h"
+
+#include <com/sun/star/lang/XComponent.hpp>
+#include <cppuhelper/bootstrap.hxx>
+#include <rtl/bootstrap.hxx>
+#include <utility>
+
+#include "adapters/libreoffice/calc_workbook.h"
+#include "adapters/libreoffice/file_url.h"
+#include "adapters/libreoffice/uno_text.h"
+
+namespace tessara {
+
+namespace {
+
+namespace uno = com::sun::star::uno;
+using com::sun::star::lang::XComponent;
+
+/// This process's own side of a connection, which knows all interfaces of the server's.
+OfficeSession::Context MakeLocalContext(const std::string& officeProgramFolder) {
+  rtl::Bootstrap::set("URE_MORE_TYPES",
+                      UnoText(FileUrl(officeProgramFolder + "/types/offapi.rdb")));
+  return cppu::defaultBootstrap_InitialComponentContext();
+}
+
+}  // namespace
+
+CalcServer::CalcServer(std::string officeProgramFolder)
+    : officeProgramFolder_(std::move(officeProgramFolder)),
+      local_(MakeLocalContext(officeProgramFolder_)) {}
+
+CalcServer::~CalcServer() {
+  try {
+    const uno::Reference<XComponent> component(local_, uno::UNO_QUERY);
+    if (component.is()) component->dispose();
+  } catch (const uno::Exception&) {
+    // The program ends: nothing is left to do about it.
+  }
+}
+
+std::shared_ptr<Workbook> CalcServer::Bind(const Text& templatePath) {
+  auto session = session_.lock();
+  // A job that failed while it opened still holds its workbook, and so a server that has died.
+  if (session == nullptr || session->Lost()) {
+    session = std::make_shared<OfficeSession>(officeProgramFolder_, local_);
+    session_ = session;
+  }
+  return std::make_shared<CalcWorkbook>(std::move(session), templatePath, output_);
+}
+
+void CalcServer::SetDestination(const PrintDestination& destination) {
+  output_->SetDestination(destination);
+}
+
+void CalcServer::FinishDestination() {
+  output_->Finish();
+}
+
+}  // namespace tessara

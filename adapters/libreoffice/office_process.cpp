@@ -1,0 +1,143 @@
+#include "adapters/libreoffice/office_process.h"
+
+#include <csignal>
+#include <fcntl.h>
+#include <string_view>
+#include <sys/prctl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <utility>
+#include <vector>
+
+#include "adapters/libreoffice/file_url.h"
+#include "adapters/libreoffice/office_profile.h"
+#include "adapters/libreoffice/process_pipes.h"
+#include "base/run_time_error.h"
+
+namespace tessara {
+
+namespace {
+
+/// Exit codes by which the server asks to be started again.
+constexpr int kRestartAfterCrash = 79;
+constexpr int kRestart = 81;
+
+constexpr const char* kProfile = "profile";
+
+/// The first one behind standard input, output and error.
+constexpr unsigned kFirstFileToClose = 3;
+
+/// A command with its environment as the system wants them: made before the fork, because behind
+/// it nothing may be allocated.
+class Command {
+ public:
+  Command(std::vector<std::string> arguments, std::vector<std::string> environment)
+      : arguments_(std::move(arguments)), environment_(std::move(environment)) {
+    for (std::string& argument : arguments_) argv_.push_back(argument.data());
+    for (std::string& variable : environment_) envp_.push_back(variable.data());
+    argv_.push_back(nullptr);
+    envp_.push_back(nullptr);
+  }
+  Command(const Command&) = delete;
+  Command& operator=(const Command&) = delete;
+
+  void Execute() const { execve(argv_.front(), argv_.data(), envp_.data()); }
+
+ private:
+  std::vector<std::string> arguments_;
+  std::vector<std::string> environment_;
+  std::vector<char*> argv_;
+  std::vector<char*> envp_;
+};
+
+std::vector<std::string> Arguments(const std::string& office, const std::string& folder,
+                                   const std::string& pipe) {
+  return {office + "/soffice.bin",
+          "--headless",
+          "--invisible",
+          "--norestore",
+          "--nologo",
+          "--nodefault",
+          "--nolockcheck",
+          "-env:UserInstallation=" + FileUrl(folder + "/" + kProfile),
+          "--accept=pipe,name=" + pipe + ";urp"};
+}
+
+/// The program's own, but for the folder of temporary files.
+std::vector<std::string> Environment(const std::string& folder) {
+  constexpr std::string_view kTemporary = "TMPDIR=";
+  std::vector<std::string> environment{std::string(kTemporary) + folder};
+  for (char** variable = environ; *variable != nullptr; ++variable) {
+    if (!std::string_view(*variable).starts_with(kTemporary)) environment.emplace_back(*variable);
+  }
+  return environment;
+}
+
+/// Between fork and execution: only what is safe there.
+[[noreturn]] void BecomeServer(const Command& command, pid_t parent) {
+  prctl(PR_SET_PDEATHSIG, SIGKILL);
+  if (getppid() != parent) _exit(1);  // died before the line above
+  const int nothing = open("/dev/null", O_RDWR);
+  dup2(nothing, STDIN_FILENO);
+  dup2(nothing, STDOUT_FILENO);
+  dup2(nothing, STDERR_FILENO);
+  close_range(kFirstFileToClose, ~0U, 0);
+  signal(SIGPIPE, SIG_DFL);
+  command.Execute();
+  _exit(1);
+}
+
+}  // namespace
+
+OfficeProcess::OfficeProcess(std::string officeProgramFolder)
+    : officeProgramFolder_(std::move(officeProgramFolder)) {
+  PrepareProfile(folder_.Path() / kProfile, officeProgramFolder_);
+  Start();
+}
+
+std::string OfficeProcess::PipeName() const {
+  return folder_.Path().filename().string();
+}
+
+void OfficeProcess::NotePipes() {
+  const std::lock_guard lock(mutex_);
+  for (const std::filesystem::path& pipe : PipesOf(process_)) {
+    if (pipes_.insert(pipe).second) folder_.AlsoRemove(pipe);
+  }
+}
+
+OfficeProcess::~OfficeProcess() {
+  Kill();
+  if (process_ != 0) waitpid(process_, nullptr, 0);
+}
+
+void OfficeProcess::Start() {
+  const std::string folder = folder_.Path().string();
+  const Command command(Arguments(officeProgramFolder_, folder, PipeName()), Environment(folder));
+  const pid_t parent = getpid();
+  const pid_t child = fork();
+  if (child < 0) throw RunTimeError(ErrorNumber::kAutomationError);
+  if (child == 0) BecomeServer(command, parent);
+  process_ = child;
+}
+
+bool OfficeProcess::Running() {
+  constexpr pid_t kStillRunning = 0;
+  const std::lock_guard lock(mutex_);
+  int status = 0;
+  // Where the program has inherited that its children's ends are ignored, an ended one is no child
+  // any more: the wait fails.
+  if (process_ != 0 && waitpid(process_, &status, WNOHANG) != kStillRunning) {
+    process_ = 0;
+    const int code = WIFEXITED(status) ? WEXITSTATUS(status) : 0;
+    if (code == kRestart || code == kRestartAfterCrash) Start();
+  }
+  return process_ != 0;
+}
+
+void OfficeProcess::Kill() {
+  const std::lock_guard lock(mutex_);
+  if (process_ != 0) kill(process_, SIGKILL);
+}
+
+}  // namespace tessara

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <filesystem>
+#include <mutex>
+#include <set>
+#include <string>
+#include <sys/types.h>
+
+#include "adapters/libreoffice/private_folder.h"
+
+namespace tessara {
+
+/// The hidden server: a process of its own with a profile of its own, which listens on a pipe.
+/// It dies with the object, with the program, and when it is killed.
+class OfficeProcess {
+ public:
+  /// Raises error 440 where it can't be started.
+  explicit OfficeProcess(std::string officeProgramFolder);
+  ~OfficeProcess();
+  OfficeProcess(const OfficeProcess&) = delete;
+  OfficeProcess& operator=(const OfficeProcess&) = delete;
+
+  [[nodiscard]] const PrivateFolder& Folder() const { return folder_; }
+  /// The pipe's name, unique as the folder's is.
+  [[nodiscard]] std::string PipeName() const;
+  /// To be called while the server starts and when its pipe is there: the files of the pipes that
+  /// it has made go with the object.
+  void NotePipes();
+
+  /// False where it has ended. A server that has ended because it wants to be started again, as
+  /// it may with a new profile, is.
+  bool Running();
+  /// Ends it at once. May be called by any thread.
+  void Kill();
+
+ private:
+  void Start();
+
+  std::string officeProgramFolder_;
+  PrivateFolder folder_;
+  std::set<std::filesystem::path> pipes_;  ///< that are to be removed
+  std::mutex mutex_;   ///< keeps Kill from a process number that is no longer ours
+  pid_t process_ = 0;  ///< 0 where none runs
+};
+
+}  // namespace tessara

@@ -1,0 +1,84 @@
+#include "adapters/posix/new_file.h"
+
+#include <chrono>
+#include <fcntl.h>
+#include <string>
+#include <sys/stat.h>
+#include <utility>
+
+namespace tessara {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr const char* kHiddenName = ".unfinished-";
+
+}  // namespace
+
+NewFile::NewFile(fs::path folder, Kind kind) : folder_(std::move(folder)), file_(OpenFile(kind)) {
+  constexpr mode_t kOwnerMayReadAndWrite = 0600;
+  // Whatever the user's mask.
+  Checked(fchmod(file_.Get(), kOwnerMayReadAndWrite));
+}
+
+NewFile::~NewFile() {
+  if (!hidden_.empty()) unlink(hidden_.c_str());
+}
+
+int NewFile::OpenFile(Kind kind) {
+  const auto opened = [](const fs::path& path, int flags) {
+    return Uninterrupted([&] { return open(path.c_str(), flags | O_WRONLY | O_CLOEXEC, 0); });
+  };
+  if (kind == Kind::kNameless) {
+    const int nameless = opened(folder_, O_TMPFILE);
+    if (nameless != kFailed) return nameless;
+  }
+  const fs::path hidden = folder_ / (kHiddenName + std::to_string(getpid()));
+  // A killed process of the same number may have left it.
+  unlink(hidden.c_str());
+  const int file = Checked(opened(hidden, O_CREAT | O_EXCL | O_NOFOLLOW));
+  hidden_ = hidden;
+  return file;
+}
+
+void NewFile::NameIt(const std::string& name) {
+  Checked(Uninterrupted([this] { return fsync(Get()); }));
+  TakeName(folder_ / name);
+  SyncFolder(folder_);
+}
+
+void NewFile::TakeName(const fs::path& path) {
+  if (!hidden_.empty()) {
+    Checked(rename(hidden_.c_str(), path.c_str()));
+    hidden_.clear();
+    return;
+  }
+  const std::string open = "/proc/self/fd/" + std::to_string(Get());
+  Checked(linkat(AT_FDCWD, open.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW));
+}
+
+void NewFile::RemoveUnfinished(const fs::path& folder) {
+  const auto recent = fs::file_time_type::clock::now() - std::chrono::hours(1);
+  for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+    if (!entry.path().filename().string().starts_with(kHiddenName)) continue;
+    std::error_code vanished;
+    if (entry.last_write_time(vanished) < recent && !vanished) fs::remove(entry, vanished);
+  }
+}
+
+void SyncFolder(const fs::path& folder) {
+  const Descriptor opened(Checked(
+      Uninterrupted([&] { return open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); })));
+  Checked(Uninterrupted([&] { return fsync(opened.Get()); }));
+}
+
+void MakeFolders(const fs::path& folder) {
+  constexpr mode_t kOwnerOnly = 0700;
+  if (folder.empty() || fs::is_directory(folder)) return;
+  MakeFolders(folder.parent_path());
+  Checked(mkdir(folder.c_str(), kOwnerOnly));
+  SyncFolder(folder.parent_path());
+}
+
+}  // namespace tessara

@@ -1,0 +1,48 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+
+#include "adapters/posix/system_call.h"
+
+namespace tessara {
+
+/// A file that comes into its folder whole or not at all, for its owner only. What fails raises
+/// std::system_error.
+class NewFile {
+ public:
+  /// What it is until it has its name: nothing that anybody can see or a killed process leave
+  /// behind, or, where the file system can't do that, a hidden file.
+  enum class Kind { kNameless, kHidden };
+
+  /// A hidden one where a nameless one can't be made.
+  explicit NewFile(std::filesystem::path folder, Kind kind = Kind::kNameless);
+  NewFile(const NewFile&) = delete;
+  NewFile& operator=(const NewFile&) = delete;
+  ~NewFile();
+
+  /// Open for writing.
+  [[nodiscard]] int Get() const { return file_.Get(); }
+  /// Brings what was written to the disk, then the file to its name, then the name to the disk.
+  /// The name must be free.
+  void NameIt(const std::string& name);
+
+  /// Removes what killed processes have left in the folder an hour ago or earlier.
+  static void RemoveUnfinished(const std::filesystem::path& folder);
+
+ private:
+  [[nodiscard]] int OpenFile(Kind kind);
+  void TakeName(const std::filesystem::path& path);
+
+  std::filesystem::path folder_;
+  std::filesystem::path hidden_;  ///< empty for a nameless file, and once it has its name
+  Descriptor file_;
+};
+
+/// Brings the folder's entries to the disk.
+void SyncFolder(const std::filesystem::path& folder);
+
+/// Makes the folder and those above it that are missing, for their owner only.
+void MakeFolders(const std::filesystem::path& folder);
+
+}  // namespace tessara

@@ -1,0 +1,110 @@
+#include "adapters/posix/posix_file_system.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <fcntl.h>
+#include <memory>
+#include <string>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+#include "adapters/posix/posix_file.h"
+#include "adapters/posix/read_ahead.h"
+#include "adapters/posix/system_call.h"
+#include "adapters/posix/system_error.h"
+#include "base/run_time_error.h"
+#include "base/utf8.h"
+
+namespace tessara {
+
+namespace {
+
+constexpr mode_t kOwn = S_IRUSR | S_IWUSR;
+constexpr mode_t kOfOthers = S_IRWXG | S_IRWXO;
+
+[[noreturn]] void RaisePathError(int systemError) {
+  throw RunTimeError(PathError(systemError));
+}
+
+/// The path as the system takes it. Raises error 75 for one that the system can't name.
+std::string SystemPath(const Text& path) {
+  std::string bytes = ToUtf8(path);
+  const bool nameable = !bytes.empty() && bytes.find('\0') == std::string::npos;
+  if (!nameable) throw RunTimeError(ErrorNumber::kPathFileAccess);
+  return bytes;
+}
+
+bool IsFolder(const std::string& path) {
+  struct stat status {};
+  return stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+/// Folder of the path, with the separator at its end; empty for a name alone.
+std::string FolderOf(const std::string& path) {
+  return path.substr(0, path.rfind('/') + 1);
+}
+
+void RequireRegularFile(const struct stat& status) {
+  if (!S_ISREG(status.st_mode)) throw RunTimeError(ErrorNumber::kPathFileAccess);
+}
+
+/// Without waiting: opening a pipe would wait for a peer, a terminal for its line.
+int FlagsOf(OpenMode mode) {
+  constexpr int kAlways = O_NONBLOCK | O_CLOEXEC | O_NOCTTY;
+  return kAlways | (mode == OpenMode::kRead ? O_RDONLY : O_RDWR | O_CREAT);
+}
+
+/// The system has one code for a missing file and a missing folder.
+ErrorNumber OpenError(int systemError, const std::string& path) {
+  const std::string folder = FolderOf(path);
+  const bool folderMissing = systemError == ENOENT && !folder.empty() && !IsFolder(folder);
+  return folderMissing ? ErrorNumber::kPathNotFound : PathError(systemError);
+}
+
+}  // namespace
+
+std::unique_ptr<File> PosixFileSystem::Open(const Text& path, OpenMode mode) {
+  const std::string name = SystemPath(path);
+  const mode_t permissions = PermissionsOfNew(name);
+  const int descriptor =
+      Uninterrupted([&] { return open(name.c_str(), FlagsOf(mode), permissions); });
+  if (descriptor == kFailed) throw RunTimeError(OpenError(errno, name));
+  auto file = std::make_unique<PosixFile>(descriptor);
+  struct stat status {};
+  if (fstat(descriptor, &status) == kFailed) RaisePathError(errno);
+  RequireRegularFile(status);
+  if (mode == OpenMode::kRead) return std::make_unique<ReadAhead>(std::move(file));
+  return file;
+}
+
+/// Before the user's mask.
+mode_t PosixFileSystem::PermissionsOfNew(const std::string& name) const {
+  constexpr mode_t kEverybody = 0666;
+  return deleted_ && deleted_->name == name ? deleted_->permissions : kEverybody;
+}
+
+void PosixFileSystem::Delete(const Text& path) {
+  const std::string name = SystemPath(path);
+  // The link stays and the next opening makes what it leads to anew.
+  const std::unique_ptr<char, decltype(&std::free)> target(realpath(name.c_str(), nullptr),
+                                                           &std::free);
+  if (target == nullptr) RaisePathError(errno);
+  struct stat status {};
+  if (stat(target.get(), &status) == kFailed) RaisePathError(errno);
+  RequireRegularFile(status);
+  // The system would let the owner of the folder delete a file that is kept from being written.
+  if (access(target.get(), W_OK) == kFailed) RaisePathError(errno);
+  if (unlink(target.get()) == kFailed) RaisePathError(errno);
+  deleted_ = {name, (status.st_mode & kOfOthers) | kOwn};
+}
+
+std::optional<Text> PosixFileSystem::EntryName(const Text& path) {
+  const std::string name = ToUtf8(path);
+  struct stat status {};
+  const bool there = name.find('\0') == std::string::npos && lstat(name.c_str(), &status) == 0;
+  if (!there) return std::nullopt;
+  return FromUtf8(name.substr(FolderOf(name).size()));
+}
+
+}  // namespace tessara

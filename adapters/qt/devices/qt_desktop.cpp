@@ -1,0 +1,72 @@
+#include "adapters/qt/devices/qt_desktop.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QScreen>
+#include <QUrl>
+#include <utility>
+
+#include "adapters/qt/text/pixel_scale.h"
+#include "adapters/qt/text/qt_text.h"
+
+namespace tessara {
+
+namespace {
+
+constexpr int kNoProgram = 31;
+
+/// A link names its kind: "mailto:". One letter is a drive, not a kind.
+bool IsLink(const QString& target) {
+  static const QRegularExpression kind(QStringLiteral("^[A-Za-z][A-Za-z0-9+.-]+:"));
+  return kind.match(target).hasMatch();
+}
+
+QSize ScreenSize() {
+  const PixelScale scale = PixelScale::OfDesktop();
+  const QSize size = QApplication::primaryScreen()->size();
+  return {scale.ToProgramPixels(size.width()), scale.ToProgramPixels(size.height())};
+}
+
+}  // namespace
+
+QtDesktop::QtDesktop(HelpViewer showHelp) : showHelp_(std::move(showHelp)) {}
+
+bool QtDesktop::PreviousInstance() {
+  return !lock_.Acquire();
+}
+
+int QtDesktop::Open(const Text& target, const Text& folder, ShowState state) {
+  (void)folder;
+  (void)state;
+  const QString name = ToQString(target);
+  const bool link = IsLink(name);
+  if (!link && !QFileInfo::exists(name)) return kOpenFileNotFound;
+  const QUrl url = link ? QUrl(name) : QUrl::fromLocalFile(QFileInfo(name).absoluteFilePath());
+  return QDesktopServices::openUrl(url) ? kOpenSucceeded : kNoProgram;
+}
+
+void QtDesktop::ShowHelp(const Text& path) {
+  if (showHelp_ && QFileInfo::exists(ToQString(path))) showHelp_(path);
+}
+
+void QtDesktop::SetMousePointer(MousePointer pointer) {
+  const bool busy = QApplication::overrideCursor() != nullptr;
+  if (pointer == MousePointer::kHourglass && !busy) QApplication::setOverrideCursor(Qt::WaitCursor);
+  if (pointer == MousePointer::kDefault && busy) QApplication::restoreOverrideCursor();
+}
+
+void QtDesktop::Yield() {
+  QCoreApplication::processEvents();
+}
+
+int QtDesktop::ScreenWidth() const {
+  return ScreenSize().width();
+}
+
+int QtDesktop::ScreenHeight() const {
+  return ScreenSize().height();
+}
+
+}  // namespace tessara

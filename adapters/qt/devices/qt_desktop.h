@@ -1,0 +1,30 @@
+#pragma once
+
+#include <functional>
+
+#include "adapters/posix/session_lock.h"
+#include "machine/desktop.h"
+
+namespace tessara {
+
+class QtDesktop : public Desktop {
+ public:
+  /// Shows the help file at the path, which exists.
+  using HelpViewer = std::function<void(const Text& path)>;
+  explicit QtDesktop(HelpViewer showHelp);
+
+  bool PreviousInstance() override;
+  /// The folder and the window's state are the opening program's own business here.
+  int Open(const Text& target, const Text& folder, ShowState state) override;
+  void ShowHelp(const Text& path) override;
+  void SetMousePointer(MousePointer pointer) override;
+  void Yield() override;
+  [[nodiscard]] int ScreenWidth() const override;
+  [[nodiscard]] int ScreenHeight() const override;
+
+ private:
+  HelpViewer showHelp_;
+  SessionLock lock_;
+};
+
+}  // namespace tessara

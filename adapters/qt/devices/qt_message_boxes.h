@@ -1,0 +1,21 @@
+#pragma once
+
+#include "machine/message_box.h"
+
+namespace tessara {
+
+class WindowSystem;
+
+/// Message boxes of the desktop's look, with texts and titles shown as they stand.
+class QtMessageBoxes : public MessageBoxes {
+ public:
+  /// An event that waited for a box while the program ended is left when the box returns. Set once,
+  /// since the window system itself is made with the boxes.
+  void SetWindows(const WindowSystem& windows) { windows_ = &windows; }
+  MessageAnswer Show(const Text& text, int flags, const Text& title) override;
+
+ private:
+  const WindowSystem* windows_ = nullptr;
+};
+
+}  // namespace tessara

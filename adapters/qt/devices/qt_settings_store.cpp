@@ -1,0 +1,110 @@
+#include "adapters/qt/devices/qt_settings_store.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QSaveFile>
+#include <QStandardPaths>
+#include <fcntl.h>
+#include <optional>
+#include <sys/file.h>
+#include <unistd.h>
+#include <utility>
+
+#include "adapters/qt/text/qt_text.h"
+
+namespace tessara {
+
+namespace {
+
+const QLatin1String kLockEnding(".lock");
+
+/// New settings that never took the old ones' place, and are no older than the lock they were
+/// written under.
+void RemoveUnfinished(const QFileInfo& settings, const QDateTime& locked) {
+  const QString unfinished = settings.fileName() + QLatin1String(".??????");
+  for (const QFileInfo& file : settings.dir().entryInfoList({unfinished}, QDir::Files)) {
+    if (file.lastModified() >= locked) QFile::remove(file.filePath());
+  }
+}
+
+/// A writer that was killed leaves its lock behind, and perhaps what it was writing. Where it had
+/// not come to put its number into the lock, the next one would wait for half a minute.
+void RemoveLeftovers(const QString& settingsFile) {
+  const QString lock = settingsFile + kLockEnding;
+  const int file = open(QFile::encodeName(lock).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+  if (file < 0) return;
+  // The lock of a writer that is alive can't be had.
+  if (flock(file, LOCK_EX | LOCK_NB) == 0) {
+    RemoveUnfinished(QFileInfo(settingsFile), QFileInfo(lock).lastModified());
+    QFile::remove(lock);
+  }
+  close(file);
+}
+
+/// Tessara.conf in the user's configuration folder.
+QString UserFile() {
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+  return folder + QLatin1String("/Tessara.conf");
+}
+
+/// Empty where there is no file; nothing where there is one that can't be read.
+std::optional<QByteArray> BytesOf(const QString& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) {
+    return file.exists() ? std::nullopt : std::optional(QByteArray());
+  }
+  const QByteArray bytes = file.readAll();
+  return file.error() == QFile::NoError ? std::optional(bytes) : std::nullopt;
+}
+
+/// What somebody has broken by hand keeps its bytes, under a name of its own.
+[[nodiscard]] bool SetAside(const QString& path) {
+  const QString aside = path + QLatin1String(".unreadable");
+  QFile::remove(aside);
+  return QFile::rename(path, aside);
+}
+
+/// The file then has all the bytes, or what it had before where that fails.
+void Replace(const QString& path, const QByteArray& bytes) {
+  QSaveFile file(path);
+  if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) return;
+  // By itself, commit would not notice that the last bytes can't be written.
+  if (file.flush()) file.commit();
+}
+
+}  // namespace
+
+QtSettingsStore::QtSettingsStore() : path_(UserFile()) {
+  RemoveLeftovers(path_);
+  std::optional<SettingsFile> stored = SettingsFile::Parse(BytesOf(path_).value_or(QByteArray()));
+  if (stored) known_ = std::move(*stored);
+}
+
+Text QtSettingsStore::Read(const Text& key, const Text& defaultValue) const {
+  const std::optional<QString> found = known_.Find(ToQString(key));
+  return found ? FromQString(*found) : defaultValue;
+}
+
+void QtSettingsStore::Write(const Text& key, const Text& value) {
+  known_.Set(ToQString(key), ToQString(value));
+  // The lock has to stand somewhere: a new user has no configuration folder yet.
+  QDir().mkpath(QFileInfo(path_).path());
+  RemoveLeftovers(path_);
+  QLockFile lock(path_ + kLockEnding);
+  if (!lock.lock()) return;
+  // What somebody else has written meanwhile stays; what can't be read would be lost.
+  const std::optional<QByteArray> bytes = BytesOf(path_);
+  if (!bytes) return;
+  std::optional<SettingsFile> stored = SettingsFile::Parse(*bytes);
+  if (!stored) {
+    if (!SetAside(path_)) return;
+    stored.emplace();
+  }
+  stored->Set(ToQString(key), ToQString(value));
+  Replace(path_, stored->Bytes());
+}
+
+}  // namespace tessara

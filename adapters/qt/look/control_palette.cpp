@@ -1,0 +1,78 @@
+#include "adapters/qt/look/control_palette.h"
+
+#include <QApplication>
+#include <array>
+
+#include "adapters/qt/look/contrast.h"
+#include "adapters/qt/look/qt_colors.h"
+#include "forms/controls.h"
+#include "forms/form.h"
+
+namespace tessara {
+
+namespace {
+
+constexpr std::array kTextRoles = {QPalette::WindowText, QPalette::ButtonText, QPalette::Text};
+constexpr std::array kGroundRoles = {QPalette::Window, QPalette::Base, QPalette::Button};
+
+bool HasColors(const Control& control) {
+  return control.ForeColor() != Color{} || control.BackColor() != Color{};
+}
+
+/// A picture is a ground of its own, the same on every desktop.
+bool StandsOnPicture(const Control& control) {
+  for (const Control* at = control.Container(); at != nullptr; at = at->Container()) {
+    const bool box = at->Kind() == ControlKind::kPictureBox;
+    if (box && !static_cast<const PictureBox*>(at)->PictureOf().Empty()) return true;
+  }
+  return false;
+}
+
+/// Named colours were chosen for a light desktop.
+QColor TextColor(const Control& control, const QPalette& desktop, const QColor& own) {
+  const QColor color = ColorIn(desktop, control.ForeColor(), own);
+  const bool fixed = control.ForeColor().role == Color::Role::kFixed;
+  if (!fixed || StandsOnPicture(control)) return color;
+  const QColor window = desktop.color(QPalette::Active, QPalette::Window);
+  return ReadableOn(ColorIn(desktop, control.BackColor(), window), color);
+}
+
+}  // namespace
+
+bool IsKeptOut(const Control& control) {
+  if (!control.Enabled()) return false;
+  for (const Control* holder = control.Container(); holder != nullptr;
+       holder = holder->Container()) {
+    if (!holder->Enabled()) return true;
+  }
+  return !control.Owner().Enabled();
+}
+
+bool NeedsPalette(const Control& control) {
+  if (IsKeptOut(control) || !control.Owner().Enabled()) return true;
+  for (const Control* at = &control; at != nullptr; at = at->Container()) {
+    if (HasColors(*at) || !at->Enabled()) return true;
+  }
+  return false;
+}
+
+QPalette PaletteOf(const Control& control) {
+  const QPalette desktop = QApplication::palette();
+  const bool keptOut = IsKeptOut(control);
+  QPalette palette = desktop;
+  for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+    const bool greyed = group == QPalette::Disabled && !keptOut;
+    const auto source = group == QPalette::Disabled && keptOut ? QPalette::Active : group;
+    for (const auto role : kTextRoles) {
+      const QColor own = desktop.color(source, role);
+      palette.setColor(group, role, greyed ? own : TextColor(control, desktop, own));
+    }
+    for (const auto role : kGroundRoles) {
+      const QColor own = desktop.color(source, role);
+      palette.setColor(group, role, ColorIn(desktop, control.BackColor(), own));
+    }
+  }
+  return palette;
+}
+
+}  // namespace tessara

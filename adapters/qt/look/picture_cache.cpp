@@ -1,0 +1,30 @@
+#include "adapters/qt/look/picture_cache.h"
+
+#include <QFileInfo>
+#include <utility>
+
+namespace tessara {
+
+PictureCache::PictureCache(QString folder, double density)
+    : folder_(std::move(folder)), density_(density) {}
+
+const QPixmap& PictureCache::PixmapOf(const Picture& picture) {
+  const QString file = QString::fromStdString(picture.file);
+  const auto found = pixmaps_.constFind(file);
+  if (found != pixmaps_.constEnd()) return *found;
+  return *pixmaps_.insert(file, Read(file));
+}
+
+QPixmap PictureCache::Read(const QString& file) const {
+  if (file.isEmpty()) return {};
+  const QFileInfo name(file);
+  const QString dense =
+      QString(file).insert(file.size() - name.suffix().size() - 1, QLatin1String("@2x"));
+  if (density_ > 1) {
+    QPixmap pixmap(folder_ + u'/' + dense);
+    if (!pixmap.isNull()) return pixmap;
+  }
+  return {folder_ + u'/' + file};
+}
+
+}  // namespace tessara

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "adapters/qt/look/picture_cache.h"
+#include "adapters/qt/text/pixel_scale.h"
+
+namespace tessara {
+
+/// What all views share.
+struct ViewContext {
+  const PixelScale& scale;
+  PictureCache& pictures;
+};
+
+}  // namespace tessara

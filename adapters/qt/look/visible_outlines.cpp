@@ -1,0 +1,105 @@
+#include "adapters/qt/look/visible_outlines.h"
+
+#include <QApplication>
+#include <QCache>
+#include <QProxyStyle>
+#include <QStyleOption>
+#include <utility>
+
+#include "adapters/qt/look/contrast.h"
+
+namespace tessara {
+
+namespace {
+
+/// A thin curve loses some of it where it is smoothed.
+constexpr double kOutlineContrast = 1.25 * kVisibleContrast;
+/// How dark, in per cent, the style makes the highlight for the outline of what has the focus.
+constexpr int kFocusDarkening = 125;
+
+/// How dark, in per cent, the style makes the ground for the outline of an element; 0 for none.
+int DarkeningOf(QStyle::PrimitiveElement element) {
+  switch (element) {
+    case QStyle::PE_IndicatorRadioButton:
+      return 150;
+    case QStyle::PE_FrameLineEdit:
+    case QStyle::PE_PanelButtonCommand:
+      return 140;
+    case QStyle::PE_Frame:
+      return 130;
+    case QStyle::PE_IndicatorCheckBox:
+      return 127;
+    default:
+      return 0;
+  }
+}
+
+/// The colour that is seen on the ground once the style has darkened it.
+QColor SeenWhenDarkened(const QColor& ground, const QColor& color, int darkening) {
+  return ReadableOn(ground, color.darker(darkening), kOutlineContrast).lighter(darkening);
+}
+
+QPalette OutliningPalette(const QPalette& palette, int darkening) {
+  const QColor ground = palette.color(QPalette::Window);
+  const QColor focus = palette.color(QPalette::Highlight);
+  QPalette outlining = palette;
+  outlining.setColor(QPalette::Window, SeenWhenDarkened(ground, ground, darkening));
+  outlining.setColor(QPalette::Highlight, SeenWhenDarkened(ground, focus, kFocusDarkening));
+  return outlining;
+}
+
+/// The same palette for the same one each time: the style keeps what it has drawn, by palette.
+class OutliningPalettes {
+ public:
+  const QPalette& Of(const QPalette& palette, int darkening) {
+    const Key key{palette.cacheKey(), palette.currentColorGroup() * kMostDarkening + darkening};
+    if (!made_.contains(key)) made_.insert(key, new QPalette(OutliningPalette(palette, darkening)));
+    return *made_.object(key);
+  }
+
+ private:
+  using Key = std::pair<qint64, int>;
+  static constexpr int kMostDarkening = 1000;
+  QCache<Key, QPalette> made_;
+};
+
+/// Draws elements with a copy of the option, if it is one of the kind.
+template <class Option, class Draw>
+bool DrawOutlined(const QStyleOption& option, int darkening, OutliningPalettes& palettes,
+                  const Draw& draw) {
+  const auto* own = qstyleoption_cast<const Option*>(&option);
+  if (own == nullptr) return false;
+  Option outlined(*own);
+  outlined.palette = palettes.Of(own->palette, darkening);
+  draw(outlined);
+  return true;
+}
+
+class OutlineStyle : public QProxyStyle {
+ public:
+  using QProxyStyle::QProxyStyle;
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override {
+    const auto draw = [&](const QStyleOption& drawn) {
+      QProxyStyle::drawPrimitive(element, &drawn, painter, widget);
+    };
+    const int darkening = DarkeningOf(element);
+    const bool outlined =
+        darkening != 0 && (DrawOutlined<QStyleOptionButton>(*option, darkening, palettes_, draw) ||
+                           DrawOutlined<QStyleOptionFrame>(*option, darkening, palettes_, draw));
+    if (!outlined) draw(*option);
+  }
+
+ private:
+  mutable OutliningPalettes palettes_;
+};
+
+}  // namespace
+
+void ShowOutlines() {
+  const QString name = QApplication::style()->name();
+  if (name == QLatin1String("fusion")) QApplication::setStyle(new OutlineStyle(name));
+}
+
+}  // namespace tessara

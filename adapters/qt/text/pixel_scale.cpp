@@ -1,0 +1,83 @@
+#include "adapters/qt/text/pixel_scale.h"
+
+#include <QApplication>
+#include <QFontInfo>
+#include <QScreen>
+#include <algorithm>
+
+#include "adapters/qt/text/qt_text.h"
+
+namespace tessara {
+
+namespace {
+
+constexpr double kClassicPoints = 8.25;
+constexpr double kPointsPerInch = 72;
+/// Pixels to an inch that the program's pixels are counted by.
+constexpr double kPixelsPerInch = 96;
+constexpr double kLargestUnscaledFont = 10 * kPixelsPerInch / kPointsPerInch;
+/// Height of a control's font; the classic 8.25 points were 11 pixels, of a narrower face.
+constexpr double kControlFontPixels = 12;
+
+/// The classic sans-serif face is the desktop's own; another one keeps its name.
+void SetFamily(QFont& font, TextView family) {
+  if (family.empty() || family == u"MS Sans Serif") return;
+  const bool serif = family == u"MS Serif" || family == u"Georgia";
+  font.setFamily(ToQString(family));
+  if (serif) font.setStyleHint(QFont::Serif);
+}
+
+}  // namespace
+
+PixelScale::PixelScale(const QFont& desktopFont)
+    : factor_(std::max(1.0, QFontInfo(desktopFont).pixelSize() / kLargestUnscaledFont)) {}
+
+PixelScale PixelScale::OfDesktop() {
+  return PixelScale(QApplication::font());
+}
+
+int PixelScale::FromTwips(int twips) const {
+  return qRound(twips * factor_ / kTwipsPerPixel);
+}
+
+QRect PixelScale::FromTwips(const Bounds& bounds) const {
+  const QPoint topLeft(FromTwips(bounds.left), FromTwips(bounds.top));
+  const QPoint end(FromTwips(bounds.left + bounds.width), FromTwips(bounds.top + bounds.height));
+  return {topLeft, QSize(end.x() - topLeft.x(), end.y() - topLeft.y())};
+}
+
+QSize PixelScale::FromPixels(int width, int height) const {
+  return {qRound(width * factor_), qRound(height * factor_)};
+}
+
+int PixelScale::ToTwips(int pixels) const {
+  return qRound(pixels * kTwipsPerPixel / factor_);
+}
+
+int PixelScale::ToProgramPixels(int pixels) const {
+  return qRound(pixels / factor_);
+}
+
+QFont PixelScale::ControlFont(const Font& font) const {
+  QFont result = QApplication::font();
+  SetFamily(result, font.family);
+  const double points = font.points > 0 ? font.points : kClassicPoints;
+  result.setPixelSize(qRound(kControlFontPixels * factor_ * points / kClassicPoints));
+  result.setBold(font.bold);
+  result.setItalic(font.italic);
+  result.setUnderline(font.underline);
+  return result;
+}
+
+QFont PixelScale::CanvasFont(const TextStyle& style) {
+  QFont result = QApplication::font();
+  SetFamily(result, style.family);
+  // Points that a screen of another density would take for larger ones.
+  const double density = QApplication::primaryScreen()->logicalDotsPerInchY();
+  result.setPointSizeF(style.points * kPixelsPerInch / density);
+  result.setBold(style.bold);
+  result.setHintingPreference(QFont::PreferVerticalHinting);
+  return result;
+}
+
+}  // namespace tessara

@@ -1,0 +1,74 @@
+#include "adapters/qt/text/text_layout.h"
+
+#include <QFontMetricsF>
+#include <algorithm>
+
+#include "adapters/qt/text/pixel_scale.h"
+#include "adapters/qt/text/qt_text.h"
+
+namespace tessara {
+
+namespace {
+
+QString WithLineSeparators(const Text& text) {
+  QString lines = LinesForQt(text);
+  lines.replace(u'\n', QChar::LineSeparator);
+  lines.replace(u'\r', QChar::LineSeparator);
+  return lines;
+}
+
+QTextOption OptionOf(const TextStyle& style) {
+  QTextOption option;
+  option.setWrapMode(style.wrap ? QTextOption::WrapAtWordBoundaryOrAnywhere
+                                : QTextOption::ManualWrap);
+  switch (style.alignment) {
+    case Alignment::kLeft:
+      option.setAlignment(Qt::AlignLeft);
+      break;
+    case Alignment::kRight:
+      option.setAlignment(Qt::AlignRight);
+      break;
+    case Alignment::kCenter:
+      option.setAlignment(Qt::AlignHCenter);
+      break;
+  }
+  return option;
+}
+
+}  // namespace
+
+LaidOutText::LaidOutText(const Text& text, double width, const TextStyle& style)
+    : layout_(WithLineSeparators(text), PixelScale::CanvasFont(style)),
+      lineHeight_(LineHeight(style)) {
+  layout_.setTextOption(OptionOf(style));
+  LayOut(width);
+}
+
+void LaidOutText::LayOut(double width) {
+  layout_.beginLayout();
+  double top = 0;
+  for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
+    line.setLineWidth(width);
+    line.setPosition({0, top});
+    top += lineHeight_;
+  }
+  layout_.endLayout();
+}
+
+double LaidOutText::Width() const {
+  double widest = 0;
+  for (int at = 0; at < layout_.lineCount(); ++at) {
+    widest = std::max(widest, layout_.lineAt(at).naturalTextWidth());
+  }
+  return widest;
+}
+
+void LaidOutText::Draw(QPainter& painter, const QPointF& topLeft) const {
+  layout_.draw(&painter, topLeft);
+}
+
+double LaidOutText::LineHeight(const TextStyle& style) {
+  return QFontMetricsF(PixelScale::CanvasFont(style)).lineSpacing();
+}
+
+}  // namespace tessara

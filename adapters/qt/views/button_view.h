@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QPushButton>
+
+#include "adapters/qt/views/caption_view.h"
+#include "forms/controls.h"
+
+namespace tessara {
+
+class ButtonView : public CaptionView<QPushButton> {
+ public:
+  ButtonView(tessara::Button& button, QWidget& parent, const ViewContext& context);
+
+ protected:
+  void Press() override { As<tessara::Button>().Press(); }
+};
+
+}  // namespace tessara

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QAbstractButton>
+#include <QStyle>
+
+#include "adapters/qt/text/qt_text.h"
+#include "adapters/qt/views/captioned_widget.h"
+#include "adapters/qt/views/control_view.h"
+
+namespace tessara {
+
+/// Shows the caption of a button of any kind, and takes its clicks.
+template <class ButtonWidget>
+class CaptionView : public ControlView {
+ public:
+  /// `room` is the part of the widget that the caption has.
+  CaptionView(CaptionedControl& control, QWidget& parent, const ViewContext& context,
+              QStyle::SubElement room)
+      : ControlView(control, *new CaptionedWidget<ButtonWidget>(&parent), context), room_(room) {
+    QObject::connect(&Shown(), &QAbstractButton::clicked, this, [this] {
+      if (!Detached()) Press();
+    });
+  }
+
+ protected:
+  virtual void Press() = 0;
+
+  [[nodiscard]] CaptionedWidget<ButtonWidget>& Shown() const {
+    return static_cast<CaptionedWidget<ButtonWidget>&>(Widget());
+  }
+
+  void FollowOwn(Aspect aspect) override {
+    if (aspect == Aspect::kCaption) Shown().setText(ToQString(As<CaptionedControl>().Caption()));
+    if (aspect == Aspect::kCaption || aspect == Aspect::kBounds) FollowFont();
+  }
+
+  void FollowFont() override {
+    Shown().Fit(Context().scale.ControlFont(As<CaptionedControl>().FontOf()), CaptionRoom());
+  }
+
+  [[nodiscard]] QSizeF CaptionRoom() const {
+    QStyleOptionButton option;
+    option.initFrom(&Shown());
+    return Shown().style()->subElementRect(room_, &option, &Shown()).size();
+  }
+
+ private:
+  QStyle::SubElement room_;
+};
+
+}  // namespace tessara

@@ -1,0 +1,140 @@
+#include "adapters/qt/windows/keyboard.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <utility>
+
+#include "adapters/qt/windows/form_window.h"
+#include "adapters/qt/windows/frame_window.h"
+#include "adapters/qt/windows/menu_bar_form.h"
+#include "forms/controls.h"
+
+namespace tessara {
+
+namespace {
+
+/// The letter of an accelerator; 0 for every other key.
+char16_t AcceleratorIn(const QKeyEvent& key) {
+  const auto modifiers = key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+  const bool character = key.key() > Qt::Key_Space && key.key() < Qt::Key_Escape;
+  return modifiers == Qt::AltModifier && character ? static_cast<char16_t>(key.key()) : 0;
+}
+
+bool IsTextBox(const QWidget& widget) {
+  return qobject_cast<const QLineEdit*>(&widget) != nullptr ||
+         qobject_cast<const QPlainTextEdit*>(&widget) != nullptr;
+}
+
+Button* ButtonWithCaption(const Form& form, TextView caption) {
+  for (Control* control : form.Controls()) {
+    if (control->Kind() != ControlKind::kButton) continue;
+    auto* button = static_cast<Button*>(control);
+    if (button->Caption() == caption) return button;
+  }
+  return nullptr;
+}
+
+/// Page Up and Page Down are the buttons "<<" and ">>", where the window has them. Inside a text
+/// box they need Ctrl, for the box has a use for them.
+bool TakePage(const QKeyEvent& key, const QWidget& receiver, const Form& form) {
+  if (IsTextBox(receiver) && !key.modifiers().testFlag(Qt::ControlModifier)) return false;
+  Button* button = ButtonWithCaption(form, key.key() == Qt::Key_PageUp ? u"<<" : u">>");
+  if (button != nullptr) button->Press();
+  return button != nullptr;
+}
+
+}  // namespace
+
+Keyboard::Keyboard(WindowSystem& windows, FrameSource frame)
+    : windows_(windows), frame_(std::move(frame)) {
+  qApp->installEventFilter(this);
+}
+
+bool Keyboard::eventFilter(QObject* watched, QEvent* event) {
+  const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
+  if (!isKey || !watched->isWidgetType() || QApplication::activePopupWidget() != nullptr) {
+    return false;
+  }
+  auto& receiver = static_cast<QWidget&>(*watched);
+  Form* form = FormFor(receiver);
+  if (form == nullptr) return false;
+  auto& key = static_cast<QKeyEvent&>(*event);
+  if (event->type() == QEvent::KeyPress) return Take(key, receiver, *form);
+  // Claimed here, an accelerator comes as a key and not as one of Qt's.
+  if (AcceleratorIn(key) == 0) return false;
+  event->accept();
+  return true;
+}
+
+/// A key that the frame gets is for the child in front. The frame's boxes and dialogs have their
+/// keys for themselves.
+Form* Keyboard::FormFor(QWidget& receiver) const {
+  const bool inBox = dynamic_cast<FormWindow*>(receiver.window()) == nullptr;
+  const FormWindow* window = inBox ? nullptr : WindowAround(&receiver);
+  if (window == nullptr) return nullptr;
+  Form* form = window->FormOf();
+  const bool childInFront =
+      form != nullptr && form->Kind() == FormKind::kFrame && windows_.ActiveChild() != nullptr;
+  return childInFront ? windows_.ActiveChild() : form;
+}
+
+bool Keyboard::Take(const QKeyEvent& key, QWidget& receiver, Form& form) {
+  const char16_t letter = AcceleratorIn(key);
+  if (letter != 0) return TakeAccelerator(letter, form);
+  switch (key.key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return TakeReturn(receiver, form);
+    case Qt::Key_Escape:
+      return form.UserEscape();
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+      return TakePage(key, receiver, form);
+    case Qt::Key_F1:
+      return TakeHelp();
+    case Qt::Key_F4:
+      return key.modifiers().testFlag(Qt::ControlModifier) && TakeClose(form);
+    default:
+      return false;
+  }
+}
+
+bool Keyboard::TakeAccelerator(char16_t letter, Form& form) {
+  if (form.UserAccelerator(letter)) return true;
+  FrameWindow* frame = frame_();
+  return form.TakesInput() && frame != nullptr && frame->OpenMenu(letter);
+}
+
+/// A button that has the focus is pressed itself; a box of several lines takes the line break.
+bool Keyboard::TakeReturn(QWidget& receiver, Form& form) {
+  if (auto* button = qobject_cast<QPushButton*>(&receiver)) {
+    button->click();
+    return true;
+  }
+  const auto* area = qobject_cast<QPlainTextEdit*>(&receiver);
+  return (area == nullptr || area->isReadOnly()) && form.UserReturn();
+}
+
+/// For windows in the frame and beside it: without one, the key must not end the program.
+bool Keyboard::TakeClose(Form& form) {
+  if (form.Kind() == FormKind::kFrame) return false;
+  form.UserClose();
+  return true;
+}
+
+bool Keyboard::TakeHelp() {
+  const Form* form = MenuBarForm(windows_);
+  if (form == nullptr) return false;
+  for (const char* name : {"mnuHelpTopic", "mnuHelpTopics"}) {
+    if (MenuEntry* entry = form->FindMenu(name)) {
+      entry->Press();
+      return true;
+    }
+  }
+  return false;
+}
+
+}  // namespace tessara

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "base/text.h"
+
+namespace tessara {
+
+/// What the program asks of the control that shows a card. A write takes effect at once; a value
+/// stays until it is written again.
+class CardDisplay {
+ public:
+  virtual ~CardDisplay() = default;
+  /// One line at the top of the card; read back as written. Empty shows nothing.
+  [[nodiscard]] virtual const Text& CardBanner() const = 0;
+  virtual void SetCardBanner(const Text& banner) = 0;
+  /// "Q" white, "A" yellow.
+  virtual void SetCardColor(const Text& color) = 0;
+  /// The two decorations of a front. Always set lines first, then rule, to the same value.
+  virtual void SetFrontRule(bool on) = 0;
+  virtual void SetFrontLines(bool on) = 0;
+  /// The body, up to 444 characters, with every "&" doubled; "&&" shows one "&".
+  virtual void SetCardText(const Text& text) = 0;
+  virtual void SetCardNumber(const Text& number) = 0;
+  virtual void SetCardTotal(const Text& total) = 0;
+};
+
+}  // namespace tessara

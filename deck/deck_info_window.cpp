@@ -1,0 +1,120 @@
+#include "deck/deck_info_window.h"
+
+#include "deck/card_type.h"
+#include "deck/date_text.h"
+#include "machine/clock.h"
+#include "machine/message_box.h"
+
+namespace tessara {
+
+namespace {
+
+constexpr int kWindowWidth = 6270;
+constexpr int kWindowHeight = 4650;
+constexpr int kTitleLength = 75;
+constexpr int kDescriptionLength = 400;
+
+}  // namespace
+
+DeckInfoWindow::DeckInfoWindow(AppContext& app, Window<DeckLife> deck)
+    : Form(app.windows, "frmInfo", FormKind::kChild, u"Tessara Information"),
+      app_(app),
+      deck_(deck) {
+  SetWidth(kWindowWidth);
+  SetHeight(kWindowHeight);
+  PlaceControls();
+  fields.Wire(&TextBox::onChange, [this](int) { NoteChange(); });
+  save.onClick = [this] { Save(); };
+  close.onClick = [this] { Close(); };
+}
+
+void DeckInfoWindow::PlaceControls() {
+  AddControls({
+      {&headings[0], nullptr, u"Title", {240, 180, 1200, 255}, u""},
+      {&fields[kTitleField], nullptr, u"", {240, 435, 4620, 330}, u"Title"},
+      {&headings[1], nullptr, u"Created By", {240, 855, 1200, 255}, u""},
+      {&fields[kAuthorField], nullptr, u"", {240, 1110, 4620, 330}, u"Created By"},
+      {&headings[2], nullptr, u"Description", {240, 1530, 1200, 255}, u""},
+      {&fields[kDescriptionField], nullptr, u"", {240, 1785, 5670, 1050}, u"Description"},
+      {&headings[3], nullptr, u"Date Created:", {240, 2970, 1290, 255}, u""},
+      {&date, nullptr, u"", {1530, 2970, 1500, 255}, u""},
+      {&headings[4], nullptr, u"Deck Type:", {240, 3285, 1290, 255}, u""},
+      {&kind, nullptr, u"", {1530, 3285, 1500, 255}, u""},
+      {&cardCount, nullptr, u"", {3300, 2970, 2610, 255}, u""},
+      {&save, nullptr, u"&Save", {3300, 3570, 1215, 495}, u""},
+      {&close, nullptr, u"&Close", {4695, 3570, 1215, 495}, u""},
+      {&picture, nullptr, u"", {4950, 405, 960, 960}, u"Cards"},
+  });
+  fields[kTitleField].SetMaxLength(kTitleLength);
+  fields[kAuthorField].SetMaxLength(kTitleLength);
+  fields[kDescriptionField].SetMaxLength(kDescriptionLength);
+  fields[kDescriptionField].SetMultiLine(true);
+  fields[kDescriptionField].SetVerticalScrollBar(true);
+  save.SetEnabled(false);
+  picture.SetPicture({"info.png", 64, 64});
+}
+
+void DeckInfoWindow::OnLoad() {
+  const ProgramState& state = app_.state;
+  loading_ = true;
+  const Text today = DateText(app_.machine.clock.Today());
+  date.SetCaption(InfoValueOrDefault(state.deck.date, today));
+  if (state.deck.kind == kExtendedDeck) kind.SetCaption(u" Extended");
+  if (state.deck.kind == kStandardDeck) kind.SetCaption(u" Standard");
+  cardCount.SetCaption(u"Number of cards: " +
+                       InfoValueOrDefault(DecimalText(state.deck.cardCount), u"0"));
+  fields[kTitleField].SetText(InfoValueOrDefault(state.deck.title, u"Enter Title Here"));
+  fields[kAuthorField].SetText(InfoValueOrDefault(state.deck.author, u"Your Name Here"));
+  fields[kDescriptionField].SetText(
+      InfoValueOrDefault(state.deck.description, u"Deck Description Here"));
+}
+
+void DeckInfoWindow::OnUnload(bool& /*cancel*/) {
+  deck_->SetEnabled(true);
+}
+
+void DeckInfoWindow::NoteChange() {
+  if (loading_) return;
+  app_.state.deck.changed = true;
+  save.SetEnabled(true);
+}
+
+void DeckInfoWindow::Save() {
+  CollectDeckInfo(app_.state, *this);
+  save.SetEnabled(false);
+}
+
+void DeckInfoWindow::Close() {
+  if (save.Enabled()) {
+    const MessageAnswer answer = app_.machine.messages.Show(
+        u"The information in this form has changed, do you want to return to the form and save it",
+        kYesNo, u"Deck Information");
+    if (answer == MessageAnswer::kYes) return;
+  }
+  Unload();
+}
+
+Text InfoValueOrDefault(const Text& value, const Text& defaultValue) {
+  return value.empty() ? defaultValue : u" " + value;
+}
+
+void CollectDeckInfo(ProgramState& state, const DeckInfoWindow& window) {
+  const auto set = [&state](int column, const Text& text) {
+    state.deck.cardGrid.Set(kInfoRow, column, text);
+  };
+  set(kCardType, Text(LetterOf(CardType::kInformation)));
+  set(kCardText, u"");
+  set(kRowNumber, u"0");
+  set(kInfoDate, window.date.Caption());
+  set(kInfoType, window.kind.Caption());
+  set(kInfoTitle, window.fields[kTitleField].TextOf());
+  set(kInfoAuthor, window.fields[kAuthorField].TextOf());
+  set(kAnswer, u"");
+  set(kInfoDescription, window.fields[kDescriptionField].TextOf());
+  state.deck.cardPresent.Set(kInfoRow, 1);
+  state.deck.title = window.fields[kTitleField].TextOf();
+  state.deck.author = window.fields[kAuthorField].TextOf();
+  state.deck.description = window.fields[kDescriptionField].TextOf();
+}
+
+}  // namespace tessara

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "base/text.h"
+
+namespace tessara {
+
+enum class MousePointer { kDefault, kHourglass };
+
+/// State in which an opened program's window is to come up.
+enum class ShowState : int { kNormal = 1, kMaximised = 3 };
+
+/// Result codes of opening: failures are 32 and below.
+inline constexpr int kOpenFileNotFound = 2;
+inline constexpr int kOpenSucceeded = 33;
+
+/// The user's desktop around the program.
+class Desktop {
+ public:
+  virtual ~Desktop() = default;
+  /// True where another instance runs in this session; otherwise this one now is the instance.
+  virtual bool PreviousInstance() = 0;
+  /// Opens a file or a link with its registered program and returns the result code.
+  virtual int Open(const Text& target, const Text& folder, ShowState state) = 0;
+  /// Shows a compiled help file with its table of contents; a missing one is silent.
+  virtual void ShowHelp(const Text& path) = 0;
+  virtual void SetMousePointer(MousePointer pointer) = 0;
+  /// Hands control to the window system's queue once.
+  virtual void Yield() = 0;
+  /// Size of the screen in pixels of the program (twips divided by 15).
+  [[nodiscard]] virtual int ScreenWidth() const = 0;
+  [[nodiscard]] virtual int ScreenHeight() const = 0;
+};
+
+}  // namespace tessara

@@ -1,0 +1,9 @@
+#include "machine/program_file.h"
+
+namespace tessara {
+
+Text ProgramFile(const Machine& machine, TextView name) {
+  return machine.programFolder + u"/" + Text(name);
+}
+
+}  // namespace tessara

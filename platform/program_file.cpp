@@ -1,9 +1,0 @@
-#include "platform/program_file.h"
-
-namespace tessara {
-
-Text ProgramFile(const Machine& machine, TextView name) {
-  return machine.programFolder + u"/" + Text(name);
-}
-
-}  // namespace tessara

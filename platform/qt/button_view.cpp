@@ -1,8 +1,0 @@
-#include "platform/qt/button_view.h"
-
-namespace tessara {
-
-ButtonView::ButtonView(tessara::Button& button, QWidget& parent, const ViewContext& context)
-    : CaptionView(button, parent, context, QStyle::SE_PushButtonContents) {}
-
-}  // namespace tessara

@@ -1,0 +1,139 @@
+#include "shell/program_frame.h"
+
+#include "deck/ask_file_name.h"
+#include "deck/deck_file_name.h"
+#include "forms/place_in_frame.h"
+#include "import/import_text_file.h"
+#include "machine/desktop.h"
+#include "machine/program_file.h"
+#include "printing/separation_window.h"
+#include "viewer/deck_window.h"
+
+namespace tessara {
+
+namespace {
+
+/// What the frame asks for where no backdrop is set. The list of card pictures is shorter: the
+/// look-up fails, and with it the start.
+constexpr int kMissingBackDrop = 12;
+
+}  // namespace
+
+ProgramFrame::ProgramFrame(AppContext& app, FileNumber& fileNumber, FrameWindows windows)
+    : Form(app.windows, "MDIForm1", FormKind::kFrame, u"TESSARA 1.0"),
+      app_(app),
+      fileNumber_(fileNumber),
+      windows_(windows) {
+  PlaceMenuEntries();
+  WireMenus();
+}
+
+void ProgramFrame::PlaceMenuEntries() {
+  AddMenus({
+      {&fileMenu, nullptr, u"&File"},
+      {&newMenu, &fileMenu, u"&New"},
+      {&newStandardDeck, &newMenu, u"&Standard Tessara"},
+      {&newExtendedDeck, &newMenu, u"E&xtended Tessara"},
+      {&openExistingDeck, &fileMenu, u"&Open Existing Deck"},
+      {&setUp, &fileMenu, u"Set &Up"},
+      {&importTextFile, &fileMenu, u"Import Text File"},
+      {&aboveExit, &fileMenu, u"-"},
+      {&exit, &fileMenu, u"&Exit"},
+      {&helpMenu, nullptr, u"&Help"},
+      {&helpTopics, &helpMenu, u"&Tessara Help Topics"},
+      {&about, &helpMenu, u"&About"},
+      {&separatingCards, &helpMenu, u"Separating the cards"},
+  });
+}
+
+void ProgramFrame::WireMenus() {
+  newStandardDeck.onClick = [this] { NewStandardDeck(); };
+  newExtendedDeck.onClick = [this] { NewExtendedDeck(); };
+  openExistingDeck.onClick = [this] { OpenExistingDeck(); };
+  setUp.onClick = [this] { ShowSetUp(); };
+  importTextFile.onClick = [this] { ImportDeck(); };
+  exit.onClick = [this] { Unload(); };
+  helpTopics.onClick = [this] { ShowHelpTopic(); };
+  about.onClick = [this] { ShowAbout(); };
+  separatingCards.onClick = [this] { ShowInstructions(); };
+}
+
+int ProgramFrame::ScaleWidth() const {
+  return System().RendererOf().FrameScaleWidth();
+}
+
+int ProgramFrame::ScaleHeight() const {
+  return System().RendererOf().FrameScaleHeight();
+}
+
+void ProgramFrame::OnLoad() {
+  TileBackdrop(*this, windows_.surface, BackDropPicture(), app_.machine.desktop);
+}
+
+const Picture& ProgramFrame::BackDropPicture() const {
+  const Text& key = app_.state.settings.backdrop;
+  if (key.empty() || key == u"<NONE>")
+    return app_.frame.CardPictures().At(kMissingBackDrop).picture;
+  return app_.frame.BackdropTiles().At(key).picture;
+}
+
+void ProgramFrame::OnUnload(bool& /*cancel*/) {
+  windows_.deck.Instance().ChkSave();
+}
+
+void ProgramFrame::ShowHelpTopic() {
+  app_.machine.desktop.ShowHelp(ProgramFile(app_.machine, u"TessaraHelp.chm"));
+}
+
+void ProgramFrame::ShowAbout() {
+  windows_.about->Show();
+}
+
+void ProgramFrame::ShowInstructions() {
+  ShowSeparationSteps(windows_.instructions);
+}
+
+void ProgramFrame::NewStandardDeck() {
+  windows_.deck->OpenStandardView();
+  app_.state.deck.kind = kStandardDeck;
+  app_.state.deck.mode = kStudyMode;
+  windows_.deck->OfferFlip(FlipAction::kShowBack);
+  windows_.deck->SetGoToMenu();
+}
+
+void ProgramFrame::NewExtendedDeck() {
+  windows_.deck->OpenExtendedView();
+  app_.state.deck.kind = kExtendedDeck;
+  windows_.deck->OfferFlip(FlipAction::kHideAnswer);
+  app_.state.deck.mode = kStudyMode;
+  windows_.deck->SetGoToMenu();
+}
+
+void ProgramFrame::OpenExistingDeck() {
+  ProgramState& state = app_.state;
+  ClearAllCards(state.deck);
+  const Text path = AskFileName(FileDialogMode::kOpen, kDeckFilter, app_);
+  if (NoAnswer(path) || !IsDeckFileName(path, state, app_.machine.messages)) return;
+  state.deck.filePath = path;
+  // The deck before the window: the window's load looks at the count of cards.
+  windows_.deck.Instance().LoadDeck(state.deck.filePath);
+  DeckWindow& deck = windows_.deck.Loaded();
+  deck.OpenViewOfFirstCard();
+  state.deck.currentCard = 1;
+  deck.card.SetCardTotal(DecimalText(state.deck.cardCount));
+  SetMoveButtons(deck.arrows, state);
+  deck.ShowTitle(kStudyMode);
+  state.deck.changed = false;
+  state.deck.saveOffered = false;
+  state.deck.mode = kStudyMode;
+}
+
+void ProgramFrame::ShowSetUp() {
+  PlaceInFrame(windows_.setUp.Slot(), SetUpWindow::kHeight, SetUpWindow::kWidth, app_.frame);
+}
+
+void ProgramFrame::ImportDeck() {
+  ImportTextFile(app_, fileNumber_, windows_.deck);
+}
+
+}  // namespace tessara

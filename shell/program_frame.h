@@ -1,0 +1,72 @@
+#pragma once
+
+#include "deck/app_context.h"
+#include "deck/file_number.h"
+#include "forms/form.h"
+#include "forms/window.h"
+#include "shell/about_box.h"
+#include "shell/backdrop.h"
+#include "shell/set_up_window.h"
+
+namespace tessara {
+
+class SeparationWindow;
+class DeckWindow;
+
+/// The windows that the frame's commands open.
+struct FrameWindows {
+  Window<DeckWindow> deck;
+  Window<BackdropSurface> surface;
+  Window<SetUpWindow> setUp;
+  Window<AboutBox> about;
+  Window<SeparationWindow> instructions;
+};
+
+/// The frame window: the menus where no deck window is up, the tiled backdrop, help and About.
+class ProgramFrame : public Form {
+ public:
+  ProgramFrame(AppContext& app, FileNumber& fileNumber, FrameWindows windows);
+
+  MenuEntry fileMenu{"mnuFile"};
+  MenuEntry newMenu{"mnuNew"};
+  MenuEntry newStandardDeck{"mnuStdTessara"};
+  MenuEntry newExtendedDeck{"mnuExtTessara"};
+  MenuEntry openExistingDeck{"mnuOPenExisting"};
+  MenuEntry setUp{"mnuSetup"};
+  MenuEntry importTextFile{"mnuImportFile"};
+  MenuEntry aboveExit{"mnu1"};
+  MenuEntry exit{"mnuExit"};
+  MenuEntry helpMenu{"mnuHelp"};
+  MenuEntry helpTopics{"mnuHelpTopics"};
+  MenuEntry about{"mnuAbout"};
+  MenuEntry separatingCards{"mnuSC"};
+
+  [[nodiscard]] int ScaleWidth() const override;
+  [[nodiscard]] int ScaleHeight() const override;
+
+  void ShowHelpTopic();
+  void ShowAbout();
+  void ShowInstructions();
+
+  void NewStandardDeck();
+  void NewExtendedDeck();
+  void OpenExistingDeck();
+  void ShowSetUp();
+  void ImportDeck();
+
+ protected:
+  void OnLoad() override;
+  void OnClick() override { windows_.about.Unload(); }
+  void OnUnload(bool& cancel) override;
+
+ private:
+  void PlaceMenuEntries();
+  void WireMenus();
+  [[nodiscard]] const Picture& BackDropPicture() const;
+
+  AppContext& app_;
+  FileNumber& fileNumber_;
+  FrameWindows windows_;
+};
+
+}  // namespace tessara

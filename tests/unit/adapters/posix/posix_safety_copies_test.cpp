@@ -1,0 +1,211 @@
+#include "adapters/posix/posix_safety_copies.h"
+
+#include <chrono>
+#include <doctest/doctest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "adapters/posix/copy_name.h"
+#include "base/utf8.h"
+#include "tests/support/disk_desk.h"
+#include "tests/support/open_files.h"
+
+namespace tessara::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::uintmax_t kMegabyte = 1048576;
+
+/// A folder of decks and, in "state/copies", what is kept of them.
+struct CopyDesk {
+  ScratchFolder folder;
+  PosixSafetyCopies copies{folder / "state/copies"};
+
+  void Keep(const Text& name) { copies.Keep(folder.TextPath(name)); }
+  [[nodiscard]] fs::path CopiesFolder() const { return folder / "state/copies"; }
+  [[nodiscard]] std::vector<std::string> Names() const { return NamesIn(CopiesFolder()); }
+  [[nodiscard]] std::vector<std::string> Kept() const {
+    std::vector<std::string> kept;
+    for (const std::string& name : Names()) kept.push_back(BytesOf(CopiesFolder() / name));
+    return kept;
+  }
+  [[nodiscard]] int CountOf(const std::string& deck) const {
+    const std::vector<std::string> names = Names();
+    return static_cast<int>(std::count_if(names.begin(), names.end(), [&](const std::string& name) {
+      return NameWithoutMoment(name) == deck;
+    }));
+  }
+  /// A copy of that size, made so many minutes ago.
+  void PutCopy(const std::string& deck, int minutes, std::uintmax_t size = 1) const {
+    fs::create_directories(CopiesFolder());
+    const fs::path path = CopiesFolder() / CopyName(deck, std::chrono::system_clock::now() -
+                                                              std::chrono::minutes(minutes));
+    std::ofstream(path, std::ios::binary) << "x";
+    fs::resize_file(path, size);
+    fs::last_write_time(path, fs::file_time_type::clock::now() - std::chrono::minutes(minutes));
+  }
+  void PutDeck(const std::string& name, std::uintmax_t size) const {
+    folder.Write(name, "deck");
+    fs::resize_file(folder / name, size);
+  }
+  [[nodiscard]] std::uintmax_t AllBytes() const {
+    std::uintmax_t bytes = 0;
+    for (const std::string& name : Names()) bytes += fs::file_size(CopiesFolder() / name);
+    return bytes;
+  }
+};
+
+}  // namespace
+
+TEST_CASE("a kept file is there byte for byte under the name of its deck") {
+  CopyDesk desk;
+  const std::string bytes = std::string("any\0\xFF bytes\r\n", 13) + std::string(200000, 'x');
+  desk.folder.Write("verbs.tsr", bytes);
+  desk.Keep(u"verbs.tsr");
+  REQUIRE(desk.Names().size() == 1);
+  CHECK(NameWithoutMoment(desk.Names()[0]) == "verbs.tsr");
+  CHECK(desk.Kept()[0] == bytes);
+  CHECK(desk.folder.Read("verbs.tsr") == bytes);
+}
+
+TEST_CASE("copies are for their owner only") {
+  CopyDesk desk;
+  desk.folder.Write("verbs.tsr", "deck");
+  fs::permissions(desk.folder / "verbs.tsr", static_cast<fs::perms>(0644));
+  desk.Keep(u"verbs.tsr");
+  REQUIRE(desk.Names().size() == 1);
+  const fs::path copy = desk.CopiesFolder() / desk.Names()[0];
+  CHECK(fs::status(copy).permissions() == static_cast<fs::perms>(0600));
+  CHECK(fs::status(desk.CopiesFolder()).permissions() == static_cast<fs::perms>(0700));
+  CHECK(fs::status(desk.folder / "state").permissions() == static_cast<fs::perms>(0700));
+}
+
+TEST_CASE("copies made in the same moment each get a name") {
+  CopyDesk desk;
+  desk.folder.Write("verbs.tsr", "deck");
+  for (int count = 0; count < 5; ++count) desk.Keep(u"verbs.tsr");
+  CHECK(desk.Names().size() == 5);
+}
+
+TEST_CASE("the newest 20 of a deck are kept, whatever other decks have") {
+  CopyDesk desk;
+  for (int minutes = 1; minutes <= 20; ++minutes) {
+    desk.PutCopy("verbs.tsr", minutes, static_cast<std::uintmax_t>(minutes));
+    desk.PutCopy("nouns.tsr", minutes);
+  }
+  desk.folder.Write("verbs.tsr", "deck");
+  desk.Keep(u"verbs.tsr");
+  CHECK(desk.CountOf("verbs.tsr") == 20);
+  CHECK(desk.CountOf("nouns.tsr") == 20);
+  for (const std::string& name : desk.Names()) {
+    CHECK(fs::file_size(desk.CopiesFolder() / name) != 20);
+  }
+  desk.Keep(u"verbs.tsr");
+  CHECK(desk.CountOf("verbs.tsr") == 20);
+}
+
+TEST_CASE("copies have 50 MB at most in all; the oldest of any deck make room") {
+  CopyDesk desk;
+  desk.PutCopy("old.tsr", 3, 9 * kMegabyte);
+  desk.PutCopy("older.tsr", 4, 9 * kMegabyte);
+  for (const char* const recent : {"a.tsr", "b.tsr", "c.tsr"}) {
+    desk.PutCopy(recent, 1, 9 * kMegabyte);
+  }
+  desk.PutDeck("verbs.tsr", 5 * kMegabyte);
+  desk.Keep(u"verbs.tsr");
+  CHECK(desk.AllBytes() == 50 * kMegabyte);
+  CHECK(desk.CountOf("older.tsr") == 1);
+
+  desk.PutDeck("verbs.tsr", 1);
+  desk.Keep(u"verbs.tsr");
+  CHECK(desk.CountOf("older.tsr") == 0);
+  CHECK(desk.CountOf("old.tsr") == 1);
+  CHECK(desk.CountOf("verbs.tsr") == 2);
+}
+
+TEST_CASE(
+    "a file of 10 MB is kept; what is larger or empty is not, and nothing makes room for it") {
+  struct Case {
+    std::uintmax_t size;
+    bool kept;
+  };
+  for (const Case& c : {Case{0, false}, Case{1, true}, Case{10 * kMegabyte, true},
+                        Case{10 * kMegabyte + 1, false}}) {
+    CAPTURE(c.size);
+    CopyDesk desk;
+    for (int minutes = 1; minutes <= 20; ++minutes) desk.PutCopy("verbs.tsr", minutes);
+    desk.PutDeck("verbs.tsr", c.size);
+    desk.Keep(u"verbs.tsr");
+    CHECK(desk.AllBytes() == (c.kept ? 19 + c.size : 20));
+  }
+}
+
+TEST_CASE("files of the user's own in the folder stay") {
+  CopyDesk desk;
+  fs::create_directories(desk.CopiesFolder() / "verbs 2000-01-01 00-00-00-000.tsr");
+  desk.folder.Write("state/copies/verbs.tsr", "mine");
+  desk.folder.Write("state/copies/.hidden", "mine");
+  fs::resize_file(desk.CopiesFolder() / "verbs.tsr", 60 * kMegabyte);
+  desk.folder.Write("verbs.tsr", "deck");
+  for (int count = 0; count < 22; ++count) desk.Keep(u"verbs.tsr");
+  CHECK(desk.Names().size() == 23);
+}
+
+TEST_CASE("only regular files are kept, and nothing waits for a peer") {
+  CopyDesk desk;
+  REQUIRE(mkfifo((desk.folder / "pipe").c_str(), 0600) == 0);
+  fs::create_directory(desk.folder / "folder");
+  fs::create_symlink("missing", desk.folder / "dangling");
+  fs::create_symlink("loop", desk.folder / "loop");
+  for (const char16_t* const name : {u"pipe", u"folder", u"dangling", u"loop", u"missing", u""}) {
+    desk.Keep(name);
+  }
+  for (const char16_t* const path : {u"/dev/zero", u"/dev/tty", u"", u"/proc/self/mem"}) {
+    desk.copies.Keep(path);
+  }
+  desk.folder.Write("a", "x");
+  desk.Keep(Text(u"a\0b", 3));
+  CHECK_FALSE(fs::exists(desk.folder / "state"));
+}
+
+TEST_CASE("what a link leads to is kept under the name of the link") {
+  CopyDesk desk;
+  desk.folder.Write("target", "deck");
+  fs::create_symlink("target", desk.folder / "link.tsr");
+  desk.Keep(u"link.tsr");
+  CHECK(desk.Kept() == std::vector<std::string>{"deck"});
+  CHECK(desk.CountOf("link.tsr") == 1);
+}
+
+TEST_CASE("a copy that is itself saved over is kept like any file") {
+  CopyDesk desk;
+  desk.folder.Write("verbs.tsr", "deck");
+  desk.Keep(u"verbs.tsr");
+  desk.Keep(u"state/copies/" + FromUtf8(desk.Names()[0]));
+  CHECK(desk.Kept() == std::vector<std::string>{"deck", "deck"});
+}
+
+TEST_CASE("a copy that can't be kept is silent") {
+  CopyDesk desk;
+  desk.folder.Write("verbs.tsr", "deck");
+  const Text deck = desk.folder.TextPath(u"verbs.tsr");
+  desk.folder.Write("file", "");
+  PosixSafetyCopies("").Keep(deck);
+  PosixSafetyCopies("/proc/copies").Keep(deck);
+  PosixSafetyCopies(desk.folder / "file").Keep(deck);
+  PosixSafetyCopies(desk.folder / "file/copies").Keep(deck);
+  CHECK(NamesIn(desk.folder.Path()) == std::vector<std::string>{"file", "verbs.tsr"});
+}
+
+TEST_CASE("nothing stays open behind a copy") {
+  CopyDesk desk;
+  desk.folder.Write("verbs.tsr", "deck");
+  const int lowest = LowestFreeDescriptor();
+  desk.Keep(u"verbs.tsr");
+  desk.Keep(u"missing");
+  CHECK(LowestFreeDescriptor() == lowest);
+}
+
+}  // namespace tessara::test

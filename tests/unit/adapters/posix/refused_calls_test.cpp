@@ -1,0 +1,216 @@
+// The real disk, where the system refuses one call on a file: each call of a save, a load, an
+// import and an association in turn, with each error.
+
+#include <algorithm>
+#include <array>
+#include <doctest/doctest.h>
+#include <map>
+#include <set>
+
+#include "adapters/freedesktop/document_registry.h"
+#include "tests/support/disk_desk.h"
+#include "tests/support/program_desk.h"
+#include "tests/support/refused_call.h"
+#include "tests/unit/import/text_file.h"
+
+namespace tessara::test {
+
+namespace {
+
+constexpr int kCards = 3;
+
+const std::string& OldDeck() {
+  static const std::string bytes = ProgramDesk::DeckBytes(kCards);
+  return bytes;
+}
+
+void PutOldDeck(const ScratchFolder& folder) {
+  std::filesystem::remove_all(folder / "copies");
+  folder.Write(DiskDesk::kDeckName, OldDeck());
+}
+
+/// A program with the old deck changed. The deck was opened from the menu, where a save deletes its
+/// file first, or came with the start.
+struct ChangedDesk {
+  ScratchFolder folder{kInMemory};
+  DiskDesk desk;
+
+  explicit ChangedDesk(bool fromMenu) : desk(OldDeckIn(folder)) {
+    if (fromMenu) {
+      desk.StartAndOpenDeck();
+    } else {
+      desk.StartWithDeck();
+    }
+    desk.ChangeCards();
+  }
+
+ private:
+  static const ScratchFolder& OldDeckIn(const ScratchFolder& folder) {
+    PutOldDeck(folder);
+    return folder;
+  }
+};
+
+/// How a command has ended, as a number that a process can return.
+enum Outcome { kWhole = 0, kReported = 1, kWrong = 2 };
+
+bool HasReported(const DiskDesk& desk) {
+  return desk.renderer.exitStatus == 1 && desk.fakes.messages.shown.size() == 1 &&
+         desk.fakes.messages.shown[0].text.starts_with(u"Run-time error '");
+}
+
+/// All cards are there and nothing has been told, or the program has ended with its report.
+Outcome OutcomeOfLoad(const DiskDesk& desk) {
+  if (HasReported(desk)) return kReported;
+  bool whole = desk.fakes.messages.shown.empty() && desk.renderer.exitStatus == -1 &&
+               desk.state.deck.cardCount == kCards;
+  for (int row = 1; row <= kCards; ++row) {
+    whole = whole && desk.state.deck.Cell(row, kCardText) == u"front " + DecimalText(row);
+  }
+  return whole ? kWhole : kWrong;
+}
+
+/// Like a load; or the import has told that it failed, and left no card.
+Outcome OutcomeOfImport(const DiskDesk& desk) {
+  const auto& shown = desk.fakes.messages.shown;
+  const bool failed = !shown.empty() && shown[0].title == u"Import Error";
+  if (!failed) return OutcomeOfLoad(desk);
+  return desk.renderer.exitStatus == -1 && desk.state.deck.cardPresent.At(1) == 0 ? kReported
+                                                                                  : kWrong;
+}
+
+}  // namespace
+
+TEST_CASE("whichever call of a save is refused, success is told and no deck is lost") {
+  for (const bool fromMenu : {true, false}) {
+    ChangedDesk changed(fromMenu);
+    changed.desk.Save();
+    const std::string newDeck = changed.folder.Read(DiskDesk::kDeckName);
+    ChangedDesk again(fromMenu);
+    const ScratchFolder& folder = again.folder;
+    const int calls = RefuseEachInTurn(
+        [&] { PutOldDeck(folder); },
+        [&] {
+          again.desk.Save();
+          const auto& shown = again.desk.fakes.messages.shown;
+          const bool told = shown.size() == 1 && shown[0].title == u"Save";
+          return told && again.desk.renderer.exitStatus == -1 ? kReported : kWrong;
+        },
+        [&](int result) {
+          CHECK(result == kReported);
+          const std::vector<std::string> kept = KeptIn(folder);
+          const std::string deck = folder.Read(DiskDesk::kDeckName);
+          CHECK((deck == newDeck || deck == OldDeck() ||
+                 kept == std::vector<std::string>{OldDeck()}));
+          // A copy is whole or not there.
+          CHECK(std::all_of(kept.begin(), kept.end(),
+                            [](const std::string& bytes) { return bytes == OldDeck(); }));
+        });
+    CHECK(calls > 2 * (kCards + 2));
+  }
+}
+
+TEST_CASE("a call of a save that a signal cuts short is made again") {
+  ChangedDesk changed(true);
+  const auto save = [&] {
+    changed.desk.Save();
+    return 0;
+  };
+  constexpr std::array kCutShort = {SYS_read, SYS_write, SYS_pwrite64, SYS_fsync};
+  std::set<long> met;
+  const std::vector<long> calls = FileCallsOf(save);
+  const std::string newDeck = changed.folder.Read(DiskDesk::kDeckName);
+  for (std::size_t at = 0; at < calls.size(); ++at) {
+    if (std::count(kCutShort.begin(), kCutShort.end(), calls[at]) == 0) continue;
+    CAPTURE(at);
+    met.insert(calls[at]);
+    PutOldDeck(changed.folder);
+    CHECK(ResultWithRefusal(static_cast<int>(at) + 1, EINTR, save) == 0);
+    CHECK(changed.folder.Read(DiskDesk::kDeckName) == newDeck);
+    CHECK(KeptIn(changed.folder) == std::vector<std::string>{OldDeck()});
+  }
+  CHECK(met.size() == kCutShort.size());
+}
+
+TEST_CASE("whichever call of a load is refused, the deck is there whole or its end is reported") {
+  const ScratchFolder folder(kInMemory);
+  PutOldDeck(folder);
+  for (const bool fromMenu : {true, false}) {
+    DiskDesk desk(folder);
+    const int calls =
+        RefuseEachInTurn([] {},
+                         [&] {
+                           if (fromMenu) {
+                             desk.StartAndOpenDeck();
+                           } else {
+                             desk.StartWithDeck();
+                           }
+                           return OutcomeOfLoad(desk);
+                         },
+                         [&](int result) { CHECK((result == kWhole || result == kReported)); });
+    CHECK(calls >= 3);
+    CHECK(folder.Read(DiskDesk::kDeckName) == OldDeck());
+  }
+}
+
+TEST_CASE("whichever call of an import is refused, all cards are there or none, as it is told") {
+  const std::string texts[] = {
+      Lines({"STD", "1.", "*>F", "front 1", "*>B", "b", "", "2.", "*>F", "front 2", "*>B", "b", "",
+             "3.", "*>F", "front 3", "*>B", "b", "*END*"}),
+      Lines({"EXT", "1.front 1", "=T", "", "2.front 2", "=T", "", "3.front 3", "=T", ""}),
+  };
+  for (const std::string& text : texts) {
+    const ScratchFolder folder(kInMemory);
+    folder.Write("text.txt", text);
+    DiskDesk desk(folder);
+    desk.program.Main(u"");
+    desk.fakes.messages.answers = {MessageAnswer::kYes};
+    desk.Run([&] { desk.Deck().Unload(); });
+    desk.fakes.messages.shown.clear();
+    desk.fakes.dialogs.files.push_back(folder.TextPath(u"text.txt"));
+    const auto import = [&] {
+      desk.Run([&] { desk.program.FrameWindow()->ImportDeck(); });
+      return OutcomeOfImport(desk);
+    };
+    const int calls = RefuseEachInTurn(
+        [] {}, import, [&](int result) { CHECK((result == kWhole || result == kReported)); });
+    CHECK(calls >= 4);
+    CHECK(import() == kWhole);
+  }
+}
+
+TEST_CASE("whichever call of an association is refused, what is declared is whole") {
+  const std::vector<std::string> kFiles = {
+      "mime/packages/tessara.xml", "applications/tessara.desktop",
+      "icons/hicolor/16x16/apps/tessara.png", "icons/hicolor/32x32/apps/tessara.png"};
+  const ScratchFolder folder(kInMemory);
+  for (const char* const size : {"16x16", "32x32"}) {
+    const std::string icons = std::string("program/icons/hicolor/") + size + "/apps";
+    std::filesystem::create_directories(folder / icons);
+    folder.Write(icons + "/tessara.png", std::string("icon of ") + size);
+  }
+  const auto declare = [&] {
+    bool told = false;
+    DocumentRegistry registry({folder / "data", folder / "program", "tessara"},
+                              [&](const std::filesystem::path&) { told = true; });
+    registry.CreateClassKey(u"Tessara.Document");
+    registry.Publish();
+    return told ? kWhole : kWrong;
+  };
+  declare();
+  std::map<std::string, std::string> whole;
+  for (const std::string& file : kFiles) whole[file] = folder.Read("data/" + file);
+  CHECK(whole[kFiles.back()] == "icon of 32x32");
+
+  const auto prepare = [&] { std::filesystem::remove_all(folder / "data"); };
+  const int calls = RefuseEachInTurn(prepare, declare, [&](int result) {
+    CHECK(result == kWhole);
+    for (const auto& [file, bytes] : whole) {
+      const bool there = std::filesystem::exists(folder / ("data/" + file));
+      CHECK((!there || folder.Read("data/" + file) == bytes));
+    }
+  });
+  CHECK(calls > 20);
+}
+
+}  // namespace tessara::test

@@ -1,0 +1,398 @@
+#include "printing/print_window.h"
+
+#include <doctest/doctest.h>
+
+#include "base/run_time_error.h"
+#include "tests/unit/printing/print_desk.h"
+
+namespace tessara {
+namespace {
+
+using test::FakeMessages;
+using test::PrintDesk;
+using Shown = FakeMessages::Shown;
+
+constexpr TextView kDisabledText =
+    u"Card printing has been disabled for this computer. Either you have the wrong version of "
+    u"Excel [Excel 97 or greater required] or the Notelet.xlt file is missing from the Tessara "
+    u"program directory.";
+
+std::string PictureName(const PrintWindow& window) {
+  return window.turning.PictureOf().file;
+}
+
+/// The print controls: check boxes as "ticked enabled", then picture, note, print button.
+struct Controls {
+  bool flatTicked, flatEnabled;
+  bool flipTicked, flipEnabled;
+  std::string picture;
+  bool note;
+  bool print;
+};
+
+void CheckControls(const PrintWindow& window, const Controls& expected) {
+  CHECK(window.flatSheet.Ticked() == expected.flatTicked);
+  CHECK(window.flatSheet.Enabled() == expected.flatEnabled);
+  CHECK(window.flipPrint.Ticked() == expected.flipTicked);
+  CHECK(window.flipPrint.Enabled() == expected.flipEnabled);
+  CHECK(PictureName(window) == "print/" + expected.picture + ".png");
+  CHECK(window.flatOnly.Visible() == expected.note);
+  CHECK(window.print.Enabled() == expected.print);
+}
+
+TEST_CASE("the window lists the cards, hides the deck window and switches the file menu off") {
+  PrintDesk desk(12);
+  const PrintWindow& window = desk.Open();
+  CHECK(window.Visible());
+  CHECK(window.Caption() == u"Print Cards");
+  CHECK(window.Width() == 8685);
+  CHECK(window.Height() == 5565);
+  CHECK(window.Left() == (desk.frame.width - 8685) / 2);
+  CHECK(window.Top() == (desk.frame.height - 5565) / 2);
+  CHECK(window.cards.Count() == 12);
+  CHECK(window.cards.Item(12).text == u"12");
+  CHECK(window.cards.Item(12).subItems == std::vector<Text>{u"front 12"});
+  CHECK(window.cards.ColumnWidth(1) == 1764);
+  CHECK(window.cards.ColumnWidth(2) == 8175 - 1764 - 300);
+  CHECK(window.available.Caption() == u"Available Cards: 12");
+  CHECK(window.selected.Caption() == u"Number of cards selected for print: 0");
+  CHECK_FALSE(desk.deckSlot.Instance().Visible());
+  CHECK_FALSE(desk.frame.fileMenuEnabled);
+}
+
+TEST_CASE("closing shows the deck window and switches the file menu on") {
+  PrintDesk desk;
+  desk.Open().close.Press();
+  CHECK_FALSE(desk.window.IsLoaded());
+  CHECK(desk.deckSlot.Instance().Visible());
+  CHECK(desk.frame.fileMenuEnabled);
+  CHECK(desk.server.record.calls.empty());
+}
+
+TEST_CASE("a click on the window closes the About box") {
+  PrintDesk desk;
+  desk.Open().UserClick();
+  CHECK(desk.frame.aboutClosed == 1);
+}
+
+TEST_CASE("the command tells that card printing is disabled, and opens the window all the same") {
+  PrintDesk desk;
+  OpenPrintWindow(desk.app, desk.window);
+  CHECK(desk.fakes.messages.shown.empty());
+  CHECK(desk.window.IsLoaded());
+
+  PrintDesk without;
+  without.state.printing.canPrintCards = false;
+  without.fakes.messages.whileShown = [&without](const Shown&) {
+    CHECK_FALSE(without.window.IsLoaded());
+  };
+  OpenPrintWindow(without.app, without.window);
+  CHECK(without.fakes.messages.shown ==
+        std::vector<Shown>{{Text(kDisabledText), kStopIcon, u"Card Printing Disabled"}});
+  CHECK(without.window.IsLoaded());
+}
+
+TEST_CASE("the print controls have four states") {
+  for (const bool ticked : {false, true}) {
+    CAPTURE(ticked);
+    PrintDesk desk;
+    PrintWindow& window = desk.OpenTicked(ticked ? 1 : 0);
+    CheckControls(window, {false, true, false, true, "nonflip", false, ticked});
+    window.flipPrint.Press();
+    CheckControls(window, {false, true, true, true, "flip", false, ticked});
+    window.flatSheet.Press();
+    CheckControls(window, {true, true, false, false, "flip_disabled", false, ticked});
+
+    PrintDesk without;
+    without.state.printing.canPrintCards = false;
+    CheckControls(without.OpenTicked(ticked ? 1 : 0),
+                  {true, false, false, false, "flip_disabled", true, ticked});
+  }
+}
+
+TEST_CASE("after a detour through flat mode the flip choice is unticked") {
+  PrintDesk desk;
+  PrintWindow& window = desk.Open();
+  window.flipPrint.Press();
+  window.flatSheet.Press();
+  window.flatSheet.Press();
+  CheckControls(window, {false, true, false, true, "nonflip", false, false});
+}
+
+TEST_CASE("flat mode can't be left where nothing else can print") {
+  PrintDesk desk;
+  desk.state.printing.canPrintCards = false;
+  PrintWindow& window = desk.Open();
+  window.flatSheet.Press();
+  window.flipPrint.Press();
+  CheckControls(window, {true, false, false, false, "flip_disabled", true, false});
+  window.flatSheet.SetTicked(false);
+  CheckControls(window, {false, false, false, false, "flip_disabled", true, false});
+}
+
+TEST_CASE("the toggle button follows the last tick of a click") {
+  PrintDesk desk;
+  PrintWindow& window = desk.Open();
+  const auto toggle = [&window] { return window.toggleAll.Caption(); };
+  desk.Tick(1);
+  desk.Tick(2);
+  CHECK(toggle() == u"Select All");
+  desk.Tick(3);
+  CHECK(toggle() == u"Deselect All");
+  CHECK(window.AllChecked());
+  desk.Tick(2);
+  CHECK(toggle() == u"Select All");
+  CHECK_FALSE(window.AllChecked());
+}
+
+TEST_CASE("Select All ticks every card and turns into Deselect All") {
+  for (const bool flat : {false, true}) {
+    CAPTURE(flat);
+    PrintDesk desk;
+    PrintWindow& window = desk.Open();
+    if (flat) window.flatSheet.Press();
+    window.toggleAll.Press();
+    CHECK(window.CountChecks() == 3);
+    CHECK(window.toggleAll.Caption() == u"Deselect All");
+    CHECK(window.selected.Caption() == u"Number of cards selected for print: 3");
+    CHECK(window.print.Enabled());
+    window.toggleAll.Press();
+    CHECK(window.CountChecks() == 0);
+    CHECK(window.toggleAll.Caption() == u"Select All");
+    CHECK(window.selected.Caption() == u"Number of cards selected for print: 0");
+    CHECK_FALSE(window.print.Enabled());
+  }
+}
+
+TEST_CASE("ticking and unticking all touches the print button in flat mode alone") {
+  PrintDesk desk;
+  PrintWindow& window = desk.Open();
+  window.SelectAll();
+  CHECK_FALSE(window.print.Enabled());
+  window.flatSheet.SetTicked(true);
+  window.DeselectAll();
+  CHECK_FALSE(window.print.Enabled());
+  window.SelectAll();
+  CHECK(window.print.Enabled());
+}
+
+TEST_CASE("the print button is to be enabled with a tick and a way to print") {
+  struct Case {
+    bool canPrint, flat, ticked, enabled;
+  };
+  for (const Case& c : {Case{true, false, true, true}, Case{true, true, true, true},
+                        Case{true, false, false, false}, Case{false, true, true, true},
+                        Case{false, true, false, false}, Case{false, false, true, false}}) {
+    PrintDesk desk;
+    PrintWindow& window = desk.OpenTicked(c.ticked ? 1 : 0);
+    window.flatSheet.SetTicked(c.flat);
+    desk.state.printing.canPrintCards = c.canPrint;
+    CHECK(window.PrnButEn() == c.enabled);
+  }
+}
+
+TEST_CASE("a click shows the back of the selected card and the counts") {
+  PrintDesk desk;
+  PrintWindow& window = desk.Open();
+  window.cards.UserClick(2, ListView::HitPart::kText);
+  CHECK(window.back.TextOf() == u"back 2");
+  CHECK(window.selected.Caption() == u"Number of cards selected for print: 0");
+  CHECK_FALSE(window.print.Enabled());
+  window.cards.UserClick(3, ListView::HitPart::kCheckBox);
+  CHECK(window.back.TextOf() == u"back 3");
+  CHECK(window.selected.Caption() == u"Number of cards selected for print: 1");
+  CHECK(window.available.Caption() == u"Available Cards: 3");
+  CHECK(window.print.Enabled());
+  window.cards.UserClick(0, ListView::HitPart::kText);
+  CHECK(window.back.TextOf() == u"back 3");
+}
+
+TEST_CASE("in a list without cards a click and a key do nothing") {
+  PrintDesk desk(0);
+  PrintWindow& window = desk.Open();
+  window.cards.UserClick(0, ListView::HitPart::kText);
+  window.cards.UserKeyUp();
+  CHECK(desk.fakes.messages.Take().empty());
+  CHECK(window.back.TextOf().empty());
+  CHECK_FALSE(desk.windows.ExitStatus());
+}
+
+TEST_CASE("a key shows the back of the card below, in other words, and leaves the print button") {
+  PrintDesk desk;
+  PrintWindow& window = desk.Open();
+  window.available.SetCaption(u"as it was");
+  window.cards.UserToggleByKey();
+  window.cards.UserKeyUp();
+  CHECK(window.back.TextOf() == u"back 2");
+  CHECK(window.selected.Caption() == u"Number of cards to print: 1");
+  CHECK(window.available.Caption() == u"as it was");
+  CHECK_FALSE(window.print.Enabled());
+
+  window.cards.UserSelectByKey(3);
+  window.cards.UserKeyUp();
+  CHECK(window.back.TextOf().empty());
+  window.cards.UserToggleByKey();
+  window.cards.UserSelectByKey(2);
+  window.cards.UserToggleByKey();
+  window.cards.UserKeyUp();
+  CHECK(window.toggleAll.Caption() == u"Deselect All");
+}
+
+TEST_CASE("the sides of a card depend on the type of the deck") {
+  PrintDesk desk;
+  const PrintWindow& window = desk.Open();
+  desk.state.deck.cardGrid.Set(1, kChoiceC, u"third");
+  const auto back = [&](std::int32_t type, const Text& answer) {
+    desk.state.deck.kind = type;
+    desk.state.deck.cardGrid.Set(1, kAnswer, answer);
+    return window.GetCardText(u"Back", 1);
+  };
+  CHECK(back(kStandardDeck, u"C") == u"back 1");
+  CHECK(back(kExtendedDeck, u"C") == u"third");
+  CHECK(back(kExtendedDeck, u"T") == u"TRUE");
+  CHECK(back(kExtendedDeck, u"F") == u"FALSE");
+  CHECK(back(kExtendedDeck, u"x").empty());
+  CHECK(back(2, u"C").empty());
+  CHECK(window.GetCardText(u"Front", 1).empty());
+  for (const std::int32_t type : {kStandardDeck, kExtendedDeck}) {
+    desk.state.deck.kind = type;
+    CHECK(window.GetCardText(u"Front", 1) == u"front 1");
+    CHECK(window.GetCardText(u"front", 1).empty());
+    CHECK(window.GetCardText(u"", 1).empty());
+  }
+}
+
+TEST_CASE("a click on a card of an extended deck shows its answer") {
+  PrintDesk desk;
+  desk.state.deck.kind = kExtendedDeck;
+  desk.state.deck.cardGrid.Set(2, kAnswer, u"T");
+  PrintWindow& window = desk.Open();
+  window.cards.UserClick(2, ListView::HitPart::kText);
+  CHECK(window.back.TextOf() == u"TRUE");
+  window.cards.UserSelectByKey(1);
+  window.cards.UserKeyUp();
+  CHECK(window.back.TextOf() == u"TRUE");
+}
+
+TEST_CASE("the closing box names the deck, whatever the way of printing") {
+  for (const bool flat : {false, true}) {
+    CAPTURE(flat);
+    PrintDesk desk;
+    PrintWindow& window = desk.OpenTicked(2);
+    window.flatSheet.SetTicked(flat);
+    desk.ChoosePrinter();
+    window.print.Press();
+    CHECK(desk.fakes.messages.shown.back() ==
+          Shown{u"capitals has finished printing.", kInformationIcon, u"PRINT"});
+    CHECK_FALSE(desk.state.printing.cancelled);
+    CHECK(window.selected.Caption() == u"Number of cards selected for print: 2");
+    CHECK(window.print.Enabled());
+  }
+}
+
+TEST_CASE("the closing box of a deck without a file begins with a blank") {
+  PrintDesk desk;
+  desk.state.deck.filePath.clear();
+  PrintWindow& window = desk.OpenTicked(1);
+  desk.ChoosePrinter();
+  window.print.Press();
+  CHECK(desk.fakes.messages.shown.back().text == u" has finished printing.");
+}
+
+TEST_CASE("a cancelled card job has no closing box and clears the flag") {
+  PrintDesk desk;
+  PrintWindow& window = desk.OpenTicked(1);
+  window.selected.SetCaption(u"as it was");
+  desk.CancelPrinter();
+  window.print.Press();
+  CHECK(desk.fakes.messages.Take() ==
+        std::vector<Shown>{{u"Printing was cancelled", kOkOnly, u"Cancel Printing"}});
+  CHECK_FALSE(desk.state.printing.cancelled);
+  CHECK(window.selected.Caption() == u"Number of cards selected for print: 1");
+  CHECK(window.print.Enabled());
+}
+
+TEST_CASE("after a cancelled flat job every flat job ends in silence, until a card job clears it") {
+  PrintDesk desk;
+  PrintWindow& window = desk.OpenTicked(1);
+  window.flatSheet.Press();
+  window.selected.SetCaption(u"as it was");
+  desk.CancelPrinter();
+  window.print.Press();
+  CHECK(desk.fakes.messages.Take() ==
+        std::vector<Shown>{{u"Printing was cancelled", kOkOnly, u"Cancel Printing"}});
+  CHECK(desk.state.printing.cancelled);
+  CHECK(window.selected.Caption() == u"as it was");
+
+  desk.ChoosePrinter();
+  window.print.Press();
+  CHECK(desk.surface.record.Count("End") == 1);
+  CHECK(desk.fakes.messages.Take().empty());
+  CHECK(window.selected.Caption() == u"as it was");
+
+  window.flatSheet.Press();
+  desk.ChoosePrinter();
+  window.print.Press();
+  CHECK(desk.fakes.messages.Take().back().title == u"PRINT BACK");
+  CHECK_FALSE(desk.state.printing.cancelled);
+  CHECK(window.selected.Caption() == u"Number of cards selected for print: 1");
+
+  window.flatSheet.Press();
+  desk.ChoosePrinter();
+  window.print.Press();
+  CHECK(desk.fakes.messages.Take().back().title == u"PRINT");
+}
+
+TEST_CASE("a job that can't be opened or closed greys the print button and tells why") {
+  struct Case {
+    const char* failing;
+    ErrorNumber number;
+    TextView text;
+  };
+  constexpr TextView kUnspecified =
+      u"An unspecified printing error has occured. Ensure that the printer is ready.";
+  const Case cases[] = {
+      {"Bind", ErrorNumber::kAutomationClassNotFound, u"Printing requires Excel 97."},
+      {"Bind", ErrorNumber::kAutomationError, kUnspecified},
+      {"ActiveSheet", ErrorNumber::kAutomationError, kUnspecified},
+      {"Alerts", ErrorNumber::kAutomationError, kUnspecified},
+      {"Close", ErrorNumber::kAutomationError, kUnspecified},
+  };
+  for (const Case& c : cases) {
+    CAPTURE(c.failing);
+    PrintDesk desk;
+    PrintWindow& window = desk.OpenTicked(1);
+    window.selected.SetCaption(u"as it was");
+    desk.ChoosePrinter();
+    desk.server.record.FailAt(c.failing, c.number);
+    bool enabledBehindTheBox = true;
+    desk.fakes.messages.whileShown = [&](const Shown&) {
+      enabledBehindTheBox = window.print.Enabled();
+    };
+    window.print.Press();
+    CHECK(desk.fakes.messages.shown.back() ==
+          Shown{Text(c.text), kStopIcon, u"Error Printing Cards"});
+    CHECK_FALSE(enabledBehindTheBox);
+    CHECK_FALSE(window.print.Enabled());
+    CHECK(window.selected.Caption() == u"as it was");
+    CHECK(desk.state.printing.canPrintCards);
+
+    window.cards.UserClick(1, ListView::HitPart::kText);
+    CHECK(window.print.Enabled());
+    desk.ChoosePrinter();
+    window.print.Press();
+    CHECK(desk.fakes.messages.shown.back().title == u"PRINT");
+  }
+}
+
+TEST_CASE("a job that can't be opened shows no printer dialog") {
+  PrintDesk desk;
+  PrintWindow& window = desk.OpenTicked(1);
+  desk.ChoosePrinter();
+  desk.server.record.FailAt("Bind", ErrorNumber::kAutomationError);
+  window.print.Press();
+  CHECK(desk.fakes.dialogs.printers.size() == 1);
+}
+
+}  // namespace
+}  // namespace tessara
