@@ -6,6 +6,8 @@
 #include <sys/stat.h>
 #include <utility>
 
+#include "platform/folder_entries.h"
+
 namespace tessara {
 
 namespace fs = std::filesystem;
@@ -60,7 +62,8 @@ void NewFile::TakeName(const fs::path& path) {
 
 void NewFile::RemoveUnfinished(const fs::path& folder) {
   const auto recent = fs::file_time_type::clock::now() - std::chrono::hours(1);
-  for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+  std::error_code unread;
+  for (const fs::directory_entry& entry : EntriesOf(folder, unread)) {
     if (!entry.path().filename().string().starts_with(kHiddenName)) continue;
     std::error_code vanished;
     if (entry.last_write_time(vanished) < recent && !vanished) fs::remove(entry, vanished);

@@ -9,10 +9,10 @@
 #include <unistd.h>
 #include <utility>
 
+#include "platform/path_error.h"
 #include "platform/posix/posix_file.h"
 #include "platform/posix/read_ahead.h"
 #include "platform/posix/system_call.h"
-#include "platform/posix/system_error.h"
 #include "platform/run_time_error.h"
 #include "platform/utf8.h"
 

@@ -7,6 +7,7 @@
 #include <tuple>
 #include <vector>
 
+#include "platform/folder_entries.h"
 #include "platform/posix/copy_name.h"
 #include "platform/posix/new_file.h"
 #include "platform/utf8.h"
@@ -37,7 +38,8 @@ bool Older(const Copy& a, const Copy& b) {
 /// The oldest first. Files that are no copies are left out.
 std::vector<Copy> CopiesIn(const fs::path& folder) {
   std::vector<Copy> copies;
-  for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+  std::error_code unread;
+  for (const fs::directory_entry& entry : EntriesOf(folder, unread)) {
     const auto deck = NameWithoutMoment(entry.path().filename().string());
     if (!deck || !fs::is_regular_file(entry.symlink_status())) continue;
     copies.push_back({entry.path(), *deck, entry.file_size(), entry.last_write_time()});

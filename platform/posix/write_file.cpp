@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "platform/path_error.h"
 #include "platform/posix/system_call.h"
 #include "platform/posix/system_error.h"
 #include "platform/run_time_error.h"
