@@ -1,8 +1,10 @@
 #include "forms/window_system.h"
 
 #include <algorithm>
+#include <exception>
 #include <utility>
 
+#include "platform/foreign_error.h"
 #include "platform/message_box.h"
 #include "platform/run_time_error.h"
 
@@ -19,14 +21,13 @@ void WindowSystem::Run(const std::function<void()>& event) {
   try {
     event();
   } catch (const RunTimeError& error) {
-    Report(error);
-    Leave();
-    if (depth_ > 0) throw ProgramEnded(*exitStatus_);
-    return;
+    return EndBy(error);
   } catch (const ProgramEnded&) {
     Leave();
     if (depth_ > 0) throw;
     return;
+  } catch (const std::exception& foreign) {
+    return EndBy(RunTimeErrorOf(foreign));
   } catch (...) {
     Leave();
     throw;
@@ -34,12 +35,22 @@ void WindowSystem::Run(const std::function<void()>& event) {
   Leave();
 }
 
+void WindowSystem::EndBy(const RunTimeError& error) {
+  try {
+    // Shown while the event still counts as running, so that nothing is destroyed behind the box.
+    Report(error);
+  } catch (const std::exception&) {
+    // No memory for the box, or the program has ended behind it.
+  }
+  EndProgram(1);
+  Leave();
+  if (depth_ > 0) throw ProgramEnded(*exitStatus_);
+}
+
 void WindowSystem::Report(const RunTimeError& error) {
-  // Shown while the event still counts as running, so that nothing is destroyed behind the box.
   messages_.Show(u"Run-time error '" + DecimalText(static_cast<long>(error.Number())) + u"':" +
                      Text(kLineBreak) + Text(kLineBreak) + error.Description(),
                  kStopIcon, Text(kProgramName));
-  EndProgram(1);
 }
 
 void WindowSystem::Leave() {

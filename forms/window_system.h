@@ -29,8 +29,9 @@ class WindowSystem {
 
   /// Runs an event. A run-time error that it lets out is shown in the error report box, and then
   /// the program ends with status 1: the renderer is told, and ProgramEnded leaves all events but
-  /// the outermost. Neither error ever leaves that one. Once the program has ended, a new
-  /// outermost event does not run.
+  /// the outermost. Neither error ever leaves that one. An exception of the standard library counts
+  /// as the run-time error that it comes to. Once the program has ended, a new outermost event does
+  /// not run.
   void Run(const std::function<void()>& event);
   /// The exit status once the program has ended.
   [[nodiscard]] std::optional<int> ExitStatus() const { return exitStatus_; }
@@ -51,6 +52,8 @@ class WindowSystem {
   friend class Form;
   friend class WindowSlot;
 
+  /// Reports the error that the event now running has let out, and ends the program.
+  void EndBy(const RunTimeError& error);
   void Report(const RunTimeError& error);
   void Leave();
   void Add(Form& form);

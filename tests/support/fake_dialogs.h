@@ -2,11 +2,12 @@
 
 #include <deque>
 #include <functional>
-#include <stdexcept>
+#include <string>
 #include <vector>
 
 #include "platform/dialogs.h"
 #include "platform/run_time_error.h"
+#include "tests/support/test_failure.h"
 
 namespace tessara::test {
 
@@ -47,7 +48,7 @@ class FakeDialogs : public Dialogs {
  private:
   template <class T>
   static T Next(std::deque<T>& answers, const char* kind) {
-    if (answers.empty()) throw std::logic_error(std::string("no answer for a dialog: ") + kind);
+    if (answers.empty()) throw TestFailure{std::string("no answer for a dialog: ") + kind};
     T answer = answers.front();
     answers.pop_front();
     return answer;

@@ -7,12 +7,20 @@
 
 namespace tessara::test {
 
-/// False under the sanitizers: their own checks open files.
+/// False under the sanitizers: their own checks open files, and take memory beyond all bounds.
 #ifdef TESSARA_SANITIZED
 inline constexpr bool kOpenFilesCanBeLimited = false;
+inline constexpr bool kMemoryCanBeLimited = false;
 #else
 inline constexpr bool kOpenFilesCanBeLimited = true;
+inline constexpr bool kMemoryCanBeLimited = true;
 #endif
+
+/// From here on the process gets no more memory than this in all.
+inline void LimitMemory(long bytes) {
+  const rlimit limits{static_cast<rlim_t>(bytes), static_cast<rlim_t>(bytes)};
+  setrlimit(RLIMIT_AS, &limits);
+}
 
 /// True where the condition holds in a process of its own.
 template <class Condition>
