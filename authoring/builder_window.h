@@ -28,6 +28,8 @@ class BuilderWindow : public Form {
 
   MoveButtons cmdMove;
 
+  [[nodiscard]] bool OccupiesFrame() const override { return true; }
+
   void cmdMove_Click(int Index);
 
  protected:

@@ -36,6 +36,7 @@ class DeckWindow : public Form {
   MenuEntry mnuHelp, mnuHelpTopic, mnuAbout, mnuSC;
 
   [[nodiscard]] bool ClosesFirst() const override { return true; }
+  [[nodiscard]] bool OccupiesFrame() const override { return true; }
 
   /// The large card.
   virtual CardFace& Card() = 0;

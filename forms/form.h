@@ -116,6 +116,9 @@ class Form {
   [[nodiscard]] virtual bool ShowsOnLoad() const { return false; }
   /// True for the window that may refuse to go: a closing frame asks it before all others.
   [[nodiscard]] virtual bool ClosesFirst() const { return false; }
+  /// True for a window that holds the user's work, or stands in for the one that does: with one of
+  /// them on screen the frame is not empty.
+  [[nodiscard]] virtual bool OccupiesFrame() const { return false; }
 
  protected:
   struct ControlPlace {
@@ -145,6 +148,8 @@ class Form {
   virtual void Form_Click() {}
   virtual void Form_MouseMove() {}
   virtual void Form_LostFocus() {}
+  /// On the frame: another window has come on screen, to the front of it, or gone from it.
+  virtual void WindowsChanged() {}
 
  private:
   friend class Control;

@@ -87,6 +87,11 @@ Form* WindowSystem::FrameForm() const {
   return found == loaded_.end() ? nullptr : *found;
 }
 
+bool WindowSystem::FrameIsEmpty() const {
+  return std::none_of(order_.begin(), order_.end(),
+                      [](const Form* form) { return form->OccupiesFrame(); });
+}
+
 void WindowSystem::Add(Form& form) {
   loaded_.push_back(&form);
 }
@@ -111,13 +116,21 @@ void WindowSystem::BringForward(Form& form) {
   const Front before = InFront();
   std::erase(order_, &form);
   order_.push_back(&form);
+  TellFrame();
   FrontMayHaveChanged(before);
 }
 
 void WindowSystem::Drop(Form& form) {
   const Front before = InFront();
   std::erase(order_, &form);
+  TellFrame();
   FrontMayHaveChanged(before);
+}
+
+/// Before any event that the change causes: it may wait for the user.
+void WindowSystem::TellFrame() const {
+  Form* frame = FrameForm();
+  if (frame != nullptr) frame->WindowsChanged();
 }
 
 void WindowSystem::FrontMayHaveChanged(const Front& front) {

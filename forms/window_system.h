@@ -47,6 +47,8 @@ class WindowSystem {
   /// Loaded windows in the order of their loading.
   [[nodiscard]] const std::vector<Form*>& LoadedForms() const { return loaded_; }
   [[nodiscard]] Form* FrameForm() const;
+  /// True while no window that occupies the frame is on screen.
+  [[nodiscard]] bool FrameIsEmpty() const;
 
  private:
   friend class Form;
@@ -72,6 +74,7 @@ class WindowSystem {
   };
   [[nodiscard]] Front InFront() const { return {ActiveForm(), ActiveChild()}; }
   void FrontMayHaveChanged(const Front& front);
+  void TellFrame() const;
   bool CloseFrame(Form& frame);
 
   MessageBoxes& messages_;

@@ -96,7 +96,6 @@ void PrintCard::Form_Load() {
   ListView1.SetColumnWidth(kTextColumn, besideNumbers - kScrollBarWidth);
   SetCaption(u"Print Cards");
   frmMain_->Hide();
-  app_.frame.EnableFileMenu(false);
   ShowAvailable();
   Label4.SetVisible(!app_.state.CanPrintCards);
   if (!app_.state.CanPrintCards) FlatPrintOnly();
@@ -105,7 +104,6 @@ void PrintCard::Form_Load() {
 
 void PrintCard::Form_Unload(bool& /*cancel*/) {
   frmMain_->Show();
-  app_.frame.EnableFileMenu(true);
 }
 
 void PrintCard::Form_Click() {

@@ -35,6 +35,8 @@ class PrintCard : public Form {
   ControlArray<Line, 2> Line1;
   Line Line2, Line3;
 
+  [[nodiscard]] bool OccupiesFrame() const override { return true; }
+
   /// True where every item is ticked.
   [[nodiscard]] bool AllChecked() const;
   /// The number of ticked items.

@@ -4,6 +4,7 @@
 #include "deck/file_number.h"
 #include "forms/form.h"
 #include "forms/window.h"
+#include "forms/window_system.h"
 #include "shell/FrmSetUp.h"
 #include "shell/backdrop.h"
 #include "shell/frmAbout.h"
@@ -48,6 +49,8 @@ class MDIForm1 : public Form {
   void Form_Load() override;
   void Form_Click() override { windows_.about.Unload(); }
   void Form_Unload(bool& cancel) override;
+  /// The file menu is for the empty frame: its commands fill the table, and ask nothing.
+  void WindowsChanged() override { mnuFile.SetEnabled(System().FrameIsEmpty()); }
 
  private:
   void PlaceMenuEntries();

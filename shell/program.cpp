@@ -53,10 +53,6 @@ std::unique_ptr<Form> Program::MakeDeckWindow() {
   return deck;
 }
 
-void Program::EnableFileMenu(bool enabled) {
-  FrameWindow()->mnuFile.SetEnabled(enabled);
-}
-
 void Program::Main(const Text& commandLine) {
   windows_.Run([this, &commandLine] { Start(commandLine); });
 }

@@ -53,7 +53,6 @@ class Program : private AppFrame {
   [[nodiscard]] int ScaleHeight() const override { return windows_.Shown().FrameScaleHeight(); }
   [[nodiscard]] const ImageList& imgWallPaper() const override { return imgWallPaper_; }
   [[nodiscard]] const ImageList& BKG() const override { return bkg_; }
-  void EnableFileMenu(bool enabled) override;
   void CloseAbout() override { aboutSlot_.Unload(); }
   void CloseSplash() override { splashSlot_.Unload(); }
 

@@ -155,6 +155,7 @@ TEST_CASE("after an unforeseen error a deck opened from either menu ends the pro
     desk.fakes.files.Put(u"/texts/birds.tsr", ProgramDesk::DeckBytes(3));
     desk.Start();
     desk.fakes.dialogs.files = {kTextPath, u"/texts/birds.tsr"};
+    desk.Deck().UserClose();
     desk.Frame().mnuImportFile.Press();
     CHECK(desk.fakes.messages.Take() == Boxes{UnforeseenError(u"Type mismatch")});
     CHECK_FALSE(desk.program.Windows().ExitStatus());

@@ -40,7 +40,7 @@ void CheckControls(const PrintCard& window, const Controls& expected) {
   CHECK(window.Command1[1].Enabled() == expected.print);
 }
 
-TEST_CASE("the window lists the cards, hides the deck window and switches the file menu off") {
+TEST_CASE("the window lists the cards and hides the deck window") {
   PrintDesk desk(12);
   const PrintCard& window = desk.Open();
   CHECK(window.Visible());
@@ -57,15 +57,13 @@ TEST_CASE("the window lists the cards, hides the deck window and switches the fi
   CHECK(window.Label6.Caption() == u"Available Cards: 12");
   CHECK(window.Label3.Caption() == u"Number of cards selected for print: 0");
   CHECK_FALSE(desk.deckSlot.Instance().Visible());
-  CHECK_FALSE(desk.frame.fileMenuEnabled);
 }
 
-TEST_CASE("closing shows the deck window and switches the file menu on") {
+TEST_CASE("closing shows the deck window") {
   PrintDesk desk;
   desk.Open().Command1[2].Press();
   CHECK_FALSE(desk.window.IsLoaded());
   CHECK(desk.deckSlot.Instance().Visible());
-  CHECK(desk.frame.fileMenuEnabled);
   CHECK(desk.server.record.calls.empty());
 }
 

@@ -15,6 +15,16 @@ void CloseDeckWindow(ProgramDesk& desk) {
   REQUIRE_FALSE(desk.program.DeckWindowOf().IsLoaded());
 }
 
+/// Set-up is of the empty frame: the deck has to go for it and come back.
+void OpenSetUpInFront(ProgramDesk& desk) {
+  desk.fakes.messages.answers = {MessageAnswer::kYes};
+  CloseDeckWindow(desk);
+  desk.Frame().mnuSetup.Press();
+  desk.fakes.dialogs.files = {u"/decks/birds.tsr"};
+  desk.Frame().mnuOPenExisting.Press();
+  desk.program.SetUpWindow()->UserActivate();
+}
+
 std::vector<Text> CaptionsOf(const MenuEntry& menu) {
   std::vector<Text> captions;
   for (const MenuEntry* entry : menu.Entries()) captions.push_back(entry->Caption());
@@ -297,7 +307,7 @@ TEST_CASE("the frame closes with each child window open, and none comes back on 
       {"frmQuestion", u"T", [](ProgramDesk& desk) { desk.Deck().mnuACTTD.Press(); }},
       {"PrintCard", u"E", [](ProgramDesk& desk) { desk.Deck().mnuPrint.Press(); }},
       {"frmInfo", u"E", [](ProgramDesk& desk) { desk.Deck().mnuCDI.Press(); }},
-      {"FrmSetUp", u"E", [](ProgramDesk& desk) { desk.Frame().mnuSetup.Press(); }},
+      {"FrmSetUp", u"E", OpenSetUpInFront},
       {"frmAbout", u"E", [](ProgramDesk& desk) { desk.Deck().mnuAbout.Press(); }},
   };
   for (const Case& c : cases) {
