@@ -72,7 +72,8 @@ void frmInfo::Form_Load() {
 }
 
 void frmInfo::Form_Unload(bool& /*cancel*/) {
-  deck_->SetEnabled(true);
+  // It may have outlived its deck: a window that is not there is not made for this.
+  if (deck_.IsLoaded()) deck_->SetEnabled(true);
 }
 
 void frmInfo::Text1_Change() {

@@ -146,11 +146,12 @@ void WindowSystem::FrontMayHaveChanged(const Front& front) {
 
 /// The order is that of the windows' loading, but for the one that may refuse.
 bool WindowSystem::CloseFrame(Form& frame) {
-  const std::vector<Form*> others(loaded_);
-  const auto first = std::find_if(others.begin(), others.end(),
+  const auto first = std::find_if(loaded_.begin(), loaded_.end(),
                                   [](const Form* form) { return form->ClosesFirst(); });
-  if (first != others.end() && !(*first)->Unload()) return false;
+  if (first != loaded_.end() && !(*first)->Unload()) return false;
   closingFrame_ = true;
+  // Not before: the first to go may have brought up another, as a save does. From here on none can.
+  const std::vector<Form*> others(loaded_);
   for (Form* form : others) {
     const bool stands = std::find(loaded_.begin(), loaded_.end(), form) != loaded_.end();
     if (form != &frame && stands) form->Unload();

@@ -47,6 +47,9 @@ void MenuView::Press(MenuEntry& entry) {
 
 void MenuView::Follow(const MenuEntry& entry) {
   QAction& action = *actions_.at(&entry);
+  // Qt switches a menu on again with its window, unless the menu itself is off.
+  QMenu* menu = action.menu();
+  if (menu != nullptr) menu->setEnabled(entry.Enabled());
   action.setEnabled(entry.Enabled());
   action.setVisible(entry.Visible());
   if (entry.Checked()) action.setCheckable(true);

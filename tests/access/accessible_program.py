@@ -147,6 +147,10 @@ class Program:
         except AssertionError as missed:
             raise AssertionError(f"{missed}; there: {', '.join(map(str, self.windows()))}") from missed
 
+    def status(self):
+        """How the program ends: what it returns, or a signal's number below zero."""
+        return self._process.wait(SECONDS_TO_WAIT)
+
     def end(self):
         if self._process:
             self._process.kill()

@@ -24,6 +24,10 @@ QAction& Entry(const char* name, const char* window) {
   return *Desk::Top(window)->findChild<QAction*>(QLatin1String(name), Qt::FindDirectChildrenOnly);
 }
 
+const QAction& Menu(const char* name) {
+  return *Desk::Top("frmChild")->findChild<QMenu*>(QLatin1String(name))->menuAction();
+}
+
 }  // namespace
 
 TEST_CASE("The bar shows the menus of the window in front, else the frame's own") {
@@ -55,6 +59,18 @@ TEST_CASE("The bar follows when the window behind a dialog goes") {
   CHECK(desk.windows.ActiveForm() == &desk.dialog.Loaded());
 }
 
+TEST_CASE("The bar of a disabled window makes room for the frame's own, and comes back with it") {
+  Desk desk;
+  desk.ShowChild();
+  desk.child->SetEnabled(false);
+  CHECK(BarTexts() == "&File ");
+  desk.child->Hide();
+  desk.child->Show();
+  CHECK(BarTexts() == "&File ");
+  desk.child->SetEnabled(true);
+  CHECK(BarTexts() == "&File &Mode ");
+}
+
 TEST_CASE("Entries of one name in two windows run their own window's command") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
@@ -72,7 +88,27 @@ TEST_CASE("A disabled entry and a disabled menu can't be chosen") {
   form.mnuOpen.SetEnabled(false);
   CHECK_FALSE(Entry("mnuOpen", "frmChild").isEnabled());
   form.mnuMode.SetEnabled(false);
-  CHECK_FALSE(Desk::Top("frmChild")->findChild<QMenu*>("mnuMode")->menuAction()->isEnabled());
+  CHECK_FALSE(Menu("mnuMode").isEnabled());
+}
+
+TEST_CASE(
+    "What is off stays off when its window was disabled meanwhile, and what is on comes back") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  form.mnuOpen.SetEnabled(false);
+  form.mnuMode.SetEnabled(false);
+  form.SetEnabled(false);
+  SUBCASE("as it was") {}
+  SUBCASE("switched on and off behind the disabled window") {
+    form.mnuMode.SetEnabled(true);
+    form.mnuMode.SetEnabled(false);
+  }
+  form.SetEnabled(true);
+  CHECK_FALSE(Menu("mnuMode").isEnabled());
+  CHECK_FALSE(Entry("mnuOpen", "frmChild").isEnabled());
+  CHECK(Menu("mnuFile").isEnabled());
+  form.mnuMode.SetEnabled(true);
+  CHECK(Menu("mnuMode").isEnabled());
 }
 
 TEST_CASE("An entry with the caption - is a line without text") {

@@ -219,7 +219,7 @@ TEST_CASE("a second About brings the same box forward") {
   CHECK(desk.program.Windows().ActiveForm() == &about);
 }
 
-TEST_CASE("an information window that outlives its deck brings the deck window back unseen") {
+TEST_CASE("an information window that outlives its deck leaves no trace of one when it goes") {
   ProgramDesk desk;
   desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(2));
   desk.Start(u"/decks/birds.tsr");
@@ -230,10 +230,13 @@ TEST_CASE("an information window that outlives its deck brings the deck window b
   REQUIRE_FALSE(desk.program.DeckWindowOf().IsLoaded());
   CHECK(desk.program.InfoWindow()->Visible());
   CHECK(desk.program.InfoWindow()->Text1[0].TextOf() == u" Birds");
+  // Loading a deck window would end the program.
+  desk.state.LargeCardColor = u"x";
   desk.program.InfoWindow()->Command1[0].Press();
-  CHECK(desk.program.DeckWindowOf().IsLoaded());
-  CHECK_FALSE(desk.Deck().Visible());
+  CHECK_FALSE(desk.program.DeckWindowOf().IsLoaded());
   CHECK(desk.program.Windows().ActiveForm() == nullptr);
+  CHECK_FALSE(desk.program.Windows().ExitStatus());
+  desk.state.LargeCardColor = u"0";
   desk.Frame().mnuStdTessara.Press();
   CHECK(desk.Deck().Visible());
   CHECK(desk.Deck().Caption() == u"New Deck");
@@ -324,6 +327,39 @@ TEST_CASE("the frame closes with each child window open, and none comes back on 
     CHECK(desk.renderer.exitStatus == 0);
     CHECK(desk.fakes.messages.shown.size() == 1);
     CHECK(desk.program.Windows().ActiveForm() == nullptr);
+  }
+}
+
+TEST_CASE("the frame that saves a changed deck on its way takes the information window with it") {
+  struct Case {
+    const char* name;
+    std::function<void(ProgramDesk&)> open;
+    std::function<void(ProgramDesk&)> close;
+  };
+  const auto changeAlone = [](ProgramDesk&) {};
+  const auto builder = [](ProgramDesk& desk) { desk.Deck().mnuACTTD.Press(); };
+  const auto closeBox = [](ProgramDesk& desk) { desk.Frame().UserClose(); };
+  const auto exit = [](ProgramDesk& desk) {
+    desk.program.Windows().Run([&] { desk.Frame().Unload(); });
+  };
+  const Case cases[] = {{"close box", changeAlone, closeBox},
+                        {"exit", changeAlone, exit},
+                        {"close box behind a builder", builder, closeBox},
+                        {"exit behind a builder", builder, exit}};
+  for (const Case& c : cases) {
+    CAPTURE(c.name);
+    ProgramDesk desk;
+    desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(2));
+    desk.Start(u"/decks/birds.tsr");
+    desk.state.CardGrid.Set(1, kCardText, u"changed");
+    desk.state.DeckChanged = true;
+    c.open(desk);
+    desk.fakes.messages.answers = {MessageAnswer::kYes, MessageAnswer::kYes};
+    c.close(desk);
+    CHECK(desk.fakes.messages.shown.size() == 3);
+    CHECK(desk.program.Windows().ActiveForm() == nullptr);
+    CHECK_FALSE(desk.program.InfoWindow().IsLoaded());
+    CHECK(desk.renderer.exitStatus == 0);
   }
 }
 
