@@ -66,7 +66,7 @@ TEST_CASE("A deck is made, described, saved, closed, found again, changed and sa
   GoTo("Text1(1)");
   ProgramOnScreen::Key(Qt::Key_End, Qt::ControlModifier);
   ProgramOnScreen::Type(u"\nsince 1814");
-  ProgramOnScreen::Alt(kC);
+  PressChange();
   ProgramOnScreen::Alt(kC);
   desk.AnswerByKey(Qt::Key_Return);
   ProgramOnScreen::ChooseByKeys("mnuFile", "mnuSave");
@@ -84,7 +84,7 @@ TEST_CASE("A changed deck asks before it is closed, and No leaves its file as it
   OpenBuilder();
   GoTo("Text1(0)");
   ProgramOnScreen::Type(u"changed ");
-  ProgramOnScreen::Alt(kC);
+  PressChange();
   ProgramOnScreen::Alt(kC);
   CHECK(ProgramOnScreen::Card("CardText") == "changed front 1");
   desk.AnswerByKey(Qt::Key_N);
@@ -94,4 +94,37 @@ TEST_CASE("A changed deck asks before it is closed, and No leaves its file as it
       desk.TakeAsked() ==
       Asked{"There have been changes to this Tessara.Do you want to save them?", "ARE YOU SURE?"});
   CHECK(desk.folder.Read("birds.tsr") == DeckBytes(1));
+}
+
+TEST_CASE(
+    "The letter C in a builder drops nothing that was typed, and Return takes what it is on") {
+  ProgramOnScreen desk;
+  desk.Start();
+  OpenBuilder();
+  Write("Text1(0)", u"Norway");
+  Write("Text1(1)", u"Oslo");
+  for (const char* button : {"Command1(2)", "Command1(3)", "Command1(2)", "Command1(3)"}) {
+    ProgramOnScreen::Alt(kC);
+    CHECK(ProgramOnScreen::Focus() == button);
+  }
+  desk.AnswerByKey(Qt::Key_Y);
+  desk.AnswerByKey(Qt::Key_Return);
+  ProgramOnScreen::Key(Qt::Key_Return);
+  CHECK(desk.TakeAsked().back() == "Card is saved");
+  CHECK(ProgramOnScreen::Card("CardTotal") == "1");
+}
+
+TEST_CASE("On a new deck the letter C goes between two entries of the file menu") {
+  ProgramOnScreen desk;
+  desk.Start();
+  ProgramOnScreen::Alt(Qt::Key_F);
+  const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  REQUIRE(menu != nullptr);
+  for (const char* entry : {"mnuACTTD", "mnuExit", "mnuACTTD"}) {
+    ProgramOnScreen::Key(kC);
+    CHECK(menu->activeAction()->objectName() == entry);
+  }
+  ProgramOnScreen::Key(Qt::Key_Return);
+  CHECK(ProgramOnScreen::Focus() == "Text1(0)");
+  CHECK(desk.TakeAsked().empty());
 }

@@ -70,4 +70,42 @@ TEST_CASE("the label of the card's number is read out with the number") {
   CHECK(questionDesk.OpenQuestion().Label2[1].AccessibleName().empty());
 }
 
+TEST_CASE("in a builder the letter C drops and closes nothing while two buttons carry it") {
+  struct Case {
+    const char* what;
+    bool fresh;
+    BuilderButton next;  ///< the one to which the letter goes first
+  };
+  const Case cases[] = {{"a new card", true, kCancelButton}, {"a changed card", false, kAddButton}};
+  for (const Case& c : cases) {
+    CAPTURE(c.what);
+    BuilderDesk desk;
+    frmEssay& window = desk.OpenEssay(2);
+    if (c.fresh) window.Command1[kNewButton].Press();
+    for (TextBox& box : window.Text1) Type(box, u"typed");
+    const Text typed = window.Text1[1].TextOf();
+    window.UserFocus(window.Text1[1]);
+    for (const BuilderButton button : {c.next, kCloseButton, c.next}) {
+      CHECK(window.UserAccelerator(u'c'));
+      CHECK(window.FocusedControl() == &window.Command1[button]);
+    }
+    CHECK(desk.essay.IsLoaded());
+    CHECK(window.Text1[1].TextOf() == typed);
+    CHECK(window.Command1[kAddButton].Enabled());
+    CHECK(desk.TakeBoxes().empty());
+  }
+}
+
+TEST_CASE("in a builder the letter C closes where no other button carries it") {
+  BuilderDesk desk;
+  SUBCASE("texts") {
+    CHECK(desk.OpenEssay(2).UserAccelerator(u'c'));
+    CHECK_FALSE(desk.essay.IsLoaded());
+  }
+  SUBCASE("questions") {
+    CHECK(desk.OpenQuestion(2).UserAccelerator(u'c'));
+    CHECK_FALSE(desk.question.IsLoaded());
+  }
+}
+
 }  // namespace tessara::test
