@@ -128,3 +128,56 @@ TEST_CASE("On a new deck the letter C goes between two entries of the file menu"
   CHECK(ProgramOnScreen::Focus() == "Text1(0)");
   CHECK(desk.TakeAsked().empty());
 }
+
+TEST_CASE("The focus never falls on Close Deck, so a blank closes no deck") {
+  ProgramOnScreen desk;
+  const auto clear = [] { ProgramOnScreen::ChooseByKeys("mnuFile", "mnuNCD"); };
+  const auto startWith = [&desk](const std::string& cards) {
+    desk.folder.Write("deck.tsr", InfoBytes({}) + cards + EndBytes());
+    desk.Start(u"deck.tsr");
+  };
+  SUBCASE("at a start without a deck") {
+    desk.Start();
+  }
+  SUBCASE("behind the builder, with one card") {
+    desk.Start();
+    WriteCard(u"Norway", u"Oslo");
+  }
+  SUBCASE("behind the builder, at the first of two cards") {
+    startWith(CardBytes(1, u"Norway", u"Oslo") + CardBytes(2, u"Sweden", u"Stockholm"));
+    GoTo("Command3(2)");
+    OpenBuilder();
+    ProgramOnScreen::Alt(kC);
+  }
+  SUBCASE("behind the builder's close box, at a question") {
+    startWith(TrueCardBytes(1, u"?"));
+    GoTo("Command3(2)");
+    OpenBuilder();
+    ProgramOnScreen::Key(Qt::Key_F4, Qt::ControlModifier);
+  }
+  SUBCASE("after a clear") {
+    startWith(CardBytes(1, u"Norway", u"Oslo"));
+    clear();
+  }
+  SUBCASE("after a clear from Close Deck") {
+    startWith(TrueCardBytes(1, u"?"));
+    GoTo("Command3(2)");
+    clear();
+  }
+  SUBCASE("at a deck of one question") {
+    startWith(TrueCardBytes(1, u"?"));
+  }
+  SUBCASE("after the only card has been deleted") {
+    startWith(CardBytes(1, u"Norway", u"Oslo"));
+    desk.AnswerByKey(Qt::Key_Return);
+    ProgramOnScreen::ChooseByKeys("mnuFile", "mnuDelete");
+    desk.TakeAsked();
+  }
+  const std::string focus = ProgramOnScreen::Focus();
+  CAPTURE(focus);
+  const bool useful = focus == "NoteletCtl1" || focus == "cmdMove(1)";
+  CHECK(useful);
+  ProgramOnScreen::Key(Qt::Key_Space);
+  CHECK(desk.TakeAsked().empty());
+  CHECK(desk.program.DeckWindowOf().IsLoaded());
+}

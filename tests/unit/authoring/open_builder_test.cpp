@@ -44,6 +44,41 @@ TEST_CASE("the deck window is hidden for as long as a builder is open") {
   }
 }
 
+TEST_CASE("behind a builder the focus is where a blank closes no deck") {
+  struct Case {
+    const char* what;
+    bool questions;
+    int cards;
+    bool arrow;  ///< ">>", else the card
+  };
+  const Case cases[] = {{"the only text", false, 1, false},
+                        {"the first text of three", false, 3, true},
+                        {"the last question of three", true, 3, false}};
+  for (const Case& c : cases) {
+    CAPTURE(c.what);
+    BuilderDesk desk;
+    c.questions ? desk.OpenExtendedDeck(c.cards) : desk.OpenStandardDeck(c.cards);
+    frmMain& deck = desk.deck.Loaded();
+    deck.UserFocus(deck.Command3[frmMain::kCloseDeck]);
+    desk.OpenBuilder();
+    desk.windows.ActiveForm()->UserAccelerator(u'c');
+    CHECK(desk.windows.ActiveForm() == &deck);
+    const Control* next = &deck.NoteletCtl1;
+    if (c.arrow) next = &deck.cmdMove[kNextCard];
+    CHECK(deck.FocusedControl() == next);
+  }
+}
+
+TEST_CASE("behind a builder the focus is on what had it, where that still works") {
+  BuilderDesk desk;
+  desk.OpenStandardDeck(3);
+  frmMain& deck = desk.deck.Loaded();
+  deck.UserFocus(deck.Command3[frmMain::kFlip]);
+  desk.OpenBuilder();
+  desk.essay->UserClose();
+  CHECK(deck.FocusedControl() == &deck.Command3[frmMain::kFlip]);
+}
+
 TEST_CASE("a builder opened again while it is open keeps the guard on") {
   BuilderDesk desk;
   frmEssay& window = desk.OpenEssay(2);
