@@ -130,17 +130,17 @@ void frmEssay::ChangeCard() {
 
 void frmEssay::Cancel() {
   ProgramState& state = State();
+  // First, so that the arrows are set for the card that comes on show.
+  state.CurrentCard = state.CardCount;
   if (state.CardCount < 1) {
     PrepareNewCard();
     WaitForFirstCard();
     Deck()->mnuGTP.SetEnabled(false);
   } else {
-    // Still at the place of the new card: the arrows are set for it.
     ShowBuilderCard(state.CardCount);
     SetBuilderState(BuilderState::kOld);
     Deck()->SetGoToMenu();
   }
-  state.CurrentCard = state.CardCount;
 }
 
 void frmEssay::Close() {

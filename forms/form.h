@@ -103,7 +103,8 @@ class Form {
   /// The user has moved the window: a later assignment of a place counts from there.
   void UserMove(int left, int top);
   void UserFocus(Control& control);
-  /// Presses what carries the accelerator. False where nothing does.
+  /// Presses what carries the accelerator; where several do, the focus goes to the next of them.
+  /// False where nothing does.
   bool UserAccelerator(char16_t letter);
   /// Return and Escape press the default and the cancel button. False where there is none.
   bool UserReturn();

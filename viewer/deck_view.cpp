@@ -42,7 +42,12 @@ void frmMain::OpenExtendedView() {
   State().DeckType = kExtendedDeck;
   SetFlipCaption(u"&Show Answer");
   ChkModeMenu(kStudyMode);
-  OfferNext({&cmdMove[kNextCard]});
+  // Without a second card the arrow still works here, but not much longer.
+  if (State().CardCount > 1) {
+    OfferNext({&cmdMove[kNextCard]});
+  } else {
+    OfferNext({&NoteletCtl1});
+  }
 }
 
 void frmMain::ShowFirstCard(std::int32_t xType) {

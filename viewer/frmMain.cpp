@@ -20,6 +20,13 @@ constexpr int kInfoWidth = 6270;
 constexpr TextView kNextOrScoreName = u"Next Question, Show Score";
 constexpr Bounds kUnderTheCard = {120, 3855, 4860, 1635};
 
+/// True where the focus can stay: on something in reach, and not where a blank closes the deck.
+bool FocusMayStay(const frmMain& window) {
+  const Control* focused = window.FocusedControl();
+  return focused != nullptr && focused->Reachable() &&
+         focused != &window.Command3[frmMain::kCloseDeck];
+}
+
 }  // namespace
 
 frmMain::frmMain(AppContext& app, FileNumber& fileNumber, Window<frmInfo> info)
@@ -98,7 +105,10 @@ void frmMain::WireControls() {
 }
 
 void frmMain::WireMenus() {
-  mnuNCD.onClick = [this] { mnuNCD_Click(); };
+  mnuNCD.onClick = [this] {
+    mnuNCD_Click();
+    KeepFocusInReach();
+  };
   mnuOCD.onClick = [this] { mnuOCD_Click(); };
   mnuDelete.onClick = [this] { mnuDelete_Click(); };
   mnuSave.onClick = [this] { mnuSave_Click(); };
@@ -139,6 +149,7 @@ void frmMain::Form_Activate() {
   mnuMode.SetEnabled(state.HasCards());
   mnuNCD.SetEnabled(state.HasCards());
   mnuPrint.SetEnabled(state.CardCount >= 1);
+  if (!FocusMayStay(*this)) OfferNext({&cmdMove[kNextCard], &NoteletCtl1});
 }
 
 void frmMain::Form_Resize() {
@@ -173,9 +184,7 @@ void frmMain::OfferNext(std::initializer_list<Control*> controls) {
 }
 
 void frmMain::KeepFocusInReach() {
-  const Control* focused = FocusedControl();
-  if (focused != nullptr && focused->Reachable()) return;
-  OfferNext({&cmdMove[kNextCard], &cmdMove[kPreviousCard]});
+  if (!FocusMayStay(*this)) OfferNext({&cmdMove[kNextCard], &cmdMove[kPreviousCard], &NoteletCtl1});
 }
 
 }  // namespace tessara

@@ -1,8 +1,8 @@
 #include "platform/qt/menu_view.h"
 
-#include <QMenu>
 #include <algorithm>
 
+#include "platform/qt/letter_menu.h"
 #include "platform/qt/qt_text.h"
 
 namespace tessara {
@@ -24,7 +24,7 @@ QAction* MenuView::Make(MenuEntry& entry) {
 }
 
 QAction* MenuView::MakeMenu(MenuEntry& entry) {
-  auto* menu = new QMenu(ToQString(entry.Caption()), &Owner());
+  auto* menu = new LetterMenu(ToQString(entry.Caption()), &Owner());
   menu->setObjectName(QString::fromStdString(entry.Name()));
   for (MenuEntry* below : entry.Entries()) menu->addAction(Make(*below));
   return menu->menuAction();

@@ -87,6 +87,11 @@ class Node:
         place = Atspi.Component.get_extents(self._accessible, Atspi.CoordType.SCREEN)
         return place.x, place.y, place.x + place.width, place.y + place.height
 
+    @property
+    def text(self):
+        """What stands in a box, read anew each time."""
+        return Atspi.Text.get_text(self._accessible, 0, -1)
+
     def children(self):
         for index in range(self._accessible.get_child_count()):
             child = self._accessible.get_child_at_index(index)
@@ -207,11 +212,17 @@ class Program:
         window = self._window(title)
         return next((node for node in window.showing_below() if node.name == name), None) if window else None
 
-    # The keyboard.
+    # The keyboard and the mouse.
 
     @staticmethod
     def press(*keys):
         subprocess.run(["xdotool", "key", "--delay", "15", *keys], check=True)
+
+    @staticmethod
+    def click(button, node):
+        left, top, right, bottom = node.place
+        place = map(str, ((left + right) // 2, (top + bottom) // 2))
+        subprocess.run(["xdotool", "mousemove", *place, "click", str(button)], check=True)
 
     def menu_bar(self):
         return next(node for node in self.windows()[0].children() if node.role == "menu bar")

@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QKeyEvent>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -26,6 +27,18 @@ QAction& Entry(const char* name, const char* window) {
 
 const QAction& Menu(const char* name) {
   return *Desk::Top("frmChild")->findChild<QMenu*>(QLatin1String(name))->menuAction();
+}
+
+/// Alt and the letter of the file menu; the first entry is the active one then.
+QMenu& OpenFileMenu() {
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_F, Qt::AltModifier);
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  REQUIRE(menu != nullptr);
+  return *menu;
+}
+
+std::string ActiveIn(const QMenu& menu) {
+  return menu.activeAction() == nullptr ? "" : menu.activeAction()->objectName().toStdString();
 }
 
 }  // namespace
@@ -109,6 +122,56 @@ TEST_CASE(
   CHECK(Menu("mnuFile").isEnabled());
   form.mnuMode.SetEnabled(true);
   CHECK(Menu("mnuMode").isEnabled());
+}
+
+TEST_CASE("A letter that several entries share goes from one to the next, and Return takes one") {
+  for (const Qt::KeyboardModifier held : {Qt::NoModifier, Qt::ShiftModifier, Qt::AltModifier}) {
+    CAPTURE(held);
+    Desk desk;
+    SampleForm& form = desk.ShowChild();
+    QMenu& menu = OpenFileMenu();
+    CHECK(ActiveIn(menu) == "mnuOpen");
+    for (const char* next : {"mnuOrder", "mnuOther", "mnuOpen", "mnuOrder"}) {
+      // The letter alone: an Alt that goes down anew closes the menu.
+      QKeyEvent letter(QEvent::KeyPress, Qt::Key_O, held, "o");
+      QApplication::sendEvent(&menu, &letter);
+      CHECK(ActiveIn(menu) == next);
+    }
+    CHECK(form.log.Take().empty());
+    QTest::keyClick(&menu, Qt::Key_Return);
+    CHECK(form.log.Take() == "order");
+    CHECK(QApplication::activePopupWidget() == nullptr);
+  }
+}
+
+TEST_CASE("A letter passes over entries that are off or hidden, and takes the one that is left") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  form.mnuOrder.SetEnabled(false);
+  SUBCASE("two are left") {
+    QMenu& menu = OpenFileMenu();
+    for (const char* next : {"mnuOther", "mnuOpen", "mnuOther"}) {
+      QTest::keyClick(&menu, Qt::Key_O);
+      CHECK(ActiveIn(menu) == next);
+    }
+    menu.close();
+    CHECK(form.log.Take().empty());
+  }
+  SUBCASE("one is left") {
+    form.mnuOpen.SetVisible(false);
+    QTest::keyClick(&OpenFileMenu(), Qt::Key_O);
+    CHECK(form.log.Take() == "other");
+    CHECK(QApplication::activePopupWidget() == nullptr);
+  }
+  SUBCASE("none is left") {
+    form.mnuOther.SetEnabled(false);
+    form.mnuOpen.SetEnabled(false);
+    QMenu& menu = OpenFileMenu();
+    QTest::keyClick(&menu, Qt::Key_O);
+    CHECK(menu.isVisible());
+    menu.close();
+    CHECK(form.log.Take().empty());
+  }
 }
 
 TEST_CASE("An entry with the caption - is a line without text") {

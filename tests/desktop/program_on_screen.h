@@ -163,8 +163,10 @@ class ProgramOnScreen {
   }
 
   static QWidget& KeysGoTo() {
-    for (QWidget* receiver : {QApplication::activePopupWidget(), QApplication::focusWidget(),
-                              QApplication::activeWindow()}) {
+    QWidget* popup = QApplication::activePopupWidget();
+    QWidget* inPopup = popup == nullptr ? nullptr : popup->focusWidget();
+    for (QWidget* receiver :
+         {inPopup, popup, QApplication::focusWidget(), QApplication::activeWindow()}) {
       if (receiver != nullptr) return *receiver;
     }
     throw TestFailure{"no window takes keys"};

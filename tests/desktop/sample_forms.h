@@ -86,6 +86,8 @@ class SampleForm : public Form {
     PlaceMenus({{&mnuFile, "mnuFile", nullptr, u"&File"},
                 {&mnuOpen, "mnuOpen", &mnuFile, u"&Open"},
                 {&mnu1, "mnu1", &mnuFile, u"-"},
+                {&mnuOrder, "mnuOrder", &mnuFile, u"&Order"},
+                {&mnuOther, "mnuOther", &mnuFile, u"&Other"},
                 {&mnuMode, "mnuMode", nullptr, u"&Mode"},
                 {&mnuStudy, "mnuStudy", &mnuMode, u"&Study"},
                 {&mnuHelpTopic, "mnuHelpTopic", &mnuMode, u"&Help"}});
@@ -117,7 +119,7 @@ class SampleForm : public Form {
   SamplePainting Painting1;
   ControlArray<Button, 2> Command1;
   Button Command2;
-  MenuEntry mnuFile, mnuOpen, mnu1, mnuMode, mnuStudy, mnuHelpTopic;
+  MenuEntry mnuFile, mnuOpen, mnu1, mnuOrder, mnuOther, mnuMode, mnuStudy, mnuHelpTopic;
   EventLog log;
   std::function<void()> onLoad;
   bool refusesToGo = false;
@@ -151,6 +153,8 @@ class SampleForm : public Form {
     Option1.Wire(&OptionButton::onClick,
                  [this](int index) { log.Add("option " + std::to_string(index)); });
     mnuOpen.onClick = logs("open");
+    mnuOrder.onClick = logs("order");
+    mnuOther.onClick = logs("other");
     mnuStudy.onClick = logs("study");
     mnuHelpTopic.onClick = logs("help");
   }

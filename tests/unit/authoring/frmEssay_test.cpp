@@ -317,28 +317,34 @@ TEST_CASE("No to the delete question redraws the card and marks the deck as chan
   CHECK_FALSE(window.Command1[kAddButton].Enabled());
 }
 
-TEST_CASE("cancelling a new text card shows the last card of the deck") {
-  BuilderDesk desk;
-  frmEssay& window = desk.OpenEssay(2);
-  window.Command1[kNewButton].Press();
-  Type(window.Text1[0], u"never mind");
-  window.Command1[kCancelButton].Press();
-  CHECK(window.Text1[0].TextOf() == u"front 2");
-  CHECK(LookOf(window) == ButtonsLook{true, false, true, true, false, kChange, kDelete});
-  CHECK(desk.state.CurrentCard == 2);
-  CHECK_FALSE(desk.state.DeckChanged);
-  CHECK(desk.TakeBoxes().empty());
+TEST_CASE("cancelling a new text card shows the last one, with the arrows by its place") {
+  struct Case {
+    int cards;
+    bool previous;
+  };
+  for (const Case& c : {Case{1, false}, Case{2, true}}) {
+    BuilderDesk desk;
+    frmEssay& window = desk.OpenEssay(c.cards);
+    window.Command1[kNewButton].Press();
+    Type(window.Text1[0], u"never mind");
+    window.Command1[kCancelButton].Press();
+    CHECK(window.Text1[0].TextOf() == u"front " + DecimalText(c.cards));
+    CHECK(LookOf(window) == ButtonsLook{true, false, true, c.previous, false, kChange, kDelete});
+    CHECK(desk.state.CurrentCard == c.cards);
+    CHECK_FALSE(desk.state.DeckChanged);
+    CHECK(desk.TakeBoxes().empty());
+  }
 }
 
-TEST_CASE("a cancel sets the arrows before the card's place, as for the new card") {
+TEST_CASE("on the only text card the way back does nothing, after a cancel too") {
   BuilderDesk desk;
   frmEssay& window = desk.OpenEssay(1);
   window.Command1[kNewButton].Press();
   window.Command1[kCancelButton].Press();
+  for (int press = 0; press < 2; ++press) window.cmdMove[0].Press();
+  CHECK(window.Label2[2].Caption() == u"Card: 1");
+  CHECK(window.Text1[1].TextOf() == u"back 1");
   CHECK(desk.state.CurrentCard == 1);
-  CHECK(window.cmdMove[0].Enabled());
-  window.cmdMove[0].Press();
-  CHECK(window.Label2[2].Caption() == u"Card: 0");
 }
 
 TEST_CASE("cancelling the first text card empties the form") {

@@ -44,6 +44,41 @@ TEST_CASE("the deck window is hidden for as long as a builder is open") {
   }
 }
 
+TEST_CASE("behind a builder the focus is where a blank closes no deck") {
+  struct Case {
+    const char* what;
+    bool questions;
+    int cards;
+    bool arrow;  ///< ">>", else the card
+  };
+  const Case cases[] = {{"the only text", false, 1, false},
+                        {"the first text of three", false, 3, true},
+                        {"the last question of three", true, 3, false}};
+  for (const Case& c : cases) {
+    CAPTURE(c.what);
+    BuilderDesk desk;
+    c.questions ? desk.OpenExtendedDeck(c.cards) : desk.OpenStandardDeck(c.cards);
+    frmMain& deck = desk.deck.Loaded();
+    deck.UserFocus(deck.Command3[frmMain::kCloseDeck]);
+    desk.OpenBuilder();
+    desk.windows.ActiveForm()->UserAccelerator(u'c');
+    CHECK(desk.windows.ActiveForm() == &deck);
+    const Control* next = &deck.NoteletCtl1;
+    if (c.arrow) next = &deck.cmdMove[kNextCard];
+    CHECK(deck.FocusedControl() == next);
+  }
+}
+
+TEST_CASE("behind a builder the focus is on what had it, where that still works") {
+  BuilderDesk desk;
+  desk.OpenStandardDeck(3);
+  frmMain& deck = desk.deck.Loaded();
+  deck.UserFocus(deck.Command3[frmMain::kFlip]);
+  desk.OpenBuilder();
+  desk.essay->UserClose();
+  CHECK(deck.FocusedControl() == &deck.Command3[frmMain::kFlip]);
+}
+
 TEST_CASE("a builder opened again while it is open keeps the guard on") {
   BuilderDesk desk;
   frmEssay& window = desk.OpenEssay(2);
@@ -68,6 +103,44 @@ TEST_CASE("the label of the card's number is read out with the number") {
   CHECK(essayDesk.OpenEssay().Label2[2].AccessibleName().empty());
   BuilderDesk questionDesk;
   CHECK(questionDesk.OpenQuestion().Label2[1].AccessibleName().empty());
+}
+
+TEST_CASE("in a builder the letter C drops and closes nothing while two buttons carry it") {
+  struct Case {
+    const char* what;
+    bool fresh;
+    BuilderButton next;  ///< the one to which the letter goes first
+  };
+  const Case cases[] = {{"a new card", true, kCancelButton}, {"a changed card", false, kAddButton}};
+  for (const Case& c : cases) {
+    CAPTURE(c.what);
+    BuilderDesk desk;
+    frmEssay& window = desk.OpenEssay(2);
+    if (c.fresh) window.Command1[kNewButton].Press();
+    for (TextBox& box : window.Text1) Type(box, u"typed");
+    const Text typed = window.Text1[1].TextOf();
+    window.UserFocus(window.Text1[1]);
+    for (const BuilderButton button : {c.next, kCloseButton, c.next}) {
+      CHECK(window.UserAccelerator(u'c'));
+      CHECK(window.FocusedControl() == &window.Command1[button]);
+    }
+    CHECK(desk.essay.IsLoaded());
+    CHECK(window.Text1[1].TextOf() == typed);
+    CHECK(window.Command1[kAddButton].Enabled());
+    CHECK(desk.TakeBoxes().empty());
+  }
+}
+
+TEST_CASE("in a builder the letter C closes where no other button carries it") {
+  BuilderDesk desk;
+  SUBCASE("texts") {
+    CHECK(desk.OpenEssay(2).UserAccelerator(u'c'));
+    CHECK_FALSE(desk.essay.IsLoaded());
+  }
+  SUBCASE("questions") {
+    CHECK(desk.OpenQuestion(2).UserAccelerator(u'c'));
+    CHECK_FALSE(desk.question.IsLoaded());
+  }
 }
 
 }  // namespace tessara::test

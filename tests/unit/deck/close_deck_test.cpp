@@ -37,6 +37,16 @@ TEST_CASE("a cleared deck has no card on show") {
   CHECK(desk.state.CurrentCard == 0);
 }
 
+TEST_CASE("clearing leaves the focus on the card, wherever it was") {
+  for (const auto button : {DeckWindow::kFlip, DeckWindow::kCloseDeck}) {
+    DeckDesk desk;
+    desk.OpenStandardDeck(3);
+    desk.deck->UserFocus(desk.deck->Command3[button]);
+    desk.deck->mnuNCD.Press();
+    CHECK(desk.deck->FocusedControl() == &desk.deck->NoteletCtl1);
+  }
+}
+
 TEST_CASE("making the deck anew leaves the card on show to the caller") {
   TwoFiles desk;
   desk.OpenFile(kA);
