@@ -2,6 +2,7 @@
 
 #include <doctest/doctest.h>
 
+#include "deck/deck_record.h"
 #include "tests/support/cards.h"
 #include "tests/support/deck_bytes.h"
 
@@ -33,7 +34,7 @@ TEST_CASE("the image of a table is the deck file of its cards") {
 TEST_CASE("the image follows each change of the table") {
   ImageDesk desk;
   for (int row = 1; row <= 3; ++row) desk.Put(row, DecimalText(row));
-  desk.Bytes();
+  CHECK(desk.Bytes().size() == 5 * kRecordSize);
   desk.state.CardGrid.Set(2, kCardText, u"changed");
   CHECK(desk.Bytes().substr(2 * kRecordSize, kRecordSize) == CardBytes(2, u"changed", u""));
   desk.state.CardGrid.Row(3)[kCardText] = u"moved";
