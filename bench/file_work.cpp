@@ -108,7 +108,8 @@ class Bench {
         "deck-save-calls", [this](ProgramState&) { WriteDeck(); }, [this] { PlainWriteRecords(); });
     // What the user waits for before that: the copy of the old deck, on the disk.
     Compare(
-        "safety-copy", [this](ProgramState&) { copies_.Keep(PathOf("deck.tsr"), Loss::kWrittenOver); },
+        "safety-copy",
+        [this](ProgramState&) { copies_.Keep(PathOf("deck.tsr"), Loss::kWrittenOver); },
         [&] { PlainCopyToDisk("deck.tsr", size); });
     // What each change of a card costs: the whole deck is kept in place of what was kept before.
     DeckImage image(deck_, page_);

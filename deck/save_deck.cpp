@@ -99,8 +99,8 @@ void DeckWindow::SaveTessaraToFile(const Text& xFilename) {
   }
   bool whole = MakeWay(xFilename);
   CollectDeckInfo(state, info_.Loaded());
-  whole &= SkipErrors(
-      [&] { fileNumber_.OpenRandom(xFilename, OpenMode::kReadAndWrite, kRecordSize); });
+  whole &=
+      SkipErrors([&] { fileNumber_.OpenRandom(xFilename, OpenMode::kReadAndWrite, kRecordSize); });
   whole &= WriteRecords(state, fileNumber_, machine.codePage);
   whole &= SkipErrors([&] { fileNumber_.Finish(); });
   if (whole) {

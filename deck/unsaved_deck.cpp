@@ -74,9 +74,9 @@ void UnsavedDeck::NotSaved(const Text& path) {
   if (kept.empty()) return;
   unsaved_ = false;
   seen_ = image_.Changes();
-  desktop_.Notify(u"A deck may not have been saved",
-                  u"Saving the deck " + WithoutEnding(fileName) +
-                      u" met an error. The deck is kept as " + kept + u" and can be opened there.");
+  desktop_.Notify(u"A deck may not have been saved", u"Saving the deck " + WithoutEnding(fileName) +
+                                                         u" met an error. The deck is kept as " +
+                                                         kept + u" and can be opened there.");
 }
 
 void UnsavedDeck::GivenUp() {
@@ -101,8 +101,9 @@ Text TellOfLeftDecks(const Machine& machine, const Text& path) {
   for (const LeftDeck& deck : machine.copies.TakeLeftDecks()) {
     if (deck.oldPath == path) newPath = deck.path;
     machine.desktop.Notify(u"A deck with unsaved changes was kept",
-                           u"The deck " + deck.name + u" had changes that were not saved. It is kept as " +
-                               deck.path + u" and can be opened there.");
+                           u"The deck " + deck.name +
+                               u" had changes that were not saved. It is kept as " + deck.path +
+                               u" and can be opened there.");
   }
   return newPath;
 }

@@ -8,8 +8,8 @@
 namespace tessara {
 
 /// Sees to it that no card in the table is lost, however the program ends: while the deck has
-/// unsaved changes, the safety copies hold it as it is. docs/saving.md tells when a deck comes there
-/// and when it goes.
+/// unsaved changes, the safety copies hold it as it is. docs/saving.md tells when a deck comes
+/// there and when it goes.
 class UnsavedDeck {
  public:
   UnsavedDeck(const ProgramState& state, const Machine& machine);

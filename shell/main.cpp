@@ -87,8 +87,9 @@ int RunTessara(int argc, char** argv) {
   QtMessageBoxes messages;
   QtDialogs dialogs(printing);
   QtSettingsStore settings;
-  QtDesktop desktop([&folderText](const Text& path) { ShowHelpWithModule(folderText, path); },
-                    [&folder](const Text& title, const Text& text) { NotifyUser(folder, title, text); });
+  QtDesktop desktop(
+      [&folderText](const Text& path) { ShowHelpWithModule(folderText, path); },
+      [&folder](const Text& title, const Text& text) { NotifyUser(folder, title, text); });
   DocumentRegistry classes({UserDataFolder(), folder, "tessara"}, StartUpdateTools);
   LoadedSpreadsheet spreadsheet(folderText);
   Machine machine{messages, dialogs, settings,    files,   copies,   clock,

@@ -46,9 +46,9 @@ Program::Program(Machine& machine)
 }
 
 Machine Program::WithKeeping(Machine& given) {
-  return {messages_,          dialogs_,      given.settings, given.files,
-          given.copies,       given.clock,   given.desktop,  given.classes,
-          given.spreadsheet,  given.printer, given.codePage, given.programFolder};
+  return {messages_,         dialogs_,      given.settings, given.files,
+          given.copies,      given.clock,   given.desktop,  given.classes,
+          given.spreadsheet, given.printer, given.codePage, given.programFolder};
 }
 
 std::unique_ptr<Form> Program::MakeDeckWindow() {

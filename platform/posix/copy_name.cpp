@@ -30,8 +30,7 @@ std::string MomentText(Moment moment) {
   std::tm parts{};
   localtime_r(&seconds, &parts);
   std::array<char, 64> text{};
-  const std::size_t length =
-      std::strftime(text.data(), text.size(), " %Y-%m-%d %H-%M-%S-", &parts);
+  const std::size_t length = std::strftime(text.data(), text.size(), " %Y-%m-%d %H-%M-%S-", &parts);
   return {text.data(), length};
 }
 
@@ -130,7 +129,8 @@ std::optional<std::string> ReadUnsavedName(const std::string& name) {
   if (start == std::string::npos || !name.ends_with(kUnsavedEnd)) return std::nullopt;
   const std::size_t process = start + kUnsavedStart.size();
   const std::size_t end = name.size() - kUnsavedEnd.size();
-  const bool given = process <= end && IsOfProcess(std::string_view(name).substr(process, end - process));
+  const bool given =
+      process <= end && IsOfProcess(std::string_view(name).substr(process, end - process));
   if (!given) return std::nullopt;
   return name.substr(0, start) + std::string(kDeckExtension);
 }

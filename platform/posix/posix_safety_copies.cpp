@@ -37,9 +37,8 @@ void CopyBytes(int from, int to) {
   std::array<char, 65536> buffer{};
   std::uintmax_t copied = 0;
   while (true) {
-    const auto count = Checked(Uninterrupted([&] {
-      return pread(from, buffer.data(), buffer.size(), static_cast<off_t>(copied));
-    }));
+    const auto count = Checked(Uninterrupted(
+        [&] { return pread(from, buffer.data(), buffer.size(), static_cast<off_t>(copied)); }));
     if (count == 0) return;
     copied += static_cast<std::uintmax_t>(count);
     if (copied > kLargestFile) throw std::system_error(EFBIG, std::generic_category());
@@ -167,9 +166,9 @@ void PosixSafetyCopies::TakeLeftDeck(const std::string& name, const std::string&
   if (file.Get() == kFailed) return;
   struct stat status {};
   Checked(fstat(file.Get(), &status));
-  const std::string newName = folder_.NameOfNext(
-      NotSavedName(fileName), static_cast<std::uintmax_t>(status.st_size),
-      std::chrono::system_clock::from_time_t(status.st_mtime));
+  const std::string newName =
+      folder_.NameOfNext(NotSavedName(fileName), static_cast<std::uintmax_t>(status.st_size),
+                         std::chrono::system_clock::from_time_t(status.st_mtime));
   const fs::path newPath = folder_.Path() / newName;
   Checked(rename(path.c_str(), newPath.c_str()));
   decks.push_back({FromUtf8(fs::path(fileName).stem().string()), FromUtf8(path.string()),

@@ -23,7 +23,8 @@ class UnsavedCopy {
   void Drop() noexcept;
   /// Goes on without it: it stays, locked until the process ends.
   void Leave();
-  /// Gives it a name that no file has; raises an error where nothing is kept. From now on it is a copy like any other.
+  /// Gives it a name that no file has; raises an error where nothing is kept. From now on it is a
+  /// copy like any other.
   void Rename(const std::string& name);
 
  private:
@@ -31,9 +32,10 @@ class UnsavedCopy {
   void Forget();
 
   const CopiesFolder& folder_;
-  std::string name_;           ///< empty where nothing is kept
-  std::list<Descriptor> locks_;  ///< the last is the file's while it has a name, the others are left
-  int number_ = 0;             ///< of the decks that this process has kept
+  std::string name_;  ///< empty where nothing is kept
+  std::list<Descriptor>
+      locks_;       ///< the last is the file's while it has a name, the others are left
+  int number_ = 0;  ///< of the decks that this process has kept
 };
 
 /// The file by that name, locked, if nobody else has it locked; kFailed otherwise.

@@ -35,9 +35,9 @@ bool SessionHasBus() {
 
 /// Null where the service does not answer. Takes over the arguments.
 Value Call(const Bus& bus, const char* method, GVariant* arguments, const char* answer) {
-  return Value(g_dbus_connection_call_sync(bus.get(), kService, kObject, kService, method, arguments,
-                                           G_VARIANT_TYPE(answer), G_DBUS_CALL_FLAGS_NONE,
-                                           kPatienceMs, nullptr, nullptr));
+  return Value(g_dbus_connection_call_sync(bus.get(), kService, kObject, kService, method,
+                                           arguments, G_VARIANT_TYPE(answer),
+                                           G_DBUS_CALL_FLAGS_NONE, kPatienceMs, nullptr, nullptr));
 }
 
 bool TakesMarkup(const Bus& bus) {
@@ -67,9 +67,8 @@ void Notify(const Bus& bus, const char* title, const char* text) {
   GVariantBuilder hints;
   g_variant_builder_init(&hints, G_VARIANT_TYPE("a{sv}"));
   g_variant_builder_add(&hints, "{sv}", "desktop-entry", g_variant_new_string("tessara"));
-  GVariant* const arguments =
-      g_variant_new("(susssasa{sv}i)", "Tessara", 0U, "tessara", title, body.c_str(), nullptr,
-                    &hints, kServiceDecidesHowLong);
+  GVariant* const arguments = g_variant_new("(susssasa{sv}i)", "Tessara", 0U, "tessara", title,
+                                            body.c_str(), nullptr, &hints, kServiceDecidesHowLong);
   Call(bus, "Notify", arguments, "(u)");
 }
 

@@ -43,9 +43,8 @@ struct CopyDesk {
   }
   [[nodiscard]] int CountOf(const std::string& deck) const {
     const std::vector<std::string> names = Names();
-    return static_cast<int>(std::count_if(names.begin(), names.end(), [&](const std::string& name) {
-      return DeckOf(name) == deck;
-    }));
+    return static_cast<int>(std::count_if(
+        names.begin(), names.end(), [&](const std::string& name) { return DeckOf(name) == deck; }));
   }
   /// The next copy in the order, of that size.
   void PutCopy(const std::string& deck, std::uintmax_t size = 1) {
