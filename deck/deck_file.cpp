@@ -72,14 +72,16 @@ DeckRecord RecordOfRow(const ProgramState& state, int row) {
   return record;
 }
 
-void WriteRecords(const ProgramState& state, FileNumber& file, const CodePage& codePage) {
+bool WriteRecords(const ProgramState& state, FileNumber& file, const CodePage& codePage) {
+  bool whole = true;
   for (int row = kInfoRow; row < kRows; ++row) {
-    SkipErrors([&] {
+    whole &= SkipErrors([&] {
       file.Put(static_cast<std::uint64_t>(row) + 1,
                EncodeRecord(RecordOfRow(state, row), codePage));
     });
-    if (state.CardPresent.At(row) == 0) return;
+    if (state.CardPresent.At(row) == 0) break;
   }
+  return whole;
 }
 
 void LoadDeckFromFile(const Text& xFilename, ProgramState& state, FileNumber& file,

@@ -19,6 +19,7 @@ DeckWindow::DeckWindow(AppContext& app, FileNumber& fileNumber, Window<frmInfo> 
 
 void DeckWindow::NewTessara() {
   ProgramState& state = State();
+  App().unsaved.Leave();
   ClearAllCards(state);
   Card().SetCardTotal(u"0");
   Card().SetCardText(u"");
@@ -31,6 +32,7 @@ void DeckWindow::NewTessara() {
   UpdateMoveButtons();
   mnuPrint.SetEnabled(false);
   Command3[kFlip].SetEnabled(false);
+  App().unsaved.Follow(UnsavedDeck::Table::kAsInFile);
 }
 
 void DeckWindow::ShowTitle(Mode mode) {

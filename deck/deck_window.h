@@ -99,6 +99,9 @@ class DeckWindow : public Form {
 
  private:
   [[nodiscard]] Text AskDeckFile(FileDialogMode mode);
+  /// Keeps the file that is there, and deletes it where the save does that first. False where it
+  /// could not be deleted.
+  bool MakeWay(const Text& xFilename);
   /// Asks for the file that the deck is to be saved to. False where there is no answer; says so.
   bool ChooseFile();
 

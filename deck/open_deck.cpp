@@ -46,7 +46,9 @@ void DeckWindow::LoadAndShowDeck(const Text& xFilename) {
 }
 
 void DeckWindow::LoadDeck(const Text& xFilename) {
+  App().unsaved.Leave();
   LoadDeckFromFile(xFilename, State(), fileNumber_, App().machine.codePage);
+  App().unsaved.Follow(UnsavedDeck::Table::kAsInFile);
   mnuPrint.SetEnabled(true);
 }
 

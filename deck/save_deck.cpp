@@ -53,7 +53,7 @@ void DeckWindow::ChkSave() {
   const MessageAnswer answer =
       messages.Show(u"There have been changes to this Tessara.Do you want to save them?",
                     kQuestionIcon + kYesNo, u"Unsaved Changes: ");
-  if (answer != MessageAnswer::kYes) return;
+  if (answer != MessageAnswer::kYes) return App().unsaved.GivenUp();
   const bool asks = state.DeckFilePath.empty();
   if (asks) state.DeckFilePath = AskDeckFile(FileDialogMode::kSave);
   if (asks && NoAnswer(state.DeckFilePath)) {
@@ -64,25 +64,50 @@ void DeckWindow::ChkSave() {
   state.DeckChanged = false;
 }
 
+bool DeckWindow::MakeWay(const Text& xFilename) {
+  Machine& machine = App().machine;
+  if (!State().DeckOnFile) {
+    machine.copies.Keep(xFilename, Loss::kWrittenOver);
+    return true;
+  }
+  machine.copies.Keep(xFilename, Loss::kDeleted);
+  try {
+    machine.files.Delete(xFilename);
+    return true;
+  } catch (const RunTimeError& error) {
+    if (error.Number() == ErrorNumber::kFileNotFound) return true;
+    // The file stays, and is written over instead.
+    machine.copies.Keep(xFilename, Loss::kWrittenOver);
+    return false;
+  }
+}
+
 // Errors on its way skip the statement that failed and are not reported.
 void DeckWindow::SaveTessaraToFile(const Text& xFilename) {
   ProgramState& state = State();
   Machine& machine = App().machine;
   if (EmptyDeckRefused(state, machine.messages)) {
+    App().unsaved.Leave();
     ClearDeckInfo(state);
     ClearAllCards(state);
+    App().unsaved.Follow(UnsavedDeck::Table::kAsInFile);
     return;
   }
   if (xFilename.empty()) {
     // The answer is not used: a deck without a path has nowhere to go.
     static_cast<void>(AskDeckFile(FileDialogMode::kSave));
   }
-  machine.copies.Keep(xFilename);
-  if (state.DeckOnFile) SkipErrors([&] { machine.files.Delete(xFilename); });
+  bool whole = MakeWay(xFilename);
   CollectDeckInfo(state, info_.Loaded());
-  SkipErrors([&] { fileNumber_.OpenRandom(xFilename, OpenMode::kReadAndWrite, kRecordSize); });
-  WriteRecords(state, fileNumber_, machine.codePage);
-  fileNumber_.Close();
+  whole &=
+      SkipErrors([&] { fileNumber_.OpenRandom(xFilename, OpenMode::kReadAndWrite, kRecordSize); });
+  whole &= WriteRecords(state, fileNumber_, machine.codePage);
+  whole &= SkipErrors([&] { fileNumber_.Finish(); });
+  if (whole) {
+    App().unsaved.Saved();
+  } else {
+    App().unsaved.NotSaved(xFilename);
+  }
   machine.messages.Show(u"This file has been saved to " + state.DeckFilePath, kOkOnly, u"Save");
   ShowTitle(kStudyMode);
 }

@@ -54,6 +54,7 @@ void WindowSystem::Report(const RunTimeError& error) {
 }
 
 void WindowSystem::Leave() {
+  if (depth_ == 1 && afterEvent_) afterEvent_();
   if (--depth_ > 0) return;
   while (!buried_.empty()) {
     auto last = std::move(buried_.back());

@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "forms/form.h"
@@ -24,6 +25,8 @@ class WindowSystem {
   ~WindowSystem();
 
   void SetRenderer(Renderer& renderer) { renderer_ = &renderer; }
+  /// Runs, and raises nothing, at the end of each event that is inside no other.
+  void SetAfterEvent(std::function<void()> afterEvent) { afterEvent_ = std::move(afterEvent); }
   [[nodiscard]] Renderer& Shown() const { return *renderer_; }
   [[nodiscard]] const CodePage& CodePageOf() const { return codePage_; }
 
@@ -80,6 +83,7 @@ class WindowSystem {
   MessageBoxes& messages_;
   const CodePage& codePage_;
   Renderer* renderer_ = nullptr;
+  std::function<void()> afterEvent_;
   std::vector<Form*> loaded_;
   std::vector<Form*> order_;  ///< windows on screen, the frame apart; the last is the active one
   std::vector<Form*> modals_;

@@ -23,6 +23,8 @@ class Desktop {
   virtual int Open(const Text& target, const Text& folder, ShowState state) = 0;
   /// Shows a compiled help file with its table of contents; a missing one is silent.
   virtual void ShowHelp(const Text& path) = 0;
+  /// Tells the user something without a window: nothing waits for an answer.
+  virtual void Notify(const Text& title, const Text& text) = 0;
   virtual void SetMousePointer(MousePointer pointer) = 0;
   /// Hands control to the window system's queue once.
   virtual void Yield() = 0;

@@ -16,7 +16,7 @@ enum class OpenMode {
   kReadAndWrite,  ///< made where it does not exist, kept where it does
 };
 
-/// An open file of bytes. Closing is the destructor's; a failed close is not reported.
+/// An open file of bytes. The destructor closes one that is still open, and reports no error.
 /// All operations raise the run-time errors 57 (device), 61 (disk full), 70, 71, 75.
 class File {
  public:
@@ -24,6 +24,8 @@ class File {
   /// Reads up to `buffer.size()` bytes at the byte offset; fewer only at the end of the file.
   virtual std::size_t ReadAt(std::uint64_t offset, std::span<char> buffer) = 0;
   virtual void WriteAt(std::uint64_t offset, std::span<const char> bytes) = 0;
+  /// Raises an error where what was written has not all arrived. Nothing is called behind it.
+  virtual void Close() {}
 };
 
 /// What the program asks of the file system. Paths are native; "/" separates.

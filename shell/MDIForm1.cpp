@@ -111,7 +111,9 @@ void MDIForm1::mnuExtTessara_Click() {
 
 void MDIForm1::mnuOPenExisting_Click() {
   ProgramState& state = app_.state;
+  app_.unsaved.Leave();
   ClearAllCards(state);
+  app_.unsaved.Follow(UnsavedDeck::Table::kAsInFile);
   const Text path = AskFileName(FileDialogMode::kOpen, kDeckFilter, app_);
   if (NoAnswer(path) || !IsDeckFileName(path, state, app_.machine.messages)) return;
   state.DeckFilePath = path;

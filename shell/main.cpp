@@ -10,6 +10,7 @@
 #include <system_error>
 
 #include "platform/freedesktop/document_registry.h"
+#include "platform/freedesktop/notifications.h"
 #include "platform/freedesktop/update_tools.h"
 #include "platform/freedesktop/user_folders.h"
 #include "platform/posix/code_page_of_locale.h"
@@ -86,7 +87,9 @@ int RunTessara(int argc, char** argv) {
   QtMessageBoxes messages;
   QtDialogs dialogs(printing);
   QtSettingsStore settings;
-  QtDesktop desktop([&folderText](const Text& path) { ShowHelpWithModule(folderText, path); });
+  QtDesktop desktop(
+      [&folderText](const Text& path) { ShowHelpWithModule(folderText, path); },
+      [&folder](const Text& title, const Text& text) { NotifyUser(folder, title, text); });
   DocumentRegistry classes({UserDataFolder(), folder, "tessara"}, StartUpdateTools);
   LoadedSpreadsheet spreadsheet(folderText);
   Machine machine{messages, dialogs, settings,    files,   copies,   clock,

@@ -13,10 +13,13 @@
 namespace tessara {
 
 Program::Program(Machine& machine)
-    : machine_(machine),
-      windows_(machine.messages, machine.codePage),
-      fileNumber_(machine.files),
-      spreadsheetJob_(machine),
+    : unsaved_(state_, machine),
+      messages_(machine.messages, unsaved_),
+      dialogs_(machine.dialogs, unsaved_),
+      machine_(WithKeeping(machine)),
+      windows_(messages_, machine.codePage),
+      fileNumber_(machine_.files),
+      spreadsheetJob_(machine_),
       imgWallPaper_(CardPictures()),
       bkg_(BackdropTiles()),
       frameSlot_(windows_,
@@ -38,7 +41,15 @@ Program::Program(Machine& machine)
       setUpSlot_(windows_, [this] { return std::make_unique<FrmSetUp>(app_); }),
       aboutSlot_(windows_, [this] { return std::make_unique<frmAbout>(app_); }),
       surfaceSlot_(windows_, [this] { return std::make_unique<Frm1>(windows_); }),
-      splashSlot_(windows_, [this] { return std::make_unique<Splash>(windows_); }) {}
+      splashSlot_(windows_, [this] { return std::make_unique<Splash>(windows_); }) {
+  windows_.SetAfterEvent([this] { unsaved_.EventEnds(); });
+}
+
+Machine Program::WithKeeping(Machine& given) {
+  return {messages_,         dialogs_,      given.settings, given.files,
+          given.copies,      given.clock,   given.desktop,  given.classes,
+          given.spreadsheet, given.printer, given.codePage, given.programFolder};
+}
 
 std::unique_ptr<Form> Program::MakeDeckWindow() {
   auto deck = std::make_unique<frmMain>(app_, fileNumber_, InfoWindow());
@@ -68,7 +79,8 @@ bool Program::RefuseSecondInstance() {
 
 void Program::Start(const Text& commandLine) {
   if (RefuseSecondInstance()) return;
-  if (!commandLine.empty()) state_.CommandLineFile = commandLine;
+  const Text path = TellOfLeftDecks(machine_, commandLine);
+  if (!path.empty()) state_.CommandLineFile = path;
   LoadProgramSettings(machine_.settings, state_);
   state_.CanPrintCards = spreadsheetJob_.TestSpreadsheetServer();
   if (state_.FirstLoad) RegisterDocumentType(machine_);

@@ -7,6 +7,7 @@
 #include "deck/app_context.h"
 #include "deck/file_number.h"
 #include "deck/frmInfo.h"
+#include "deck/keeping_boxes.h"
 #include "forms/window.h"
 #include "forms/window_system.h"
 #include "printing/PrintCard.h"
@@ -61,14 +62,20 @@ class Program : private AppFrame {
   void PlaceEmptyDeckWindow();
   std::unique_ptr<Form> MakeDeckWindow();
 
-  Machine& machine_;
-  WindowSystem windows_;
+  /// The machine that was given, with boxes and dialogs that keep the unsaved deck.
+  [[nodiscard]] Machine WithKeeping(Machine& given);
+
   ProgramState state_;
+  UnsavedDeck unsaved_;
+  KeepingMessages messages_;
+  KeepingDialogs dialogs_;
+  Machine machine_;
+  WindowSystem windows_;
   FileNumber fileNumber_;
   SpreadsheetJob spreadsheetJob_;
   ImageList imgWallPaper_;
   ImageList bkg_;
-  AppContext app_{windows_, machine_, state_, *this};
+  AppContext app_{windows_, machine_, state_, *this, unsaved_};
 
   WindowSlot frameSlot_;
   WindowSlot deckSlot_;

@@ -31,7 +31,8 @@ QSize ScreenSize() {
 
 }  // namespace
 
-QtDesktop::QtDesktop(HelpViewer showHelp) : showHelp_(std::move(showHelp)) {}
+QtDesktop::QtDesktop(HelpViewer showHelp, Notifier notify)
+    : showHelp_(std::move(showHelp)), notify_(std::move(notify)) {}
 
 bool QtDesktop::PreviousInstance() {
   return !lock_.Acquire();
@@ -49,6 +50,10 @@ int QtDesktop::Open(const Text& target, const Text& folder, ShowState state) {
 
 void QtDesktop::ShowHelp(const Text& path) {
   if (showHelp_ && QFileInfo::exists(ToQString(path))) showHelp_(path);
+}
+
+void QtDesktop::Notify(const Text& title, const Text& text) {
+  if (notify_) notify_(title, text);
 }
 
 void QtDesktop::SetMousePointer(MousePointer pointer) {

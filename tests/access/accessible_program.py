@@ -131,15 +131,21 @@ class Program:
 
     def go_to(self, scene):
         """Starts with the scene's deck and takes its steps."""
-        command = [self._executable]
-        if scene.deck:
-            command.append(shutil.copy(f"{self._samples}/{scene.deck}.tsr", self.home))
-        self._process = subprocess.Popen(command, env=self._environment)
-        self._root = wait_for("the program on the bus", self._application)
+        self.start(*([shutil.copy(f"{self._samples}/{scene.deck}.tsr", self.home)] if scene.deck else []))
         for title, *keys in scene.steps:
             self.ready(title)
             self.press(*keys[0].split()) if len(keys) == 1 else self.choose(*keys)
         self.ready(scene.title)
+
+    def start(self, *arguments, **options):
+        """Starts, and waits until the program is on the accessibility bus."""
+        self._process = subprocess.Popen([self._executable, *arguments], env=self._environment, **options)
+        self._root = wait_for("the program on the bus", self._application)
+        return self._process
+
+    def kill(self):
+        self._process.kill()
+        self._process.wait()
 
     def ready(self, title):
         """Waits until a window is in front and takes keys."""
@@ -158,8 +164,7 @@ class Program:
 
     def end(self):
         if self._process:
-            self._process.kill()
-            self._process.wait()
+            self.kill()
         shutil.rmtree(self.home)
 
     def _application(self):

@@ -46,6 +46,10 @@ class FaultyFiles : public FileSystem {
       owner_.MayFail();
       file_->WriteAt(offset, bytes);
     }
+    void Close() override {
+      owner_.MayFail();
+      file_->Close();
+    }
 
    private:
     FaultyFiles& owner_;

@@ -28,7 +28,8 @@ class PrintDesk {
   HeadlessRenderer renderer;
   ProgramState state;
   TestFrame frame;
-  AppContext app{windows, machine, state, frame};
+  UnsavedDeck unsaved{state, machine};
+  AppContext app{windows, machine, state, frame, unsaved};
   SpreadsheetJob job{machine};
   WindowSlot deckSlot{windows, [this] {
                         return std::make_unique<Form>(windows, "frmMain", FormKind::kChild, u"");
