@@ -80,6 +80,8 @@ void DeckWindow::SaveTessaraToFile(const Text& xFilename) {
   machine.copies.Keep(xFilename);
   if (state.DeckOnFile) SkipErrors([&] { machine.files.Delete(xFilename); });
   CollectDeckInfo(state, info_.Loaded());
+  // An import that an error has broken off leaves its text open.
+  fileNumber_.Close();
   SkipErrors([&] { fileNumber_.OpenRandom(xFilename, OpenMode::kReadAndWrite, kRecordSize); });
   WriteRecords(state, fileNumber_, machine.codePage);
   fileNumber_.Close();
