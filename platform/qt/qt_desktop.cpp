@@ -2,9 +2,11 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QUrl>
 #include <utility>
 
@@ -49,6 +51,11 @@ int QtDesktop::Open(const Text& target, const Text& folder, ShowState state) {
 
 void QtDesktop::ShowHelp(const Text& path) {
   if (showHelp_ && QFileInfo::exists(ToQString(path))) showHelp_(path);
+}
+
+Text QtDesktop::DocumentsFolder() const {
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  return FromQString(QFileInfo(folder).isDir() ? folder : QDir::homePath());
 }
 
 void QtDesktop::SetMousePointer(MousePointer pointer) {

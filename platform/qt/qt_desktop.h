@@ -17,6 +17,7 @@ class QtDesktop : public Desktop {
   /// The folder and the window's state are the opening program's own business here.
   int Open(const Text& target, const Text& folder, ShowState state) override;
   void ShowHelp(const Text& path) override;
+  [[nodiscard]] Text DocumentsFolder() const override;
   void SetMousePointer(MousePointer pointer) override;
   void Yield() override;
   [[nodiscard]] int ScreenWidth() const override;

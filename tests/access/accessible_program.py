@@ -109,10 +109,10 @@ class Node:
 
 
 class Program:
-    """Tessara with a home of its own. The window in front is the last that came."""
+    """Tessara with a home of its own, started by the prefix. The window in front is the last that came."""
 
-    def __init__(self, executable, samples, **environment):
-        self._executable = executable
+    def __init__(self, executable, samples, prefix=(), **environment):
+        self._command = (*prefix, executable)
         self._samples = samples
         self.home = pathlib.Path(tempfile.mkdtemp(prefix="tessara-access-"))
         (self.home / ".config").mkdir()
@@ -126,7 +126,7 @@ class Program:
 
     def go_to(self, scene):
         """Starts with the scene's deck and takes its steps."""
-        command = [self._executable]
+        command = [*self._command]
         if scene.deck:
             command.append(shutil.copy(f"{self._samples}/{scene.deck}.tsr", self.home))
         self._process = subprocess.Popen(command, env=self._environment)
@@ -208,6 +208,10 @@ class Program:
     @staticmethod
     def press(*keys):
         subprocess.run(["xdotool", "key", "--delay", "15", *keys], check=True)
+
+    @staticmethod
+    def type(text):
+        subprocess.run(["xdotool", "type", "--delay", "15", text], check=True)
 
     def menu_bar(self):
         return next(node for node in self.windows()[0].children() if node.role == "menu bar")
