@@ -113,6 +113,9 @@ struct ProgramState {
   bool DeckFromCommandLine = false;
   bool CanPrintCards = false;
 
+  // File dialogs.
+  Text FolderUsedLast;  ///< of the file that was chosen last; empty before the first one
+
   // Settings, as read from the store or changed since in the set-up window.
   Text ShowSplash;
   Text LargeCardColor;

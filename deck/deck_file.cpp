@@ -86,6 +86,8 @@ bool WriteRecords(const ProgramState& state, FileNumber& file, const CodePage& c
 
 void LoadDeckFromFile(const Text& xFilename, ProgramState& state, FileNumber& file,
                       const CodePage& codePage) {
+  // An import that an error has broken off leaves its text open.
+  file.Close();
   file.OpenRandom(xFilename, OpenMode::kRead, kRecordSize);
   state.CardCount = 0;
   ReadRecords(file, state, codePage);

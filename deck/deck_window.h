@@ -65,8 +65,8 @@ class DeckWindow : public Form {
   void UpdateMoveButtons();
   /// The go-to command needs more than one card.
   void SetGoToMenu();
-  /// Brings up the window for the type of card 1 of the deck just loaded; an unknown letter
-  /// leaves everything as it was.
+  /// Brings up the window for the type of card 1 of the deck just loaded. Without a card, or with
+  /// an unknown letter, a window on screen and the deck's type stay as they were.
   void OpenViewOfFirstCard();
   /// The deck's name, two blanks and the mode in brackets.
   void ShowTitle(Mode mode);

@@ -1,5 +1,7 @@
 // How a deck comes from its file into the window.
 
+#include <optional>
+
 #include "deck/ask_file_name.h"
 #include "deck/deck_file.h"
 #include "deck/deck_file_name.h"
@@ -7,6 +9,17 @@
 #include "platform/desktop.h"
 
 namespace tessara {
+
+namespace {
+
+/// The type of the decks that have cards of this letter; none for an unknown one.
+std::optional<std::int32_t> KindOfCard(TextView letter) {
+  if (letter == u"M" || letter == u"T") return kExtendedDeck;
+  if (letter == u"E") return kStandardDeck;
+  return std::nullopt;
+}
+
+}  // namespace
 
 void DeckWindow::mnuOCD_Click() {
   ProgramState& state = State();
@@ -53,12 +66,14 @@ void DeckWindow::LoadDeck(const Text& xFilename) {
 }
 
 void DeckWindow::OpenViewOfFirstCard() {
-  const Text& cardType = State().Cell(1, kCardType);
-  if (cardType == u"M" || cardType == u"T") {
+  std::optional<std::int32_t> kind = KindOfCard(State().Cell(1, kCardType));
+  // A window that is not on screen yet comes up all the same, for the type of the deck before.
+  if (!kind && !Visible()) kind = State().DeckType;
+  if (kind == kExtendedDeck) {
     OpenExtendedView();
     ShowFirstCard(kExtendedDeck);
     Command3[kFlip].SetCaption(u"&Hide Answer");
-  } else if (cardType == u"E") {
+  } else if (kind == kStandardDeck) {
     OpenStandardView();
     ShowFirstCard(kStandardDeck);
   }

@@ -99,6 +99,8 @@ void DeckWindow::SaveTessaraToFile(const Text& xFilename) {
   }
   bool whole = MakeWay(xFilename);
   CollectDeckInfo(state, info_.Loaded());
+  // An import that an error has broken off leaves its text open.
+  fileNumber_.Close();
   whole &=
       SkipErrors([&] { fileNumber_.OpenRandom(xFilename, OpenMode::kReadAndWrite, kRecordSize); });
   whole &= WriteRecords(state, fileNumber_, machine.codePage);

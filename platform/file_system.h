@@ -37,6 +37,10 @@ class FileSystem {
   virtual std::unique_ptr<File> Open(const Text& path, OpenMode mode) = 0;
   /// Raises 53 where there is none, 70, 75.
   virtual void Delete(const Text& path) = 0;
+  /// Finds out whether a file can be saved as `path`, by trying and not by permissions: one that is
+  /// there is opened for writing and not changed, else one of another name is made beside it and
+  /// removed at once. Raises what Open raises.
+  virtual void TrySaving(const Text& path) = 0;
   /// The name, as it stands in its folder, of the entry that `path` names; hidden entries and
   /// folders included. Nothing where there is none.
   virtual std::optional<Text> EntryName(const Text& path) = 0;

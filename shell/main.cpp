@@ -14,6 +14,7 @@
 #include "platform/freedesktop/update_tools.h"
 #include "platform/freedesktop/user_folders.h"
 #include "platform/posix/code_page_of_locale.h"
+#include "platform/posix/file_size_signal.h"
 #include "platform/posix/loaded_spreadsheet.h"
 #include "platform/posix/posix_clock.h"
 #include "platform/posix/posix_file_system.h"
@@ -111,5 +112,6 @@ int main(int argc, char** argv) {
   std::setlocale(LC_ALL, "");
   // A spreadsheet server that dies is an error of the job, not the end of the program.
   std::signal(SIGPIPE, SIG_IGN);
+  tessara::SurviveFileSizeLimit();
   return tessara::RunTessara(argc, argv);
 }

@@ -2,9 +2,11 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QUrl>
 #include <utility>
 
@@ -54,6 +56,11 @@ void QtDesktop::ShowHelp(const Text& path) {
 
 void QtDesktop::Notify(const Text& title, const Text& text) {
   if (notify_) notify_(title, text);
+}
+
+Text QtDesktop::DocumentsFolder() const {
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  return FromQString(QFileInfo(folder).isDir() ? folder : QDir::homePath());
 }
 
 void QtDesktop::SetMousePointer(MousePointer pointer) {

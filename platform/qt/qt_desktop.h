@@ -20,6 +20,7 @@ class QtDesktop : public Desktop {
   int Open(const Text& target, const Text& folder, ShowState state) override;
   void ShowHelp(const Text& path) override;
   void Notify(const Text& title, const Text& text) override;
+  [[nodiscard]] Text DocumentsFolder() const override;
   void SetMousePointer(MousePointer pointer) override;
   void Yield() override;
   [[nodiscard]] int ScreenWidth() const override;

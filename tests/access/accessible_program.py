@@ -114,10 +114,10 @@ class Node:
 
 
 class Program:
-    """Tessara with a home of its own. The window in front is the last that came."""
+    """Tessara with a home of its own, started by the prefix. The window in front is the last that came."""
 
-    def __init__(self, executable, samples, **environment):
-        self._executable = executable
+    def __init__(self, executable, samples, prefix=(), **environment):
+        self._command = (*prefix, executable)
         self._samples = samples
         self.home = pathlib.Path(tempfile.mkdtemp(prefix="tessara-access-"))
         (self.home / ".config").mkdir()
@@ -139,7 +139,7 @@ class Program:
 
     def start(self, *arguments, **options):
         """Starts, and waits until the program is on the accessibility bus."""
-        self._process = subprocess.Popen([self._executable, *arguments], env=self._environment, **options)
+        self._process = subprocess.Popen([*self._command, *arguments], env=self._environment, **options)
         self._root = wait_for("the program on the bus", self._application)
         return self._process
 
@@ -228,6 +228,10 @@ class Program:
         left, top, right, bottom = node.place
         place = map(str, ((left + right) // 2, (top + bottom) // 2))
         subprocess.run(["xdotool", "mousemove", *place, "click", str(button)], check=True)
+
+    @staticmethod
+    def type(text):
+        subprocess.run(["xdotool", "type", "--delay", "15", text], check=True)
 
     def menu_bar(self):
         return next(node for node in self.windows()[0].children() if node.role == "menu bar")

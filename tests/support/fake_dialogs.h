@@ -11,7 +11,8 @@
 
 namespace tessara::test {
 
-/// Dialogs that are answered beforehand; an empty answer of the file dialog is a cancel.
+/// Dialogs that are answered beforehand; an empty answer of the file dialog is a cancel, and the
+/// next answer follows one that is refused.
 class FakeDialogs : public Dialogs {
  public:
   struct TextRequest {
@@ -25,6 +26,9 @@ class FakeDialogs : public Dialogs {
   /// Nothing is a cancel.
   std::deque<std::optional<PrinterChoice>> printers;
   std::vector<FileDialogRequest> fileRequests;
+  /// As where a place that was good is bad by the time of the save.
+  bool takesEveryPlace = false;
+  std::vector<Text> refusals;  ///< what the file dialogs told
   /// Runs while a file dialog is up.
   std::function<void()> whileAsked;
   std::vector<TextRequest> textRequests;
@@ -32,7 +36,13 @@ class FakeDialogs : public Dialogs {
   Text AskFile(const FileDialogRequest& request) override {
     fileRequests.push_back(request);
     if (whileAsked) whileAsked();
-    return Next(files, "file");
+    for (;;) {
+      Text path = Next(files, "file");
+      const Text refusal =
+          request.refusal && !takesEveryPlace && !path.empty() ? request.refusal(path) : Text();
+      if (refusal.empty()) return path;
+      refusals.push_back(refusal);
+    }
   }
   std::optional<Text> AskText(const Text& prompt, const Text& title,
                               const Text& defaultText) override {

@@ -90,6 +90,7 @@ class FakeClock : public Clock {
 class FakeDesktop : public Desktop {
  public:
   bool previousInstance = false;
+  Text documentsFolder = u"/home/ann/Documents";
   int openResult = kOpenSucceeded;
   int screenWidth = 1024;
   int screenHeight = 768;
@@ -105,6 +106,7 @@ class FakeDesktop : public Desktop {
     opened.emplace_back(target, folder, state);
     return openResult;
   }
+  [[nodiscard]] Text DocumentsFolder() const override { return documentsFolder; }
   void ShowHelp(const Text& path) override { helpShown.push_back(path); }
   void Notify(const Text& title, const Text& text) override { notices.emplace_back(title, text); }
   void SetMousePointer(MousePointer pointer) override { pointers.push_back(pointer); }

@@ -29,6 +29,8 @@ class FaultyFiles : public FileSystem {
     MayFail();
     files_.Delete(path);
   }
+  /// Not counted: a trial that fails is an answer, not an error.
+  void TrySaving(const Text& path) override { files_.TrySaving(path); }
   std::optional<Text> EntryName(const Text& path) override {
     return Fault() ? std::nullopt : files_.EntryName(path);
   }

@@ -110,7 +110,7 @@ TEST_CASE("an existing deck is opened from the frame and is not on file") {
   CHECK_FALSE(desk.state.DeckOnFile);
   CHECK(desk.fakes.dialogs.fileRequests.back().filter == u"Study Cards|*.tsr");
   CHECK(desk.fakes.dialogs.fileRequests.back().flags == 4100);
-  CHECK(desk.fakes.dialogs.fileRequests.back().initialFolder == u"/opt/tessara");
+  CHECK(desk.fakes.dialogs.fileRequests.back().initialFolder == desk.fakes.desktop.documentsFolder);
 }
 
 TEST_CASE("a deck opened from the frame can be saved under another name") {

@@ -96,13 +96,15 @@ TEST_CASE("an extended deck from the command line comes up with the answer on sh
   }
 }
 
-TEST_CASE("a deck of an unknown kind leaves type and window as they were") {
+TEST_CASE("a deck of an unknown kind leaves the type as it was, and comes up as one of that") {
   CommandLineDesk desk(FileOfOneCard(u"Q"));
   desk.state.DeckType = kExtendedDeck;
   desk.Load();
   CHECK(desk.state.DeckType == kExtendedDeck);
-  CHECK_FALSE(desk.deck->Visible());
+  CHECK(desk.deck->Visible());
+  CHECK(desk.deck->Picture1.Visible());
   CHECK(desk.deck->Caption() == u"sample  [STUDY]");
+  CHECK(desk.deck->NoteletCtl1.CardText() == u"the text");
   CHECK(desk.deck->NoteletCtl1.CardTotal() == u"1");
   CHECK(desk.state.DeckFromCommandLine);
 }
