@@ -3,13 +3,13 @@
 
 usage: first_card.py PICTURE PROGRAM [ARGUMENT...]     on the display that DISPLAY names
 """
-import os
-import re
 import subprocess
 import sys
 import time
 
-from PIL import ImageChops, ImageGrab
+from PIL import ImageChops
+
+import screen_picture
 
 SECONDS_TO_PAINT = 60
 SECONDS_BETWEEN_LOOKS = 0.1
@@ -30,20 +30,9 @@ def windows_of(program):
     return dict(zip(numbers, titles))
 
 
-def box_of(window):
-    """Left, top, right and bottom of a window without its border; None once it has gone away."""
-    told = subprocess.run(["xwininfo", "-id", window], capture_output=True, text=True).stdout
-    try:
-        left, top, width, height = (int(re.search(rf"{name}: +(-?\d+)", told)[1]) for name in
-                                    ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
-    except TypeError:
-        return None
-    return left, top, left + width, top + height
-
-
 def frame_box(program):
     """The frame's place on screen, None while it is not there."""
-    return next((box_of(number) for number, title in windows_of(program).items() if title == FRAME), None)
+    return next((screen_picture.box_of(number) for number, title in windows_of(program).items() if title == FRAME), None)
 
 
 def refuse_boxes(program):
@@ -67,7 +56,7 @@ def wait_for_painted(program):
         picture = None
         box = frame_box(program)
         if box:
-            picture = ImageGrab.grab(xdisplay=os.environ["DISPLAY"]).crop(box)
+            picture = screen_picture.of_screen().crop(box)
             if (earlier and earlier.size == picture.size and is_painted(picture)
                     and not ImageChops.difference(earlier, picture).getbbox()):
                 refuse_boxes(program)

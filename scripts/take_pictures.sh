@@ -74,7 +74,7 @@ builder() {
 
 take() {
   sleep 0.3
-  import -window "$window" -strip "$pictures/$1.png"
+  "$root/scripts/screen_picture.py" "$pictures/$1.png" "$window"
 }
 
 capitals=$build/samples/capitals.tsr
@@ -84,12 +84,7 @@ settings 0 1 0 1
 open
 press alt+c
 xdotool mousemove --window "$window" $file 9 click 1
-sleep 0.3
-# An opened menu is a window of its own: off the screen, as it looks.
-place=$(xwininfo -id "$window" | awk '
-  /Absolute upper-left/ { at = at "+" $NF } /Width:/ { width = $NF } /Height:/ { height = $NF }
-  END { print width "x" height at }')
-import -window root -crop "$place" +repage -strip "$pictures/frame.png"
+take frame
 press Escape
 end_program
 

@@ -8,12 +8,14 @@ usage: SCREEN=WIDTHxHEIGHT scripts/with_display.sh dbus-run-session -- tests/acc
 environment, for example QT_SCALE_FACTOR=2. Without scenes all are taken.
 """
 import pathlib
-import subprocess
 import sys
 import time
 
 from accessible_program import Program
 from windows import SCENES
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts"))
+import screen_picture  # noqa: E402  after the path is set
 
 FONT = "[General]\nfont=DejaVu Sans,12,-1,5,50,0,0,0,0,0\n"
 # Red, green, blue: the dark scheme that Plasma brings.
@@ -32,7 +34,7 @@ def dark_scheme():
 def take(picture):
     # The window is there; nothing tells when all of it is painted.
     time.sleep(0.5)
-    subprocess.run(["import", "-window", "root", "-trim", "-strip", "+repage", picture], check=True)
+    screen_picture.trimmed(screen_picture.of_screen()).save(picture)
 
 
 def main():
