@@ -9,6 +9,7 @@ import time
 
 from PIL import ImageChops
 
+import program_end
 import screen_picture
 
 SECONDS_TO_PAINT = 60
@@ -52,7 +53,7 @@ def wait_for_painted(program):
     deadline = time.monotonic() + SECONDS_TO_PAINT
     while time.monotonic() < deadline:
         if program.poll() is not None:
-            raise NotShown(f"The program ended with status {program.returncode} before its window was painted.")
+            raise NotShown(f"The program ended with {program_end.name_of(program.returncode)} before its window was painted.")
         picture = None
         box = frame_box(program)
         if box:
@@ -71,10 +72,11 @@ def main():
     program = subprocess.Popen(command)
     try:
         wait_for_painted(program).save(path)
-    except NotShown as missed:
+        program_end.end(program)
+    except (NotShown, program_end.WrongEnd) as missed:
         sys.exit(str(missed))
     finally:
-        program.terminate()
+        program.kill()
         program.wait()
 
 

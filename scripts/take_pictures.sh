@@ -13,12 +13,17 @@ export HOME LC_ALL=C.UTF-8
 unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_STATE_HOME XDG_CACHE_HOME
 program=
 window=
+readonly endedBySigterm=143
+
+# A program that has ended before, or in another way, has broken down.
 end_program() {
-  [ -z "$program" ] || kill "$program" 2>/dev/null || true
-  wait 2>/dev/null || true
+  local status=0
+  kill "$program" 2>/dev/null || true
+  wait "$program" 2>/dev/null || status=$?
   program=
+  [ $status = $endedBySigterm ] || { echo "The program ended with status $status." >&2; exit 1; }
 }
-trap 'end_program; rm -rf "$HOME"' EXIT
+trap '[ -z "$program" ] || kill "$program" 2>/dev/null; rm -rf "$HOME"' EXIT
 
 # settings MAIN_COLOR MAIN_3D SMALL_COLOR SMALL_3D
 settings() {

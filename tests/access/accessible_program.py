@@ -3,7 +3,9 @@ import functools
 import os
 import pathlib
 import shutil
+import signal
 import subprocess
+import sys
 import tempfile
 import time
 
@@ -11,6 +13,9 @@ import gi
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402  after the version is chosen
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts"))
+import program_end  # noqa: E402  after the path is set
 
 SECONDS_TO_WAIT = 30
 SECONDS_BETWEEN_LOOKS = 0.01
@@ -148,10 +153,12 @@ class Program:
             raise AssertionError(f"{missed}; there: {', '.join(map(str, self.windows()))}") from missed
 
     def end(self):
-        if self._process:
-            self._process.kill()
-            self._process.wait()
-        shutil.rmtree(self.home)
+        """A program that has ended by itself is a failure."""
+        try:
+            if self._process:
+                program_end.end(self._process, signal.SIGKILL)
+        finally:
+            shutil.rmtree(self.home)
 
     def _application(self):
         desktop = Atspi.get_desktop(0)

@@ -14,8 +14,7 @@ import time
 from accessible_program import Program
 from windows import SCENES
 
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts"))
-import screen_picture  # noqa: E402  after the path is set
+import screen_picture  # from scripts/, where accessible_program has looked too
 
 FONT = "[General]\nfont=DejaVu Sans,12,-1,5,50,0,0,0,0,0\n"
 # Red, green, blue: the dark scheme that Plasma brings.

@@ -108,6 +108,30 @@ QList<W*> UsableIn(QWidget& window) {
   return usable;
 }
 
+/// What leads away from the deck: with the same chance as all else it would leave none of the time to
+/// the rest.
+bool LeadsAway(const QObject& thing) {
+  static const QStringList names{"mnuExit",     "mnuHelp",     "mnuSC",   "mnuAbout", "mnuHelpTopics",
+                                 "mnuHelpTopic", "mnuMode",    "mnuQuiz", "mnuTest",  "Command3(2)"};
+  return names.contains(thing.objectName());
+}
+
+/// One of some menus, entries or buttons.
+template <class Thing>
+Thing& OneOf(QList<Thing*>& things, Dice& dice) {
+  constexpr int kOftenOtherwise = 4;
+  Thing* thing = dice.OneOf(things);
+  if (LeadsAway(*thing) && !dice.OneIn(kOftenOtherwise)) thing = dice.OneOf(things);
+  return *thing;
+}
+
+/// Where clicks go: the child window in front of the frame, else the window itself.
+QWidget& PartInUse(QWidget& window) {
+  const auto* area = window.findChild<QMdiArea*>();
+  QWidget* child = area == nullptr ? nullptr : area->activeSubWindow();
+  return child == nullptr ? window : *child;
+}
+
 bool TakesText(QWidget* widget) {
   return qobject_cast<QLineEdit*>(widget) != nullptr ||
          qobject_cast<QPlainTextEdit*>(widget) != nullptr;
@@ -174,9 +198,9 @@ void RandomUser::InMenu(QMenu& menu) {
   }
   if (entries.isEmpty() || dice_.OneIn(8)) return Press(Qt::Key_Escape);
   if (dice_.OneIn(4)) return PressKey();
-  QAction* entry = dice_.OneOf(entries);
-  tell_("choose " + entry->objectName().toStdString() + " \"" + entry->text().toStdString() + "\"");
-  Hands::Click(menu, menu.actionGeometry(entry).center());
+  QAction& entry = OneOf(entries, dice_);
+  tell_("choose " + entry.objectName().toStdString() + " \"" + entry.text().toStdString() + "\"");
+  Hands::Click(menu, menu.actionGeometry(&entry).center());
 }
 
 void RandomUser::InDialog(QWidget& dialog) {
@@ -260,11 +284,14 @@ void RandomUser::InPrinterDialog(QWidget& dialog) {
 
 void RandomUser::InWindows() {
   QWidget& window = WindowInFront();
+  QWidget& part = PartInUse(window);
+  const bool frame = window.objectName() == QLatin1String("MDIForm1");
+  if (!frame && dice_.OneIn(4)) return CloseWindow(window);
   if (TakesText(QApplication::focusWidget()) && dice_.OneIn(3)) return TypeText();
   constexpr std::array kWeights{30, 16, 24, 3, 3, 3, 2, 1, 1};
   switch (dice_.Weighed(kWeights)) {
     case 0:
-      return dice_.OneIn(3) ? ClickSomewhere(window) : ClickButton(window);
+      return dice_.OneIn(3) ? ClickSomewhere(dice_.OneIn(9) ? window : part) : ClickButton(part);
     case 1:
       return OpenMenu();
     case 2:
@@ -303,7 +330,7 @@ void RandomUser::ClickSomewhere(QWidget& window) {
 void RandomUser::ClickButton(QWidget& window) {
   auto buttons = UsableIn<QAbstractButton>(window);
   if (buttons.isEmpty()) return ClickSomewhere(window);
-  QAbstractButton& button = *dice_.OneOf(buttons);
+  QAbstractButton& button = OneOf(buttons, dice_);
   ClickOn(button, button.rect().center());
 }
 
@@ -315,9 +342,9 @@ void RandomUser::OpenMenu() {
     if (menu->isVisible() && menu->isEnabled()) menus += menu;
   }
   if (menus.isEmpty()) return PressKey();
-  QAction* menu = dice_.OneOf(menus);
-  tell_("open the menu " + menu->objectName().toStdString());
-  Hands::Click(*frame->menuBar(), frame->menuBar()->actionGeometry(menu).center());
+  QAction& menu = OneOf(menus, dice_);
+  tell_("open the menu " + menu.objectName().toStdString());
+  Hands::Click(*frame->menuBar(), frame->menuBar()->actionGeometry(&menu).center());
 }
 
 void RandomUser::PressKey() {

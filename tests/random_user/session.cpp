@@ -52,12 +52,10 @@ void Session::Run() {
   StartAnew();
   // Where no window comes up under it.
   QCursor::setPos(QApplication::primaryScreen()->geometry().bottomRight());
-  const auto waits =
-      QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
-                       qApp, [this] { TakeStep(); }, Qt::QueuedConnection);
+  QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
+                   &takesSteps_, [this] { TakeStep(); }, Qt::QueuedConnection);
   Start();
   if (!Ended()) QApplication::exec();
-  QObject::disconnect(waits);
   if (fault_.empty()) Check();
   tell_("-- the program has ended with " + std::to_string(desk_.program.Windows().ExitStatus().value_or(-1)));
   CloseOtherWindows();

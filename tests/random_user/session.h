@@ -33,6 +33,8 @@ class Session {
   RandomUser user_;
   std::string fault_;
   bool leaving_ = false;
+  /// Takes the steps; one that is still to come goes with it.
+  QObject takesSteps_;
 };
 
 }  // namespace tessara::test
