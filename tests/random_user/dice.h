@@ -24,7 +24,8 @@ class Dice {
   /// One of some things; there is at least one.
   template <class Things>
   auto& OneOf(Things& things) {
-    return *std::next(std::begin(things), static_cast<int>(Below(static_cast<std::size_t>(std::size(things)))));
+    return *std::next(std::begin(things),
+                      static_cast<int>(Below(static_cast<std::size_t>(std::size(things)))));
   }
   /// The place of a weight, by chance in proportion to it; the weights have a sum of 1 or more.
   std::size_t Weighed(std::span<const int> weights) {

@@ -22,8 +22,8 @@ class KeptWork {
   std::size_t Look(const Cards& inTable);
   /// A question has been answered that gives up what is in the table.
   void GiveUp() { givenUp_ = inTable_; }
-  /// A command for the card on show has been confirmed, or a builder shows a card to be changed: one
-  /// card may go until the next look.
+  /// A command for the card on show has been confirmed, or a builder shows a card to be changed:
+  /// one card may go until the next look.
   void MayLoseOne() { mayLoseOne_ = true; }
 
  private:

@@ -41,7 +41,8 @@ int main(int argc, char** argv) {
   tessara::ShowOutlines();
   QCommandLineParser options;
   options.addOption({QStringLiteral("seed"), QStringLiteral("Which steps."), QStringLiteral("N")});
-  options.addOption({QStringLiteral("steps"), QStringLiteral("How many."), QStringLiteral("M"), QStringLiteral("250")});
+  options.addOption({QStringLiteral("steps"), QStringLiteral("How many."), QStringLiteral("M"),
+                     QStringLiteral("250")});
   options.process(application);
   return tessara::test::RunRandomUser(options.value(QStringLiteral("seed")).toUInt(),
                                       options.value(QStringLiteral("steps")).toInt());

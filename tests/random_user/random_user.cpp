@@ -108,11 +108,11 @@ QList<W*> UsableIn(QWidget& window) {
   return usable;
 }
 
-/// What leads away from the deck: with the same chance as all else it would leave none of the time to
-/// the rest.
+/// What leads away from the deck: with the same chance as all else it would leave none of the time
+/// to the rest.
 bool LeadsAway(const QObject& thing) {
-  static const QStringList names{"mnuExit",     "mnuHelp",     "mnuSC",   "mnuAbout", "mnuHelpTopics",
-                                 "mnuHelpTopic", "mnuMode",    "mnuQuiz", "mnuTest",  "Command3(2)"};
+  static const QStringList names{"mnuExit",      "mnuHelp", "mnuSC",   "mnuAbout", "mnuHelpTopics",
+                                 "mnuHelpTopic", "mnuMode", "mnuQuiz", "mnuTest",  "Command3(2)"};
   return names.contains(thing.objectName());
 }
 
@@ -146,7 +146,8 @@ QWidget& WindowInFront() {
   return *QApplication::topLevelWidgets().front();
 }
 
-QAbstractButton* ButtonOf(QWidget& dialog, std::initializer_list<QDialogButtonBox::StandardButton> wanted) {
+QAbstractButton* ButtonOf(QWidget& dialog,
+                          std::initializer_list<QDialogButtonBox::StandardButton> wanted) {
   for (auto* box : dialog.findChildren<QDialogButtonBox*>()) {
     for (const auto which : wanted) {
       QAbstractButton* button = box->button(which);
@@ -227,7 +228,8 @@ void RandomUser::InMessageBox(QMessageBox& box) {
     case 0: {
       auto buttons = box.buttons();
       QAbstractButton* button = dice_.OneOf(buttons);
-      tell_("answer \"" + box.text().left(60).toStdString() + "\": " + button->text().toStdString());
+      tell_("answer \"" + box.text().left(60).toStdString() +
+            "\": " + button->text().toStdString());
       return Hands::Click(*button, button->rect().center());
     }
     case 1:
@@ -256,7 +258,8 @@ void RandomUser::InFileDialog(QFileDialog& dialog) {
   const QString name = dice_.OneOf(names);
   auto* line = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
   line->setText(files_.PathOf(name));
-  QAbstractButton* accept = dice_.OneIn(6) ? nullptr : ButtonOf(dialog, {QDialogButtonBox::Open, QDialogButtonBox::Save});
+  QAbstractButton* accept =
+      dice_.OneIn(6) ? nullptr : ButtonOf(dialog, {QDialogButtonBox::Open, QDialogButtonBox::Save});
   if (accept == nullptr) accept = ButtonOf(dialog, {QDialogButtonBox::Cancel});
   tell_("in \"" + dialog.windowTitle().toStdString() + "\" name \"" + name.toStdString() + "\", " +
         accept->text().toStdString());
@@ -267,7 +270,8 @@ void RandomUser::InInputBox(QWidget& dialog) {
   if (dice_.OneIn(3)) return TypeText();
   auto* line = dialog.findChild<QLineEdit*>();
   if (dice_.OneIn(3)) line->setText(QString::number(dice_.Between(-1, 205)));
-  QAbstractButton* button = ButtonOf(dialog, {dice_.OneIn(4) ? QDialogButtonBox::Cancel : QDialogButtonBox::Ok});
+  QAbstractButton* button =
+      ButtonOf(dialog, {dice_.OneIn(4) ? QDialogButtonBox::Cancel : QDialogButtonBox::Ok});
   tell_("in \"" + dialog.windowTitle().toStdString() + "\" enter \"" + line->text().toStdString() +
         "\", " + button->text().toStdString());
   Hands::Click(*button, button->rect().center());
@@ -276,7 +280,8 @@ void RandomUser::InInputBox(QWidget& dialog) {
 void RandomUser::InPrinterDialog(QWidget& dialog) {
   auto* file = dialog.findChild<QLineEdit*>(QStringLiteral("filename"));
   if (file != nullptr) file->setText(files_.PathOf(QStringLiteral("print.pdf")));
-  QAbstractButton* button = ButtonOf(dialog, {dice_.OneIn(3) ? QDialogButtonBox::Cancel : QDialogButtonBox::Ok});
+  QAbstractButton* button =
+      ButtonOf(dialog, {dice_.OneIn(3) ? QDialogButtonBox::Cancel : QDialogButtonBox::Ok});
   if (button == nullptr) return Press(Qt::Key_Escape);
   tell_("in \"" + dialog.windowTitle().toStdString() + "\" " + button->text().toStdString());
   Hands::Click(*button, button->rect().center());
@@ -358,11 +363,16 @@ void RandomUser::PressKey() {
 }
 
 void RandomUser::TypeText() {
-  static const QStringList texts{QStringLiteral("word"),         QStringLiteral("two words "),
-                                 QStringLiteral("7"),            QStringLiteral("-1"),
-                                 QStringLiteral("1e9"),          QStringLiteral("&A && B"),
-                                 QStringLiteral("ÄÖ é \u20ac"),  QStringLiteral("\u4e00\u4e8c"),
-                                 QStringLiteral("THREE WORDS IN"), QString(70, u'W')};
+  static const QStringList texts{QStringLiteral("word"),
+                                 QStringLiteral("two words "),
+                                 QStringLiteral("7"),
+                                 QStringLiteral("-1"),
+                                 QStringLiteral("1e9"),
+                                 QStringLiteral("&A && B"),
+                                 QStringLiteral("ÄÖ é \u20ac"),
+                                 QStringLiteral("\u4e00\u4e8c"),
+                                 QStringLiteral("THREE WORDS IN"),
+                                 QString(70, u'W')};
   const QString text = dice_.OneIn(4) ? ToQString(dice_.OneOf(kHostileTexts)) : dice_.OneOf(texts);
   tell_("type \"" + text.toStdString() + "\"");
   Hands::Type(text);
@@ -384,7 +394,8 @@ void RandomUser::FillClipboard() {
     }
     case 2:
       tell_("put lines into the " + where);
-      return clipboard.setText(QStringLiteral("one\r\ntwo\nthree\rfour\tfive\n").repeated(20), mode);
+      return clipboard.setText(QStringLiteral("one\r\ntwo\nthree\rfour\tfive\n").repeated(20),
+                               mode);
     default:
       tell_("put a word into the " + where);
       return clipboard.setText(QStringLiteral("pasted"), mode);

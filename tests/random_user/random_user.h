@@ -14,7 +14,8 @@ class QMessageBox;
 
 namespace tessara::test {
 
-/// What a user does next, by chance, with whatever is in front: a menu, a box, a dialog or a window.
+/// What a user does next, by chance, with whatever is in front: a menu, a box, a dialog or a
+/// window.
 class RandomUser {
  public:
   /// Each step is told before it is taken.

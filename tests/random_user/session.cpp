@@ -28,8 +28,8 @@ void BringToFront() {
   if (QTest::qWaitFor(InFrontIsReady, kMilliseconds)) return;
   QWidget* dialog = QApplication::activeModalWidget();
   for (QWidget* window : QApplication::topLevelWidgets()) {
-    const bool wanted = dialog == nullptr ? window->objectName() == QLatin1String("MDIForm1")
-                                          : window == dialog;
+    const bool wanted =
+        dialog == nullptr ? window->objectName() == QLatin1String("MDIForm1") : window == dialog;
     if (wanted && window->isVisible()) window->activateWindow();
   }
   static_cast<void>(QTest::qWaitFor(InFrontIsReady, kMilliseconds));
@@ -52,12 +52,14 @@ void Session::Run() {
   StartAnew();
   // Where no window comes up under it.
   QCursor::setPos(QApplication::primaryScreen()->geometry().bottomRight());
-  QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock,
-                   &takesSteps_, [this] { TakeStep(); }, Qt::QueuedConnection);
+  QObject::connect(
+      QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, &takesSteps_,
+      [this] { TakeStep(); }, Qt::QueuedConnection);
   Start();
   if (!Ended()) QApplication::exec();
   if (fault_.empty()) Check();
-  tell_("-- the program has ended with " + std::to_string(desk_.program.Windows().ExitStatus().value_or(-1)));
+  tell_("-- the program has ended with " +
+        std::to_string(desk_.program.Windows().ExitStatus().value_or(-1)));
   CloseOtherWindows();
 }
 

@@ -4,7 +4,8 @@
 
 namespace tessara::test {
 
-/// What has been asked and answered in a run of the program, as far as an end or a loss depends on it.
+/// What has been asked and answered in a run of the program, as far as an end or a loss depends on
+/// it.
 struct Story {
   std::string lastBox;           ///< text of the last message box
   std::string lastFile;          ///< name of the file that was chosen last

@@ -63,8 +63,8 @@ void UserFiles::WriteTexts() const {
 }
 
 const QStringList& UserFiles::GoodDecks() {
-  static const QStringList names{"birds.tsr",       "one.tsr",     "full.tsr",  "truths.tsr",
-                                 "choices.tsr",     "hostile.tsr", "empty.tsr", "no cards.tsr",
+  static const QStringList names{"birds.tsr",       "one.tsr",     "full.tsr",      "truths.tsr",
+                                 "choices.tsr",     "hostile.tsr", "empty.tsr",     "no cards.tsr",
                                  "all choices.tsr", "cut.tsr",     "odd letter.tsr"};
   return names;
 }
@@ -75,14 +75,15 @@ const QStringList& UserFiles::BrokenDecks() {
 }
 
 const QStringList& UserFiles::Texts() {
-  static const QStringList names{"cards.txt",   "questions.txt", "too many.txt",  "no cards.txt",
-                                 "no word.txt", "empty.txt",     "no number.txt", "great number.txt"};
+  static const QStringList names{"cards.txt",     "questions.txt",   "too many.txt",
+                                 "no cards.txt",  "no word.txt",     "empty.txt",
+                                 "no number.txt", "great number.txt"};
   return names;
 }
 
 const QStringList& UserFiles::Targets() {
-  static const QStringList names{"new.tsr", "newer.tsr", "no ending", "birds.tsr", "full.tsr",
-                                 "no such folder/new.tsr"};
+  static const QStringList names{"new.tsr",   "newer.tsr", "no ending",
+                                 "birds.tsr", "full.tsr",  "no such folder/new.tsr"};
   return names;
 }
 

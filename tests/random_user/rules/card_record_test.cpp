@@ -1,12 +1,14 @@
+#include "tests/random_user/card_record.h"
+
 #include <doctest/doctest.h>
 
-#include "tests/random_user/card_record.h"
 #include "tests/support/deck_bytes.h"
 
 using namespace tessara;
 using namespace tessara::test;
 
-TEST_CASE("a card in the table and the same card in a deck's file are one, whatever their numbers") {
+TEST_CASE(
+    "a card in the table and the same card in a deck's file are one, whatever their numbers") {
   ProgramState state;
   state.CardGrid.Set(1, kCardType, u"E");
   state.CardGrid.Set(1, kCardText, u"front");

@@ -1,8 +1,8 @@
+#include "tests/random_user/dice.h"
+
 #include <array>
 #include <doctest/doctest.h>
 #include <vector>
-
-#include "tests/random_user/dice.h"
 
 using namespace tessara::test;
 
@@ -16,7 +16,8 @@ TEST_CASE("a seed gives the same numbers everywhere") {
 TEST_CASE("numbers come from the whole of their range and from nowhere else") {
   Dice dice(7);
   std::array<int, 4> met{};
-  for (int count = 0; count < 200; ++count) ++met.at(static_cast<std::size_t>(dice.Between(-1, 2) + 1));
+  for (int count = 0; count < 200; ++count)
+    ++met.at(static_cast<std::size_t>(dice.Between(-1, 2) + 1));
   for (const int times : met) CHECK(times > 20);
 }
 

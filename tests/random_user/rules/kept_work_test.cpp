@@ -1,6 +1,6 @@
-#include <doctest/doctest.h>
-
 #include "tests/random_user/kept_work.h"
+
+#include <doctest/doctest.h>
 
 using tessara::test::KeptWork;
 

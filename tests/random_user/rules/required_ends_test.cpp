@@ -1,6 +1,6 @@
-#include <doctest/doctest.h>
-
 #include "tests/random_user/required_ends.h"
+
+#include <doctest/doctest.h>
 
 using namespace tessara::test;
 
