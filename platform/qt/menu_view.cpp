@@ -1,5 +1,6 @@
 #include "platform/qt/menu_view.h"
 
+#include <QPointer>
 #include <algorithm>
 
 #include "platform/qt/letter_menu.h"
@@ -40,9 +41,11 @@ QAction* MenuView::MakeCommand(MenuEntry& entry) {
 
 void MenuView::Press(MenuEntry& entry) {
   if (actions_.empty()) return;
+  // An event that waits for a box outlives a window that goes meanwhile, and these menus with it.
+  const QPointer<MenuView> here(this);
   entry.Press();
   // A click turns a mark over; whether it stands is the form's to say.
-  if (!actions_.empty()) Follow(entry);
+  if (here && !actions_.empty()) Follow(entry);
 }
 
 void MenuView::Follow(const MenuEntry& entry) {

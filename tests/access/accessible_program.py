@@ -3,7 +3,9 @@ import functools
 import os
 import pathlib
 import shutil
+import signal
 import subprocess
+import sys
 import tempfile
 import time
 
@@ -11,6 +13,9 @@ import gi
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402  after the version is chosen
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts"))
+import program_end  # noqa: E402  after the path is set
 
 SECONDS_TO_WAIT = 30
 SECONDS_BETWEEN_LOOKS = 0.01
@@ -144,8 +149,9 @@ class Program:
         return self._process
 
     def kill(self):
-        self._process.kill()
-        self._process.wait()
+        """A program that has ended by itself is a failure."""
+        process, self._process = self._process, None
+        program_end.end(process, signal.SIGKILL)
 
     def ready(self, title):
         """Waits until a window is in front and takes keys."""
@@ -160,12 +166,15 @@ class Program:
 
     def status(self):
         """How the program ends: what it returns, or a signal's number below zero."""
-        return self._process.wait(SECONDS_TO_WAIT)
+        process, self._process = self._process, None
+        return process.wait(SECONDS_TO_WAIT)
 
     def end(self):
-        if self._process:
-            self.kill()
-        shutil.rmtree(self.home)
+        try:
+            if self._process:
+                self.kill()
+        finally:
+            shutil.rmtree(self.home)
 
     def _application(self):
         desktop = Atspi.get_desktop(0)

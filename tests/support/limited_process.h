@@ -2,8 +2,9 @@
 
 #include <csignal>
 #include <sys/resource.h>
-#include <sys/wait.h>
 #include <unistd.h>
+
+#include "tests/support/process_end.h"
 
 namespace tessara::test {
 
@@ -27,9 +28,7 @@ template <class Condition>
 bool HoldsInProcess(const Condition& condition) {
   const pid_t child = fork();
   if (child == 0) _exit(condition() ? 0 : 1);
-  int status = 0;
-  waitpid(child, &status, 0);
-  return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+  return ExitStatusOf(child) == 0;
 }
 
 /// Runs the action in a process in which the system refuses what is over the limit: RLIMIT_FSIZE
