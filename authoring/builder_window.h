@@ -28,6 +28,8 @@ class BuilderWindow : public Form {
 
   MoveButtons arrows{"cmdMove"};
 
+  [[nodiscard]] bool OccupiesFrame() const override { return true; }
+
   void Page(int arrow);
 
  protected:

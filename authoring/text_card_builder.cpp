@@ -131,17 +131,17 @@ void TextCardBuilder::ChangeCard() {
 
 void TextCardBuilder::Cancel() {
   ProgramState& state = State();
+  // First, so that the arrows are set for the card that comes on show.
+  state.deck.currentCard = state.deck.cardCount;
   if (state.deck.cardCount < 1) {
     PrepareNewCard();
     WaitForFirstCard();
     Deck()->goToCard.SetEnabled(false);
   } else {
-    // Still at the place of the new card: the arrows are set for it.
     ShowBuilderCard(state.deck.cardCount);
     SetBuilderState(BuilderState::kOld);
     Deck()->SetGoToMenu();
   }
-  state.deck.currentCard = state.deck.cardCount;
 }
 
 void TextCardBuilder::Close() {

@@ -11,8 +11,10 @@ namespace {
 constexpr std::pair<ErrorNumber, TextView> kDescriptions[] = {
     {ErrorNumber::kInvalidProcedureCall, u"Invalid procedure call or argument"},
     {ErrorNumber::kOverflow, u"Overflow"},
+    {ErrorNumber::kOutOfMemory, u"Out of memory"},
     {ErrorNumber::kSubscriptOutOfRange, u"Subscript out of range"},
     {ErrorNumber::kTypeMismatch, u"Type mismatch"},
+    {ErrorNumber::kInternalError, u"Internal error"},
     {ErrorNumber::kBadFileNumber, u"Bad file name or number"},
     {ErrorNumber::kFileNotFound, u"File not found"},
     {ErrorNumber::kBadFileMode, u"Bad file mode"},

@@ -10,8 +10,10 @@ namespace tessara {
 enum class ErrorNumber : int {
   kInvalidProcedureCall = 5,
   kOverflow = 6,
+  kOutOfMemory = 7,
   kSubscriptOutOfRange = 9,
   kTypeMismatch = 13,
+  kInternalError = 51,
   kBadFileNumber = 52,
   kFileNotFound = 53,
   kBadFileMode = 54,

@@ -17,6 +17,7 @@
 #include "adapters/posix/posix_safety_copies.h"
 #include "base/utf8.h"
 #include "deck/deck_file.h"
+#include "deck/deck_image.h"
 #include "import/extended_import.h"
 #include "import/standard_import.h"
 
@@ -107,8 +108,27 @@ class Bench {
         "deck-save-calls", [this](ProgramState&) { WriteDeck(); }, [this] { PlainWriteRecords(); });
     // What the user waits for before that: the copy of the old deck, on the disk.
     Compare(
-        "safety-copy", [this](ProgramState&) { copies_.Keep(PathOf("deck.tsr")); },
+        "safety-copy",
+        [this](ProgramState&) { copies_.Keep(PathOf("deck.tsr"), Loss::kWrittenOver); },
         [&] { PlainCopyToDisk("deck.tsr", size); });
+    // What each change of a card costs: the whole deck is kept in place of what was kept before.
+    DeckImage image(deck_, page_);
+    Compare(
+        "unsaved-change",
+        [&](ProgramState&) {
+          deck_.deck.cardGrid.Set(kMostCards / 2, kCardText, Text(440, u'c'));
+          copies_.KeepUnsaved(u"deck.tsr", image.Bytes());
+        },
+        [&] { PlainWrite("plain.tsr", std::string(size, 'x')); });
+    // A card deleted in front of all others is the dearest change.
+    Compare(
+        "unsaved-all-rows",
+        [&](ProgramState&) {
+          for (int row = 1; row <= kMostCards; ++row) deck_.deck.cardPresent.Set(row, 1);
+          copies_.KeepUnsaved(u"deck.tsr", image.Bytes());
+        },
+        [&] { PlainWrite("plain.tsr", std::string(size, 'x')); });
+    copies_.DropUnsaved();
     Compare(
         "deck-load",
         [this](ProgramState& state) {

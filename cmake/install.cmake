@@ -1,7 +1,7 @@
 # An installed program lives whole in lib/tessara, with a link in bin. What the desktop reads
 # stands where it looks: entry, MIME package, icons, metadata, manual page.
 set(programFolder lib/tessara)
-install(TARGETS tessara RUNTIME DESTINATION ${programFolder})
+install(TARGETS tessara tessara_notify RUNTIME DESTINATION ${programFolder})
 foreach(module tessara_qt_print tessara_libreoffice tessara_help)
   if(TARGET ${module})
     install(TARGETS ${module} LIBRARY DESTINATION ${programFolder})

@@ -1,18 +1,21 @@
 #pragma once
 
 #include "deck/program_state.h"
+#include "deck/unsaved_deck.h"
 #include "forms/app_frame.h"
 #include "forms/window_system.h"
 #include "machine/machine.h"
 
 namespace tessara {
 
-/// What every window is given: the window system, the machine, the state, the frame.
+/// What every window is given: the window system, the machine, the state, the frame, and what keeps
+/// the unsaved deck.
 struct AppContext {
   WindowSystem& windows;
   Machine& machine;
   ProgramState& state;
   AppFrame& frame;
+  UnsavedDeck& unsaved;
 };
 
 }  // namespace tessara

@@ -1,6 +1,8 @@
 #include "deck/ask_file_name.h"
 
+#include "deck/dialog_folder.h"
 #include "deck/file_dialog_holder.h"
+#include "deck/save_place.h"
 #include "forms/window.h"
 #include "machine/desktop.h"
 
@@ -15,8 +17,14 @@ Text AskFileName(FileDialogMode mode, TextView filter, AppContext& app) {
   dialog.mode = mode;
   dialog.filter = filter;
   dialog.flags = kFileMustExist + kHideReadOnly;
-  dialog.initialFolder = machine.programFolder;
+  dialog.initialFolder = DialogFolder(machine, app.state);
+  if (mode == FileDialogMode::kSave) {
+    dialog.refusal = [&machine](const Text& path) {
+      return NoAnswer(path) ? Text() : SaveRefusal(path, machine.files);
+    };
+  }
   Text path = machine.dialogs.AskFile(dialog);
+  NoteFolderOf(path, app.state);
   machine.desktop.SetMousePointer(MousePointer::kDefault);
   box.Unload();
   return path;

@@ -26,10 +26,13 @@ const Text& CardTable::At(int row, int column) const {
 
 void CardTable::Set(int row, int column, Text value) {
   cells_[Offset(row, column)] = std::move(value);
+  changes_.Note(static_cast<std::size_t>(row));
 }
 
 CardTable::RowCells CardTable::Row(int row) {
-  return RowCells(&cells_[Offset(row, 0)], kColumns);
+  Text* const first = &cells_[Offset(row, 0)];
+  changes_.Note(static_cast<std::size_t>(row));
+  return RowCells(first, kColumns);
 }
 
 std::int16_t PresentFlags::At(int row) const {
@@ -38,6 +41,7 @@ std::int16_t PresentFlags::At(int row) const {
 
 void PresentFlags::Set(int row, std::int16_t flag) {
   flags_[RowOffset(row)] = flag;
+  changes_.Note(RowOffset(row));
 }
 
 }  // namespace tessara

@@ -38,6 +38,19 @@ enum InfoColumn : int {
   kInfoDescription = 9,
 };
 
+/// Counts the changes of a table, and tells for each row at which count it changed last. Storing
+/// what is there already counts too.
+class RowChanges {
+ public:
+  void Note(std::size_t row) { ofRow_[row] = ++count_; }
+  [[nodiscard]] std::uint64_t Count() const { return count_; }
+  [[nodiscard]] std::uint64_t Of(int row) const { return ofRow_[static_cast<std::size_t>(row)]; }
+
+ private:
+  std::uint64_t count_ = 0;
+  std::array<std::uint64_t, kRows> ofRow_{};
+};
+
 /// All cells of a deck, as text; unset and empty are the same. Column 3 holds the row's number
 /// as decimal text. A row or column outside the table raises error 9.
 class CardTable {
@@ -47,9 +60,11 @@ class CardTable {
   using RowCells = std::span<Text, kColumns>;
   /// The cells of a row, to be written.
   [[nodiscard]] RowCells Row(int row);
+  [[nodiscard]] const RowChanges& Changes() const { return changes_; }
 
  private:
   static std::size_t Offset(int row, int column);
+  RowChanges changes_;
   std::array<Text, static_cast<std::size_t>(kRows) * kColumns> cells_;
 };
 
@@ -58,8 +73,10 @@ class PresentFlags {
  public:
   [[nodiscard]] std::int16_t At(int row) const;
   void Set(int row, std::int16_t flag);
+  [[nodiscard]] const RowChanges& Changes() const { return changes_; }
 
  private:
+  RowChanges changes_;
   std::array<std::int16_t, kRows> flags_{};
 };
 

@@ -72,18 +72,22 @@ DeckRecord RecordOfRow(const ProgramState& state, int row) {
   return record;
 }
 
-void WriteRecords(const ProgramState& state, FileNumber& file, const CodePage& codePage) {
+bool WriteRecords(const ProgramState& state, FileNumber& file, const CodePage& codePage) {
+  bool whole = true;
   for (int row = kInfoRow; row < kRows; ++row) {
-    SkipErrors([&] {
+    whole &= SkipErrors([&] {
       file.Put(static_cast<std::uint64_t>(row) + 1,
                EncodeRecord(RecordOfRow(state, row), codePage));
     });
-    if (state.deck.cardPresent.At(row) == 0) return;
+    if (state.deck.cardPresent.At(row) == 0) break;
   }
+  return whole;
 }
 
 void LoadDeckFromFile(const Text& fileName, ProgramState& state, FileNumber& file,
                       const CodePage& codePage) {
+  // An import that an error has broken off leaves its text open.
+  file.Close();
   file.OpenRandom(fileName, OpenMode::kRead, kRecordSize);
   state.deck.cardCount = 0;
   ReadRecords(file, state, codePage);

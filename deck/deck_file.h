@@ -11,13 +11,14 @@ namespace tessara {
 [[nodiscard]] DeckRecord RecordOfRow(const ProgramState& state, int row);
 
 /// Writes a record for each row down to the first absent one, whose record is the terminator.
-/// A record that can't be written is skipped; no error is raised.
-void WriteRecords(const ProgramState& state, FileNumber& file, const CodePage& codePage);
+/// A record that can't be written is skipped; no error is raised. True where none was skipped.
+bool WriteRecords(const ProgramState& state, FileNumber& file, const CodePage& codePage);
 
 /// Reads the file into the table, the card count and the deck strings, and sets the current card
-/// to 1. Rows that the file does not name stay: the caller has emptied the table. Raises error 9
-/// for a number outside the table, 55 where the file number is in use, and the errors of a file;
-/// one that is raised while it reads leaves the file open.
+/// to 1. Rows that the file does not name stay: the caller has emptied the table. What the file
+/// number still holds is closed first. Raises error 9
+/// for a number outside the table, and the errors of a file; one that is raised while it reads
+/// leaves the file open.
 void LoadDeckFromFile(const Text& fileName, ProgramState& state, FileNumber& file,
                       const CodePage& codePage);
 

@@ -70,7 +70,8 @@ void DeckInfoWindow::OnLoad() {
 }
 
 void DeckInfoWindow::OnUnload(bool& /*cancel*/) {
-  deck_->SetEnabled(true);
+  // It may have outlived its deck: a window that is not there is not made for this.
+  if (deck_.IsLoaded()) deck_->SetEnabled(true);
 }
 
 void DeckInfoWindow::NoteChange() {

@@ -19,6 +19,7 @@ DeckLife::DeckLife(AppContext& app, FileNumber& fileNumber, Window<DeckInfoWindo
 
 void DeckLife::NewTessara() {
   ProgramState& state = State();
+  App().unsaved.Leave();
   ClearAllCards(state.deck);
   Card().SetCardTotal(u"0");
   Card().SetCardText(u"");
@@ -31,6 +32,7 @@ void DeckLife::NewTessara() {
   UpdateMoveButtons();
   printDeck.SetEnabled(false);
   flip.SetEnabled(false);
+  App().unsaved.Follow(UnsavedDeck::Table::kAsInFile);
 }
 
 void DeckLife::ShowTitle(CardMode mode) {

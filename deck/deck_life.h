@@ -55,6 +55,7 @@ class DeckLife : public Form {
   MenuEntry separatingCards{"mnuSC"};
 
   [[nodiscard]] bool ClosesFirst() const override { return true; }
+  [[nodiscard]] bool OccupiesFrame() const override { return true; }
 
   /// The large card.
   virtual CardDisplay& Card() = 0;
@@ -85,8 +86,8 @@ class DeckLife : public Form {
   void UpdateMoveButtons();
   /// The go-to command needs more than one card.
   void SetGoToMenu();
-  /// Brings up the window for the type of card 1 of the deck just loaded; an unknown letter
-  /// leaves everything as it was.
+  /// Brings up the window for the type of card 1 of the deck just loaded. Without a card, or with
+  /// an unknown letter, a window on screen and the deck's type stay as they were.
   void OpenViewOfFirstCard();
   /// The deck's name, two blanks and the mode in brackets.
   void ShowTitle(CardMode mode);
@@ -119,6 +120,9 @@ class DeckLife : public Form {
 
  private:
   [[nodiscard]] Text AskDeckFile(FileDialogMode mode);
+  /// Keeps the file that is there, and deletes it where the save does that first. False where it
+  /// could not be deleted.
+  bool MakeWay(const Text& fileName);
   /// Asks for the file that the deck is to be saved to. False where there is no answer; says so.
   bool ChooseFile();
 

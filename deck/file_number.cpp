@@ -1,5 +1,7 @@
 #include "deck/file_number.h"
 
+#include <utility>
+
 #include "base/run_time_error.h"
 
 namespace tessara {
@@ -23,6 +25,11 @@ void FileNumber::OpenFile(const Text& path, OpenMode mode, std::size_t recordLen
   file_ = files_.Open(path, mode);
   position_ = 0;
   recordLength_ = recordLength;
+}
+
+void FileNumber::Finish() {
+  const std::unique_ptr<File> file = std::move(file_);
+  if (file != nullptr) file->Close();
 }
 
 std::size_t FileNumber::GetNext(std::span<char> record) {

@@ -24,6 +24,8 @@ class FileNumber {
   /// Sequential reading starts over at the first byte.
   void Rewind() { position_ = 0; }
   void Close() { file_.reset(); }
+  /// Closes a file that was written. Raises the errors of a file where not all has arrived in it.
+  void Finish();
 
   /// Reads the next record into the front of `record`: its bytes, which are fewer for a short
   /// last one and 0 at the end of the file.

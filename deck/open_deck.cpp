@@ -1,5 +1,7 @@
 // How a deck comes from its file into the window.
 
+#include <optional>
+
 #include "deck/ask_file_name.h"
 #include "deck/card_type.h"
 #include "deck/deck_file.h"
@@ -47,12 +49,17 @@ void DeckLife::LoadAndShowDeck(const Text& fileName) {
 }
 
 void DeckLife::LoadDeck(const Text& fileName) {
+  App().unsaved.Leave();
   LoadDeckFromFile(fileName, State(), fileNumber_, App().machine.codePage);
+  App().unsaved.Follow(UnsavedDeck::Table::kAsInFile);
   printDeck.SetEnabled(true);
 }
 
 void DeckLife::OpenViewOfFirstCard() {
-  const auto kind = DeckKindOf(State().deck.Cell(1, kCardType));
+  std::optional<DeckKind> kind = DeckKindOf(State().deck.Cell(1, kCardType));
+  // A window that is not on screen yet comes up all the same, for the kind of the deck before.
+  if (!kind && !Visible())
+    kind = State().deck.kind == kExtendedDeck ? kExtendedDeck : kStandardDeck;
   if (kind == kExtendedDeck) {
     OpenExtendedView();
     ShowFirstCard(kExtendedDeck);

@@ -19,6 +19,11 @@ struct Settings {
   bool firstLoad = false;
 };
 
+/// What the file dialogs of a run hand on.
+struct FileDialogs {
+  Text folderUsedLast;  ///< of the file that was chosen last; empty before the first one
+};
+
 /// What the start hands on: the deck named on the command line.
 struct StartUp {
   Text commandLineFile;
@@ -55,6 +60,7 @@ struct ProgramState {
   Deck deck;
   Settings settings;
   StartUp start;
+  FileDialogs dialogs;
   Building building;
   Importing import;
   Printing printing;

@@ -53,7 +53,7 @@ void DeckLife::ChkSave() {
   const MessageAnswer reply =
       messages.Show(u"There have been changes to this Tessara.Do you want to save them?",
                     kQuestionIcon + kYesNo, u"Unsaved Changes: ");
-  if (reply != MessageAnswer::kYes) return;
+  if (reply != MessageAnswer::kYes) return App().unsaved.GivenUp();
   const bool asks = state.deck.filePath.empty();
   if (asks) state.deck.filePath = AskDeckFile(FileDialogMode::kSave);
   if (asks && NoAnswer(state.deck.filePath)) {
@@ -64,25 +64,52 @@ void DeckLife::ChkSave() {
   state.deck.changed = false;
 }
 
+bool DeckLife::MakeWay(const Text& fileName) {
+  Machine& machine = App().machine;
+  if (!State().deck.onFile) {
+    machine.copies.Keep(fileName, Loss::kWrittenOver);
+    return true;
+  }
+  machine.copies.Keep(fileName, Loss::kDeleted);
+  try {
+    machine.files.Delete(fileName);
+    return true;
+  } catch (const RunTimeError& error) {
+    if (error.Number() == ErrorNumber::kFileNotFound) return true;
+    // The file stays, and is written over instead.
+    machine.copies.Keep(fileName, Loss::kWrittenOver);
+    return false;
+  }
+}
+
 // Errors on its way skip the statement that failed and are not reported.
 void DeckLife::SaveTessaraToFile(const Text& fileName) {
   ProgramState& state = State();
   Machine& machine = App().machine;
   if (EmptyDeckRefused(state, machine.messages)) {
+    App().unsaved.Leave();
     ClearDeckInfo(state.deck);
     ClearAllCards(state.deck);
+    App().unsaved.Follow(UnsavedDeck::Table::kAsInFile);
     return;
   }
   if (fileName.empty()) {
     // The answer is not used: a deck without a path has nowhere to go.
     static_cast<void>(AskDeckFile(FileDialogMode::kSave));
   }
-  machine.copies.Keep(fileName);
-  if (state.deck.onFile) SkipErrors([&] { machine.files.Delete(fileName); });
+  bool whole = MakeWay(fileName);
   CollectDeckInfo(state, info_.Loaded());
-  SkipErrors([&] { fileNumber_.OpenRandom(fileName, OpenMode::kReadAndWrite, kRecordSize); });
-  WriteRecords(state, fileNumber_, machine.codePage);
+  // An import that an error has broken off leaves its text open.
   fileNumber_.Close();
+  whole &=
+      SkipErrors([&] { fileNumber_.OpenRandom(fileName, OpenMode::kReadAndWrite, kRecordSize); });
+  whole &= WriteRecords(state, fileNumber_, machine.codePage);
+  whole &= SkipErrors([&] { fileNumber_.Finish(); });
+  if (whole) {
+    App().unsaved.Saved();
+  } else {
+    App().unsaved.NotSaved(fileName);
+  }
   machine.messages.Show(u"This file has been saved to " + state.deck.filePath, kOkOnly, u"Save");
   ShowTitle(kStudyMode);
 }

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "forms/image_list.h"
-#include "forms/menu.h"
 
 namespace tessara {
 
@@ -18,8 +17,6 @@ class AppFrame {
   [[nodiscard]] virtual const ImageList& CardPictures() const = 0;
   /// The backdrop's tiles.
   [[nodiscard]] virtual const ImageList& BackdropTiles() const = 0;
-  /// The frame's own "File" menu.
-  virtual void EnableFileMenu(bool enabled) = 0;
   /// Unloads the About box, if it is loaded.
   virtual void CloseAbout() = 0;
   /// Unloads the start-up picture, if it is loaded.

@@ -103,7 +103,8 @@ class Form {
   /// The user has moved the window: a later assignment of a place counts from there.
   void UserMove(int left, int top);
   void UserFocus(Control& control);
-  /// Presses what carries the accelerator. False where nothing does.
+  /// Presses what carries the accelerator; where several do, the focus goes to the next of them.
+  /// False where nothing does.
   bool UserAccelerator(char16_t letter);
   /// Return and Escape press the default and the cancel button. False where there is none.
   bool UserReturn();
@@ -116,6 +117,9 @@ class Form {
   [[nodiscard]] virtual bool ShowsOnLoad() const { return false; }
   /// True for the window that may refuse to go: a closing frame asks it before all others.
   [[nodiscard]] virtual bool ClosesFirst() const { return false; }
+  /// True for a window that holds the user's work, or stands in for the one that does: with one of
+  /// them on screen the frame is not empty.
+  [[nodiscard]] virtual bool OccupiesFrame() const { return false; }
 
  protected:
   struct ControlSpec {
@@ -142,6 +146,8 @@ class Form {
   virtual void OnClick() {}
   virtual void OnMouseMove() {}
   virtual void OnLostFocus() {}
+  /// On the frame: another window has come on screen, to the front of it, or gone from it.
+  virtual void WindowsChanged() {}
 
  private:
   friend class Control;

@@ -1,28 +1,31 @@
-#include <algorithm>
-
 #include "forms/controls.h"
 #include "forms/form.h"
+#include "forms/shared_letter.h"
 #include "forms/window_system.h"
 
 namespace tessara {
 
 namespace {
 
-/// The control that an accelerator works on: a label, a frame or a disabled control has none.
-bool PressByAccelerator(Control& control) {
-  if (!control.Reachable()) return false;
+/// A label, a frame or a control that the user can't reach has no accelerator.
+bool Carries(const Control& control, char16_t letter) {
+  const ControlKind kind = control.Kind();
+  const bool pressable = kind == ControlKind::kButton || kind == ControlKind::kOptionButton ||
+                         kind == ControlKind::kCheckBox;
+  return pressable && control.Reachable() &&
+         static_cast<const CaptionedControl&>(control).Accelerator() == letter;
+}
+
+void Press(Control& control) {
   switch (control.Kind()) {
     case ControlKind::kButton:
-      static_cast<Button&>(control).Press();
-      return true;
+      return static_cast<Button&>(control).Press();
     case ControlKind::kOptionButton:
-      static_cast<OptionButton&>(control).Press();
-      return true;
+      return static_cast<OptionButton&>(control).Press();
     case ControlKind::kCheckBox:
-      static_cast<CheckBox&>(control).Press();
-      return true;
+      return static_cast<CheckBox&>(control).Press();
     default:
-      return false;
+      return;
   }
 }
 
@@ -87,12 +90,17 @@ void Form::MoveFocus(Control* control) {
 }
 
 bool Form::UserAccelerator(char16_t letter) {
-  const Text upper = UpperCase(TextView(&letter, 1));
-  return TakesInput() && std::any_of(controls_.begin(), controls_.end(), [&](Control* control) {
-           const auto* captioned = dynamic_cast<const CaptionedControl*>(control);
-           return captioned != nullptr && captioned->Accelerator() == upper.front() &&
-                  PressByAccelerator(*control);
-         });
+  if (!TakesInput()) return false;
+  const char16_t upper = UpperCase(TextView(&letter, 1)).front();
+  const auto target = TargetOfLetter(
+      controls_, focused_, [upper](const Control& control) { return Carries(control, upper); });
+  if (target.item == nullptr) return false;
+  if (target.alone) {
+    Press(*target.item);
+  } else {
+    UserFocus(*target.item);
+  }
+  return true;
 }
 
 bool Form::UserReturn() {

@@ -37,6 +37,22 @@ Text CutToRoom(Text inserted, std::size_t room) {
   return inserted;
 }
 
+/// The box's text after the edit, by the box's rules.
+Text Edited(const TextBox& box, const TextEdit& edit) {
+  Text text = box.TextOf();
+  const std::size_t place = std::min(edit.place, text.size());
+  const std::size_t removed = std::min(edit.removed, text.size() - place);
+  Text inserted = box.Owner().System().CodePageOf().Representable(edit.inserted);
+  inserted = box.MultiLine() ? WithLineBreaks(inserted)
+                             : inserted.substr(0, inserted.find_first_of(kLineBreak));
+  if (box.MaxLength() > 0) {
+    const std::size_t kept = text.size() - removed;
+    const auto limit = static_cast<std::size_t>(box.MaxLength());
+    inserted = CutToRoom(std::move(inserted), limit > kept ? limit - kept : 0);
+  }
+  return text.replace(place, removed, inserted);
+}
+
 }  // namespace
 
 void TextBox::SetText(const Text& text) {
@@ -59,19 +75,8 @@ int TextBox::LineCount() const {
 
 void TextBox::UserEdit(const TextEdit& edit) {
   if (locked_ || !TakesInput()) return;
-  const std::size_t place = std::min(edit.place, text_.size());
-  const std::size_t removed = std::min(edit.removed, text_.size() - place);
-  Text inserted = Owner().System().CodePageOf().Representable(edit.inserted);
-  inserted = multiLine_ ? WithLineBreaks(inserted)
-                        : inserted.substr(0, inserted.find_first_of(kLineBreak));
-  if (maxLength_ > 0) {
-    const std::size_t kept = text_.size() - removed;
-    const auto limit = static_cast<std::size_t>(maxLength_);
-    inserted = CutToRoom(std::move(inserted), limit > kept ? limit - kept : 0);
-  }
-  Text text = text_;
-  text.replace(place, removed, inserted);
-  SetText(text);
+  // A part of the event: a paste may be more than the memory holds.
+  Owner().System().Run([&] { SetText(Edited(*this, edit)); });
 }
 
 }  // namespace tessara

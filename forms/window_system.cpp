@@ -1,8 +1,10 @@
 #include "forms/window_system.h"
 
 #include <algorithm>
+#include <exception>
 #include <utility>
 
+#include "base/foreign_error.h"
 #include "base/run_time_error.h"
 #include "machine/message_box.h"
 
@@ -19,14 +21,13 @@ void WindowSystem::Run(const std::function<void()>& event) {
   try {
     event();
   } catch (const RunTimeError& error) {
-    Report(error);
-    Leave();
-    if (depth_ > 0) throw ProgramEnded(*exitStatus_);
-    return;
+    return EndBy(error);
   } catch (const ProgramEnded&) {
     Leave();
     if (depth_ > 0) throw;
     return;
+  } catch (const std::exception& foreign) {
+    return EndBy(RunTimeErrorOf(foreign));
   } catch (...) {
     Leave();
     throw;
@@ -34,15 +35,26 @@ void WindowSystem::Run(const std::function<void()>& event) {
   Leave();
 }
 
+void WindowSystem::EndBy(const RunTimeError& error) {
+  try {
+    // Shown while the event still counts as running, so that nothing is destroyed behind the box.
+    Report(error);
+  } catch (const std::exception&) {
+    // No memory for the box, or the program has ended behind it.
+  }
+  EndProgram(1);
+  Leave();
+  if (depth_ > 0) throw ProgramEnded(*exitStatus_);
+}
+
 void WindowSystem::Report(const RunTimeError& error) {
-  // Shown while the event still counts as running, so that nothing is destroyed behind the box.
   messages_.Show(u"Run-time error '" + DecimalText(static_cast<long>(error.Number())) + u"':" +
                      Text(kLineBreak) + Text(kLineBreak) + error.Description(),
                  kStopIcon, Text(kProgramName));
-  EndProgram(1);
 }
 
 void WindowSystem::Leave() {
+  if (depth_ == 1 && afterEvent_) afterEvent_();
   if (--depth_ > 0) return;
   while (!buried_.empty()) {
     auto last = std::move(buried_.back());
@@ -76,6 +88,11 @@ Form* WindowSystem::FrameForm() const {
   return found == loaded_.end() ? nullptr : *found;
 }
 
+bool WindowSystem::FrameIsEmpty() const {
+  return std::none_of(order_.begin(), order_.end(),
+                      [](const Form* form) { return form->OccupiesFrame(); });
+}
+
 void WindowSystem::Add(Form& form) {
   loaded_.push_back(&form);
 }
@@ -100,13 +117,21 @@ void WindowSystem::BringForward(Form& form) {
   const Front before = InFront();
   std::erase(order_, &form);
   order_.push_back(&form);
+  TellFrame();
   FrontMayHaveChanged(before);
 }
 
 void WindowSystem::Drop(Form& form) {
   const Front before = InFront();
   std::erase(order_, &form);
+  TellFrame();
   FrontMayHaveChanged(before);
+}
+
+/// Before any event that the change causes: it may wait for the user.
+void WindowSystem::TellFrame() const {
+  Form* frame = FrameForm();
+  if (frame != nullptr) frame->WindowsChanged();
 }
 
 void WindowSystem::FrontMayHaveChanged(const Front& front) {
@@ -122,11 +147,12 @@ void WindowSystem::FrontMayHaveChanged(const Front& front) {
 
 /// The order is that of the windows' loading, but for the one that may refuse.
 bool WindowSystem::CloseFrame(Form& frame) {
-  const std::vector<Form*> others(loaded_);
-  const auto first = std::find_if(others.begin(), others.end(),
+  const auto first = std::find_if(loaded_.begin(), loaded_.end(),
                                   [](const Form* form) { return form->ClosesFirst(); });
-  if (first != others.end() && !(*first)->Unload()) return false;
+  if (first != loaded_.end() && !(*first)->Unload()) return false;
   closingFrame_ = true;
+  // Not before: the first to go may have brought up another, as a save does. From here on none can.
+  const std::vector<Form*> others(loaded_);
   for (Form* form : others) {
     const bool stands = std::find(loaded_.begin(), loaded_.end(), form) != loaded_.end();
     if (form != &frame && stands) form->Unload();

@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "forms/form.h"
@@ -24,13 +25,16 @@ class WindowSystem {
   ~WindowSystem();
 
   void SetRenderer(Renderer& renderer) { renderer_ = &renderer; }
+  /// Runs, and raises nothing, at the end of each event that is inside no other.
+  void SetAfterEvent(std::function<void()> afterEvent) { afterEvent_ = std::move(afterEvent); }
   [[nodiscard]] Renderer& RendererOf() const { return *renderer_; }
   [[nodiscard]] const CodePage& CodePageOf() const { return codePage_; }
 
   /// Runs an event. A run-time error that it lets out is shown in the error report box, and then
   /// the program ends with status 1: the renderer is told, and ProgramEnded leaves all events but
-  /// the outermost. Neither error ever leaves that one. Once the program has ended, a new
-  /// outermost event does not run.
+  /// the outermost. Neither error ever leaves that one. An exception of the standard library counts
+  /// as the run-time error that it comes to. Once the program has ended, a new outermost event does
+  /// not run.
   void Run(const std::function<void()>& event);
   /// The exit status once the program has ended.
   [[nodiscard]] std::optional<int> ExitStatus() const { return exitStatus_; }
@@ -46,11 +50,15 @@ class WindowSystem {
   /// Loaded windows in the order of their loading.
   [[nodiscard]] const std::vector<Form*>& LoadedForms() const { return loaded_; }
   [[nodiscard]] Form* FrameForm() const;
+  /// True while no window that occupies the frame is on screen.
+  [[nodiscard]] bool FrameIsEmpty() const;
 
  private:
   friend class Form;
   friend class FormSlot;
 
+  /// Reports the error that the event now running has let out, and ends the program.
+  void EndBy(const RunTimeError& error);
   void Report(const RunTimeError& error);
   void Leave();
   void Add(Form& form);
@@ -69,11 +77,13 @@ class WindowSystem {
   };
   [[nodiscard]] Front InFront() const { return {ActiveForm(), ActiveChild()}; }
   void FrontMayHaveChanged(const Front& front);
+  void TellFrame() const;
   bool CloseFrame(Form& frame);
 
   MessageBoxes& messages_;
   const CodePage& codePage_;
   Renderer* renderer_ = nullptr;
+  std::function<void()> afterEvent_;
   std::vector<Form*> loaded_;
   std::vector<Form*> order_;  ///< windows on screen, the frame apart; the last is the active one
   std::vector<Form*> modals_;

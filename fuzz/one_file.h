@@ -35,6 +35,7 @@ class OneFile : public FileSystem {
     return std::make_unique<BytesFile>(bytes_);
   }
   void Delete(const Text&) override {}
+  void TrySaving(const Text&) override {}
   std::optional<Text> EntryName(const Text& path) override { return path; }
 
  private:

@@ -53,7 +53,9 @@ void ImportTextFile(AppContext& app, FileNumber& fileNumber, Window<DeckLife> de
     return;
   }
   const auto importDeck = extended ? ImportExtended : ImportStandard;
+  app.unsaved.Leave();
   importDeck(path, ContextOf(app, fileNumber, deck));
+  app.unsaved.Follow(UnsavedDeck::Table::kChanged);
   // Whether or not it has worked.
   app.state.deck.saveOffered = true;
   // The window has come up before its deck was a changed one.

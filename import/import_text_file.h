@@ -9,7 +9,7 @@ namespace tessara {
 
 /// The command that makes a deck from a text file of the user's choice, in either format. It asks
 /// nothing about changes. Raises the errors of a file that can't be opened or is empty (62), and
-/// 55 where an earlier import has left the file open.
+/// 55 where an earlier import has left the file open and no save or load has closed it since.
 void ImportTextFile(AppContext& app, FileNumber& fileNumber, Window<DeckLife> deck);
 
 }  // namespace tessara

@@ -23,6 +23,10 @@ class Desktop {
   virtual int Open(const Text& target, const Text& folder, ShowState state) = 0;
   /// Shows a compiled help file with its table of contents; a missing one is silent.
   virtual void ShowHelp(const Text& path) = 0;
+  /// Tells the user something without a window: nothing waits for an answer.
+  virtual void Notify(const Text& title, const Text& text) = 0;
+  /// The user's folder for documents, or the home where there is none.
+  [[nodiscard]] virtual Text DocumentsFolder() const = 0;
   virtual void SetMousePointer(MousePointer pointer) = 0;
   /// Hands control to the window system's queue once.
   virtual void Yield() = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include "base/text.h"
@@ -19,6 +20,9 @@ struct FileDialogRequest {
   int filterIndex = 1;  ///< which pair is chosen at first, from 1
   int flags = 0;
   Text initialFolder;
+  /// Why no file can be saved at a path, in words for the user; empty where one can. The dialog
+  /// tells the words and stays; without this function it takes every path.
+  std::function<Text(const Text& path)> refusal;
 };
 
 /// Where a print job goes.

@@ -98,7 +98,6 @@ void PrintWindow::OnLoad() {
   cards.SetColumnWidth(kTextColumn, besideNumbers - kScrollBarWidth);
   SetCaption(u"Print Cards");
   deck_->Hide();
-  app_.frame.EnableFileMenu(false);
   ShowAvailable();
   flatOnly.SetVisible(!app_.state.printing.canPrintCards);
   if (!app_.state.printing.canPrintCards) FlatPrintOnly();
@@ -107,7 +106,6 @@ void PrintWindow::OnLoad() {
 
 void PrintWindow::OnUnload(bool& /*cancel*/) {
   deck_->Show();
-  app_.frame.EnableFileMenu(true);
 }
 
 void PrintWindow::OnClick() {

@@ -42,6 +42,8 @@ class PrintWindow : public Form {
   Line leftEdge{"Line2"};
   Line rightEdge{"Line3"};
 
+  [[nodiscard]] bool OccupiesFrame() const override { return true; }
+
   /// True where every item is ticked.
   [[nodiscard]] bool AllChecked() const;
   /// The number of ticked items.

@@ -3,13 +3,14 @@
 
 usage: first_card.py PICTURE PROGRAM [ARGUMENT...]     on the display that DISPLAY names
 """
-import os
-import re
 import subprocess
 import sys
 import time
 
-from PIL import ImageChops, ImageGrab
+from PIL import ImageChops
+
+import program_end
+import screen_picture
 
 SECONDS_TO_PAINT = 60
 SECONDS_BETWEEN_LOOKS = 0.1
@@ -30,20 +31,9 @@ def windows_of(program):
     return dict(zip(numbers, titles))
 
 
-def box_of(window):
-    """Left, top, right and bottom of a window without its border; None once it has gone away."""
-    told = subprocess.run(["xwininfo", "-id", window], capture_output=True, text=True).stdout
-    try:
-        left, top, width, height = (int(re.search(rf"{name}: +(-?\d+)", told)[1]) for name in
-                                    ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
-    except TypeError:
-        return None
-    return left, top, left + width, top + height
-
-
 def frame_box(program):
     """The frame's place on screen, None while it is not there."""
-    return next((box_of(number) for number, title in windows_of(program).items() if title == FRAME), None)
+    return next((screen_picture.box_of(number) for number, title in windows_of(program).items() if title == FRAME), None)
 
 
 def refuse_boxes(program):
@@ -63,11 +53,11 @@ def wait_for_painted(program):
     deadline = time.monotonic() + SECONDS_TO_PAINT
     while time.monotonic() < deadline:
         if program.poll() is not None:
-            raise NotShown(f"The program ended with status {program.returncode} before its window was painted.")
+            raise NotShown(f"The program ended with {program_end.name_of(program.returncode)} before its window was painted.")
         picture = None
         box = frame_box(program)
         if box:
-            picture = ImageGrab.grab(xdisplay=os.environ["DISPLAY"]).crop(box)
+            picture = screen_picture.of_screen().crop(box)
             if (earlier and earlier.size == picture.size and is_painted(picture)
                     and not ImageChops.difference(earlier, picture).getbbox()):
                 refuse_boxes(program)
@@ -82,10 +72,11 @@ def main():
     program = subprocess.Popen(command)
     try:
         wait_for_painted(program).save(path)
-    except NotShown as missed:
+        program_end.end(program)
+    except (NotShown, program_end.WrongEnd) as missed:
         sys.exit(str(missed))
     finally:
-        program.terminate()
+        program.kill()
         program.wait()
 
 

@@ -13,12 +13,17 @@ export HOME LC_ALL=C.UTF-8
 unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_STATE_HOME XDG_CACHE_HOME
 program=
 window=
+readonly endedBySigterm=143
+
+# A program that has ended before, or in another way, has broken down.
 end_program() {
-  [ -z "$program" ] || kill "$program" 2>/dev/null || true
-  wait 2>/dev/null || true
+  local status=0
+  kill "$program" 2>/dev/null || true
+  wait "$program" 2>/dev/null || status=$?
   program=
+  [ $status = $endedBySigterm ] || { echo "The program ended with status $status." >&2; exit 1; }
 }
-trap 'end_program; rm -rf "$HOME"' EXIT
+trap '[ -z "$program" ] || kill "$program" 2>/dev/null; rm -rf "$HOME"' EXIT
 
 # settings MAIN_COLOR MAIN_3D SMALL_COLOR SMALL_3D
 settings() {
@@ -74,7 +79,7 @@ builder() {
 
 take() {
   sleep 0.3
-  import -window "$window" -strip "$pictures/$1.png"
+  "$root/scripts/screen_picture.py" "$pictures/$1.png" "$window"
 }
 
 capitals=$build/samples/capitals.tsr
@@ -84,12 +89,7 @@ settings 0 1 0 1
 open
 press alt+c
 xdotool mousemove --window "$window" $file 9 click 1
-sleep 0.3
-# An opened menu is a window of its own: off the screen, as it looks.
-place=$(xwininfo -id "$window" | awk '
-  /Absolute upper-left/ { at = at "+" $NF } /Width:/ { width = $NF } /Height:/ { height = $NF }
-  END { print width "x" height at }')
-import -window root -crop "$place" +repage -strip "$pictures/frame.png"
+take frame
 press Escape
 end_program
 

@@ -10,10 +10,12 @@
 #include <system_error>
 
 #include "adapters/freedesktop/document_registry.h"
+#include "adapters/freedesktop/notifications.h"
 #include "adapters/freedesktop/update_tools.h"
 #include "adapters/freedesktop/user_folders.h"
 #include "adapters/libreoffice/loader/loaded_spreadsheet.h"
 #include "adapters/posix/code_page_of_locale.h"
+#include "adapters/posix/file_size_signal.h"
 #include "adapters/posix/posix_clock.h"
 #include "adapters/posix/posix_file_system.h"
 #include "adapters/posix/posix_safety_copies.h"
@@ -86,7 +88,9 @@ int RunTessara(int argc, char** argv) {
   QtMessageBoxes messages;
   QtDialogs dialogs(printing);
   QtSettingsStore settings;
-  QtDesktop desktop([&folderText](const Text& path) { ShowHelpWithModule(folderText, path); });
+  QtDesktop desktop(
+      [&folderText](const Text& path) { ShowHelpWithModule(folderText, path); },
+      [&folder](const Text& title, const Text& text) { NotifyUser(folder, title, text); });
   DocumentRegistry classes({UserDataFolder(), folder, "tessara"}, StartUpdateTools);
   LoadedSpreadsheet spreadsheet(folderText);
   Machine machine{messages, dialogs, settings,    files,   copies,   clock,
@@ -108,5 +112,6 @@ int main(int argc, char** argv) {
   std::setlocale(LC_ALL, "");
   // A spreadsheet server that dies is an error of the job, not the end of the program.
   std::signal(SIGPIPE, SIG_IGN);
+  tessara::SurviveFileSizeLimit();
   return tessara::RunTessara(argc, argv);
 }

@@ -13,10 +13,13 @@
 namespace tessara {
 
 Program::Program(Machine& machine)
-    : machine_(machine),
-      windows_(machine.messages, machine.codePage),
-      fileNumber_(machine.files),
-      spreadsheetJob_(machine),
+    : unsaved_(state_, machine),
+      messages_(machine.messages, unsaved_),
+      dialogs_(machine.dialogs, unsaved_),
+      machine_(WithKeeping(machine)),
+      windows_(messages_, machine.codePage),
+      fileNumber_(machine_.files),
+      spreadsheetJob_(machine_),
       cardPictures_(MakeCardPictures()),
       backdropTiles_(MakeBackdropTiles()),
       frameSlot_(windows_,
@@ -40,7 +43,15 @@ Program::Program(Machine& machine)
       setUpSlot_(windows_, [this] { return std::make_unique<SetUpWindow>(app_); }),
       aboutSlot_(windows_, [this] { return std::make_unique<AboutBox>(app_); }),
       surfaceSlot_(windows_, [this] { return std::make_unique<BackdropSurface>(windows_); }),
-      splashSlot_(windows_, [this] { return std::make_unique<Splash>(windows_); }) {}
+      splashSlot_(windows_, [this] { return std::make_unique<Splash>(windows_); }) {
+  windows_.SetAfterEvent([this] { unsaved_.EventEnds(); });
+}
+
+Machine Program::WithKeeping(Machine& given) {
+  return {messages_,         dialogs_,      given.settings, given.files,
+          given.copies,      given.clock,   given.desktop,  given.classes,
+          given.spreadsheet, given.printer, given.codePage, given.programFolder};
+}
 
 std::unique_ptr<DeckWindow> Program::MakeDeckWindow() {
   auto deck = std::make_unique<DeckWindow>(app_, fileNumber_, InfoWindow());
@@ -53,10 +64,6 @@ std::unique_ptr<DeckWindow> Program::MakeDeckWindow() {
   deck->about.onClick = [this] { FrameWindow()->ShowAbout(); };
   deck->separatingCards.onClick = [this] { FrameWindow()->ShowInstructions(); };
   return deck;
-}
-
-void Program::EnableFileMenu(bool enabled) {
-  FrameWindow()->fileMenu.SetEnabled(enabled);
 }
 
 void Program::Main(const Text& commandLine) {
@@ -74,7 +81,8 @@ bool Program::RefuseSecondInstance() {
 
 void Program::Start(const Text& commandLine) {
   if (RefuseSecondInstance()) return;
-  if (!commandLine.empty()) state_.start.commandLineFile = commandLine;
+  const Text path = TellOfLeftDecks(machine_, commandLine);
+  if (!path.empty()) state_.start.commandLineFile = path;
   LoadProgramSettings(machine_.settings, state_);
   state_.printing.canPrintCards = spreadsheetJob_.TestSpreadsheetServer();
   if (state_.settings.firstLoad) RegisterDocumentType(machine_);

@@ -7,6 +7,7 @@
 #include "deck/app_context.h"
 #include "deck/deck_info_window.h"
 #include "deck/file_number.h"
+#include "deck/keeping_boxes.h"
 #include "forms/window.h"
 #include "forms/window_system.h"
 #include "printing/print_window.h"
@@ -61,7 +62,6 @@ class Program : private AppFrame {
   }
   [[nodiscard]] const ImageList& CardPictures() const override { return cardPictures_; }
   [[nodiscard]] const ImageList& BackdropTiles() const override { return backdropTiles_; }
-  void EnableFileMenu(bool enabled) override;
   void CloseAbout() override { aboutSlot_.Unload(); }
   void CloseSplash() override { splashSlot_.Unload(); }
 
@@ -70,14 +70,20 @@ class Program : private AppFrame {
   void PlaceEmptyDeckWindow();
   std::unique_ptr<DeckWindow> MakeDeckWindow();
 
-  Machine& machine_;
-  WindowSystem windows_;
+  /// The machine that was given, with boxes and dialogs that keep the unsaved deck.
+  [[nodiscard]] Machine WithKeeping(Machine& given);
+
   ProgramState state_;
+  UnsavedDeck unsaved_;
+  KeepingMessages messages_;
+  KeepingDialogs dialogs_;
+  Machine machine_;
+  WindowSystem windows_;
   FileNumber fileNumber_;
   SpreadsheetJob spreadsheetJob_;
   ImageList cardPictures_;
   ImageList backdropTiles_;
-  AppContext app_{windows_, machine_, state_, *this};
+  AppContext app_{windows_, machine_, state_, *this, unsaved_};
 
   WindowSlot<ProgramFrame> frameSlot_;
   WindowSlot<DeckWindow> deckSlot_;

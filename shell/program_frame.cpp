@@ -111,7 +111,9 @@ void ProgramFrame::NewExtendedDeck() {
 
 void ProgramFrame::OpenExistingDeck() {
   ProgramState& state = app_.state;
+  app_.unsaved.Leave();
   ClearAllCards(state.deck);
+  app_.unsaved.Follow(UnsavedDeck::Table::kAsInFile);
   const Text path = AskFileName(FileDialogMode::kOpen, kDeckFilter, app_);
   if (NoAnswer(path) || !IsDeckFileName(path, state, app_.machine.messages)) return;
   state.deck.filePath = path;

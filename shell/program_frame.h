@@ -4,6 +4,7 @@
 #include "deck/file_number.h"
 #include "forms/form.h"
 #include "forms/window.h"
+#include "forms/window_system.h"
 #include "shell/about_box.h"
 #include "shell/backdrop.h"
 #include "shell/set_up_window.h"
@@ -58,6 +59,8 @@ class ProgramFrame : public Form {
   void OnLoad() override;
   void OnClick() override { windows_.about.Unload(); }
   void OnUnload(bool& cancel) override;
+  /// The file menu is for the empty frame: its commands fill the table, and ask nothing.
+  void WindowsChanged() override { fileMenu.SetEnabled(System().FrameIsEmpty()); }
 
  private:
   void PlaceMenuEntries();

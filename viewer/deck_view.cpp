@@ -42,7 +42,12 @@ void DeckWindow::OpenExtendedView() {
   State().deck.kind = kExtendedDeck;
   OfferFlip(FlipAction::kShowAnswer);
   ChkModeMenu(kStudyMode);
-  OfferNext({&arrows[kNextCard]});
+  // Without a second card the arrow still works here, but not much longer.
+  if (State().deck.cardCount > 1) {
+    OfferNext({&arrows[kNextCard]});
+  } else {
+    OfferNext({&card});
+  }
 }
 
 void DeckWindow::ShowFirstCard(std::int32_t kind) {

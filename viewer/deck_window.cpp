@@ -20,6 +20,12 @@ constexpr int kInfoWidth = 6270;
 constexpr TextView kNextOrScoreName = u"Next Question, Show Score";
 constexpr Bounds kUnderTheCard = {120, 3855, 4860, 1635};
 
+/// True where the focus can stay: on something in reach, and not where a blank closes the deck.
+bool FocusMayStay(const DeckWindow& window) {
+  const Control* focused = window.FocusedControl();
+  return focused != nullptr && focused->Reachable() && focused != &window.closeDeck;
+}
+
 }  // namespace
 
 DeckWindow::DeckWindow(AppContext& app, FileNumber& fileNumber, Window<DeckInfoWindow> info)
@@ -100,7 +106,10 @@ void DeckWindow::WireControls() {
 }
 
 void DeckWindow::WireMenus() {
-  clearDeck.onClick = [this] { ClearDeck(); };
+  clearDeck.onClick = [this] {
+    ClearDeck();
+    KeepFocusInReach();
+  };
   openDeck.onClick = [this] { OpenDeck(); };
   deleteCard.onClick = [this] { DeleteCard(); };
   saveDeck.onClick = [this] { SaveDeck(); };
@@ -141,6 +150,7 @@ void DeckWindow::OnActivate() {
   modeMenu.SetEnabled(state.deck.HasCards());
   clearDeck.SetEnabled(state.deck.HasCards());
   printDeck.SetEnabled(state.deck.cardCount >= 1);
+  if (!FocusMayStay(*this)) OfferNext({&arrows[kNextCard], &card});
 }
 
 void DeckWindow::OnResize() {
@@ -175,9 +185,7 @@ void DeckWindow::OfferNext(std::initializer_list<Control*> controls) {
 }
 
 void DeckWindow::KeepFocusInReach() {
-  const Control* focused = FocusedControl();
-  if (focused != nullptr && focused->Reachable()) return;
-  OfferNext({&arrows[kNextCard], &arrows[kPreviousCard]});
+  if (!FocusMayStay(*this)) OfferNext({&arrows[kNextCard], &arrows[kPreviousCard], &card});
 }
 
 }  // namespace tessara

@@ -134,7 +134,7 @@ class DeckWindow : public DeckLife {
   /// The focus goes to the first of these that the user can reach: what the next step needs.
   void OfferNext(std::initializer_list<Control*> controls);
   void OfferChoices();
-  /// Where what had the focus has gone off, an arrow that still works gets it.
+  /// Where what had the focus has gone off, an arrow that still works gets it, else the card.
   void KeepFocusInReach();
 };
 

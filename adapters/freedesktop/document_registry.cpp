@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "adapters/freedesktop/document_files.h"
+#include "base/folder_entries.h"
 #include "base/utf8.h"
 
 namespace tessara {
@@ -36,8 +37,9 @@ void WriteFile(const fs::path& path, const std::string& content) {
 
 /// Each file by itself: one that fails does not keep the others away.
 void CopyFiles(const fs::path& from, const fs::path& to) {
-  for (const fs::directory_entry& entry : fs::recursive_directory_iterator(from)) {
-    if (!entry.is_regular_file()) continue;
+  std::error_code unread;
+  for (const fs::directory_entry& entry : EntriesBelow(from, unread)) {
+    if (!entry.is_regular_file(unread)) continue;
     const std::string bytes = BytesOf(entry.path());
     if (!bytes.empty()) WriteFile(to / entry.path().lexically_relative(from), bytes);
   }

@@ -7,6 +7,7 @@
 #include <system_error>
 #include <unistd.h>
 
+#include "base/folder_entries.h"
 #include "base/run_time_error.h"
 
 namespace tessara {
@@ -31,8 +32,8 @@ bool LeftBehind(const std::string& name) {
 }
 
 void SweepLeftBehind(const fs::path& parent) {
-  std::error_code error;
-  for (const fs::directory_entry& entry : fs::directory_iterator(parent, error)) {
+  std::error_code unread;
+  for (const fs::directory_entry& entry : EntriesOf(parent, unread)) {
     std::error_code none;  // somebody else's stays
     if (LeftBehind(entry.path().filename().string())) fs::remove_all(entry.path(), none);
   }

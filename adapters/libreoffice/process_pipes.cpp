@@ -6,6 +6,8 @@
 #include <string>
 #include <system_error>
 
+#include "base/folder_entries.h"
+
 namespace tessara {
 
 namespace {
@@ -15,9 +17,8 @@ namespace fs = std::filesystem;
 /// What the system calls the sockets that the process has open: "socket:[NUMBER]".
 std::set<std::string> SocketsOf(pid_t process) {
   std::set<std::string> sockets;
-  std::error_code error;
-  for (const auto& entry :
-       fs::directory_iterator("/proc/" + std::to_string(process) + "/fd", error)) {
+  std::error_code gone;
+  for (const auto& entry : EntriesOf("/proc/" + std::to_string(process) + "/fd", gone)) {
     std::error_code none;
     sockets.insert(fs::read_symlink(entry.path(), none).string());
   }

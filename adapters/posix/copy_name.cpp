@@ -9,22 +9,34 @@ namespace tessara {
 
 namespace {
 
-/// The moment in a name, with 0 for any digit: day, time, thousandths of a second.
-constexpr std::string_view kMomentPattern = " 0000-00-00 00-00-00-000";
+/// The moment in a name, with 0 for any digit: day, time, and the hyphen before the number.
+constexpr std::string_view kMomentPattern = " 0000-00-00 00-00-00-";
+constexpr std::size_t kLeastDigits = 4;
+constexpr std::size_t kMostDigits = 12;
+constexpr std::size_t kDigitsOfThousandths = 3;
 constexpr std::size_t kLongestName = 255;
 /// What is longer behind the last point is no extension, but part of a name with points.
 constexpr std::size_t kLongestExtension = 16;
+constexpr std::string_view kDeckExtension = ".tsr";
+constexpr std::string_view kUnsavedStart = " (unsaved ";
+constexpr std::string_view kUnsavedEnd = ").tsr";
+
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
 
 std::string MomentText(Moment moment) {
-  using std::chrono::milliseconds;
   const std::time_t seconds = std::chrono::system_clock::to_time_t(moment);
-  const auto since = std::chrono::duration_cast<milliseconds>(moment.time_since_epoch()).count();
   std::tm parts{};
   localtime_r(&seconds, &parts);
   std::array<char, 64> text{};
   const std::size_t length = std::strftime(text.data(), text.size(), " %Y-%m-%d %H-%M-%S-", &parts);
-  const std::string thousandths = std::to_string(since % 1000);
-  return std::string(text.data(), length) + std::string(3 - thousandths.size(), '0') + thousandths;
+  return {text.data(), length};
+}
+
+std::string NumberText(std::uint64_t number) {
+  const std::string digits = std::to_string(number);
+  return std::string(kLeastDigits - std::min(kLeastDigits, digits.size()), '0') + digits;
 }
 
 std::size_t ExtensionStart(const std::string& name) {
@@ -43,31 +55,84 @@ std::string Shortened(const std::string& text, std::size_t longest) {
   return text.substr(0, longest);
 }
 
+std::string Joined(const std::string& stem, const std::string& ending) {
+  return Shortened(stem, kLongestName - ending.size()) + ending;
+}
+
 bool IsMoment(std::string_view text) {
   return std::equal(
       text.begin(), text.end(), kMomentPattern.begin(), kMomentPattern.end(),
-      [](char c, char pattern) { return pattern == '0' ? c >= '0' && c <= '9' : c == pattern; });
+      [](char c, char pattern) { return pattern == '0' ? IsDigit(c) : c == pattern; });
+}
+
+/// The digits that the text begins with.
+std::string_view DigitsOf(std::string_view text) {
+  const auto* const end = std::find_if_not(text.begin(), text.end(), IsDigit);
+  return text.substr(0, static_cast<std::size_t>(end - text.begin()));
+}
+
+/// Nothing for digits that are no number of a copy.
+std::optional<std::uint64_t> NumberOf(std::string_view digits) {
+  if (digits.size() == kDigitsOfThousandths) return 0;
+  if (digits.size() < kLeastDigits || digits.size() > kMostDigits) return std::nullopt;
+  return std::stoull(std::string(digits));
+}
+
+std::string StemOfDeck(const std::string& fileName) {
+  const bool deck = fileName.ends_with(kDeckExtension);
+  return fileName.substr(0, fileName.size() - (deck ? kDeckExtension.size() : 0));
+}
+
+/// A process and a number, with a hyphen between them.
+bool IsOfProcess(std::string_view text) {
+  const std::string_view process = DigitsOf(text);
+  if (process.empty() || !text.substr(process.size()).starts_with('-')) return false;
+  const std::string_view number = text.substr(process.size() + 1);
+  return !number.empty() && DigitsOf(number) == number;
 }
 
 }  // namespace
 
-std::string CopyName(const std::string& fileName, Moment moment) {
+std::string CopyName(const std::string& fileName, Moment moment, std::uint64_t number) {
   const std::size_t stemLength = ExtensionStart(fileName);
-  const std::string extension = fileName.substr(stemLength);
-  const std::string stem = Shortened(fileName.substr(0, stemLength),
-                                     kLongestName - kMomentPattern.size() - extension.size());
-  return stem + MomentText(moment) + extension;
+  return Joined(fileName.substr(0, stemLength),
+                MomentText(moment) + NumberText(number) + fileName.substr(stemLength));
 }
 
-std::optional<std::string> NameWithoutMoment(const std::string& copyName) {
+std::optional<NamedCopy> ReadCopyName(const std::string& copyName) {
   const std::size_t length = kMomentPattern.size();
   if (copyName.size() < length) return std::nullopt;
+  const std::string_view name = copyName;
   // The last one: a copy's copy has two.
-  for (std::size_t at = copyName.size() - length + 1; at-- > 0;) {
-    if (!IsMoment(std::string_view(copyName).substr(at, length))) continue;
-    return copyName.substr(0, at) + copyName.substr(at + length);
+  for (std::size_t at = name.size() - length + 1; at-- > 0;) {
+    if (!IsMoment(name.substr(at, length))) continue;
+    const std::string_view digits = DigitsOf(name.substr(at + length));
+    const auto number = NumberOf(digits);
+    if (!number) continue;
+    return NamedCopy{copyName.substr(0, at) + copyName.substr(at + length + digits.size()),
+                     *number};
   }
   return std::nullopt;
+}
+
+std::string NotSavedName(const std::string& fileName) {
+  return StemOfDeck(fileName) + " not saved" + std::string(kDeckExtension);
+}
+
+std::string UnsavedName(const std::string& fileName, pid_t process, int number) {
+  return Joined(StemOfDeck(fileName), std::string(kUnsavedStart) + std::to_string(process) + "-" +
+                                          std::to_string(number) + std::string(kUnsavedEnd));
+}
+
+std::optional<std::string> ReadUnsavedName(const std::string& name) {
+  const std::size_t start = name.rfind(kUnsavedStart);
+  if (start == std::string::npos || !name.ends_with(kUnsavedEnd)) return std::nullopt;
+  const std::size_t process = start + kUnsavedStart.size();
+  const std::size_t end = name.size() - kUnsavedEnd.size();
+  const bool given =
+      process <= end && IsOfProcess(std::string_view(name).substr(process, end - process));
+  if (!given) return std::nullopt;
+  return name.substr(0, start) + std::string(kDeckExtension);
 }
 
 }  // namespace tessara

@@ -6,6 +6,8 @@
 #include <sys/stat.h>
 #include <utility>
 
+#include "base/folder_entries.h"
+
 namespace tessara {
 
 namespace fs = std::filesystem;
@@ -43,24 +45,30 @@ int NewFile::OpenFile(Kind kind) {
 }
 
 void NewFile::NameIt(const std::string& name) {
-  Checked(Uninterrupted([this] { return fsync(Get()); }));
-  TakeName(folder_ / name);
+  Force();
+  TakeName(name);
   SyncFolder(folder_);
 }
 
-void NewFile::TakeName(const fs::path& path) {
-  if (!hidden_.empty()) {
-    Checked(rename(hidden_.c_str(), path.c_str()));
-    hidden_.clear();
-    return;
-  }
+void NewFile::Force() const {
+  Checked(Uninterrupted([this] { return fsync(Get()); }));
+}
+
+void NewFile::TakePlaceOf(const std::string& name) {
+  Checked(rename(hidden_.c_str(), (folder_ / name).c_str()));
+  hidden_.clear();
+}
+
+void NewFile::TakeName(const std::string& name) {
+  if (!hidden_.empty()) return TakePlaceOf(name);
   const std::string open = "/proc/self/fd/" + std::to_string(Get());
-  Checked(linkat(AT_FDCWD, open.c_str(), AT_FDCWD, path.c_str(), AT_SYMLINK_FOLLOW));
+  Checked(linkat(AT_FDCWD, open.c_str(), AT_FDCWD, (folder_ / name).c_str(), AT_SYMLINK_FOLLOW));
 }
 
 void NewFile::RemoveUnfinished(const fs::path& folder) {
   const auto recent = fs::file_time_type::clock::now() - std::chrono::hours(1);
-  for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
+  std::error_code unread;
+  for (const fs::directory_entry& entry : EntriesOf(folder, unread)) {
     if (!entry.path().filename().string().starts_with(kHiddenName)) continue;
     std::error_code vanished;
     if (entry.last_write_time(vanished) < recent && !vanished) fs::remove(entry, vanished);

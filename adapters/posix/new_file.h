@@ -26,13 +26,19 @@ class NewFile {
   /// Brings what was written to the disk, then the file to its name, then the name to the disk.
   /// The name must be free.
   void NameIt(const std::string& name);
+  /// Brings what was written to the disk.
+  void Force() const;
+  /// Gives a hidden file its name, in one step in place of the file that has it.
+  void TakePlaceOf(const std::string& name);
+  /// Hands the open file over to the caller.
+  [[nodiscard]] int Release() { return file_.Release(); }
 
   /// Removes what killed processes have left in the folder an hour ago or earlier.
   static void RemoveUnfinished(const std::filesystem::path& folder);
 
  private:
   [[nodiscard]] int OpenFile(Kind kind);
-  void TakeName(const std::filesystem::path& path);
+  void TakeName(const std::string& name);
 
   std::filesystem::path folder_;
   std::filesystem::path hidden_;  ///< empty for a nameless file, and once it has its name

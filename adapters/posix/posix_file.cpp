@@ -45,4 +45,8 @@ void PosixFile::WriteAt(std::uint64_t offset, std::span<const char> bytes) {
   }
 }
 
+void PosixFile::Close() {
+  if (descriptor_.Close() == kFailed && errno != EINTR) throw RunTimeError(TransferError(errno));
+}
+
 }  // namespace tessara

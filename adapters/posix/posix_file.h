@@ -13,6 +13,7 @@ class PosixFile : public File {
 
   std::size_t ReadAt(std::uint64_t offset, std::span<char> buffer) override;
   void WriteAt(std::uint64_t offset, std::span<const char> bytes) override;
+  void Close() override;
 
  private:
   Descriptor descriptor_;

@@ -12,7 +12,7 @@
 #include "adapters/posix/posix_file.h"
 #include "adapters/posix/read_ahead.h"
 #include "adapters/posix/system_call.h"
-#include "adapters/posix/system_error.h"
+#include "base/path_error.h"
 #include "base/run_time_error.h"
 #include "base/utf8.h"
 
@@ -62,6 +62,30 @@ ErrorNumber OpenError(int systemError, const std::string& path) {
   return folderMissing ? ErrorNumber::kPathNotFound : PathError(systemError);
 }
 
+/// 0 where the file, which is there, can be written.
+int ErrorOfOpening(const std::string& name) {
+  const int flags = FlagsOf(OpenMode::kReadAndWrite) & ~O_CREAT;
+  const Descriptor opened(Uninterrupted([&] { return open(name.c_str(), flags); }));
+  return opened.Get() == kFailed ? errno : 0;
+}
+
+/// Makes a hidden file whose name ends in `ending` and removes it at once. 0 where that works.
+int ErrorOfNewFile(const std::string& folder, const std::string& ending) {
+  std::string name = folder + ".XXXXXX" + ending;
+  const Descriptor made(mkostemps(name.data(), static_cast<int>(ending.size()), O_CLOEXEC));
+  if (made.Get() == kFailed) return errno;
+  unlink(name.c_str());
+  return 0;
+}
+
+/// 0 where a file of almost the same name can be made: not every disk takes every letter.
+int ErrorOfNewFileBeside(const std::string& path) {
+  const std::string folder = FolderOf(path);
+  const int error = ErrorOfNewFile(folder, path.substr(folder.size()));
+  // A name that the disk just takes has become too long.
+  return error == ENAMETOOLONG ? ErrorOfNewFile(folder, "") : error;
+}
+
 }  // namespace
 
 std::unique_ptr<File> PosixFileSystem::Open(const Text& path, OpenMode mode) {
@@ -97,6 +121,16 @@ void PosixFileSystem::Delete(const Text& path) {
   if (access(target.get(), W_OK) == kFailed) RaisePathError(errno);
   if (unlink(target.get()) == kFailed) RaisePathError(errno);
   deleted_ = {name, (status.st_mode & kOfOthers) | kOwn};
+}
+
+void PosixFileSystem::TrySaving(const Text& path) {
+  const std::string name = SystemPath(path);
+  struct stat status {};
+  const bool there = stat(name.c_str(), &status) == 0;
+  if (!there && errno != ENOENT) RaisePathError(errno);
+  if (there) RequireRegularFile(status);
+  const int error = there ? ErrorOfOpening(name) : ErrorOfNewFileBeside(name);
+  if (error != 0) throw RunTimeError(OpenError(error, name));
 }
 
 std::optional<Text> PosixFileSystem::EntryName(const Text& path) {

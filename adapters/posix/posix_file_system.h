@@ -15,6 +15,7 @@ class PosixFileSystem : public FileSystem {
  public:
   std::unique_ptr<File> Open(const Text& path, OpenMode mode) override;
   void Delete(const Text& path) override;
+  void TrySaving(const Text& path) override;
   std::optional<Text> EntryName(const Text& path) override;
 
  private:

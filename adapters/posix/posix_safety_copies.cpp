@@ -4,10 +4,7 @@
 #include <array>
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <tuple>
-#include <vector>
 
-#include "adapters/posix/copy_name.h"
 #include "adapters/posix/new_file.h"
 #include "base/utf8.h"
 
@@ -17,33 +14,10 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::uintmax_t kMegabyte = 1048576;
-constexpr std::uintmax_t kLargestFile = 10 * kMegabyte;
-constexpr std::uintmax_t kMostBytes = 50 * kMegabyte;
-constexpr int kMostOfDeck = 20;
+constexpr std::uintmax_t kLargestFile = 10 * std::uintmax_t{1048576};
 
-/// A copy that lies in the folder.
-struct Copy {
-  fs::path path;
-  std::string deck;
-  std::uintmax_t size;
-  fs::file_time_type made;
-};
-
-bool Older(const Copy& a, const Copy& b) {
-  return std::tie(a.made, a.path) < std::tie(b.made, b.path);
-}
-
-/// The oldest first. Files that are no copies are left out.
-std::vector<Copy> CopiesIn(const fs::path& folder) {
-  std::vector<Copy> copies;
-  for (const fs::directory_entry& entry : fs::directory_iterator(folder)) {
-    const auto deck = NameWithoutMoment(entry.path().filename().string());
-    if (!deck || !fs::is_regular_file(entry.symlink_status())) continue;
-    copies.push_back({entry.path(), *deck, entry.file_size(), entry.last_write_time()});
-  }
-  std::sort(copies.begin(), copies.end(), Older);
-  return copies;
+Moment Now() {
+  return std::chrono::system_clock::now();
 }
 
 /// A regular file that is neither empty nor too large for a copy.
@@ -63,8 +37,8 @@ void CopyBytes(int from, int to) {
   std::array<char, 65536> buffer{};
   std::uintmax_t copied = 0;
   while (true) {
-    const auto count =
-        Checked(Uninterrupted([&] { return read(from, buffer.data(), buffer.size()); }));
+    const auto count = Checked(Uninterrupted(
+        [&] { return pread(from, buffer.data(), buffer.size(), static_cast<off_t>(copied)); }));
     if (count == 0) return;
     copied += static_cast<std::uintmax_t>(count);
     if (copied > kLargestFile) throw std::system_error(EFBIG, std::generic_category());
@@ -72,59 +46,133 @@ void CopyBytes(int from, int to) {
   }
 }
 
-}  // namespace
+/// Another name for a file that is to lose its own takes no space. False where it can't be, or
+/// where somebody else could still write to it.
+bool KeptByLink(int file, const struct stat& status, const fs::path& copy) {
+  if (status.st_nlink != 1 || status.st_uid != geteuid()) return false;
+  Uninterrupted([&] { return fsync(file); });
+  const std::string open = "/proc/self/fd/" + std::to_string(file);
+  if (linkat(AT_FDCWD, open.c_str(), AT_FDCWD, copy.c_str(), AT_SYMLINK_FOLLOW) == kFailed) {
+    return false;
+  }
+  SyncFolder(copy.parent_path());
+  return true;
+}
 
-void PosixSafetyCopies::Keep(const Text& path) noexcept {
+/// The copies that a writing to the file would change get bytes of their own. False where there are
+/// none.
+bool CopiesParted(int file, const struct stat& status, const CopiesFolder& folder) {
+  if (status.st_nlink == 1) return false;
+  const std::vector<fs::path> copies = folder.NamesOf(status);
+  for (const fs::path& path : copies) {
+    NewFile copy(folder.Path(), NewFile::Kind::kHidden);
+    CopyBytes(file, copy.Get());
+    copy.Force();
+    copy.TakePlaceOf(path.filename().string());
+    SyncFolder(folder.Path());
+  }
+  return !copies.empty();
+}
+
+/// A name as the system can take it: an end of text inside would cut it.
+std::string SystemName(const Text& fileName) {
+  std::string name = ToUtf8(fileName);
+  std::replace(name.begin(), name.end(), '\0', '_');
+  return name;
+}
+
+/// A step that keeps something. Where it fails the program goes on without: nobody is told.
+template <class Step>
+bool Kept(const Step& step) noexcept {
   try {
-    const std::string name = ToUtf8(path);
-    const bool nameable = name.find('\0') == std::string::npos;
-    if (nameable && !folder_.empty()) KeepFile(name);
+    step();
+    return true;
   } catch (const std::exception&) {
-    // The save goes on without a copy: nobody is told.
+    return false;
   }
 }
 
-void PosixSafetyCopies::KeepFile(const fs::path& path) const {
+}  // namespace
+
+void PosixSafetyCopies::Keep(const Text& path, Loss loss) noexcept {
+  Kept([&] {
+    const std::string name = ToUtf8(path);
+    const bool nameable = name.find('\0') == std::string::npos;
+    if (nameable && !folder_.Path().empty()) KeepFile(name, loss);
+  });
+}
+
+void PosixSafetyCopies::KeepFile(const fs::path& path, Loss loss) const {
   struct stat status {};
   // Opening alone can set a device going.
   if (stat(path.c_str(), &status) == kFailed || !IsWorthCopying(status)) return;
   const Descriptor original(OpenForReading(path));
   Checked(fstat(original.Get(), &status));
   if (!IsWorthCopying(status)) return;
-  MakeFolders(folder_);
-  NewFile::RemoveUnfinished(folder_);
-  const std::string name = FreeName(path.filename().string());
-  MakeRoom(*NameWithoutMoment(name), static_cast<std::uintmax_t>(status.st_size));
-  NewFile copy(folder_);
+  folder_.Prepare();
+  if (loss == Loss::kWrittenOver && CopiesParted(original.Get(), status, folder_)) return;
+  const std::string name = folder_.NameOfNext(path.filename().string(),
+                                              static_cast<std::uintmax_t>(status.st_size), Now());
+  const bool goes = loss == Loss::kDeleted;
+  if (goes && KeptByLink(original.Get(), status, folder_.Path() / name)) return;
+  NewFile copy(folder_.Path());
   CopyBytes(original.Get(), copy.Get());
   copy.NameIt(name);
 }
 
-void PosixSafetyCopies::MakeRoom(const std::string& deck, std::uintmax_t size) const {
-  const std::vector<Copy> copies = CopiesIn(folder_);
-  int ofDeck = 1;
-  std::uintmax_t bytes = size;
-  for (const Copy& copy : copies) {
-    ofDeck += copy.deck == deck ? 1 : 0;
-    bytes += copy.size;
-  }
-  for (const Copy& copy : copies) {
-    const bool tooMany = copy.deck == deck && ofDeck > kMostOfDeck;
-    if (!tooMany && bytes <= kMostBytes) continue;
-    fs::remove(copy.path);
-    ofDeck -= copy.deck == deck ? 1 : 0;
-    bytes -= copy.size;
-  }
+void PosixSafetyCopies::KeepUnsaved(const Text& fileName, std::string_view deck) noexcept {
+  if (!folder_.Path().empty()) Kept([&] { unsaved_.Replace(SystemName(fileName), deck); });
 }
 
-std::string PosixSafetyCopies::FreeName(const std::string& fileName) const {
-  Moment moment = std::chrono::system_clock::now();
-  std::string name = CopyName(fileName, moment);
-  while (fs::exists(fs::symlink_status(folder_ / name))) {
-    moment += std::chrono::milliseconds(1);
-    name = CopyName(fileName, moment);
-  }
-  return name;
+Text PosixSafetyCopies::KeepNotSaved(const Text& fileName, std::string_view deck) noexcept {
+  if (folder_.Path().empty()) return {};
+  Text path;
+  const bool named = Kept([&] {
+    folder_.Prepare();
+    const std::string name =
+        folder_.NameOfNext(NotSavedName(SystemName(fileName)), deck.size(), Now());
+    // Where there is no space for another file, the one that is there already holds these cards.
+    if (Kept([&] { KeepAs(name, deck); })) {
+      unsaved_.Drop();
+    } else {
+      unsaved_.Rename(name);
+    }
+    path = FromUtf8((folder_.Path() / name).string());
+  });
+  return named ? path : Text();
+}
+
+void PosixSafetyCopies::KeepAs(const std::string& name, std::string_view deck) const {
+  NewFile copy(folder_.Path());
+  WriteAll(copy.Get(), deck);
+  copy.NameIt(name);
+}
+
+std::vector<LeftDeck> PosixSafetyCopies::TakeLeftDecks() noexcept {
+  std::vector<LeftDeck> decks;
+  Kept([&] {
+    for (const std::string& name : folder_.Names()) {
+      const auto fileName = ReadUnsavedName(name);
+      if (fileName) Kept([&] { TakeLeftDeck(name, *fileName, decks); });
+    }
+  });
+  return decks;
+}
+
+void PosixSafetyCopies::TakeLeftDeck(const std::string& name, const std::string& fileName,
+                                     std::vector<LeftDeck>& decks) const {
+  const fs::path path = folder_.Path() / name;
+  const Descriptor file(OpenLeftFile(path));
+  if (file.Get() == kFailed) return;
+  struct stat status {};
+  Checked(fstat(file.Get(), &status));
+  const std::string newName =
+      folder_.NameOfNext(NotSavedName(fileName), static_cast<std::uintmax_t>(status.st_size),
+                         std::chrono::system_clock::from_time_t(status.st_mtime));
+  const fs::path newPath = folder_.Path() / newName;
+  Checked(rename(path.c_str(), newPath.c_str()));
+  decks.push_back({FromUtf8(fs::path(fileName).stem().string()), FromUtf8(path.string()),
+                   FromUtf8(newPath.string())});
 }
 
 }  // namespace tessara

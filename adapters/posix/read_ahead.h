@@ -16,6 +16,7 @@ class ReadAhead : public File {
 
   std::size_t ReadAt(std::uint64_t offset, std::span<char> buffer) override;
   void WriteAt(std::uint64_t offset, std::span<const char> bytes) override;
+  void Close() override { file_->Close(); }
 
  private:
   std::size_t ReadBlock(std::uint64_t offset, std::span<char> buffer);

@@ -37,8 +37,10 @@ class Descriptor {
   }
 
   [[nodiscard]] int Get() const { return descriptor_; }
+  /// Hands it over to the caller, who closes it.
+  [[nodiscard]] int Release() { return std::exchange(descriptor_, kFailed); }
   /// Closes it now. kFailed where what was written to it has not all arrived.
-  [[nodiscard]] int Close() { return close(std::exchange(descriptor_, kFailed)); }
+  [[nodiscard]] int Close() { return close(Release()); }
 
  private:
   int descriptor_;

@@ -1,55 +1,8 @@
 #include "adapters/posix/system_error.h"
 
-#include <cerrno>
-#include <optional>
+#include "base/path_error.h"
 
 namespace tessara {
-
-namespace {
-
-/// What means the same wherever it happens.
-std::optional<ErrorNumber> CommonError(int systemError) {
-  switch (systemError) {
-    case EACCES:
-    case EPERM:
-    case EROFS:
-    case EBUSY:
-    case ETXTBSY:
-      return ErrorNumber::kPermissionDenied;
-    case ENOSPC:
-    case EDQUOT:
-    case EFBIG:
-      return ErrorNumber::kDiskFull;
-    case EIO:
-      return ErrorNumber::kDeviceIo;
-    case ENOMEDIUM:
-    case ENODEV:
-    case ESTALE:
-    case ETIMEDOUT:
-    case EHOSTDOWN:
-    case EHOSTUNREACH:
-    case ENOTCONN:
-      return ErrorNumber::kDiskNotReady;
-    case EMFILE:
-    case ENFILE:
-      return ErrorNumber::kTooManyFiles;
-    default:
-      return std::nullopt;
-  }
-}
-
-}  // namespace
-
-ErrorNumber PathError(int systemError) {
-  switch (systemError) {
-    case ENOENT:
-      return ErrorNumber::kFileNotFound;
-    case ENOTDIR:
-      return ErrorNumber::kPathNotFound;
-    default:
-      return CommonError(systemError).value_or(ErrorNumber::kPathFileAccess);
-  }
-}
 
 ErrorNumber TransferError(int systemError) {
   return CommonError(systemError).value_or(ErrorNumber::kDeviceIo);

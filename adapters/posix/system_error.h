@@ -4,9 +4,6 @@
 
 namespace tessara {
 
-/// The run-time error of a failed operation on a path, by the system's error code.
-[[nodiscard]] ErrorNumber PathError(int systemError);
-
 /// The run-time error of failed reading or writing, by the system's error code.
 [[nodiscard]] ErrorNumber TransferError(int systemError);
 

@@ -3,7 +3,9 @@ import functools
 import os
 import pathlib
 import shutil
+import signal
 import subprocess
+import sys
 import tempfile
 import time
 
@@ -11,6 +13,9 @@ import gi
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402  after the version is chosen
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts"))
+import program_end  # noqa: E402  after the path is set
 
 SECONDS_TO_WAIT = 30
 SECONDS_BETWEEN_LOOKS = 0.01
@@ -87,6 +92,11 @@ class Node:
         place = Atspi.Component.get_extents(self._accessible, Atspi.CoordType.SCREEN)
         return place.x, place.y, place.x + place.width, place.y + place.height
 
+    @property
+    def text(self):
+        """What stands in a box, read anew each time."""
+        return Atspi.Text.get_text(self._accessible, 0, -1)
+
     def children(self):
         for index in range(self._accessible.get_child_count()):
             child = self._accessible.get_child_at_index(index)
@@ -109,10 +119,10 @@ class Node:
 
 
 class Program:
-    """Tessara with a home of its own. The window in front is the last that came."""
+    """Tessara with a home of its own, started by the prefix. The window in front is the last that came."""
 
-    def __init__(self, executable, samples, **environment):
-        self._executable = executable
+    def __init__(self, executable, samples, prefix=(), **environment):
+        self._command = (*prefix, executable)
         self._samples = samples
         self.home = pathlib.Path(tempfile.mkdtemp(prefix="tessara-access-"))
         (self.home / ".config").mkdir()
@@ -126,15 +136,22 @@ class Program:
 
     def go_to(self, scene):
         """Starts with the scene's deck and takes its steps."""
-        command = [self._executable]
-        if scene.deck:
-            command.append(shutil.copy(f"{self._samples}/{scene.deck}.tsr", self.home))
-        self._process = subprocess.Popen(command, env=self._environment)
-        self._root = wait_for("the program on the bus", self._application)
+        self.start(*([shutil.copy(f"{self._samples}/{scene.deck}.tsr", self.home)] if scene.deck else []))
         for title, *keys in scene.steps:
             self.ready(title)
             self.press(*keys[0].split()) if len(keys) == 1 else self.choose(*keys)
         self.ready(scene.title)
+
+    def start(self, *arguments, **options):
+        """Starts, and waits until the program is on the accessibility bus."""
+        self._process = subprocess.Popen([*self._command, *arguments], env=self._environment, **options)
+        self._root = wait_for("the program on the bus", self._application)
+        return self._process
+
+    def kill(self):
+        """A program that has ended by itself is a failure."""
+        process, self._process = self._process, None
+        program_end.end(process, signal.SIGKILL)
 
     def ready(self, title):
         """Waits until a window is in front and takes keys."""
@@ -147,11 +164,17 @@ class Program:
         except AssertionError as missed:
             raise AssertionError(f"{missed}; there: {', '.join(map(str, self.windows()))}") from missed
 
+    def status(self):
+        """How the program ends: what it returns, or a signal's number below zero."""
+        process, self._process = self._process, None
+        return process.wait(SECONDS_TO_WAIT)
+
     def end(self):
-        if self._process:
-            self._process.kill()
-            self._process.wait()
-        shutil.rmtree(self.home)
+        try:
+            if self._process:
+                self.kill()
+        finally:
+            shutil.rmtree(self.home)
 
     def _application(self):
         desktop = Atspi.get_desktop(0)
@@ -203,11 +226,21 @@ class Program:
         window = self._window(title)
         return next((node for node in window.showing_below() if node.name == name), None) if window else None
 
-    # The keyboard.
+    # The keyboard and the mouse.
 
     @staticmethod
     def press(*keys):
         subprocess.run(["xdotool", "key", "--delay", "15", *keys], check=True)
+
+    @staticmethod
+    def click(button, node):
+        left, top, right, bottom = node.place
+        place = map(str, ((left + right) // 2, (top + bottom) // 2))
+        subprocess.run(["xdotool", "mousemove", *place, "click", str(button)], check=True)
+
+    @staticmethod
+    def type(text):
+        subprocess.run(["xdotool", "type", "--delay", "15", text], check=True)
 
     def menu_bar(self):
         return next(node for node in self.windows()[0].children() if node.role == "menu bar")

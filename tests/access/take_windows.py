@@ -8,12 +8,13 @@ usage: SCREEN=WIDTHxHEIGHT scripts/with_display.sh dbus-run-session -- tests/acc
 environment, for example QT_SCALE_FACTOR=2. Without scenes all are taken.
 """
 import pathlib
-import subprocess
 import sys
 import time
 
 from accessible_program import Program
 from windows import SCENES
+
+import screen_picture  # from scripts/, where accessible_program has looked too
 
 FONT = "[General]\nfont=DejaVu Sans,12,-1,5,50,0,0,0,0,0\n"
 # Red, green, blue: the dark scheme that Plasma brings.
@@ -32,7 +33,7 @@ def dark_scheme():
 def take(picture):
     # The window is there; nothing tells when all of it is painted.
     time.sleep(0.5)
-    subprocess.run(["import", "-window", "root", "-trim", "-strip", "+repage", picture], check=True)
+    screen_picture.trimmed(screen_picture.of_screen()).save(picture)
 
 
 def main():

@@ -66,7 +66,7 @@ SCENES = [
     Scene("frame", FRAME, None, ((NEW_DECK, "alt+c"),)),
     Scene("set-up", "Set-Up", None, TO_SET_UP),
     Scene("set-up-saved", "Save settings", None, (*TO_SET_UP, ("Set-Up", "space alt+a"))),
-    Scene("error", "Tessara", None, (*TO_SET_UP, ("Set-Up", "shift+Tab shift+Tab Home"))),
+    Scene("error", "Tessara", None, (*TO_SET_UP, ("Set-Up", "shift+Tab shift+Tab Home Home Return"))),
     Scene("about", "About", None, ((NEW_DECK, "Help", "About"),)),
     Scene("separating", "Separating The Cards", None, ((NEW_DECK, "Help", "Separating the cards"),)),
     Scene("help", "Tessara Help", None, ((NEW_DECK, "F1"),), tabs=False),

@@ -66,7 +66,7 @@ TEST_CASE("A deck is made, described, saved, closed, found again, changed and sa
   GoTo("Text1(1)");
   ProgramOnScreen::Key(Qt::Key_End, Qt::ControlModifier);
   ProgramOnScreen::Type(u"\nsince 1814");
-  ProgramOnScreen::Alt(kC);
+  PressChange();
   ProgramOnScreen::Alt(kC);
   desk.AnswerByKey(Qt::Key_Return);
   ProgramOnScreen::ChooseByKeys("mnuFile", "mnuSave");
@@ -84,7 +84,7 @@ TEST_CASE("A changed deck asks before it is closed, and No leaves its file as it
   OpenBuilder();
   GoTo("Text1(0)");
   ProgramOnScreen::Type(u"changed ");
-  ProgramOnScreen::Alt(kC);
+  PressChange();
   ProgramOnScreen::Alt(kC);
   CHECK(ProgramOnScreen::Card("CardText") == "changed front 1");
   desk.AnswerByKey(Qt::Key_N);
@@ -94,4 +94,90 @@ TEST_CASE("A changed deck asks before it is closed, and No leaves its file as it
       desk.TakeAsked() ==
       Asked{"There have been changes to this Tessara.Do you want to save them?", "ARE YOU SURE?"});
   CHECK(desk.folder.Read("birds.tsr") == DeckBytes(1));
+}
+
+TEST_CASE(
+    "The letter C in a builder drops nothing that was typed, and Return takes what it is on") {
+  ProgramOnScreen desk;
+  desk.Start();
+  OpenBuilder();
+  Write("Text1(0)", u"Norway");
+  Write("Text1(1)", u"Oslo");
+  for (const char* button : {"Command1(2)", "Command1(3)", "Command1(2)", "Command1(3)"}) {
+    ProgramOnScreen::Alt(kC);
+    CHECK(ProgramOnScreen::Focus() == button);
+  }
+  desk.AnswerByKey(Qt::Key_Y);
+  desk.AnswerByKey(Qt::Key_Return);
+  ProgramOnScreen::Key(Qt::Key_Return);
+  CHECK(desk.TakeAsked().back() == "Card is saved");
+  CHECK(ProgramOnScreen::Card("CardTotal") == "1");
+}
+
+TEST_CASE("On a new deck the letter C goes between two entries of the file menu") {
+  ProgramOnScreen desk;
+  desk.Start();
+  ProgramOnScreen::Alt(Qt::Key_F);
+  const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  REQUIRE(menu != nullptr);
+  for (const char* entry : {"mnuACTTD", "mnuExit", "mnuACTTD"}) {
+    ProgramOnScreen::Key(kC);
+    CHECK(menu->activeAction()->objectName() == entry);
+  }
+  ProgramOnScreen::Key(Qt::Key_Return);
+  CHECK(ProgramOnScreen::Focus() == "Text1(0)");
+  CHECK(desk.TakeAsked().empty());
+}
+
+TEST_CASE("The focus never falls on Close Deck, so a blank closes no deck") {
+  ProgramOnScreen desk;
+  const auto clear = [] { ProgramOnScreen::ChooseByKeys("mnuFile", "mnuNCD"); };
+  const auto startWith = [&desk](const std::string& cards) {
+    desk.folder.Write("deck.tsr", InfoBytes({}) + cards + EndBytes());
+    desk.Start(u"deck.tsr");
+  };
+  SUBCASE("at a start without a deck") {
+    desk.Start();
+  }
+  SUBCASE("behind the builder, with one card") {
+    desk.Start();
+    WriteCard(u"Norway", u"Oslo");
+  }
+  SUBCASE("behind the builder, at the first of two cards") {
+    startWith(CardBytes(1, u"Norway", u"Oslo") + CardBytes(2, u"Sweden", u"Stockholm"));
+    GoTo("Command3(2)");
+    OpenBuilder();
+    ProgramOnScreen::Alt(kC);
+  }
+  SUBCASE("behind the builder's close box, at a question") {
+    startWith(TrueCardBytes(1, u"?"));
+    GoTo("Command3(2)");
+    OpenBuilder();
+    ProgramOnScreen::Key(Qt::Key_F4, Qt::ControlModifier);
+  }
+  SUBCASE("after a clear") {
+    startWith(CardBytes(1, u"Norway", u"Oslo"));
+    clear();
+  }
+  SUBCASE("after a clear from Close Deck") {
+    startWith(TrueCardBytes(1, u"?"));
+    GoTo("Command3(2)");
+    clear();
+  }
+  SUBCASE("at a deck of one question") {
+    startWith(TrueCardBytes(1, u"?"));
+  }
+  SUBCASE("after the only card has been deleted") {
+    startWith(CardBytes(1, u"Norway", u"Oslo"));
+    desk.AnswerByKey(Qt::Key_Return);
+    ProgramOnScreen::ChooseByKeys("mnuFile", "mnuDelete");
+    desk.TakeAsked();
+  }
+  const std::string focus = ProgramOnScreen::Focus();
+  CAPTURE(focus);
+  const bool useful = focus == "NoteletCtl1" || focus == "cmdMove(1)";
+  CHECK(useful);
+  ProgramOnScreen::Key(Qt::Key_Space);
+  CHECK(desk.TakeAsked().empty());
+  CHECK(desk.program.DeckWindowOf().IsLoaded());
 }

@@ -13,8 +13,11 @@
 #include "adapters/qt/devices/qt_desktop.h"
 #include "adapters/qt/text/pixel_scale.h"
 #include "adapters/qt/text/qt_text.h"
+#include "tests/desktop/config_folder.h"
+#include "tests/support/environment_variable.h"
 
 using namespace tessara;
+using namespace tessara::test;
 
 namespace {
 
@@ -118,6 +121,16 @@ TEST_CASE("Help is shown where its file is, and else silently not") {
   CHECK(shown.empty());
   desktop.ShowHelp(FromQString(folder.path()));
   CHECK(shown == FromQString(folder.path()));
+}
+
+TEST_CASE("The folder for documents is the user's, and the home where there is none") {
+  const QTemporaryDir home;
+  const EnvironmentVariable variable("HOME", home.path().toStdString());
+  const ConfigFolder noUserFolders;
+  const QtDesktop desktop(nullptr);
+  CHECK(desktop.DocumentsFolder() == FromQString(home.path()));
+  QDir(home.path()).mkdir("Documents");
+  CHECK(desktop.DocumentsFolder() == FromQString(home.filePath("Documents")));
 }
 
 TEST_CASE("The mouse pointer is the hourglass until it is set back, however often") {

@@ -12,6 +12,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
+#include <QUrl>
 #include <doctest/doctest.h>
 #include <functional>
 
@@ -19,7 +20,9 @@
 #include "adapters/qt/devices/qt_message_boxes.h"
 #include "adapters/qt/text/qt_text.h"
 #include "base/run_time_error.h"
+#include "tests/desktop/config_folder.h"
 #include "tests/desktop/event_loops.h"
+#include "tests/support/environment_variable.h"
 
 using namespace tessara;
 using namespace tessara::test;
@@ -39,6 +42,23 @@ void WhenUp(const std::function<void(DialogType&)>& act) {
 
 void Press(QMessageBox& box, QMessageBox::StandardButton button) {
   QTest::mouseClick(box.button(button), Qt::LeftButton);
+}
+
+/// Types a name and takes it.
+void AnswerWith(QFileDialog& dialog, const char* name) {
+  auto* line = dialog.findChild<QLineEdit*>();
+  line->selectAll();
+  QTest::keyClicks(line, name);
+  QTest::keyClick(line, Qt::Key_Return);
+}
+
+FileDialogRequest SaveIn(const QTemporaryDir& folder) {
+  FileDialogRequest request;
+  request.mode = FileDialogMode::kSave;
+  request.filter = u"Study Cards|*.tsr";
+  request.flags = kHideReadOnly | kFileMustExist;
+  request.initialFolder = FromQString(folder.path());
+  return request;
 }
 
 struct NoPrinting {
@@ -154,11 +174,6 @@ TEST_CASE("Saving over a file is not asked about by the dialog") {
   QFile file(path);
   REQUIRE(file.open(QIODevice::WriteOnly));
   file.close();
-  FileDialogRequest request;
-  request.mode = FileDialogMode::kSave;
-  request.filter = u"Study Cards|*.tsr";
-  request.flags = kHideReadOnly | kFileMustExist;
-  request.initialFolder = FromQString(folder.path());
   WhenUp<QFileDialog>([&path](QFileDialog& dialog) {
     CHECK(dialog.acceptMode() == QFileDialog::AcceptSave);
     CHECK(dialog.nameFilters() == QStringList("Study Cards (*.tsr)"));
@@ -166,7 +181,86 @@ TEST_CASE("Saving over a file is not asked about by the dialog") {
     dialog.selectFile(path);
     QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
   });
-  CHECK(desk.dialogs.AskFile(request) == FromQString(path));
+  CHECK(desk.dialogs.AskFile(SaveIn(folder)) == FromQString(path));
+}
+
+TEST_CASE("A name typed without an ending stays as it is") {
+  NoPrinting desk;
+  const QTemporaryDir folder;
+  WhenUp<QFileDialog>([](QFileDialog& dialog) { AnswerWith(dialog, "verbs"); });
+  CHECK(desk.dialogs.AskFile(SaveIn(folder)) == FromQString(folder.filePath("verbs")));
+}
+
+TEST_CASE("A refused answer is told as it stands over the dialog, which then takes another one") {
+  NoPrinting desk;
+  const QTemporaryDir folder;
+  FileDialogRequest request = SaveIn(folder);
+  request.refusal = [](const Text& path) {
+    return path.ends_with(u"bad.tsr") ? u"<b>Not</b> there: " + path : Text();
+  };
+  WhenUp<QFileDialog>([&folder](QFileDialog& dialog) {
+    for (int answer = 0; answer < 2; ++answer) {
+      QTimer::singleShot(0, [&folder] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        REQUIRE(box != nullptr);
+        CHECK(box->text() == "<b>Not</b> there: " + folder.filePath("bad.tsr"));
+        CHECK(box->windowTitle() == "Tessara");
+        CHECK(box->icon() == QMessageBox::Warning);
+        Press(*box, QMessageBox::Ok);
+      });
+      AnswerWith(dialog, "bad.tsr");
+      CHECK(dialog.isVisible());
+    }
+    AnswerWith(dialog, "good.tsr");
+  });
+  CHECK(desk.dialogs.AskFile(request) == FromQString(folder.filePath("good.tsr")));
+}
+
+TEST_CASE("A dialog that has refused an answer can be cancelled") {
+  NoPrinting desk;
+  const QTemporaryDir folder;
+  FileDialogRequest request = SaveIn(folder);
+  request.refusal = [](const Text&) { return Text(u"Nowhere"); };
+  WhenUp<QFileDialog>([](QFileDialog& dialog) {
+    QTimer::singleShot(0, [] { QApplication::activeModalWidget()->close(); });
+    AnswerWith(dialog, "any.tsr");
+    dialog.reject();
+  });
+  CHECK(desk.dialogs.AskFile(request).empty());
+}
+
+TEST_CASE("A folder is gone into, whatever is refused") {
+  NoPrinting desk;
+  const QTemporaryDir folder;
+  QDir(folder.path()).mkdir("decks");
+  FileDialogRequest request = SaveIn(folder);
+  request.refusal = [](const Text& path) {
+    return path.ends_with(u"/decks") ? Text(u"No") : Text();
+  };
+  WhenUp<QFileDialog>([&folder](QFileDialog& dialog) {
+    AnswerWith(dialog, "decks");
+    CHECK(dialog.directory() == QDir(folder.filePath("decks")));
+    AnswerWith(dialog, "verbs.tsr");
+  });
+  CHECK(desk.dialogs.AskFile(request) == FromQString(folder.filePath("decks/verbs.tsr")));
+}
+
+TEST_CASE("The places at the side are those of home, documents and desktop that are there") {
+  NoPrinting desk;
+  const QTemporaryDir home;
+  const EnvironmentVariable variable("HOME", home.path().toStdString());
+  const ConfigFolder noUserFolders;
+  for (const auto mode : {FileDialogMode::kOpen, FileDialogMode::kSave}) {
+    QDir(home.path()).mkdir("Documents");
+    FileDialogRequest request;
+    request.mode = mode;
+    WhenUp<QFileDialog>([&home](QFileDialog& dialog) {
+      CHECK(dialog.sidebarUrls() == QList{QUrl::fromLocalFile(home.path()),
+                                          QUrl::fromLocalFile(home.filePath("Documents"))});
+      dialog.reject();
+    });
+    desk.dialogs.AskFile(request);
+  }
 }
 
 TEST_CASE("A file dialog's panes and grips have names for a screen reader") {

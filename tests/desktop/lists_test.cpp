@@ -1,3 +1,4 @@
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QTreeWidget>
 #include <doctest/doctest.h>
@@ -98,6 +99,10 @@ TEST_CASE("A combo box shows its items and passes on what the user chooses") {
   CHECK(combo.currentIndex() == -1);
   CHECK_FALSE(combo.isEditable());
   QTest::keyClick(&combo, Qt::Key_Down);
+  CHECK(form.Combo1.ListIndex() == -1);
+  CHECK(form.log.Take().empty());
+  QTest::keyClick(combo.view(), Qt::Key_Home);
+  QTest::keyClick(combo.view(), Qt::Key_Return);
   CHECK(form.Combo1.TextOf() == u"First");
   CHECK(form.log.Take() == "combo");
   // Turned over it, a wheel means what lies around it.

@@ -1,4 +1,5 @@
 #include <QAction>
+#include <QKeyEvent>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -22,6 +23,22 @@ std::string BarTexts() {
 
 QAction& Entry(const char* name, const char* window) {
   return *Desk::Top(window)->findChild<QAction*>(QLatin1String(name), Qt::FindDirectChildrenOnly);
+}
+
+const QAction& Menu(const char* name) {
+  return *Desk::Top("frmChild")->findChild<QMenu*>(QLatin1String(name))->menuAction();
+}
+
+/// Alt and the letter of the file menu; the first entry is the active one then.
+QMenu& OpenFileMenu() {
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_F, Qt::AltModifier);
+  auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+  REQUIRE(menu != nullptr);
+  return *menu;
+}
+
+std::string ActiveIn(const QMenu& menu) {
+  return menu.activeAction() == nullptr ? "" : menu.activeAction()->objectName().toStdString();
 }
 
 }  // namespace
@@ -55,6 +72,18 @@ TEST_CASE("The bar follows when the window behind a dialog goes") {
   CHECK(desk.windows.ActiveForm() == &desk.dialog.Loaded());
 }
 
+TEST_CASE("The bar of a disabled window makes room for the frame's own, and comes back with it") {
+  Desk desk;
+  desk.ShowChild();
+  desk.child->SetEnabled(false);
+  CHECK(BarTexts() == "&File ");
+  desk.child->Hide();
+  desk.child->Show();
+  CHECK(BarTexts() == "&File ");
+  desk.child->SetEnabled(true);
+  CHECK(BarTexts() == "&File &Mode ");
+}
+
 TEST_CASE("Entries of one name in two windows run their own window's command") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
@@ -72,7 +101,77 @@ TEST_CASE("A disabled entry and a disabled menu can't be chosen") {
   form.mnuOpen.SetEnabled(false);
   CHECK_FALSE(Entry("mnuOpen", "frmChild").isEnabled());
   form.mnuMode.SetEnabled(false);
-  CHECK_FALSE(Desk::Top("frmChild")->findChild<QMenu*>("mnuMode")->menuAction()->isEnabled());
+  CHECK_FALSE(Menu("mnuMode").isEnabled());
+}
+
+TEST_CASE(
+    "What is off stays off when its window was disabled meanwhile, and what is on comes back") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  form.mnuOpen.SetEnabled(false);
+  form.mnuMode.SetEnabled(false);
+  form.SetEnabled(false);
+  SUBCASE("as it was") {}
+  SUBCASE("switched on and off behind the disabled window") {
+    form.mnuMode.SetEnabled(true);
+    form.mnuMode.SetEnabled(false);
+  }
+  form.SetEnabled(true);
+  CHECK_FALSE(Menu("mnuMode").isEnabled());
+  CHECK_FALSE(Entry("mnuOpen", "frmChild").isEnabled());
+  CHECK(Menu("mnuFile").isEnabled());
+  form.mnuMode.SetEnabled(true);
+  CHECK(Menu("mnuMode").isEnabled());
+}
+
+TEST_CASE("A letter that several entries share goes from one to the next, and Return takes one") {
+  for (const Qt::KeyboardModifier held : {Qt::NoModifier, Qt::ShiftModifier, Qt::AltModifier}) {
+    CAPTURE(held);
+    Desk desk;
+    SampleForm& form = desk.ShowChild();
+    QMenu& menu = OpenFileMenu();
+    CHECK(ActiveIn(menu) == "mnuOpen");
+    for (const char* next : {"mnuOrder", "mnuOther", "mnuOpen", "mnuOrder"}) {
+      // The letter alone: an Alt that goes down anew closes the menu.
+      QKeyEvent letter(QEvent::KeyPress, Qt::Key_O, held, "o");
+      QApplication::sendEvent(&menu, &letter);
+      CHECK(ActiveIn(menu) == next);
+    }
+    CHECK(form.log.Take().empty());
+    QTest::keyClick(&menu, Qt::Key_Return);
+    CHECK(form.log.Take() == "order");
+    CHECK(QApplication::activePopupWidget() == nullptr);
+  }
+}
+
+TEST_CASE("A letter passes over entries that are off or hidden, and takes the one that is left") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  form.mnuOrder.SetEnabled(false);
+  SUBCASE("two are left") {
+    QMenu& menu = OpenFileMenu();
+    for (const char* next : {"mnuOther", "mnuOpen", "mnuOther"}) {
+      QTest::keyClick(&menu, Qt::Key_O);
+      CHECK(ActiveIn(menu) == next);
+    }
+    menu.close();
+    CHECK(form.log.Take().empty());
+  }
+  SUBCASE("one is left") {
+    form.mnuOpen.SetVisible(false);
+    QTest::keyClick(&OpenFileMenu(), Qt::Key_O);
+    CHECK(form.log.Take() == "other");
+    CHECK(QApplication::activePopupWidget() == nullptr);
+  }
+  SUBCASE("none is left") {
+    form.mnuOther.SetEnabled(false);
+    form.mnuOpen.SetEnabled(false);
+    QMenu& menu = OpenFileMenu();
+    QTest::keyClick(&menu, Qt::Key_O);
+    CHECK(menu.isVisible());
+    menu.close();
+    CHECK(form.log.Take().empty());
+  }
 }
 
 TEST_CASE("An entry with the caption - is a line without text") {

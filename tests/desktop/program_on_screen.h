@@ -12,7 +12,6 @@
 #include <QTimer>
 #include <deque>
 #include <functional>
-#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -26,6 +25,7 @@
 #include "tests/desktop/event_loops.h"
 #include "tests/support/fake_machine.h"
 #include "tests/support/scratch_folder.h"
+#include "tests/support/test_failure.h"
 
 namespace tessara::test {
 
@@ -47,7 +47,7 @@ class ProgramOnScreen {
   void Start(const Text& deck = {}) {
     program.Main(deck.empty() ? Text() : folder.TextPath(deck));
     if (!QTest::qWaitForWindowActive(&Top("MDIForm1"))) {
-      throw std::logic_error("the frame did not become active");
+      throw TestFailure{"the frame did not become active"};
     }
     Settle();
   }
@@ -57,12 +57,12 @@ class ProgramOnScreen {
     for (QWidget* widget : QApplication::allWidgets()) {
       if (widget->objectName() == QLatin1String(name)) return *widget;
     }
-    throw std::logic_error(std::string("no window ") + name);
+    throw TestFailure{std::string("no window ") + name};
   }
   template <class W = QWidget>
   static W& Of(const char* control, const char* window = "frmMain") {
     W* widget = Top(window).findChild<W*>(QLatin1String(control));
-    if (widget == nullptr) throw std::logic_error(std::string("no widget ") + control);
+    if (widget == nullptr) throw TestFailure{std::string("no widget ") + control};
     return *widget;
   }
   /// A property of the large card.
@@ -163,19 +163,20 @@ class ProgramOnScreen {
   }
 
   static QWidget& KeysGoTo() {
-    for (QWidget* receiver : {QApplication::activePopupWidget(), QApplication::focusWidget(),
-                              QApplication::activeWindow()}) {
+    QWidget* popup = QApplication::activePopupWidget();
+    QWidget* inPopup = popup == nullptr ? nullptr : popup->focusWidget();
+    for (QWidget* receiver :
+         {inPopup, popup, QApplication::focusWidget(), QApplication::activeWindow()}) {
       if (receiver != nullptr) return *receiver;
     }
-    throw std::logic_error("no window takes keys");
+    throw TestFailure{"no window takes keys"};
   }
 
   template <class Now>
   static void StepTo(const char* wanted, Qt::Key step, const Now& now) {
     constexpr int kMostSteps = 20;
     for (int steps = 0; now() != QLatin1String(wanted); ++steps) {
-      if (steps == kMostSteps)
-        throw std::logic_error(std::string("the keys never get to ") + wanted);
+      if (steps == kMostSteps) throw TestFailure{std::string("the keys never get to ") + wanted};
       Key(step);
     }
   }

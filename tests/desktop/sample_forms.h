@@ -81,6 +81,8 @@ class SampleForm : public Form {
     AddMenus({{&mnuFile, nullptr, u"&File"},
               {&mnuOpen, &mnuFile, u"&Open"},
               {&mnu1, &mnuFile, u"-"},
+              {&mnuOrder, &mnuFile, u"&Order"},
+              {&mnuOther, &mnuFile, u"&Other"},
               {&mnuMode, nullptr, u"&Mode"},
               {&mnuStudy, &mnuMode, u"&Study"},
               {&mnuHelpTopic, &mnuMode, u"&Help"}});
@@ -116,6 +118,8 @@ class SampleForm : public Form {
   MenuEntry mnuFile{"mnuFile"};
   MenuEntry mnuOpen{"mnuOpen"};
   MenuEntry mnu1{"mnu1"};
+  MenuEntry mnuOrder{"mnuOrder"};
+  MenuEntry mnuOther{"mnuOther"};
   MenuEntry mnuMode{"mnuMode"};
   MenuEntry mnuStudy{"mnuStudy"};
   MenuEntry mnuHelpTopic{"mnuHelpTopic"};
@@ -152,6 +156,8 @@ class SampleForm : public Form {
     Option1.Wire(&OptionButton::onClick,
                  [this](int index) { log.Add("option " + std::to_string(index)); });
     mnuOpen.onClick = logs("open");
+    mnuOrder.onClick = logs("order");
+    mnuOther.onClick = logs("other");
     mnuStudy.onClick = logs("study");
     mnuHelpTopic.onClick = logs("help");
   }

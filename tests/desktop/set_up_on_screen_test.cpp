@@ -1,5 +1,6 @@
 // The start-up picture, the set-up window and the picture book in the whole program.
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QLabel>
 #include <QMdiArea>
@@ -71,13 +72,30 @@ void OpenSetUp() {
   ProgramOnScreen::ChooseByKeys("mnuFile", "mnuSetup");
 }
 
-/// Key by key down the list, each of which is a choice.
-void ChooseBackdrop(const QString& name) {
-  auto& combo = ProgramOnScreen::Of<QComboBox>("Combo1", kSetUp);
-  combo.setFocus();
-  for (int steps = 0; combo.currentText() != name && steps < combo.count(); ++steps) {
+QComboBox& Backdrops() {
+  return ProgramOnScreen::Of<QComboBox>("Combo1", kSetUp);
+}
+
+QString Marked() {
+  return Backdrops().view()->currentIndex().data().toString();
+}
+
+bool ListIsOpen() {
+  return Backdrops().view()->isVisible();
+}
+
+/// A key opens the list, the arrows go to the name.
+void MarkBackdrop(const QString& name) {
+  Backdrops().setFocus();
+  for (int steps = 0; Marked() != name && steps <= Backdrops().count(); ++steps) {
     ProgramOnScreen::Key(Qt::Key_Down);
   }
+  REQUIRE(ListIsOpen());
+}
+
+void ChooseBackdrop(const QString& name) {
+  MarkBackdrop(name);
+  ProgramOnScreen::Key(Qt::Key_Return);
 }
 
 void Answer(ProgramOnScreen& desk, QMessageBox::StandardButton answer) {
@@ -173,6 +191,68 @@ TEST_CASE(
   CHECK(ProgramOnScreen::Of<QComboBox>("Combo1", kSetUp).currentText() == "GRANITE");
   CHECK(ProgramOnScreen::Of<QAbstractButton>("Option1(1)", kSetUp).isChecked());
   CHECK(ProgramOnScreen::Of<QAbstractButton>("Option2(0)", kSetUp).isChecked());
+}
+
+TEST_CASE("A key on the closed list of backdrops opens it and chooses nothing") {
+  ProgramOnScreen desk;
+  desk.Start();
+  OpenSetUp();
+  for (const Qt::Key key :
+       {Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End,
+        Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_G, Qt::Key_Less, Qt::Key_Space, Qt::Key_F4}) {
+    CAPTURE(key);
+    Backdrops().setFocus();
+    ProgramOnScreen::Key(key);
+    CHECK(ListIsOpen());
+    ProgramOnScreen::Key(Qt::Key_Escape);
+    CHECK_FALSE(ListIsOpen());
+    CHECK(Backdrops().currentText() == "DEFAULT");
+    CHECK_FALSE(Enabled(kApply));
+  }
+  ProgramOnScreen::Key(Qt::Key_Escape);
+  CHECK(ProgramOnScreen::Focus() == "Combo1");
+  ProgramOnScreen::Key(Qt::Key_Tab);
+  CHECK_FALSE(ListIsOpen());
+  CHECK(ProgramOnScreen::Focus() != "Combo1");
+  CHECK(Backdrops().currentText() == "DEFAULT");
+}
+
+TEST_CASE("In the open list of backdrops only Return or a click chooses") {
+  struct Case {
+    const char* how;
+    std::function<void()> leave;
+    QString chosen;
+  };
+  const auto press = [](Qt::Key key, Qt::KeyboardModifier held = Qt::NoModifier) {
+    return [key, held] { ProgramOnScreen::Key(key, held); };
+  };
+  const Case cases[] = {
+      {"Escape", press(Qt::Key_Escape), "DEFAULT"},
+      {"Tab", press(Qt::Key_Tab), "DEFAULT"},
+      {"Space", press(Qt::Key_Space), "DEFAULT"},
+      {"F4", press(Qt::Key_F4), "DEFAULT"},
+      {"Alt+Up", press(Qt::Key_Up, Qt::AltModifier), "DEFAULT"},
+      {"Alt+Down", press(Qt::Key_Down, Qt::AltModifier), "DEFAULT"},
+      {"Return", press(Qt::Key_Return), "DESERT"},
+      {"a click",
+       [] {
+         const QAbstractItemView& list = *Backdrops().view();
+         QTest::mouseClick(list.viewport(), Qt::LeftButton, {},
+                           list.visualRect(list.currentIndex()).center());
+       },
+       "DESERT"},
+  };
+  for (const Case& c : cases) {
+    CAPTURE(c.how);
+    ProgramOnScreen desk;
+    desk.Start();
+    OpenSetUp();
+    MarkBackdrop("DESERT");
+    c.leave();
+    CHECK(Backdrops().currentText() == c.chosen);
+    CHECK(Enabled(kApply) == (c.chosen != "DEFAULT"));
+    Backdrops().hidePopup();
+  }
 }
 
 TEST_CASE("Closing the set-up window with changes asks, and only Yes stores them") {

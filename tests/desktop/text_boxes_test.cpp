@@ -1,6 +1,7 @@
 #include <QClipboard>
 #include <QInputMethodEvent>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QTextBlock>
 #include <QTextLayout>
@@ -204,6 +205,54 @@ TEST_CASE("Pasted lines keep their breaks, whatever they are made of") {
     Paste(area, lines);
     CHECK(form.Text2.TextOf() == u"one\r\ntwo\r\n");
     CHECK(area.blockCount() == 3);
+  }
+}
+
+TEST_CASE("A paste of nothing leaves a box as it is") {
+  struct Way {
+    const char* name;
+    std::function<void(QWidget& box)> paste;
+  };
+  const Way ways[] = {
+      {"Ctrl+V", [](QWidget& box) { QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier); }},
+      {"Shift+Insert",
+       [](QWidget& box) { QTest::keyClick(&box, Qt::Key_Insert, Qt::ShiftModifier); }},
+      {"the menu's command", [](QWidget& box) { QMetaObject::invokeMethod(&box, "paste"); }},
+      {"the middle button",
+       [](QWidget& box) {
+         auto* area = qobject_cast<QPlainTextEdit*>(&box);
+         QTest::mouseClick(area == nullptr ? &box : area->viewport(), Qt::MiddleButton);
+       }},
+  };
+  for (const Way& way : ways) {
+    for (const char* name : {"Text1", "Text2"}) {
+      CAPTURE(way.name);
+      CAPTURE(name);
+      Desk desk;
+      SampleForm& form = desk.ShowChild();
+      TextBox& box = name == std::string("Text1") ? form.Text1 : form.Text2;
+      box.SetText(u"kept");
+      QClipboard& clipboard = *QApplication::clipboard();
+      clipboard.setMimeData(new QMimeData);
+      if (clipboard.supportsSelection())
+        clipboard.setMimeData(new QMimeData, QClipboard::Selection);
+      way.paste(Desk::Of(name));
+      CHECK(box.TextOf() == u"kept");
+    }
+  }
+}
+
+TEST_CASE("What is pasted is plain text, whatever else it comes as") {
+  for (const char* format : {"text/markdown", "text/html"}) {
+    CAPTURE(format);
+    Desk desk;
+    SampleForm& form = desk.ShowChild();
+    auto* offered = new QMimeData;
+    offered->setData(format, "# <b>marked</b>");
+    offered->setText("# plain");
+    QApplication::clipboard()->setMimeData(offered);
+    QTest::keySequence(&Desk::Of("Text2"), QKeySequence::Paste);
+    CHECK(form.Text2.TextOf() == u"# plain");
   }
 }
 

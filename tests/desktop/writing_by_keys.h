@@ -32,6 +32,12 @@ inline void OpenBuilder() {
   ProgramOnScreen::ChooseByKeys("mnuFile", "mnuACTTD");
 }
 
+/// "Close" carries the letter of "Change" too, which goes to the button only; a blank presses it.
+inline void PressChange() {
+  ProgramOnScreen::Alt(Qt::Key_C);
+  ProgramOnScreen::Key(Qt::Key_Space);
+}
+
 /// The next file dialog gets the name of a file in the folder, and Return.
 inline void TypePathWhenAsked(ProgramOnScreen& desk, const char* file) {
   desk.WhenAsked([&desk, file](QWidget&) {

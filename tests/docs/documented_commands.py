@@ -16,6 +16,7 @@ RUN_AS = {
         "build/release/tests/tests_unit -tc='*deck*' | grep 'test cases: *[1-9]'",
     "scripts/format.sh": "scripts/format.sh --check",
     "bench/run": "bench/run once",
+    "scripts/random_user [STEPS [SEED]]": "PRESET=release scripts/random_user 20 1",
     # Real-time priority is root's; what runs under it is the line above.
     "ionice -c 1 chrt -f 10 bench/run": "ionice -c 3 chrt -i 0 test -x bench/run",
     "scripts/with_display.sh dbus-run-session -- tests/access/take_windows.py build/release /tmp/windows dark":

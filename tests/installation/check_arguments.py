@@ -3,6 +3,7 @@
 
 usage: check_arguments.py BUILD [TEST...]     on the display that DISPLAY names
 """
+import contextlib
 import os
 import pathlib
 import random
@@ -15,6 +16,7 @@ import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts"))
 import first_card  # noqa: E402  after the path is set
+import program_end  # noqa: E402
 
 SECONDS_TO_WAIT = 30
 SECONDS_BETWEEN_LOOKS = 0.02
@@ -50,13 +52,16 @@ class Scratch(unittest.TestCase):
         self.folder = self.home / "my décks"
         self.folder.mkdir()
 
-    def start(self, *arguments, prefix=()):
-        return subprocess.Popen((*prefix, build / "tessara", *arguments), env=self.environment, cwd=self.folder)
-
-    def end(self, program):
-        program.terminate()
-        program.wait(SECONDS_TO_WAIT)
-        wait_for("The end of the program's windows", lambda: not first_card.windows_of(program))
+    @contextlib.contextmanager
+    def started(self, *arguments, prefix=()):
+        """The program, which the test sees to its end. Whatever becomes of it, the next one has the screen for itself."""
+        program = subprocess.Popen((*prefix, build / "tessara", *arguments), env=self.environment, cwd=self.folder)
+        try:
+            yield program
+        finally:
+            program.kill()
+            program.wait(SECONDS_TO_WAIT)
+            wait_for("The end of the program's windows", lambda: not first_card.windows_of(program))
 
 
 class Paths(Scratch):
@@ -68,11 +73,10 @@ class Paths(Scratch):
         shutil.copy(build / "samples" / "capitals.tsr", self.deck)
 
     def picture(self, *arguments):
-        program = self.start(*arguments)
-        try:
-            return first_card.wait_for_painted(program)
-        finally:
-            self.end(program)
+        with self.started(*arguments) as program:
+            painted = first_card.wait_for_painted(program)
+            program_end.end(program)
+            return painted
 
     def test_a_path_names_the_deck_however_it_is_written(self):
         plain, wanted = self.picture(), self.picture(self.deck)
@@ -118,15 +122,13 @@ class BadInput(Scratch):
         subprocess.run(["xdotool", "windowactivate", "--sync", box, "key", "Return"], check=True)
 
     def check(self, what, wanted, *arguments, prefix=()):
-        with self.subTest(what):
-            program = self.start(*arguments, prefix=prefix)
-            try:
-                self.assertEqual(self.box_or_frame(program), wanted)
-                if wanted == ERROR_BOX:
-                    self.press_return(program)
-                    self.assertEqual(program.wait(SECONDS_TO_WAIT), 1)
-            finally:
-                self.end(program)
+        with self.subTest(what), self.started(*arguments, prefix=prefix) as program:
+            self.assertEqual(self.box_or_frame(program), wanted)
+            if wanted == ERROR_BOX:
+                self.press_return(program)
+                program_end.expect(program, 1)
+            else:
+                program_end.end(program)
 
     def make(self, name, content=b""):
         path = self.folder / name

@@ -6,11 +6,15 @@ usage: check_installation.py BUILD [TEST...]     on the display that DISPLAY nam
 import os
 import pathlib
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
 import time
 import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts"))
+import program_end  # noqa: E402  after the path is set
 
 SECONDS_TO_WAIT = 60
 SECONDS_BETWEEN_LOOKS = 0.1
@@ -93,8 +97,10 @@ class Scratch(unittest.TestCase):
             arguments = process.joinpath("cmdline").read_bytes().decode().split("\0")[1:-1]
             self.assertEqual(arguments, [str(deck)] if deck else [])
         finally:
-            os.killpg(program.pid, 15)
-            program.wait()
+            # What opens a deck may leave as soon as it has started the program.
+            wanted = -signal.SIGTERM if program.poll() is None else 0
+            os.killpg(program.pid, signal.SIGTERM)
+            program_end.expect(program, wanted)
             wait_for("The end of the program", lambda: not titles_on_screen())
 
     def ask(self, *command):

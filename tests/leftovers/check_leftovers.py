@@ -12,6 +12,9 @@ import sys
 import tempfile
 import time
 
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts"))
+import program_end  # noqa: E402  after the path is set
+
 PATIENCE = 30  # seconds until a wait counts as a failure
 
 # What the first start declares to the desktop, and the settings it writes: these stay on purpose.
@@ -23,7 +26,7 @@ def wait_for(condition, what):
     end = time.monotonic() + PATIENCE
     while not condition():
         if time.monotonic() > end:
-            raise TimeoutError(what)
+            raise TimeoutError(f"waited in vain for {what}")
         time.sleep(0.01)
 
 
@@ -93,7 +96,15 @@ def holds_lock(home):
 
 
 def end_by(number):
-    return lambda process: process.send_signal(number)
+    return lambda process: program_end.end(process, number, PATIENCE)
+
+
+def end_with(display):
+    """Without a display the window system's library leaves the program with status 1."""
+    def end(process):
+        display.end()
+        program_end.expect(process, 1, PATIENCE)
+    return end
 
 
 def complaints(tessara, name, deck, end, display=None):
@@ -105,16 +116,15 @@ def complaints(tessara, name, deck, end, display=None):
         # The settings file is written by the first start: by then the program is well under way.
         wait_for(lambda: holds_lock(home) and (home.root / "config" / "Tessara.conf").exists(), "the start")
         end(process)
-        process.wait(PATIENCE)
         # The desktop's own tools, which the first start begins, come to their end by themselves.
         wait_for(lambda: not processes_of(home.mark), "the end of every process")
         if holds_lock(home):
             yield f"{name}: the lock is still held"
         yield from (f"{name}: {left}" for left in home.leftovers())
-    except TimeoutError as missed:
+    except (TimeoutError, subprocess.TimeoutExpired, program_end.WrongEnd) as missed:
         for number in processes_of(home.mark):
             os.kill(number, signal.SIGKILL)
-        yield f"{name}: waited in vain for {missed}"
+        yield f"{name}: {missed}"
     finally:
         shutil.rmtree(home.root)
 
@@ -127,7 +137,7 @@ def main():
     for number in (signal.SIGKILL, signal.SIGTERM):
         found += complaints(tessara, f"{number.name} with a broken deck", None, end_by(number))
     display = Display()
-    found += complaints(tessara, "the display gone", deck, lambda process: display.end(), display)
+    found += complaints(tessara, "the display gone", deck, end_with(display), display)
     print("\n".join(found))
     sys.exit(bool(found))
 

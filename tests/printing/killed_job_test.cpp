@@ -3,12 +3,12 @@
 #include <array>
 #include <csignal>
 #include <doctest/doctest.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include "adapters/libreoffice/loader/loaded_spreadsheet.h"
 #include "base/utf8.h"
 #include "tests/printing/server_processes.h"
+#include "tests/support/process_end.h"
 #include "tests/support/wait_for.h"
 
 namespace tessara {
@@ -37,7 +37,7 @@ class JobProcess {
   }
   void Kill() const {
     kill(process_, SIGKILL);
-    waitpid(process_, nullptr, 0);
+    test::ExpectEndBySignal(process_, SIGKILL);
   }
 
  private:

@@ -39,7 +39,8 @@ class OfficeDesk {
   HeadlessRenderer renderer;
   ProgramState state;
   TestFrame frame;
-  AppContext app{windows, machine, state, frame};
+  UnsavedDeck unsaved{state, machine};
+  AppContext app{windows, machine, state, frame, unsaved};
   SpreadsheetJob job{machine};
   WindowSlot<Form> deckSlot{
       windows,

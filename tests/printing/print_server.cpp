@@ -10,6 +10,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "base/folder_entries.h"
 #include "tests/support/wait_for.h"
 
 namespace tessara::test {
@@ -193,7 +194,8 @@ void PrintServer::BecomeTheOnlyOne() const {
 
 std::vector<int> PrintServer::JobsOf(const std::string& queue) const {
   std::vector<int> jobs;
-  for (const fs::directory_entry& entry : fs::directory_iterator(folder_ / "jobs")) {
+  std::error_code unread;
+  for (const fs::directory_entry& entry : EntriesOf(folder_ / "jobs", unread)) {
     const fs::path& path = entry.path();
     const std::string prefix = queue + "-";
     if (path.extension() != ".pdf" || !path.stem().string().starts_with(prefix)) continue;

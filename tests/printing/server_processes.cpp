@@ -4,6 +4,7 @@
 #include <fstream>
 #include <unistd.h>
 
+#include "base/folder_entries.h"
 #include "tests/support/wait_for.h"
 
 namespace tessara::test {
@@ -35,7 +36,8 @@ bool IsServerOf(pid_t program, const fs::path& path) {
 
 std::vector<pid_t> ServersOf(pid_t program) {
   std::vector<pid_t> servers;
-  for (const fs::directory_entry& entry : fs::directory_iterator("/proc")) {
+  std::error_code unread;
+  for (const fs::directory_entry& entry : EntriesOf("/proc", unread)) {
     const std::string name = entry.path().filename().string();
     const bool process = name.find_first_not_of("0123456789") == std::string::npos;
     if (process && IsServerOf(program, entry.path())) servers.push_back(std::stoi(name));
@@ -63,7 +65,8 @@ bool Runs(pid_t process) {
 std::vector<std::string> FilesOf(pid_t program) {
   std::vector<std::string> left;
   const std::string mark = "tessara-print-" + std::to_string(program) + "-";
-  for (const fs::directory_entry& entry : fs::directory_iterator(fs::temp_directory_path())) {
+  std::error_code unread;
+  for (const fs::directory_entry& entry : EntriesOf(fs::temp_directory_path(), unread)) {
     if (entry.path().string().find(mark) != std::string::npos) left.push_back(entry.path());
   }
   return left;

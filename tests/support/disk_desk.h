@@ -9,6 +9,7 @@
 
 #include "adapters/posix/posix_file_system.h"
 #include "adapters/posix/posix_safety_copies.h"
+#include "base/folder_entries.h"
 #include "base/utf8.h"
 #include "shell/program.h"
 #include "tests/support/fake_machine.h"
@@ -21,7 +22,7 @@ namespace tessara::test {
 inline std::vector<std::string> NamesIn(const std::filesystem::path& folder) {
   std::vector<std::string> names;
   std::error_code missing;
-  for (const auto& entry : std::filesystem::directory_iterator(folder, missing)) {
+  for (const auto& entry : EntriesOf(folder, missing)) {
     names.push_back(entry.path().filename().string());
   }
   std::sort(names.begin(), names.end());

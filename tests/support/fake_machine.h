@@ -2,7 +2,9 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 #include "base/code_page.h"
@@ -38,16 +40,42 @@ class FakeSettings : public SettingsStore {
   }
 };
 
-/// Notes the files that are to be kept, each with the bytes that it had then.
+/// Notes the files that are to be kept, each with the bytes that it had then, and the decks.
 class FakeCopies : public SafetyCopies {
  public:
   explicit FakeCopies(const MemoryFiles& files) : files_(files) {}
 
-  std::vector<std::pair<Text, std::string>> kept;
+  using Deck = std::pair<Text, std::string>;
 
-  void Keep(const Text& path) noexcept override {
+  std::vector<Deck> kept;
+  std::vector<Loss> losses;  ///< what the saves were about to do, one for each
+  std::vector<Deck> notSaved;
+  std::optional<Deck> unsaved;  ///< the open deck
+  int unsavedWrites = 0;
+  std::vector<Deck> leftUnsaved;
+  std::vector<LeftDeck> leftBefore;  ///< by programs that have ended
+  bool full = false;                 ///< nothing that has no file can be kept
+
+  void Keep(const Text& path, Loss loss) noexcept override {
+    losses.push_back(loss);
     if (files_.Has(path)) kept.emplace_back(path, files_.Bytes(path));
   }
+  Text KeepNotSaved(const Text& fileName, std::string_view deck) noexcept override {
+    if (full) return {};
+    notSaved.emplace_back(fileName, deck);
+    unsaved.reset();
+    return u"/copies/" + fileName;
+  }
+  void KeepUnsaved(const Text& fileName, std::string_view deck) noexcept override {
+    ++unsavedWrites;
+    if (!full) unsaved.emplace(unsaved ? unsaved->first : fileName, deck);
+  }
+  void DropUnsaved() noexcept override { unsaved.reset(); }
+  void LeaveUnsaved() noexcept override {
+    if (unsaved) leftUnsaved.push_back(*unsaved);
+    unsaved.reset();
+  }
+  std::vector<LeftDeck> TakeLeftDecks() noexcept override { return std::exchange(leftBefore, {}); }
 
  private:
   const MemoryFiles& files_;
@@ -62,6 +90,7 @@ class FakeClock : public Clock {
 class FakeDesktop : public Desktop {
  public:
   bool previousInstance = false;
+  Text documentsFolder = u"/home/ann/Documents";
   int openResult = kOpenSucceeded;
   int screenWidth = 1024;
   int screenHeight = 768;
@@ -69,6 +98,7 @@ class FakeDesktop : public Desktop {
   std::function<void()> whileYielding;  ///< runs in each yield
   std::vector<std::tuple<Text, Text, ShowState>> opened;
   std::vector<Text> helpShown;
+  std::vector<std::pair<Text, Text>> notices;  ///< title and text
   std::vector<MousePointer> pointers;
 
   bool PreviousInstance() override { return previousInstance; }
@@ -76,7 +106,9 @@ class FakeDesktop : public Desktop {
     opened.emplace_back(target, folder, state);
     return openResult;
   }
+  [[nodiscard]] Text DocumentsFolder() const override { return documentsFolder; }
   void ShowHelp(const Text& path) override { helpShown.push_back(path); }
+  void Notify(const Text& title, const Text& text) override { notices.emplace_back(title, text); }
   void SetMousePointer(MousePointer pointer) override { pointers.push_back(pointer); }
   void Yield() override {
     ++yields;

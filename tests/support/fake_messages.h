@@ -2,12 +2,12 @@
 
 #include <deque>
 #include <functional>
-#include <stdexcept>
 #include <utility>
 #include <vector>
 
 #include "base/utf8.h"
 #include "machine/message_box.h"
+#include "tests/support/test_failure.h"
 
 namespace tessara::test {
 
@@ -32,7 +32,7 @@ class FakeMessages : public MessageBoxes {
     if (whileShown) whileShown(shown.back());
     constexpr int kButtons = 15;
     if ((flags & kButtons) == kOkOnly) return MessageAnswer::kOk;
-    if (answers.empty()) throw std::logic_error("no answer for: " + ToUtf8(text));
+    if (answers.empty()) throw TestFailure{"no answer for: " + ToUtf8(text)};
     const MessageAnswer answer = answers.front();
     answers.pop_front();
     return answer;

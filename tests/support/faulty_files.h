@@ -29,6 +29,8 @@ class FaultyFiles : public FileSystem {
     MayFail();
     files_.Delete(path);
   }
+  /// Not counted: a trial that fails is an answer, not an error.
+  void TrySaving(const Text& path) override { files_.TrySaving(path); }
   std::optional<Text> EntryName(const Text& path) override {
     return Fault() ? std::nullopt : files_.EntryName(path);
   }
@@ -45,6 +47,10 @@ class FaultyFiles : public FileSystem {
     void WriteAt(std::uint64_t offset, std::span<const char> bytes) override {
       owner_.MayFail();
       file_->WriteAt(offset, bytes);
+    }
+    void Close() override {
+      owner_.MayFail();
+      file_->Close();
     }
 
    private:

@@ -6,6 +6,8 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "tests/support/process_end.h"
+
 namespace tessara::test {
 
 /// Runs the action in a process of its own and kills that at its `which`-th stop, counted from 1.
@@ -25,6 +27,7 @@ bool KilledAt(int which, const Action& action) {
   for (int stop = 0; stop < which; ++stop) {
     const bool traced = ptrace(PTRACE_SYSCALL, child, nullptr, nullptr) == 0;
     if (traced) waitpid(child, &status, 0);
+    ExpectSystemCall(status);
     if (traced && WIFSTOPPED(status)) continue;
     kill(child, SIGKILL);
     waitpid(child, nullptr, 0);
@@ -32,7 +35,7 @@ bool KilledAt(int which, const Action& action) {
     return false;
   }
   kill(child, SIGKILL);
-  waitpid(child, &status, 0);
+  ExpectEndBySignal(child, SIGKILL);
   return true;
 }
 

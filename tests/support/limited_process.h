@@ -2,26 +2,33 @@
 
 #include <csignal>
 #include <sys/resource.h>
-#include <sys/wait.h>
 #include <unistd.h>
+
+#include "tests/support/process_end.h"
 
 namespace tessara::test {
 
-/// False under the sanitizers: their own checks open files.
+/// False under the sanitizers: their own checks open files, and take memory beyond all bounds.
 #ifdef TESSARA_SANITIZED
 inline constexpr bool kOpenFilesCanBeLimited = false;
+inline constexpr bool kMemoryCanBeLimited = false;
 #else
 inline constexpr bool kOpenFilesCanBeLimited = true;
+inline constexpr bool kMemoryCanBeLimited = true;
 #endif
+
+/// From here on the process gets no more memory than this in all.
+inline void LimitMemory(long bytes) {
+  const rlimit limits{static_cast<rlim_t>(bytes), static_cast<rlim_t>(bytes)};
+  setrlimit(RLIMIT_AS, &limits);
+}
 
 /// True where the condition holds in a process of its own.
 template <class Condition>
 bool HoldsInProcess(const Condition& condition) {
   const pid_t child = fork();
   if (child == 0) _exit(condition() ? 0 : 1);
-  int status = 0;
-  waitpid(child, &status, 0);
-  return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+  return ExitStatusOf(child) == 0;
 }
 
 /// Runs the action in a process in which the system refuses what is over the limit: RLIMIT_FSIZE

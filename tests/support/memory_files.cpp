@@ -63,11 +63,16 @@ void MemoryFiles::MayFail(Operation operation, const Text& path) const {
   if (const auto error = fault(operation, path)) throw RunTimeError(*error);
 }
 
-std::unique_ptr<File> MemoryFiles::Open(const Text& path, OpenMode mode) {
-  MayFail(Operation::kOpen, path);
+/// Raises what keeps a file from being there.
+void MemoryFiles::RequirePlace(const Text& path) const {
   if (path.empty() || folders.contains(path)) throw RunTimeError(ErrorNumber::kPathFileAccess);
   if (!folders.contains(FolderOf(path))) throw RunTimeError(ErrorNumber::kPathNotFound);
   if (withoutPermission.contains(path)) throw RunTimeError(ErrorNumber::kPermissionDenied);
+}
+
+std::unique_ptr<File> MemoryFiles::Open(const Text& path, OpenMode mode) {
+  MayFail(Operation::kOpen, path);
+  RequirePlace(path);
   if (!Has(path)) {
     if (mode == OpenMode::kRead) throw RunTimeError(ErrorNumber::kFileNotFound);
     Put(path, "");
@@ -80,6 +85,13 @@ void MemoryFiles::Delete(const Text& path) {
   if (path.empty() || folders.contains(path)) throw RunTimeError(ErrorNumber::kPathFileAccess);
   if (withoutPermission.contains(path)) throw RunTimeError(ErrorNumber::kPermissionDenied);
   if (files.erase(path) == 0) throw RunTimeError(ErrorNumber::kFileNotFound);
+}
+
+void MemoryFiles::TrySaving(const Text& path) {
+  MayFail(Operation::kTrySaving, path);
+  RequirePlace(path);
+  const bool newThere = !Has(path) && withoutPermission.contains(FolderOf(path));
+  if (newThere) throw RunTimeError(ErrorNumber::kPermissionDenied);
 }
 
 std::optional<Text> MemoryFiles::EntryName(const Text& path) {

@@ -15,13 +15,13 @@ namespace tessara::test {
 /// A file system in memory. Paths are whole keys; a folder is a path that was declared one.
 class MemoryFiles : public FileSystem {
  public:
-  enum class Operation { kOpen, kDelete, kRead, kWrite, kEntryName };
+  enum class Operation { kOpen, kDelete, kRead, kWrite, kTrySaving, kEntryName };
 
   MemoryFiles() { folders.insert(u"/"); }
 
   std::map<Text, std::shared_ptr<std::string>> files;
   std::set<Text> folders;
-  std::set<Text> withoutPermission;
+  std::set<Text> withoutPermission;  ///< files that can't be opened, folders that take no new file
   /// Asked before every operation: an error number makes it fail.
   std::function<std::optional<ErrorNumber>(Operation, const Text& path)> fault;
 
@@ -33,6 +33,7 @@ class MemoryFiles : public FileSystem {
 
   std::unique_ptr<File> Open(const Text& path, OpenMode mode) override;
   void Delete(const Text& path) override;
+  void TrySaving(const Text& path) override;
   std::optional<Text> EntryName(const Text& path) override;
 
   /// Fails where `fault` says so.
@@ -40,6 +41,7 @@ class MemoryFiles : public FileSystem {
 
  private:
   void MakeFoldersOf(const Text& path);
+  void RequirePlace(const Text& path) const;
 };
 
 }  // namespace tessara::test

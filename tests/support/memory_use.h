@@ -29,6 +29,13 @@ inline long ResidentBytes() {
 #endif
 }
 
+/// Bytes of addresses that the process has taken.
+inline long AddressBytes() {
+  long all = 0;
+  std::ifstream("/proc/self/statm") >> all;
+  return all * sysconf(_SC_PAGESIZE);
+}
+
 /// What the process holds now; compared with the same of later.
 struct MemoryUse {
   long heap = HeapBytes();

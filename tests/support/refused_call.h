@@ -14,6 +14,8 @@
 #include <unistd.h>
 #include <vector>
 
+#include "tests/support/process_end.h"
+
 namespace tessara::test {
 
 /// What the system says where it refuses a call on a file. Under the sanitizers one of these has to
@@ -60,6 +62,7 @@ class StoppedAtCalls {
       throw std::runtime_error("the process can't be stopped");
     }
     waitpid(child_, &status_, 0);
+    ExpectSystemCall(status_);
     return WIFSTOPPED(status_);
   }
   [[nodiscard]] long Call() const { return static_cast<long>(Registers().orig_rax); }

@@ -18,7 +18,8 @@ struct TestDesk {
   ProgramState state;
   TestFrame frame;
   FileNumber fileNumber{fakes.files};
-  AppContext app{windows, machine, state, frame};
+  UnsavedDeck unsaved{state, machine};
+  AppContext app{windows, machine, state, frame, unsaved};
 
   TestDesk() { windows.SetRenderer(renderer); }
 };

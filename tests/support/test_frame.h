@@ -9,7 +9,6 @@ class TestFrame : public AppFrame {
  public:
   int width = 12120;
   int height = 9390;
-  bool fileMenuEnabled = true;
   int aboutClosed = 0;
   int splashClosed = 0;
   ImageList wallPaper{{{u"White Flat", {"skins/white_flat.png", 323, 90}},
@@ -29,7 +28,6 @@ class TestFrame : public AppFrame {
   [[nodiscard]] int ScaleHeight() const override { return height - 390; }
   [[nodiscard]] const ImageList& CardPictures() const override { return wallPaper; }
   [[nodiscard]] const ImageList& BackdropTiles() const override { return tiles; }
-  void EnableFileMenu(bool enabled) override { fileMenuEnabled = enabled; }
   void CloseAbout() override { ++aboutClosed; }
   void CloseSplash() override { ++splashClosed; }
 };

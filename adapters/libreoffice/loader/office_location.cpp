@@ -9,6 +9,7 @@
 #include <system_error>
 #include <vector>
 
+#include "base/folder_entries.h"
 #include "base/run_time_error.h"
 #include "base/utf8.h"
 
@@ -43,8 +44,8 @@ std::vector<fs::path> FoldersOnSearchPath() {
 
 std::vector<fs::path> UsualFolders() {
   std::vector<fs::path> folders{"/usr/lib/libreoffice/program", "/usr/lib64/libreoffice/program"};
-  std::error_code error;
-  for (const fs::directory_entry& entry : fs::directory_iterator("/opt", error)) {
+  std::error_code unread;
+  for (const fs::directory_entry& entry : EntriesOf("/opt", unread)) {
     folders.push_back(entry.path() / "program");
   }
   return folders;

@@ -2,9 +2,11 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QUrl>
 #include <utility>
 
@@ -31,7 +33,8 @@ QSize ScreenSize() {
 
 }  // namespace
 
-QtDesktop::QtDesktop(HelpViewer showHelp) : showHelp_(std::move(showHelp)) {}
+QtDesktop::QtDesktop(HelpViewer showHelp, Notifier notify)
+    : showHelp_(std::move(showHelp)), notify_(std::move(notify)) {}
 
 bool QtDesktop::PreviousInstance() {
   return !lock_.Acquire();
@@ -49,6 +52,15 @@ int QtDesktop::Open(const Text& target, const Text& folder, ShowState state) {
 
 void QtDesktop::ShowHelp(const Text& path) {
   if (showHelp_ && QFileInfo::exists(ToQString(path))) showHelp_(path);
+}
+
+void QtDesktop::Notify(const Text& title, const Text& text) {
+  if (notify_) notify_(title, text);
+}
+
+Text QtDesktop::DocumentsFolder() const {
+  const QString folder = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+  return FromQString(QFileInfo(folder).isDir() ? folder : QDir::homePath());
 }
 
 void QtDesktop::SetMousePointer(MousePointer pointer) {

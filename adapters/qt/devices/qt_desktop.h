@@ -11,12 +11,16 @@ class QtDesktop : public Desktop {
  public:
   /// Shows the help file at the path, which exists.
   using HelpViewer = std::function<void(const Text& path)>;
-  explicit QtDesktop(HelpViewer showHelp);
+  /// Tells the user a title and a text beside the program's windows.
+  using Notifier = std::function<void(const Text& title, const Text& text)>;
+  explicit QtDesktop(HelpViewer showHelp, Notifier notify = {});
 
   bool PreviousInstance() override;
   /// The folder and the window's state are the opening program's own business here.
   int Open(const Text& target, const Text& folder, ShowState state) override;
   void ShowHelp(const Text& path) override;
+  void Notify(const Text& title, const Text& text) override;
+  [[nodiscard]] Text DocumentsFolder() const override;
   void SetMousePointer(MousePointer pointer) override;
   void Yield() override;
   [[nodiscard]] int ScreenWidth() const override;
@@ -24,6 +28,7 @@ class QtDesktop : public Desktop {
 
  private:
   HelpViewer showHelp_;
+  Notifier notify_;
   SessionLock lock_;
 };
 

@@ -99,7 +99,7 @@ MessageAnswer AnswerOf(int button) {
 
 }  // namespace
 
-MessageAnswer QtMessageBoxes::Show(const Text& text, int flags, const Text& title) {
+MessageAnswer ShowMessageBox(const Text& text, int flags, const Text& title) {
   AnswerBox box(QApplication::activeWindow(), (flags & kButtonBits) == kYesNo);
   box.setTextFormat(Qt::PlainText);
   box.setText(LinesForQt(text.substr(0, kLongestMessage)));
@@ -110,9 +110,13 @@ MessageAnswer QtMessageBoxes::Show(const Text& text, int flags, const Text& titl
   for (const auto button : buttons) box.addButton(button);
   const bool second = (flags & kSecondButtonDefault) != 0 && buttons.size() > 1;
   box.setDefaultButton(buttons[second ? 1 : 0]);
-  const int button = box.exec();
+  return AnswerOf(box.exec());
+}
+
+MessageAnswer QtMessageBoxes::Show(const Text& text, int flags, const Text& title) {
+  const MessageAnswer answer = ShowMessageBox(text, flags, title);
   if (windows_ != nullptr) windows_->LeaveIfEnded();
-  return AnswerOf(button);
+  return answer;
 }
 
 }  // namespace tessara

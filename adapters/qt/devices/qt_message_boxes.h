@@ -6,6 +6,9 @@ namespace tessara {
 
 class WindowSystem;
 
+/// Shows the box over the window in front and waits, whether the program ends meanwhile or not.
+MessageAnswer ShowMessageBox(const Text& text, int flags, const Text& title);
+
 /// Message boxes of the desktop's look, with texts and titles shown as they stand.
 class QtMessageBoxes : public MessageBoxes {
  public:

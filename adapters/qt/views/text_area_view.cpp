@@ -1,6 +1,7 @@
 #include "adapters/qt/views/text_area_view.h"
 
 #include <QApplication>
+#include <QMimeData>
 #include <QStyle>
 #include <QTextBlock>
 #include <QTextLayout>
@@ -20,6 +21,21 @@ QTextOption OptionOfArea() {
   return option;
 }
 
+/// Takes plain text from a clipboard and nothing else: Qt would format what is marked as Markdown,
+/// and crashes where a clipboard offers nothing.
+class PlainArea : public QPlainTextEdit {
+ public:
+  using QPlainTextEdit::QPlainTextEdit;
+
+ protected:
+  void insertFromMimeData(const QMimeData* source) override {
+    if (!source->hasText()) return;
+    QMimeData plain;
+    plain.setText(source->text());
+    QPlainTextEdit::insertFromMimeData(&plain);
+  }
+};
+
 int LinesOfParagraph(const QString& paragraph, const QFont& font, int width) {
   QTextLayout layout(paragraph, font);
   layout.setTextOption(OptionOfArea());
@@ -34,7 +50,7 @@ int LinesOfParagraph(const QString& paragraph, const QFont& font, int width) {
 }  // namespace
 
 TextAreaView::TextAreaView(TextBox& box, QWidget& parent, const ViewContext& context)
-    : ControlView(box, *new QPlainTextEdit(&parent), context) {
+    : ControlView(box, *new PlainArea(&parent), context) {
   Edit().setTabChangesFocus(true);
   Edit().setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   Edit().setVerticalScrollBarPolicy(box.VerticalScrollBar() ? Qt::ScrollBarAlwaysOn

@@ -4,7 +4,8 @@ namespace tessara {
 
 Form* MenuBarForm(const WindowSystem& windows) {
   Form* child = windows.ActiveChild();
-  return child != nullptr && !child->Menus().empty() ? child : windows.FrameForm();
+  const bool offers = child != nullptr && child->Enabled() && !child->Menus().empty();
+  return offers ? child : windows.FrameForm();
 }
 
 }  // namespace tessara

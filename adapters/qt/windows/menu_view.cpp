@@ -1,9 +1,10 @@
 #include "adapters/qt/windows/menu_view.h"
 
-#include <QMenu>
+#include <QPointer>
 #include <algorithm>
 
 #include "adapters/qt/text/qt_text.h"
+#include "adapters/qt/windows/letter_menu.h"
 
 namespace tessara {
 
@@ -24,7 +25,7 @@ QAction* MenuView::Make(MenuEntry& entry) {
 }
 
 QAction* MenuView::MakeMenu(MenuEntry& entry) {
-  auto* menu = new QMenu(ToQString(entry.Caption()), &Owner());
+  auto* menu = new LetterMenu(ToQString(entry.Caption()), &Owner());
   menu->setObjectName(QString::fromStdString(entry.Name()));
   for (MenuEntry* below : entry.Entries()) menu->addAction(Make(*below));
   return menu->menuAction();
@@ -40,13 +41,18 @@ QAction* MenuView::MakeCommand(MenuEntry& entry) {
 
 void MenuView::Press(MenuEntry& entry) {
   if (actions_.empty()) return;
+  // An event that waits for a box outlives a window that goes meanwhile, and these menus with it.
+  const QPointer<MenuView> here(this);
   entry.Press();
   // A click turns a mark over; whether it stands is the form's to say.
-  if (!actions_.empty()) Follow(entry);
+  if (here && !actions_.empty()) Follow(entry);
 }
 
 void MenuView::Follow(const MenuEntry& entry) {
   QAction& action = *actions_.at(&entry);
+  // Qt switches a menu on again with its window, unless the menu itself is off.
+  QMenu* menu = action.menu();
+  if (menu != nullptr) menu->setEnabled(entry.Enabled());
   action.setEnabled(entry.Enabled());
   action.setVisible(entry.Visible());
   if (entry.Checked()) action.setCheckable(true);

@@ -79,7 +79,9 @@ void QtRenderer::FormChanged(Form& form, FormAspect aspect) {
   if (window == nullptr) return;
   window->Follow(aspect);
   if (aspect == FormAspect::kVisible && !form.Visible()) QuitModal(form);
-  if (aspect == FormAspect::kEnabled && form.Enabled()) FocusChanged(form);
+  if (aspect != FormAspect::kEnabled) return;
+  ShowMenus();
+  if (form.Enabled()) FocusChanged(form);
 }
 
 void QtRenderer::FormUnloaded(Form& form) {

@@ -343,6 +343,8 @@ void WalkOnce(unsigned seed, Sights& sights) {
     if (model.count >= kMostCards) ++sights.fullDecks;
     REQUIRE(Walk::Seen(desk) == Walk::Expected(model));
     REQUIRE(Difference(model, desk.state) == "");
+    const bool leadsOut = model.look.previousOn && model.current <= 1;
+    REQUIRE_FALSE(leadsOut);
   }
 }
 

@@ -72,18 +72,19 @@ class EssayModel : public BuilderModel {
     if (!look.cancelOn) return;
     if (look.cancelCaption == kDelete) {
       Delete();
-    } else if (count < 1) {
-      Clear();
-      number = u"Card: " + DecimalText(count + 1);
-      BecomeNew();
-      look.cancelOn = false;
-      goTo = false;
-      current = count;
     } else {
-      Show(count);
-      BecomeOld();
-      SetGoTo();
       current = count;
+      if (count < 1) {
+        Clear();
+        number = u"Card: " + DecimalText(count + 1);
+        BecomeNew();
+        look.cancelOn = false;
+        goTo = false;
+      } else {
+        Show(count);
+        BecomeOld();
+        SetGoTo();
+      }
     }
     look.addOn = false;
   }

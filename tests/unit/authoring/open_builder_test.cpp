@@ -44,6 +44,41 @@ TEST_CASE("the deck window is hidden for as long as a builder is open") {
   }
 }
 
+TEST_CASE("behind a builder the focus is where a blank closes no deck") {
+  struct Case {
+    const char* what;
+    bool questions;
+    int cards;
+    bool arrow;  ///< ">>", else the card
+  };
+  const Case cases[] = {{"the only text", false, 1, false},
+                        {"the first text of three", false, 3, true},
+                        {"the last question of three", true, 3, false}};
+  for (const Case& c : cases) {
+    CAPTURE(c.what);
+    BuilderDesk desk;
+    c.questions ? desk.OpenExtendedDeck(c.cards) : desk.OpenStandardDeck(c.cards);
+    DeckWindow& deck = desk.deck.Loaded();
+    deck.UserFocus(deck.closeDeck);
+    desk.OpenBuilder();
+    desk.windows.ActiveForm()->UserAccelerator(u'c');
+    CHECK(desk.windows.ActiveForm() == &deck);
+    const Control* next = &deck.card;
+    if (c.arrow) next = &deck.arrows[kNextCard];
+    CHECK(deck.FocusedControl() == next);
+  }
+}
+
+TEST_CASE("behind a builder the focus is on what had it, where that still works") {
+  BuilderDesk desk;
+  desk.OpenStandardDeck(3);
+  DeckWindow& deck = desk.deck.Loaded();
+  deck.UserFocus(deck.flip);
+  desk.OpenBuilder();
+  desk.essay->UserClose();
+  CHECK(deck.FocusedControl() == &deck.flip);
+}
+
 TEST_CASE("a builder opened again while it is open keeps the guard on") {
   BuilderDesk desk;
   TextCardBuilder& window = desk.OpenEssay(2);
@@ -68,6 +103,44 @@ TEST_CASE("the label of the card's number is read out with the number") {
   CHECK(essayDesk.OpenEssay().number.AccessibleName().empty());
   BuilderDesk questionDesk;
   CHECK(questionDesk.OpenQuestion().number.AccessibleName().empty());
+}
+
+TEST_CASE("in a builder the letter C drops and closes nothing while two buttons carry it") {
+  struct Case {
+    const char* what;
+    bool fresh;
+    BuilderButton next;  ///< the one to which the letter goes first
+  };
+  const Case cases[] = {{"a new card", true, kCancelButton}, {"a changed card", false, kAddButton}};
+  for (const Case& c : cases) {
+    CAPTURE(c.what);
+    BuilderDesk desk;
+    TextCardBuilder& window = desk.OpenEssay(2);
+    if (c.fresh) window.buttons[kNewButton].Press();
+    for (TextBox& box : window.sides) Type(box, u"typed");
+    const Text typed = window.sides[kBackSide].TextOf();
+    window.UserFocus(window.sides[kBackSide]);
+    for (const BuilderButton button : {c.next, kCloseButton, c.next}) {
+      CHECK(window.UserAccelerator(u'c'));
+      CHECK(window.FocusedControl() == &window.buttons[button]);
+    }
+    CHECK(desk.essay.IsLoaded());
+    CHECK(window.sides[kBackSide].TextOf() == typed);
+    CHECK(window.buttons[kAddButton].Enabled());
+    CHECK(desk.TakeBoxes().empty());
+  }
+}
+
+TEST_CASE("in a builder the letter C closes where no other button carries it") {
+  BuilderDesk desk;
+  SUBCASE("texts") {
+    CHECK(desk.OpenEssay(2).UserAccelerator(u'c'));
+    CHECK_FALSE(desk.essay.IsLoaded());
+  }
+  SUBCASE("questions") {
+    CHECK(desk.OpenQuestion(2).UserAccelerator(u'c'));
+    CHECK_FALSE(desk.question.IsLoaded());
+  }
 }
 
 }  // namespace tessara::test

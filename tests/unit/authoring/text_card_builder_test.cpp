@@ -317,28 +317,34 @@ TEST_CASE("No to the delete question redraws the card and marks the deck as chan
   CHECK_FALSE(window.buttons[kAddButton].Enabled());
 }
 
-TEST_CASE("cancelling a new text card shows the last card of the deck") {
-  BuilderDesk desk;
-  TextCardBuilder& window = desk.OpenEssay(2);
-  window.buttons[kNewButton].Press();
-  Type(window.sides[kFrontSide], u"never mind");
-  window.buttons[kCancelButton].Press();
-  CHECK(window.sides[kFrontSide].TextOf() == u"front 2");
-  CHECK(LookOf(window) == ButtonsLook{true, false, true, true, false, kChange, kDelete});
-  CHECK(desk.state.deck.currentCard == 2);
-  CHECK_FALSE(desk.state.deck.changed);
-  CHECK(desk.TakeBoxes().empty());
+TEST_CASE("cancelling a new text card shows the last one, with the arrows by its place") {
+  struct Case {
+    int cards;
+    bool previous;
+  };
+  for (const Case& c : {Case{1, false}, Case{2, true}}) {
+    BuilderDesk desk;
+    TextCardBuilder& window = desk.OpenEssay(c.cards);
+    window.buttons[kNewButton].Press();
+    Type(window.sides[kFrontSide], u"never mind");
+    window.buttons[kCancelButton].Press();
+    CHECK(window.sides[kFrontSide].TextOf() == u"front " + DecimalText(c.cards));
+    CHECK(LookOf(window) == ButtonsLook{true, false, true, c.previous, false, kChange, kDelete});
+    CHECK(desk.state.deck.currentCard == c.cards);
+    CHECK_FALSE(desk.state.deck.changed);
+    CHECK(desk.TakeBoxes().empty());
+  }
 }
 
-TEST_CASE("a cancel sets the arrows before the card's place, as for the new card") {
+TEST_CASE("on the only text card the way back does nothing, after a cancel too") {
   BuilderDesk desk;
   TextCardBuilder& window = desk.OpenEssay(1);
   window.buttons[kNewButton].Press();
   window.buttons[kCancelButton].Press();
+  for (int press = 0; press < 2; ++press) window.arrows[kPreviousCard].Press();
+  CHECK(window.number.Caption() == u"Card: 1");
+  CHECK(window.sides[kBackSide].TextOf() == u"back 1");
   CHECK(desk.state.deck.currentCard == 1);
-  CHECK(window.arrows[kPreviousCard].Enabled());
-  window.arrows[kPreviousCard].Press();
-  CHECK(window.number.Caption() == u"Card: 0");
 }
 
 TEST_CASE("cancelling the first text card empties the form") {

@@ -18,8 +18,10 @@ TEST_CASE("every number has a description of its own") {
   const Case cases[] = {
       {5, u"Invalid procedure call or argument"},
       {6, u"Overflow"},
+      {7, u"Out of memory"},
       {9, u"Subscript out of range"},
       {13, u"Type mismatch"},
+      {51, u"Internal error"},
       {52, u"Bad file name or number"},
       {53, u"File not found"},
       {54, u"Bad file mode"},

@@ -2,15 +2,16 @@
 
 #include <doctest/doctest.h>
 
+#include "deck/save_place.h"
 #include "tests/support/test_desk.h"
 
 namespace tessara::test {
 
-TEST_CASE(
-    "the file dialog starts in the program's folder and asks for nothing before overwriting") {
+TEST_CASE("the file dialog gets its filter and asks for nothing before overwriting") {
   for (const FileDialogMode mode : {FileDialogMode::kOpen, FileDialogMode::kSave}) {
     TestDesk desk;
     FakeMachine& fakes = desk.fakes;
+    fakes.files.folders.insert(u"/decks");
     fakes.dialogs.files = {u"/decks/a.tsr"};
     CHECK(AskFileName(mode, u"Text File|*.txt", desk.app) == u"/decks/a.tsr");
     REQUIRE(fakes.dialogs.fileRequests.size() == 1);
@@ -19,7 +20,6 @@ TEST_CASE(
     CHECK(request.filter == u"Text File|*.txt");
     CHECK(request.filterIndex == 1);
     CHECK(request.flags == 4100);
-    CHECK(request.initialFolder == desk.machine.programFolder);
     CHECK(fakes.desktop.pointers == std::vector{MousePointer::kDefault});
   }
 }
@@ -52,6 +52,37 @@ TEST_CASE("a program that ends while the file dialog is up leaves no window behi
   };
   desk.windows.Run([&] { (void)AskFileName(FileDialogMode::kOpen, kDeckFilter, desk.app); });
   CHECK(desk.windows.LoadedForms().empty());
+}
+
+TEST_CASE("a save dialog goes on until a file can be made at the place, an open dialog takes any") {
+  const Text nowhere = u"/gone/a.tsr";
+  TestDesk desk;
+  desk.fakes.files.folders.insert(u"/decks");
+  desk.fakes.dialogs.files = {nowhere, u"/decks/a", nowhere};
+  CHECK(AskFileName(FileDialogMode::kSave, kDeckFilter, desk.app) == u"/decks/a");
+  CHECK(desk.fakes.dialogs.refusals == std::vector{SaveRefusal(nowhere, desk.fakes.files)});
+  CHECK(AskFileName(FileDialogMode::kOpen, kDeckFilter, desk.app) == nowhere);
+  CHECK(desk.fakes.dialogs.refusals.size() == 1);
+}
+
+TEST_CASE("the bare pattern is no place to save to and is not refused as one") {
+  TestDesk desk;
+  desk.fakes.dialogs.files = {u"*.tsr"};
+  CHECK(AskFileName(FileDialogMode::kSave, kDeckFilter, desk.app) == u"*.tsr");
+  CHECK(desk.fakes.dialogs.refusals.empty());
+}
+
+TEST_CASE("the next dialog begins in the folder of the file chosen last, a cancel apart") {
+  TestDesk desk;
+  desk.fakes.files.Put(u"/decks/birds/a.tsr", "");
+  desk.fakes.dialogs.files = {u"/decks/birds/a.tsr", u"", u""};
+  for (int dialog = 0; dialog < 3; ++dialog) {
+    (void)AskFileName(FileDialogMode::kOpen, kDeckFilter, desk.app);
+  }
+  const std::vector<FileDialogRequest>& asked = desk.fakes.dialogs.fileRequests;
+  CHECK(asked[0].initialFolder == desk.fakes.desktop.documentsFolder);
+  CHECK(asked[1].initialFolder == u"/decks/birds");
+  CHECK(asked[2].initialFolder == u"/decks/birds");
 }
 
 TEST_CASE("empty text and the bare pattern are no answer") {

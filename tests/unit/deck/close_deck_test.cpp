@@ -37,6 +37,16 @@ TEST_CASE("a cleared deck has no card on show") {
   CHECK(desk.state.deck.currentCard == 0);
 }
 
+TEST_CASE("clearing leaves the focus on the card, wherever it was") {
+  for (Button DeckLife::*const button : {&DeckLife::flip, &DeckLife::closeDeck}) {
+    DeckDesk desk;
+    desk.OpenStandardDeck(3);
+    desk.deck->UserFocus(desk.deck.Loaded().*button);
+    desk.deck->clearDeck.Press();
+    CHECK(desk.deck->FocusedControl() == &desk.deck->card);
+  }
+}
+
 TEST_CASE("making the deck anew leaves the card on show to the caller") {
   TwoFiles desk;
   desk.OpenFile(kA);

@@ -274,6 +274,17 @@ TEST_CASE("a number outside the table is a subscript error") {
   CHECK(Loaded(RecordBytesOf(u"E", u"x", 202)).deck.Cell(202, kCardText) == u"x");
 }
 
+TEST_CASE("a load closes what the file number still holds") {
+  DeckDisk disk;
+  disk.files.Put(u"/decks/text", "EXT");
+  disk.files.Put(kSamplePath, RecordBytesOf(u"E", u"x", 1));
+  disk.file.OpenInput(u"/decks/text");
+  ProgramState state;
+  disk.Load(state);
+  CHECK(state.deck.cardCount == 1);
+  CHECK_FALSE(disk.file.IsOpen());
+}
+
 TEST_CASE("the errors of the file reach the caller of a load") {
   DeckDisk disk;
   ProgramState state;

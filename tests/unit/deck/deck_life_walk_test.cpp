@@ -40,6 +40,7 @@ const ImportedText kTexts[] = {
 class Walk {
  public:
   explicit Walk(unsigned seed) : dice_(seed) {
+    desk_.fakes.dialogs.takesEveryPlace = true;
     PutFile(u"/decks/a.tsr", DeckBytes(2, {.title = u"a title"}));
     PutFile(u"/decks/b.tsr", DeckBytes(5, {.date = u" 2/3/1999", .author = u"Me"}));
     PutFile(u"/decks/none.tsr", DeckBytes(0));

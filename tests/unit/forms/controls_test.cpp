@@ -96,6 +96,42 @@ TEST_CASE("an accelerator presses what carries it, in either case") {
   CHECK(clicks == 2);
 }
 
+TEST_CASE("a letter that several controls share goes from one to the next and presses none") {
+  RulesDesk desk;
+  desk.first->Show();
+  RulesForm& form = *desk.first.operator->();
+  int clicks = 0;
+  form.Option2.SetCaption(u"&Choice");
+  form.Check1.SetCaption(u"&Check");
+  form.Option2.onClick = form.Check1.onClick = form.Command1.onClick = [&] { ++clicks; };
+  const Control* const round[] = {&form.Option2, &form.Check1, &form.Command1, &form.Option2};
+  for (const Control* next : round) {
+    CHECK(form.UserAccelerator(u'c'));
+    CHECK(form.FocusedControl() == next);
+  }
+  // From elsewhere it goes on to the next one behind.
+  form.Text1.SetFocus();
+  CHECK(form.UserAccelerator(u'c'));
+  CHECK(form.FocusedControl() == &form.Command1);
+  CHECK(clicks == 0);
+}
+
+TEST_CASE("a control that can't be reached shares no letter") {
+  RulesDesk desk;
+  desk.first->Show();
+  RulesForm& form = *desk.first.operator->();
+  int clicks = 0;
+  form.Command1.onClick = [&] { ++clicks; };
+  form.Option1[0].SetCaption(u"&Choice");
+  form.Option2.SetCaption(u"&Choice");
+  form.Check1.SetCaption(u"&Check");
+  form.Frame1.SetVisible(false);
+  form.Option2.SetEnabled(false);
+  form.Check1.SetVisible(false);
+  CHECK(form.UserAccelerator(u'c'));
+  CHECK(clicks == 1);
+}
+
 TEST_CASE("accelerators and plain captions are read from marks") {
   struct Case {
     TextView caption;

@@ -1,4 +1,8 @@
 #include <doctest/doctest.h>
+#include <filesystem>
+#include <functional>
+#include <new>
+#include <stdexcept>
 
 #include "base/run_time_error.h"
 #include "tests/unit/forms/test_windows.h"
@@ -24,6 +28,39 @@ TEST_CASE("an error that a handler lets out is reported and ends the program") {
   CHECK(desk.fakes.messages.shown == std::vector{kReport});
   CHECK(desk.windows.ExitStatus() == 1);
   CHECK(desk.renderer.exitStatus == 1);
+}
+
+TEST_CASE("an exception of the standard library ends the program as a run-time error does") {
+  struct Case {
+    std::function<void()> raise;
+    TextView report;
+  };
+  const Case cases[] = {
+      {[] { throw std::bad_alloc(); }, u"Run-time error '7':\r\n\r\nOut of memory"},
+      {[] { std::filesystem::create_directory("/proc/none"); },
+       u"Run-time error '53':\r\n\r\nFile not found"},
+      {[] { throw std::logic_error("never"); }, u"Run-time error '51':\r\n\r\nInternal error"},
+  };
+  for (const Case& c : cases) {
+    RulesDesk desk;
+    bool wentOn = false;
+    desk.windows.Run([&] {
+      desk.windows.Run(c.raise);
+      wentOn = true;
+    });
+    CHECK_FALSE(wentOn);
+    CHECK(desk.fakes.messages.shown ==
+          std::vector{FakeMessages::Shown{Text(c.report), kStopIcon, u"Tessara"}});
+    CHECK(desk.renderer.exitStatus == 1);
+  }
+}
+
+TEST_CASE("an error ends the program even where its report can't be shown") {
+  RulesDesk desk;
+  desk.fakes.messages.whileShown = [](const FakeMessages::Shown&) { throw std::bad_alloc(); };
+  desk.windows.Run(RaiseSubscript);
+  CHECK(desk.windows.ExitStatus() == 1);
+  desk.windows.Run([] { FAIL("an event behind the end"); });
 }
 
 TEST_CASE("an error inside OnLoad ends the program even where the loader swallows errors") {

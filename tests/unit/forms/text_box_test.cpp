@@ -1,6 +1,8 @@
 #include <doctest/doctest.h>
 
 #include "base/utf8.h"
+#include "tests/support/limited_process.h"
+#include "tests/support/memory_use.h"
 #include "tests/unit/forms/test_windows.h"
 
 namespace tessara::test {
@@ -73,6 +75,22 @@ TEST_CASE("the program's own texts are taken as they are") {
   desk.first->Text1.SetMaxLength(2);
   desk.first->Text1.SetText(raw);
   CHECK(desk.first->Text1.TextOf() == raw);
+}
+
+TEST_CASE("a paste beyond the memory ends the program with the error for that") {
+  if (!kMemoryCanBeLimited) return;
+  constexpr std::size_t kHuge = 100'000'000;
+  constexpr long kRest = 50'000'000;
+  RulesDesk desk;
+  desk.first->Show();
+  const TextEdit paste{0, 0, Text(kHuge, u'x')};
+  CHECK(HoldsInProcess([&] {
+    LimitMemory(AddressBytes() + kRest);
+    desk.first->Text1.UserEdit(paste);
+    const auto& shown = desk.fakes.messages.shown;
+    return shown.size() == 1 && shown[0].text == u"Run-time error '7':\r\n\r\nOut of memory" &&
+           desk.windows.ExitStatus() == 1;
+  }));
 }
 
 }  // namespace tessara::test

@@ -24,6 +24,7 @@ class LongTextDisk : public FileSystem {
     return std::make_unique<LongText>(*this);
   }
   void Delete(const Text& /*path*/) override {}
+  void TrySaving(const Text& /*path*/) override {}
   std::optional<Text> EntryName(const Text& path) override { return path; }
 
  private:

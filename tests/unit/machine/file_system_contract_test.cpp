@@ -115,6 +115,27 @@ TEST_CASE_TEMPLATE("a deleted file is gone; only files can be deleted", Disk, Re
   CHECK(disk.files.EntryName(disk.Path(u"folder")) == u"folder");
 }
 
+TEST_CASE_TEMPLATE("a place for a file is tried without a trace, with a file there or without",
+                   Disk, RealDisk, MemoryDisk) {
+  Disk disk;
+  disk.Put(u"old", "x");
+  disk.files.TrySaving(disk.Path(u"old"));
+  CHECK(disk.Bytes(u"old") == "x");
+  disk.files.TrySaving(disk.Path(u"new"));
+  CHECK_FALSE(disk.files.EntryName(disk.Path(u"new")).has_value());
+}
+
+TEST_CASE_TEMPLATE("a place where no file can be raises what its opening would", Disk, RealDisk,
+                   MemoryDisk) {
+  Disk disk;
+  disk.MakeFolder(u"folder");
+  disk.Put(u"file", "x");
+  CHECK(ErrorOf([&] { disk.files.TrySaving(u""); }) == 75);
+  CHECK(ErrorOf([&] { disk.files.TrySaving(disk.Path(u"folder")); }) == 75);
+  CHECK(ErrorOf([&] { disk.files.TrySaving(disk.Path(u"missing/a")); }) == 76);
+  CHECK(ErrorOf([&] { disk.files.TrySaving(disk.Path(u"file/a")); }) == 76);
+}
+
 TEST_CASE_TEMPLATE("entries are files and folders, hidden ones included, by their exact names",
                    Disk, RealDisk, MemoryDisk) {
   Disk disk;

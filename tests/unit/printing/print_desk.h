@@ -28,7 +28,8 @@ class PrintDesk {
   HeadlessRenderer renderer;
   ProgramState state;
   TestFrame frame;
-  AppContext app{windows, machine, state, frame};
+  UnsavedDeck unsaved{state, machine};
+  AppContext app{windows, machine, state, frame, unsaved};
   SpreadsheetJob job{machine};
   WindowSlot<Form> deckSlot{
       windows,

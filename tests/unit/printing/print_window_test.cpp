@@ -40,7 +40,7 @@ void CheckControls(const PrintWindow& window, const Controls& expected) {
   CHECK(window.print.Enabled() == expected.print);
 }
 
-TEST_CASE("the window lists the cards, hides the deck window and switches the file menu off") {
+TEST_CASE("the window lists the cards and hides the deck window") {
   PrintDesk desk(12);
   const PrintWindow& window = desk.Open();
   CHECK(window.Visible());
@@ -57,15 +57,13 @@ TEST_CASE("the window lists the cards, hides the deck window and switches the fi
   CHECK(window.available.Caption() == u"Available Cards: 12");
   CHECK(window.selected.Caption() == u"Number of cards selected for print: 0");
   CHECK_FALSE(desk.deckSlot.Instance().Visible());
-  CHECK_FALSE(desk.frame.fileMenuEnabled);
 }
 
-TEST_CASE("closing shows the deck window and switches the file menu on") {
+TEST_CASE("closing shows the deck window") {
   PrintDesk desk;
   desk.Open().close.Press();
   CHECK_FALSE(desk.window.IsLoaded());
   CHECK(desk.deckSlot.Instance().Visible());
-  CHECK(desk.frame.fileMenuEnabled);
   CHECK(desk.server.record.calls.empty());
 }
 

@@ -1,6 +1,7 @@
-// The frame's own commands while another window stands in front of a loaded deck.
+// The frame's own commands: which of them are there while which windows are on screen.
 
 #include <doctest/doctest.h>
+#include <functional>
 
 #include "tests/support/program_desk.h"
 
@@ -20,8 +21,12 @@ constexpr Front kTextBuilder = {"frmEssay", u"E", &DeckWindow::createOrEditCard}
 constexpr Front kQuestionBuilder = {"frmQuestion", u"T", &DeckWindow::createOrEditCard};
 constexpr Front kInformation = {"frmInfo", u"E", &DeckWindow::deckInfo};
 constexpr Front kPrint = {"PrintCard", u"E", &DeckWindow::printDeck};
-/// Windows that leave the frame's file menu alone.
-constexpr Front kFileMenuFronts[] = {kTextBuilder, kQuestionBuilder, kInformation};
+constexpr Front kFronts[] = {kTextBuilder, kQuestionBuilder, kInformation, kPrint};
+
+std::string NameOfFront(ProgramDesk& desk) {
+  const Form* form = desk.program.Windows().ActiveForm();
+  return form == nullptr ? "" : form->Name();
+}
 
 /// The program with two cards and the window in front.
 struct FrontDesk : ProgramDesk {
@@ -30,93 +35,116 @@ struct FrontDesk : ProgramDesk {
     Start(kPath);
     (Deck().*front.command).Press();
     REQUIRE(FrontName() == front.window);
+    // The print window tells that it can print no cards.
+    fakes.messages.shown.clear();
   }
-  std::string FrontName() {
-    const Form* form = program.Windows().ActiveForm();
-    return form == nullptr ? "" : form->Name();
-  }
+  std::string FrontName() { return NameOfFront(*this); }
 };
+
+/// The import has told the deck window of its first card when it meets the error.
+void ImportWithoutSecondCard(ProgramDesk& desk) {
+  desk.fakes.files.Put(u"/texts/gap.txt", "STD\r\n1.\r\n*>F\r\na\r\n*>B\r\nb\r\n\r\n3.\r\n");
+  desk.fakes.dialogs.files = {u"/texts/gap.txt"};
+  desk.Frame().importTextFile.Press();
+  REQUIRE(desk.program.DeckWindowOf().IsLoaded());
+  REQUIRE_FALSE(desk.Deck().Visible());
+}
 
 }  // namespace
 
-TEST_CASE("a new deck with a window in front brings up the deck that is there, in the other view") {
-  for (const Front& front : kFileMenuFronts) {
+TEST_CASE(
+    "the frame's file menu is off with the deck on screen, and behind what stands in for it") {
+  for (const Front& front : kFronts) {
     CAPTURE(front.window);
     FrontDesk desk(front);
-    SUBCASE("standard") {
-      desk.Frame().newStandardDeck.Press();
-      CHECK(desk.state.deck.kind == kStandardDeck);
-      CHECK(desk.Deck().flip.Caption() == u"&Show Back");
-      CHECK_FALSE(desk.Deck().answerCard.Visible());
-    }
-    SUBCASE("extended") {
-      desk.Frame().newExtendedDeck.Press();
-      CHECK(desk.state.deck.kind == kExtendedDeck);
-      CHECK(desk.Deck().flip.Caption() == u"&Hide Answer");
-      CHECK(desk.Deck().answerCard.Visible());
-    }
+    CHECK_FALSE(desk.Frame().fileMenu.Enabled());
+    desk.program.Windows().Run([&] { desk.program.Windows().ActiveForm()->Unload(); });
     CHECK(desk.FrontName() == "frmMain");
-    CHECK(desk.state.deck.cardCount == 2);
-    CHECK(desk.Deck().Caption() == u"birds  [STUDY]");
-    CHECK(desk.Deck().goToCard.Enabled());
+    CHECK_FALSE(desk.Frame().fileMenu.Enabled());
   }
 }
 
-TEST_CASE("opening from the frame empties the table before it asks, and a cancel leaves it so") {
-  for (const Front& front : kFileMenuFronts) {
+TEST_CASE("no command of the frame's file menu touches the deck behind a window in front") {
+  for (const Front& front : kFronts) {
     CAPTURE(front.window);
     FrontDesk desk(front);
-    desk.fakes.dialogs.files = {u""};
-    desk.Frame().openExistingDeck.Press();
-    CHECK_FALSE(desk.state.deck.HasCards());
+    const std::int32_t deckType = desk.state.deck.kind;
+    for (MenuEntry* command : {&desk.Frame().newStandardDeck, &desk.Frame().newExtendedDeck,
+                               &desk.Frame().openExistingDeck, &desk.Frame().importTextFile,
+                               &desk.Frame().setUp, &desk.Frame().exit}) {
+      command->Press();
+      CHECK(desk.FrontName() == front.window);
+    }
     CHECK(desk.state.deck.cardCount == 2);
-    CHECK(desk.state.deck.filePath == kPath);
-    CHECK(desk.FrontName() == front.window);
-  }
-}
-
-TEST_CASE("a deck opened from the frame takes the place of the one behind the window in front") {
-  for (const Front& front : kFileMenuFronts) {
-    CAPTURE(front.window);
-    FrontDesk desk(front);
-    desk.state.deck.onFile = true;
-    desk.fakes.files.Put(u"/decks/fish.tsr", ProgramDesk::DeckBytes(3));
-    desk.fakes.dialogs.files = {u"/decks/fish.tsr"};
-    desk.Frame().openExistingDeck.Press();
-    CHECK(desk.FrontName() == "frmMain");
-    CHECK(desk.Deck().Caption() == u"fish  [STUDY]");
-    CHECK(desk.Deck().card.CardTotal() == u"3");
-    CHECK(desk.state.deck.kind == kStandardDeck);
-    CHECK(desk.state.deck.onFile);
+    CHECK(desk.state.deck.Cell(2, kCardText) == u"front 2");
+    CHECK(desk.state.deck.kind == deckType);
+    CHECK(desk.fakes.dialogs.fileRequests.empty());
     CHECK(desk.fakes.messages.shown.empty());
   }
 }
 
-TEST_CASE("an import with a window in front makes its deck in the place of the one behind it") {
-  for (const Front& front : kFileMenuFronts) {
-    CAPTURE(front.window);
-    FrontDesk desk(front);
-    desk.fakes.files.Put(u"/texts/sea.txt", "STD\r\n1.\r\n*>F\r\nsea\r\n*>B\r\nmer\r\n\r\n");
-    desk.fakes.dialogs.files = {u"/texts/sea.txt"};
-    desk.Frame().importTextFile.Press();
-    CHECK(desk.FrontName() == "frmMain");
-    CHECK(desk.Deck().card.CardText() == u"sea");
-    CHECK(desk.state.deck.cardCount == 1);
-    CHECK(desk.state.deck.saveOffered);
-    CHECK(desk.fakes.messages.shown.empty());
-    CHECK(desk.fakes.dialogs.fileRequests.back().filter == u"Text File|*.txt");
+TEST_CASE("the frame's file menu is on while no deck is on screen, whatever else is") {
+  struct Case {
+    const char* name;
+    std::function<void(ProgramDesk&)> leave;
+  };
+  const Case cases[] = {
+      {"nothing", [](ProgramDesk&) {}},
+      {"About", [](ProgramDesk& desk) { desk.Frame().about.Press(); }},
+      {"set-up", [](ProgramDesk& desk) { desk.Frame().setUp.Press(); }},
+      {"information", [](ProgramDesk& desk) { desk.program.InfoWindow().Loaded(); }},
+      {"a deck window that a failed import has loaded", ImportWithoutSecondCard},
+  };
+  for (const Case& c : cases) {
+    CAPTURE(c.name);
+    ProgramDesk desk;
+    desk.Start();
+    CHECK_FALSE(desk.Frame().fileMenu.Enabled());
+    desk.Deck().UserClose();
+    CHECK(desk.Frame().fileMenu.Enabled());
+    c.leave(desk);
+    CHECK(desk.Frame().fileMenu.Enabled());
+    desk.Frame().newStandardDeck.Press();
+    CHECK_FALSE(desk.Frame().fileMenu.Enabled());
+    desk.Deck().UserClose();
+    CHECK(desk.Frame().fileMenu.Enabled());
   }
 }
 
-TEST_CASE("set-up and help stand in front of any window, and leave it as it is") {
-  for (const Front& front : {kTextBuilder, kQuestionBuilder, kInformation, kPrint}) {
+TEST_CASE("the frame's file menu stays off in whatever order the windows come to the front") {
+  ProgramDesk desk;
+  desk.fakes.files.Put(kPath, ProgramDesk::DeckBytes(2));
+  desk.Start();
+  desk.Deck().UserClose();
+  desk.Frame().setUp.Press();
+  desk.fakes.dialogs.files = {kPath};
+  desk.Frame().openExistingDeck.Press();
+  desk.Deck().deckInfo.Press();
+  Form& setUp = desk.program.SetUpWindowOf().Loaded();
+  Form& info = desk.program.InfoWindow().Loaded();
+  for (Form* front : {&setUp, &info, &setUp}) {
+    front->UserActivate();
+    CHECK(NameOfFront(desk) == front->Name());
+    CHECK_FALSE(desk.Frame().fileMenu.Enabled());
+  }
+  info.UserClose();
+  desk.Deck().UserActivate();
+  desk.Deck().printDeck.Press();
+  for (Form* front : {&setUp, static_cast<Form*>(&desk.program.PrintWindowOf().Loaded())}) {
+    front->UserActivate();
+    CHECK_FALSE(desk.Frame().fileMenu.Enabled());
+  }
+  desk.program.PrintWindowOf().Unload();
+  CHECK_FALSE(desk.Frame().fileMenu.Enabled());
+  desk.fakes.messages.answers = {MessageAnswer::kYes};
+  desk.Deck().UserClose();
+  CHECK(desk.Frame().fileMenu.Enabled());
+}
+
+TEST_CASE("help stands in front of any window, and leaves it as it is") {
+  for (const Front& front : kFronts) {
     CAPTURE(front.window);
     FrontDesk desk(front);
-    SUBCASE("set-up, unless the file menu is off") {
-      desk.Frame().setUp.Press();
-      const bool printing = desk.program.PrintWindowOf().IsLoaded();
-      CHECK(desk.FrontName() == (printing ? "PrintCard" : "FrmSetUp"));
-    }
     SUBCASE("help") {
       desk.Frame().helpTopics.Press();
       CHECK(desk.fakes.desktop.helpShown == std::vector<Text>{u"/opt/tessara/TessaraHelp.chm"});
@@ -139,17 +167,6 @@ TEST_CASE("set-up and help stand in front of any window, and leave it as it is")
     }
     CHECK(desk.state.deck.cardCount == 2);
   }
-}
-
-TEST_CASE("while the print window is open the frame's file menu is off, and on again behind it") {
-  FrontDesk desk(kPrint);
-  desk.Frame().newExtendedDeck.Press();
-  desk.Frame().openExistingDeck.Press();
-  desk.Frame().exit.Press();
-  CHECK(desk.FrontName() == "PrintCard");
-  CHECK(desk.state.deck.HasCards());
-  desk.program.PrintWindowOf().Unload();
-  CHECK(desk.Frame().fileMenu.Enabled());
 }
 
 }  // namespace tessara::test

@@ -15,6 +15,16 @@ void CloseDeckWindow(ProgramDesk& desk) {
   REQUIRE_FALSE(desk.program.DeckWindowOf().IsLoaded());
 }
 
+/// Set-up is of the empty frame: the deck has to go for it and come back.
+void OpenSetUpInFront(ProgramDesk& desk) {
+  desk.fakes.messages.answers = {MessageAnswer::kYes};
+  CloseDeckWindow(desk);
+  desk.Frame().setUp.Press();
+  desk.fakes.dialogs.files = {u"/decks/birds.tsr"};
+  desk.Frame().openExistingDeck.Press();
+  desk.program.SetUpWindowOf()->UserActivate();
+}
+
 std::vector<Text> CaptionsOf(const MenuEntry& menu) {
   std::vector<Text> captions;
   for (const MenuEntry* entry : menu.Entries()) captions.push_back(entry->Caption());
@@ -100,7 +110,7 @@ TEST_CASE("an existing deck is opened from the frame and is not on file") {
   CHECK_FALSE(desk.state.deck.onFile);
   CHECK(desk.fakes.dialogs.fileRequests.back().filter == u"Study Cards|*.tsr");
   CHECK(desk.fakes.dialogs.fileRequests.back().flags == 4100);
-  CHECK(desk.fakes.dialogs.fileRequests.back().initialFolder == u"/opt/tessara");
+  CHECK(desk.fakes.dialogs.fileRequests.back().initialFolder == desk.fakes.desktop.documentsFolder);
 }
 
 TEST_CASE("a deck opened from the frame can be saved under another name") {
@@ -209,7 +219,7 @@ TEST_CASE("a second About brings the same box forward") {
   CHECK(desk.program.Windows().ActiveForm() == &about);
 }
 
-TEST_CASE("an information window that outlives its deck brings the deck window back unseen") {
+TEST_CASE("an information window that outlives its deck leaves no trace of one when it goes") {
   ProgramDesk desk;
   desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(2));
   desk.Start(u"/decks/birds.tsr");
@@ -220,10 +230,13 @@ TEST_CASE("an information window that outlives its deck brings the deck window b
   REQUIRE_FALSE(desk.program.DeckWindowOf().IsLoaded());
   CHECK(desk.program.InfoWindow()->Visible());
   CHECK(desk.program.InfoWindow()->fields[kTitleField].TextOf() == u" Birds");
+  // Loading a deck window would end the program.
+  desk.state.settings.largeCardColor = u"x";
   desk.program.InfoWindow()->close.Press();
-  CHECK(desk.program.DeckWindowOf().IsLoaded());
-  CHECK_FALSE(desk.Deck().Visible());
+  CHECK_FALSE(desk.program.DeckWindowOf().IsLoaded());
   CHECK(desk.program.Windows().ActiveForm() == nullptr);
+  CHECK_FALSE(desk.program.Windows().ExitStatus());
+  desk.state.settings.largeCardColor = u"0";
   desk.Frame().newStandardDeck.Press();
   CHECK(desk.Deck().Visible());
   CHECK(desk.Deck().Caption() == u"New Deck");
@@ -297,7 +310,7 @@ TEST_CASE("the frame closes with each child window open, and none comes back on 
       {"frmQuestion", u"T", [](ProgramDesk& desk) { desk.Deck().createOrEditCard.Press(); }},
       {"PrintCard", u"E", [](ProgramDesk& desk) { desk.Deck().printDeck.Press(); }},
       {"frmInfo", u"E", [](ProgramDesk& desk) { desk.Deck().deckInfo.Press(); }},
-      {"FrmSetUp", u"E", [](ProgramDesk& desk) { desk.Frame().setUp.Press(); }},
+      {"FrmSetUp", u"E", OpenSetUpInFront},
       {"frmAbout", u"E", [](ProgramDesk& desk) { desk.Deck().about.Press(); }},
   };
   for (const Case& c : cases) {
@@ -314,6 +327,39 @@ TEST_CASE("the frame closes with each child window open, and none comes back on 
     CHECK(desk.renderer.exitStatus == 0);
     CHECK(desk.fakes.messages.shown.size() == 1);
     CHECK(desk.program.Windows().ActiveForm() == nullptr);
+  }
+}
+
+TEST_CASE("the frame that saves a changed deck on its way takes the information window with it") {
+  struct Case {
+    const char* name;
+    std::function<void(ProgramDesk&)> open;
+    std::function<void(ProgramDesk&)> close;
+  };
+  const auto changeAlone = [](ProgramDesk&) {};
+  const auto builder = [](ProgramDesk& desk) { desk.Deck().createOrEditCard.Press(); };
+  const auto closeBox = [](ProgramDesk& desk) { desk.Frame().UserClose(); };
+  const auto exit = [](ProgramDesk& desk) {
+    desk.program.Windows().Run([&] { desk.Frame().Unload(); });
+  };
+  const Case cases[] = {{"close box", changeAlone, closeBox},
+                        {"exit", changeAlone, exit},
+                        {"close box behind a builder", builder, closeBox},
+                        {"exit behind a builder", builder, exit}};
+  for (const Case& c : cases) {
+    CAPTURE(c.name);
+    ProgramDesk desk;
+    desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(2));
+    desk.Start(u"/decks/birds.tsr");
+    desk.state.deck.cardGrid.Set(1, kCardText, u"changed");
+    desk.state.deck.changed = true;
+    c.open(desk);
+    desk.fakes.messages.answers = {MessageAnswer::kYes, MessageAnswer::kYes};
+    c.close(desk);
+    CHECK(desk.fakes.messages.shown.size() == 3);
+    CHECK(desk.program.Windows().ActiveForm() == nullptr);
+    CHECK_FALSE(desk.program.InfoWindow().IsLoaded());
+    CHECK(desk.renderer.exitStatus == 0);
   }
 }
 

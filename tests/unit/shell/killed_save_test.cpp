@@ -149,7 +149,7 @@ TEST_CASE("a copy and its folder are on the disk before the save touches the dec
   }
 }
 
-TEST_CASE("wherever the disk is full in a save, the old deck can be taken back") {
+TEST_CASE("wherever the deck's disk is full in a save, the old deck and the new are kept") {
   for (const Opened opened : kBothWays) {
     for (int firstFailing = 1; firstFailing <= kRecords + 2; ++firstFailing) {
       CAPTURE(firstFailing);
@@ -159,7 +159,8 @@ TEST_CASE("wherever the disk is full in a save, the old deck can be taken back")
         return operation >= firstFailing ? std::optional(ErrorNumber::kDiskFull) : std::nullopt;
       };
       deck.desk.Save();
-      CHECK(KeptIn(deck.folder) == std::vector<std::string>{OldDeck()});
+      CHECK(KeptIn(deck.folder) == std::vector<std::string>{OldDeck(), NewDeck(opened)});
+      CHECK(deck.desk.fakes.desktop.notices.size() == 1);
       CHECK(deck.desk.fakes.messages.shown.back().title == u"Save");
     }
   }

@@ -95,15 +95,6 @@ TEST_CASE("a deck on the command line that can't be read ends the program with a
   }
 }
 
-TEST_CASE("an empty deck file comes up as no cards") {
-  ProgramDesk desk;
-  desk.fakes.files.Put(u"/decks/empty.tsr", "");
-  desk.Start(u"/decks/empty.tsr");
-  CHECK(desk.state.deck.cardCount == 0);
-  CHECK(desk.state.deck.currentCard == 1);
-  CHECK(desk.fakes.messages.shown.empty());
-}
-
 TEST_CASE("a second instance refuses and ends at once") {
   ProgramDesk desk;
   desk.fakes.desktop.previousInstance = true;

@@ -96,13 +96,15 @@ TEST_CASE("an extended deck from the command line comes up with the answer on sh
   }
 }
 
-TEST_CASE("a deck of an unknown kind leaves type and window as they were") {
+TEST_CASE("a deck of an unknown kind leaves the type as it was, and comes up as one of that") {
   CommandLineDesk desk(FileOfOneCard(u"Q"));
   desk.state.deck.kind = kExtendedDeck;
   desk.Load();
   CHECK(desk.state.deck.kind == kExtendedDeck);
-  CHECK_FALSE(desk.deck->Visible());
+  CHECK(desk.deck->Visible());
+  CHECK(desk.deck->answerCard.Visible());
   CHECK(desk.deck->Caption() == u"sample  [STUDY]");
+  CHECK(desk.deck->card.CardText() == u"the text");
   CHECK(desk.deck->card.CardTotal() == u"1");
   CHECK(desk.state.start.deckFromCommandLine);
 }

@@ -8,6 +8,7 @@
 #include "adapters/posix/copy_name.h"
 #include "base/utf8.h"
 #include "tests/support/disk_desk.h"
+#include "tests/support/limited_process.h"
 #include "tests/support/open_files.h"
 
 namespace tessara::test {
@@ -18,12 +19,21 @@ namespace fs = std::filesystem;
 
 constexpr std::uintmax_t kMegabyte = 1048576;
 
+/// "verbs.tsr"; empty for a file that is no copy.
+std::string DeckOf(const std::string& name) {
+  const auto named = ReadCopyName(name);
+  return named ? named->fileName : "";
+}
+
 /// A folder of decks and, in "state/copies", what is kept of them.
 struct CopyDesk {
   ScratchFolder folder;
   PosixSafetyCopies copies{folder / "state/copies"};
+  std::uint64_t number = 0;
 
-  void Keep(const Text& name) { copies.Keep(folder.TextPath(name)); }
+  void Keep(const Text& name, Loss loss = Loss::kWrittenOver) {
+    copies.Keep(folder.TextPath(name), loss);
+  }
   [[nodiscard]] fs::path CopiesFolder() const { return folder / "state/copies"; }
   [[nodiscard]] std::vector<std::string> Names() const { return NamesIn(CopiesFolder()); }
   [[nodiscard]] std::vector<std::string> Kept() const {
@@ -33,18 +43,16 @@ struct CopyDesk {
   }
   [[nodiscard]] int CountOf(const std::string& deck) const {
     const std::vector<std::string> names = Names();
-    return static_cast<int>(std::count_if(names.begin(), names.end(), [&](const std::string& name) {
-      return NameWithoutMoment(name) == deck;
-    }));
+    return static_cast<int>(std::count_if(
+        names.begin(), names.end(), [&](const std::string& name) { return DeckOf(name) == deck; }));
   }
-  /// A copy of that size, made so many minutes ago.
-  void PutCopy(const std::string& deck, int minutes, std::uintmax_t size = 1) const {
+  /// The next copy in the order, of that size.
+  void PutCopy(const std::string& deck, std::uintmax_t size = 1) {
     fs::create_directories(CopiesFolder());
-    const fs::path path = CopiesFolder() / CopyName(deck, std::chrono::system_clock::now() -
-                                                              std::chrono::minutes(minutes));
+    const fs::path path =
+        CopiesFolder() / CopyName(deck, std::chrono::system_clock::now(), ++number);
     std::ofstream(path, std::ios::binary) << "x";
     fs::resize_file(path, size);
-    fs::last_write_time(path, fs::file_time_type::clock::now() - std::chrono::minutes(minutes));
   }
   void PutDeck(const std::string& name, std::uintmax_t size) const {
     folder.Write(name, "deck");
@@ -65,7 +73,7 @@ TEST_CASE("a kept file is there byte for byte under the name of its deck") {
   desk.folder.Write("verbs.tsr", bytes);
   desk.Keep(u"verbs.tsr");
   REQUIRE(desk.Names().size() == 1);
-  CHECK(NameWithoutMoment(desk.Names()[0]) == "verbs.tsr");
+  CHECK(DeckOf(desk.Names()[0]) == "verbs.tsr");
   CHECK(desk.Kept()[0] == bytes);
   CHECK(desk.folder.Read("verbs.tsr") == bytes);
 }
@@ -91,16 +99,16 @@ TEST_CASE("copies made in the same moment each get a name") {
 
 TEST_CASE("the newest 20 of a deck are kept, whatever other decks have") {
   CopyDesk desk;
-  for (int minutes = 1; minutes <= 20; ++minutes) {
-    desk.PutCopy("verbs.tsr", minutes, static_cast<std::uintmax_t>(minutes));
-    desk.PutCopy("nouns.tsr", minutes);
+  for (std::uintmax_t size = 1; size <= 20; ++size) {
+    desk.PutCopy("verbs.tsr", size + 1);
+    desk.PutCopy("nouns.tsr");
   }
   desk.folder.Write("verbs.tsr", "deck");
   desk.Keep(u"verbs.tsr");
   CHECK(desk.CountOf("verbs.tsr") == 20);
   CHECK(desk.CountOf("nouns.tsr") == 20);
   for (const std::string& name : desk.Names()) {
-    CHECK(fs::file_size(desk.CopiesFolder() / name) != 20);
+    CHECK(fs::file_size(desk.CopiesFolder() / name) != 2);
   }
   desk.Keep(u"verbs.tsr");
   CHECK(desk.CountOf("verbs.tsr") == 20);
@@ -108,10 +116,8 @@ TEST_CASE("the newest 20 of a deck are kept, whatever other decks have") {
 
 TEST_CASE("copies have 50 MB at most in all; the oldest of any deck make room") {
   CopyDesk desk;
-  desk.PutCopy("old.tsr", 3, 9 * kMegabyte);
-  desk.PutCopy("older.tsr", 4, 9 * kMegabyte);
-  for (const char* const recent : {"a.tsr", "b.tsr", "c.tsr"}) {
-    desk.PutCopy(recent, 1, 9 * kMegabyte);
+  for (const char* const deck : {"older.tsr", "old.tsr", "a.tsr", "b.tsr", "c.tsr"}) {
+    desk.PutCopy(deck, 9 * kMegabyte);
   }
   desk.PutDeck("verbs.tsr", 5 * kMegabyte);
   desk.Keep(u"verbs.tsr");
@@ -135,7 +141,7 @@ TEST_CASE(
                         Case{10 * kMegabyte + 1, false}}) {
     CAPTURE(c.size);
     CopyDesk desk;
-    for (int minutes = 1; minutes <= 20; ++minutes) desk.PutCopy("verbs.tsr", minutes);
+    for (int count = 0; count < 20; ++count) desk.PutCopy("verbs.tsr");
     desk.PutDeck("verbs.tsr", c.size);
     desk.Keep(u"verbs.tsr");
     CHECK(desk.AllBytes() == (c.kept ? 19 + c.size : 20));
@@ -163,7 +169,7 @@ TEST_CASE("only regular files are kept, and nothing waits for a peer") {
     desk.Keep(name);
   }
   for (const char16_t* const path : {u"/dev/zero", u"/dev/tty", u"", u"/proc/self/mem"}) {
-    desk.copies.Keep(path);
+    desk.copies.Keep(path, Loss::kWrittenOver);
   }
   desk.folder.Write("a", "x");
   desk.Keep(Text(u"a\0b", 3));
@@ -187,15 +193,113 @@ TEST_CASE("a copy that is itself saved over is kept like any file") {
   CHECK(desk.Kept() == std::vector<std::string>{"deck", "deck"});
 }
 
+TEST_CASE("the newest of a deck's copies are those that were made last, whatever the clock said") {
+  CopyDesk desk;
+  fs::create_directories(desk.CopiesFolder());
+  const auto future = fs::file_time_type::clock::now() + std::chrono::hours(24 * 365);
+  for (int count = 10; count < 30; ++count) {
+    const std::string name = "verbs 2099-01-01 00-00-" + std::to_string(count) + "-000.tsr";
+    desk.folder.Write("state/copies/" + name, "future");
+    fs::last_write_time(desk.CopiesFolder() / name, future);
+  }
+  for (const char* const deck : {"first", "second", "third"}) {
+    desk.folder.Write("verbs.tsr", deck);
+    desk.Keep(u"verbs.tsr");
+  }
+  const std::vector<std::string> kept = desk.Kept();
+  CHECK(kept.size() == 20);
+  CHECK(std::count(kept.begin(), kept.end(), "future") == 17);
+  desk.PutCopy("verbs.tsr", 7);
+  for (int count = 0; count < 19; ++count) desk.Keep(u"verbs.tsr");
+  CHECK(desk.CountOf("verbs.tsr") == 20);
+  const std::vector<std::string> last = desk.Kept();
+  CHECK(std::count(last.begin(), last.end(), "third") == 20);
+}
+
+TEST_CASE("a file that is to be deleted is kept by another name of it, which takes no space") {
+  CopyDesk desk;
+  desk.folder.Write("verbs.tsr", "deck");
+  desk.Keep(u"verbs.tsr", Loss::kDeleted);
+  REQUIRE(desk.Names().size() == 1);
+  CHECK(fs::equivalent(desk.CopiesFolder() / desk.Names()[0], desk.folder / "verbs.tsr"));
+  fs::remove(desk.folder / "verbs.tsr");
+  desk.folder.Write("verbs.tsr", "new deck");
+  CHECK(desk.Kept() == std::vector<std::string>{"deck"});
+}
+
+TEST_CASE("what is written over, or has other names, or lies elsewhere, is copied") {
+  struct Case {
+    const char* name;
+    Loss loss;
+    bool secondName;
+    const char* parent;
+  };
+  const Case cases[] = {
+      {"written over", Loss::kWrittenOver, false, "/tmp"},
+      {"second name", Loss::kDeleted, true, "/tmp"},
+      {"other file system", Loss::kDeleted, false, kInMemory},
+  };
+  for (const Case& c : cases) {
+    CAPTURE(c.name);
+    CopyDesk desk;
+    const ScratchFolder decks(c.parent);
+    decks.Write("verbs.tsr", "deck");
+    if (c.secondName) fs::create_hard_link(decks / "verbs.tsr", decks / "again.tsr");
+    desk.copies.Keep(decks.TextPath(u"verbs.tsr"), c.loss);
+    decks.Write("verbs.tsr", "DECK");
+    CHECK(desk.Kept() == std::vector<std::string>{"deck"});
+  }
+}
+
+TEST_CASE("a file that is written over after all is not kept by another name of it") {
+  CopyDesk desk;
+  desk.folder.Write("verbs.tsr", "deck");
+  desk.Keep(u"verbs.tsr", Loss::kDeleted);
+  desk.Keep(u"verbs.tsr", Loss::kWrittenOver);
+  desk.folder.Write("verbs.tsr", "DECK");
+  CHECK(desk.Kept() == std::vector<std::string>{"deck"});
+}
+
+TEST_CASE("a deck that was not saved is kept under a name that says so") {
+  CopyDesk desk;
+  const Text path = desk.copies.KeepNotSaved(u"verbs.tsr", "new deck");
+  REQUIRE(desk.Names().size() == 1);
+  CHECK(DeckOf(desk.Names()[0]) == "verbs not saved.tsr");
+  CHECK(path == FromUtf8((desk.CopiesFolder() / desk.Names()[0]).string()));
+  CHECK(desk.Kept() == std::vector<std::string>{"new deck"});
+}
+
+TEST_CASE("a deck that was not saved takes the place of what was kept of it before") {
+  CopyDesk desk;
+  desk.copies.KeepUnsaved(u"verbs.tsr", "unsaved");
+  CHECK_FALSE(desk.copies.KeepNotSaved(u"verbs.tsr", "new deck").empty());
+  CHECK(desk.Kept() == std::vector<std::string>{"new deck"});
+}
+
+TEST_CASE("where no other file can be written, what is kept of a deck becomes the one not saved") {
+  CopyDesk desk;
+  desk.copies.KeepUnsaved(u"verbs.tsr", "unsaved");
+  const bool ended = EndsWithLimit(RLIMIT_FSIZE, 4, [&] {
+    const bool kept = !desk.copies.KeepNotSaved(u"verbs.tsr", "new deck").empty();
+    if (!kept) std::abort();
+  });
+  CHECK(ended);
+  REQUIRE(desk.Names().size() == 1);
+  CHECK(DeckOf(desk.Names()[0]) == "verbs not saved.tsr");
+  CHECK(desk.Kept() == std::vector<std::string>{"unsaved"});
+}
+
 TEST_CASE("a copy that can't be kept is silent") {
   CopyDesk desk;
   desk.folder.Write("verbs.tsr", "deck");
   const Text deck = desk.folder.TextPath(u"verbs.tsr");
   desk.folder.Write("file", "");
-  PosixSafetyCopies("").Keep(deck);
-  PosixSafetyCopies("/proc/copies").Keep(deck);
-  PosixSafetyCopies(desk.folder / "file").Keep(deck);
-  PosixSafetyCopies(desk.folder / "file/copies").Keep(deck);
+  PosixSafetyCopies("").Keep(deck, Loss::kWrittenOver);
+  PosixSafetyCopies("/proc/copies").Keep(deck, Loss::kWrittenOver);
+  PosixSafetyCopies(desk.folder / "file").Keep(deck, Loss::kWrittenOver);
+  PosixSafetyCopies(desk.folder / "file/copies").Keep(deck, Loss::kWrittenOver);
+  CHECK(PosixSafetyCopies("").KeepNotSaved(u"verbs.tsr", "deck").empty());
+  CHECK(PosixSafetyCopies(desk.folder / "file").KeepNotSaved(u"verbs.tsr", "deck").empty());
   CHECK(NamesIn(desk.folder.Path()) == std::vector<std::string>{"file", "verbs.tsr"});
 }
 

@@ -3,6 +3,8 @@
 #include <cerrno>
 #include <doctest/doctest.h>
 
+#include "base/path_error.h"
+
 namespace tessara::test {
 
 TEST_CASE("the system's error codes become run-time errors") {

@@ -1,0 +1,62 @@
+#include "deck/deck_image.h"
+
+#include <algorithm>
+
+#include "deck/deck_file.h"
+
+namespace tessara {
+
+namespace {
+
+constexpr TextView kInformation = u"I";
+constexpr TextView kTerminator = u"X";
+
+/// A reader goes by the number, and takes the information again where a card is missing.
+DeckRecord RecordAt(const ProgramState& state, int row) {
+  const bool isCard = row != kInfoRow && state.deck.cardPresent.At(row) != 0;
+  DeckRecord record = RecordOfRow(state, isCard ? row : kInfoRow);
+  record.number = static_cast<std::int16_t>(isCard ? row : kInfoRow);
+  if (!isCard) record.cardType = kInformation;
+  return record;
+}
+
+}  // namespace
+
+std::uint64_t DeckImage::Changes() const {
+  return state_.deck.cardGrid.Changes().Count() + state_.deck.cardPresent.Changes().Count();
+}
+
+int DeckImage::LastCard() const {
+  int row = kRows - 1;
+  while (row > kInfoRow && state_.deck.cardPresent.At(row) == 0) --row;
+  return row;
+}
+
+bool DeckImage::IsEncoded(int row) const {
+  return state_.deck.cardPresent.At(row) != 0 &&
+         state_.deck.cardGrid.Changes().Of(row) <= cellsEncoded_ &&
+         state_.deck.cardPresent.Changes().Of(row) <= flagsEncoded_;
+}
+
+void DeckImage::EncodeRow(int row) {
+  const RecordBytes record = EncodeRecord(RecordAt(state_, row), codePage_);
+  std::copy(record.begin(), record.end(),
+            bytes_.begin() + static_cast<std::ptrdiff_t>(kRecordSize) * row);
+}
+
+std::string_view DeckImage::Bytes() {
+  const int last = LastCard();
+  bytes_.resize(kRecordSize * (static_cast<std::size_t>(last) + 1));
+  for (int row = kInfoRow; row <= last; ++row) {
+    if (!IsEncoded(row)) EncodeRow(row);
+  }
+  cellsEncoded_ = state_.deck.cardGrid.Changes().Count();
+  flagsEncoded_ = state_.deck.cardPresent.Changes().Count();
+  DeckRecord end;
+  end.cardType = kTerminator;
+  const RecordBytes terminator = EncodeRecord(end, codePage_);
+  bytes_.append(terminator.begin(), terminator.end());
+  return bytes_;
+}
+
+}  // namespace tessara

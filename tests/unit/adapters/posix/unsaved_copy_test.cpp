@@ -1,0 +1,174 @@
+// The file in which a process keeps its unsaved deck: while it lives, and when it has ended.
+
+#include <algorithm>
+#include <csignal>
+#include <doctest/doctest.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "adapters/posix/copy_name.h"
+#include "adapters/posix/posix_safety_copies.h"
+#include "tests/support/disk_desk.h"
+#include "tests/support/killed_process.h"
+#include "tests/support/open_files.h"
+
+namespace tessara::test {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+struct UnsavedDesk {
+  ScratchFolder folder{kInMemory};
+  fs::path copiesFolder = folder / "copies";
+  PosixSafetyCopies copies{copiesFolder};
+
+  [[nodiscard]] std::vector<std::string> Kept() const { return KeptIn(folder); }
+  [[nodiscard]] std::vector<std::string> Names() const { return NamesIn(copiesFolder); }
+};
+
+/// Keeps a deck in a process of its own, which is then killed.
+void LeaveByAnotherProcess(const fs::path& folder, const Text& fileName, const std::string& deck) {
+  const pid_t child = fork();
+  if (child == 0) {
+    PosixSafetyCopies copies(folder);
+    copies.KeepUnsaved(fileName, deck);
+    raise(SIGKILL);
+  }
+  waitpid(child, nullptr, 0);
+}
+
+using Decks = std::vector<std::string>;
+
+}  // namespace
+
+TEST_CASE("the unsaved deck is one file that ends as a deck does, replaced by each change") {
+  UnsavedDesk desk;
+  desk.copies.KeepUnsaved(u"verbs.tsr", "one");
+  desk.copies.KeepUnsaved(u"other name.tsr", "two");
+  REQUIRE(desk.Names().size() == 1);
+  CHECK(desk.Names()[0] == "verbs (unsaved " + std::to_string(getpid()) + "-1).tsr");
+  CHECK(desk.Kept() == Decks{"two"});
+  const auto permissions = fs::status(desk.copiesFolder / desk.Names()[0]).permissions();
+  CHECK(permissions == static_cast<fs::perms>(0600));
+}
+
+TEST_CASE("the unsaved deck goes when it is dropped, and stays when it is left") {
+  UnsavedDesk desk;
+  desk.copies.KeepUnsaved(u"verbs.tsr", "one");
+  desk.copies.DropUnsaved();
+  desk.copies.DropUnsaved();
+  CHECK(desk.Names().empty());
+  desk.copies.KeepUnsaved(u"verbs.tsr", "two");
+  desk.copies.LeaveUnsaved();
+  desk.copies.DropUnsaved();
+  desk.copies.KeepUnsaved(u"verbs.tsr", "three");
+  CHECK(desk.Kept() == Decks{"two", "three"});
+}
+
+TEST_CASE("decks of a process that lives are not taken, not even those that it has left") {
+  UnsavedDesk desk;
+  desk.copies.KeepUnsaved(u"verbs.tsr", "one");
+  desk.copies.KeepUnsaved(u"verbs.tsr", "two");
+  desk.copies.LeaveUnsaved();
+  desk.copies.KeepUnsaved(u"nouns.tsr", "three");
+  CHECK(PosixSafetyCopies(desk.copiesFolder).TakeLeftDecks().empty());
+  CHECK(desk.Names().size() == 2);
+}
+
+TEST_CASE("what a killed process has left is taken once, and is a copy like any other then") {
+  UnsavedDesk desk;
+  LeaveByAnotherProcess(desk.copiesFolder, u"verbs.tsr", "unsaved");
+  const std::string before = desk.Names().at(0);
+  const std::vector<LeftDeck> taken = desk.copies.TakeLeftDecks();
+  REQUIRE(taken.size() == 1);
+  CHECK(taken[0].name == u"verbs");
+  CHECK(taken[0].oldPath == FromUtf8((desk.copiesFolder / before).string()));
+  REQUIRE(desk.Names().size() == 1);
+  CHECK(taken[0].path == FromUtf8((desk.copiesFolder / desk.Names()[0]).string()));
+  CHECK(ReadCopyName(desk.Names()[0])->fileName == "verbs not saved.tsr");
+  CHECK(desk.Kept() == Decks{"unsaved"});
+  CHECK(desk.copies.TakeLeftDecks().empty());
+}
+
+TEST_CASE("a clean end leaves the deck too, for the next start") {
+  UnsavedDesk desk;
+  {
+    PosixSafetyCopies ended(desk.copiesFolder);
+    ended.KeepUnsaved(u"verbs.tsr", "unsaved");
+    ended.LeaveUnsaved();
+  }
+  CHECK(desk.copies.TakeLeftDecks().size() == 1);
+}
+
+TEST_CASE("a process's own file is never one that another has left") {
+  UnsavedDesk desk;
+  fs::create_directory(desk.copiesFolder);
+  const std::string taken = UnsavedName("verbs.tsr", getpid(), 1);
+  desk.folder.Write("copies/" + taken, "of another");
+  desk.copies.KeepUnsaved(u"verbs.tsr", "mine");
+  CHECK(desk.Kept() == Decks{"of another", "mine"});
+}
+
+TEST_CASE("only regular files are taken, and nothing waits for a peer") {
+  UnsavedDesk desk;
+  fs::create_directories(desk.copiesFolder / "a (unsaved 1-1).tsr");
+  REQUIRE(mkfifo((desk.copiesFolder / "b (unsaved 1-1).tsr").c_str(), 0600) == 0);
+  fs::create_symlink("/etc/passwd", desk.copiesFolder / "c (unsaved 1-1).tsr");
+  CHECK(desk.copies.TakeLeftDecks().empty());
+  CHECK(desk.Names().size() == 3);
+}
+
+TEST_CASE("where there is no folder, no start makes one and nothing is taken") {
+  UnsavedDesk desk;
+  CHECK(desk.copies.TakeLeftDecks().empty());
+  CHECK_FALSE(fs::exists(desk.copiesFolder));
+  CHECK(PosixSafetyCopies("").TakeLeftDecks().empty());
+}
+
+TEST_CASE("a name that no file can have is made into one that can") {
+  UnsavedDesk desk;
+  desk.copies.KeepUnsaved(Text(u"a\0b.tsr", 7), "one");
+  CHECK(desk.Names().at(0).starts_with("a_b (unsaved "));
+  desk.copies.DropUnsaved();
+  desk.copies.KeepUnsaved(Text(300, u'v'), "two");
+  CHECK(desk.Kept() == Decks{"two"});
+}
+
+TEST_CASE("wherever a process is killed, what it has kept is whole") {
+  bool killed = true;
+  int old = 0;
+  for (int stop = 1; killed; ++stop) {
+    CAPTURE(stop);
+    UnsavedDesk desk;
+    killed = KilledAt(stop, [&] {
+      PosixSafetyCopies copies(desk.copiesFolder);
+      copies.KeepUnsaved(u"verbs.tsr", "one");
+      copies.KeepUnsaved(u"verbs.tsr", "two");
+    });
+    const std::size_t decks = desk.copies.TakeLeftDecks().size();
+    CHECK(decks <= 1);
+    Decks whole;
+    for (const std::string& name : desk.Names()) {
+      if (ReadCopyName(name)) whole.push_back(BytesOf(desk.copiesFolder / name));
+    }
+    CHECK(whole.size() == decks);
+    if (decks == 1) CHECK((whole[0] == "one" || whole[0] == "two"));
+    old += whole == Decks{"one"} ? 1 : 0;
+  }
+  CHECK(old > 0);
+}
+
+TEST_CASE("nothing stays open behind a deck that is dropped or taken") {
+  UnsavedDesk desk;
+  LeaveByAnotherProcess(desk.copiesFolder, u"verbs.tsr", "unsaved");
+  const int lowest = LowestFreeDescriptor();
+  desk.copies.KeepUnsaved(u"verbs.tsr", "one");
+  desk.copies.KeepUnsaved(u"verbs.tsr", "two");
+  desk.copies.DropUnsaved();
+  desk.copies.TakeLeftDecks();
+  CHECK(LowestFreeDescriptor() == lowest);
+}
+
+}  // namespace tessara::test
