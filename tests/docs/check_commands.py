@@ -48,7 +48,8 @@ def told_commands(root):
 
 def run_complaint(command, root):
     """What is wrong with a command that is run here; None where nothing is."""
-    with tempfile.TemporaryDirectory(prefix="tessara-commands-") as scratch:
+    # What a program of the desktop that the command has started still writes there is no fault of the command.
+    with tempfile.TemporaryDirectory(prefix="tessara-commands-", ignore_cleanup_errors=True) as scratch:
         ended = subprocess.run(["bash", "-c", command.format(scratch=scratch)], cwd=root, capture_output=True,
                                text=True, timeout=SECONDS, stdin=subprocess.DEVNULL, check=False,
                                env={**os.environ, "HOME": scratch})

@@ -36,10 +36,10 @@ RUN_AS = {
     "env TESSARA_LONG_SESSION=100 build/asan/tests/desktop/tests_desktop -tc='*over and over*'":
         "env TESSARA_LONG_SESSION=1 build/release/tests/desktop/tests_desktop -tc='*over and over*'"
         " | grep 'test cases: *[1-9]'",
-    "cp ~/.local/state/Tessara/copies/'verbs 2026-11-21 08-13-27-123.tsr' ~/decks/verbs.tsr":
+    "cp ~/.local/state/Tessara/copies/'verbs 2026-11-21 08-13-27-0042.tsr' ~/decks/verbs.tsr":
         "mkdir -p ~/.local/state/Tessara/copies ~/decks"
-        " && echo verbs >~/.local/state/Tessara/copies/'verbs 2026-11-21 08-13-27-123.tsr'"
-        " && cp ~/.local/state/Tessara/copies/'verbs 2026-11-21 08-13-27-123.tsr' ~/decks/verbs.tsr"
+        " && echo verbs >~/.local/state/Tessara/copies/'verbs 2026-11-21 08-13-27-0042.tsr'"
+        " && cp ~/.local/state/Tessara/copies/'verbs 2026-11-21 08-13-27-0042.tsr' ~/decks/verbs.tsr"
         " && grep -q verbs ~/decks/verbs.tsr",
 }
 

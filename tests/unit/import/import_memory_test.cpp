@@ -75,12 +75,12 @@ long MemoryOfImport(std::string_view line, std::uint64_t size) {
 }  // namespace
 
 TEST_CASE("a card without end takes the memory of the longest card") {
-  const std::uint64_t size = (HeapBytes() == 0 ? 2 : 100) * kMegabyte;
+  const std::uint64_t size = (HeapBytes() == 0 ? 2 : 40) * kMegabyte;
   CHECK(MemoryOfImport("a line of a card that never ends\r\n", size) < 8 * long{kMegabyte});
 }
 
 TEST_CASE("a line without end takes the memory of the longest line") {
-  const std::uint64_t size = (HeapBytes() == 0 ? 2 : 100) * kMegabyte;
+  const std::uint64_t size = (HeapBytes() == 0 ? 2 : 40) * kMegabyte;
   CHECK(MemoryOfImport("x", size) < 24 * long{kMegabyte});
 }
 
