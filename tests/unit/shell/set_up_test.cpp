@@ -6,9 +6,6 @@ namespace tessara::test {
 
 namespace {
 
-constexpr int kClose = 0;
-constexpr int kApply = 1;
-
 /// The program with the set-up window in front.
 struct SetUpDesk : ProgramDesk {
   SetUpWindow* window = nullptr;
