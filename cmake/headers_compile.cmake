@@ -14,6 +14,7 @@ endfunction()
 
 # headers_compile_alone(NAME LIBRARIES GLOB...): the headers that match, against the libraries.
 function(headers_compile_alone name libraries)
+  set(sources "")
   file(GLOB headers CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR} ${ARGN})
   foreach(header ${headers})
     included_first(proved ${header})
