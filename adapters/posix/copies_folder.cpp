@@ -78,7 +78,7 @@ std::string CopiesFolder::NameOfNext(const std::string& fileName, std::uintmax_t
                                      Moment moment) const {
   const std::vector<Copy> copies = CopiesIn(*this);
   const std::uint64_t number = copies.empty() ? 1 : copies.back().named.number + 1;
-  const std::string name = CopyName(fileName, moment, number);
+  std::string name = CopyName(fileName, moment, number);
   // As it will be read: a long name has been shortened.
   MakeRoom(copies, ReadCopyName(name)->fileName, size);
   return name;
