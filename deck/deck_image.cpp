@@ -2,21 +2,19 @@
 
 #include <algorithm>
 
+#include "deck/card_type.h"
 #include "deck/deck_file.h"
 
 namespace tessara {
 
 namespace {
 
-constexpr TextView kInformation = u"I";
-constexpr TextView kTerminator = u"X";
-
 /// A reader goes by the number, and takes the information again where a card is missing.
 DeckRecord RecordAt(const ProgramState& state, int row) {
   const bool isCard = row != kInfoRow && state.deck.cardPresent.At(row) != 0;
   DeckRecord record = RecordOfRow(state, isCard ? row : kInfoRow);
   record.number = static_cast<std::int16_t>(isCard ? row : kInfoRow);
-  if (!isCard) record.cardType = kInformation;
+  if (!isCard) record.cardType = LetterOf(CardType::kInformation);
   return record;
 }
 
@@ -53,7 +51,7 @@ std::string_view DeckImage::Bytes() {
   cellsEncoded_ = state_.deck.cardGrid.Changes().Count();
   flagsEncoded_ = state_.deck.cardPresent.Changes().Count();
   DeckRecord end;
-  end.cardType = kTerminator;
+  end.cardType = LetterOf(CardType::kTerminator);
   const RecordBytes terminator = EncodeRecord(end, codePage_);
   bytes_.append(terminator.begin(), terminator.end());
   return bytes_;

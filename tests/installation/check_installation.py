@@ -111,7 +111,7 @@ class Files(Scratch):
     def test_the_program_lives_whole_in_its_folder_with_a_link_in_bin(self):
         folder = self.usr / "lib" / "tessara"
         self.assertEqual((self.usr / "bin" / "tessara").resolve(), folder / "tessara")
-        for name in ("Notelet.ico", "TessaraHelp.chm", "libtessara_qt_print.so", "libtessara_help.so",
+        for name in ("Notelet.ico", "TessaraHelp.chm", "libtessara_qt_print.so", "libtessara_help.so", "tessara-notify",
                      "pictures/info.png", "pictures/backdrops/DEFAULT.jpg", "samples/capitals.tsr",
                      "icons/hicolor/48x48/apps/tessara.png"):
             self.assertTrue((folder / name).is_file(), name)
@@ -179,8 +179,8 @@ class Package(Scratch):
                   if " ./" in line}
         installed = {str(path.relative_to(self.root)) for path in self.root.rglob("*")}
         self.assertLessEqual(installed, packed)
-        for name in ("bin/tessara", "lib/tessara/tessara", "lib/tessara/TessaraHelp.chm",
-                     "lib/tessara/samples/science.tsr", "share/applications/tessara.desktop",
+        for name in ("bin/tessara", "lib/tessara/tessara", "lib/tessara/tessara-notify",
+                     "lib/tessara/TessaraHelp.chm", "lib/tessara/samples/science.tsr", "share/applications/tessara.desktop",
                      "share/mime/packages/tessara.xml", "share/icons/hicolor/48x48/apps/tessara.png",
                      "share/metainfo/io.github.tessara.tessara.metainfo.xml", "share/man/man1/tessara.1.gz"):
             self.assertIn(f"usr/{name}", packed)
