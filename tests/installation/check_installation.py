@@ -180,8 +180,9 @@ class Package(Scratch):
         installed = {str(path.relative_to(self.root)) for path in self.root.rglob("*")}
         self.assertLessEqual(installed, packed)
         for name in ("bin/tessara", "lib/tessara/tessara", "lib/tessara/tessara-notify",
-                     "lib/tessara/TessaraHelp.chm", "lib/tessara/samples/science.tsr", "share/applications/tessara.desktop",
-                     "share/mime/packages/tessara.xml", "share/icons/hicolor/48x48/apps/tessara.png",
+                     "lib/tessara/TessaraHelp.chm", "lib/tessara/samples/science.tsr",
+                     "share/applications/tessara.desktop", "share/mime/packages/tessara.xml",
+                     "share/icons/hicolor/48x48/apps/tessara.png",
                      "share/metainfo/io.github.tessara.tessara.metainfo.xml", "share/man/man1/tessara.1.gz"):
             self.assertIn(f"usr/{name}", packed)
 
