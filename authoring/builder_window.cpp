@@ -10,6 +10,7 @@ namespace tessara {
 
 namespace {
 
+constexpr Color kBlue = FixedColor(0, 0, 255);
 constexpr TextView kAddCaption = u"&Add to deck";
 constexpr TextView kCancelCaption = u"&Cancel";
 
@@ -17,6 +18,8 @@ constexpr TextView kCancelCaption = u"&Cancel";
 
 BuilderWindow::BuilderWindow(AppContext& app, std::string name, Window<DeckWindow> deck)
     : Form(app.windows, std::move(name), FormKind::kChild, u"Tessara"), app_(app), deck_(deck) {
+  heading.SetFont({u"MS Sans Serif", 9.75});
+  heading.SetForeColor(kBlue);
   arrows.Wire(&Button::onClick, [this](int arrow) { Page(arrow); });
 }
 

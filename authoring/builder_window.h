@@ -19,13 +19,14 @@ enum class BuilderState { kNew, kOld };
 /// The buttons of a builder, in both of them the same four.
 enum BuilderButton : int { kNewButton = 0, kAddButton = 1, kCancelButton = 2, kCloseButton = 3 };
 
-/// What the two builders share: the arrows, the four buttons with their captions by state, the
-/// question about a changed card, the way back to the deck window. A builder works straight on
-/// the table; the deck window is hidden while it is open.
+/// What the two builders share: the heading, the arrows, the four buttons with their captions by
+/// state, the question about a changed card, the way back to the deck window. A builder works
+/// straight on the table; the deck window is hidden while it is open.
 class BuilderWindow : public Form {
  public:
   using Buttons = ControlArray<Button, 4>;
 
+  Label heading{"Label1"};
   MoveButtons arrows{"cmdMove"};
 
   [[nodiscard]] bool OccupiesFrame() const override { return true; }

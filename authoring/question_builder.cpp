@@ -9,7 +9,6 @@ namespace tessara {
 
 namespace {
 
-constexpr Color kBlue = FixedColor(0, 0, 255);
 constexpr Color kDarkRed = FixedColor(128, 0, 0);
 
 }  // namespace
@@ -53,8 +52,6 @@ void QuestionBuilder::PlaceControls() {
 }
 
 void QuestionBuilder::DressControls() {
-  heading.SetFont({u"MS Sans Serif", 9.75});
-  heading.SetForeColor(kBlue);
   number.SetForeColor(kDarkRed);
   question.SetMultiLine(true);
   for (std::size_t line = 0; line < State().building.answerLineLimit.size(); ++line) {

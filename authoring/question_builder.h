@@ -21,7 +21,6 @@ class QuestionBuilder : public BuilderWindow {
 
   QuestionBuilder(AppContext& app, Window<DeckWindow> deck);
 
-  Label heading{"Label1"};
   Label questionHeading{"Label2(0)"};
   Label number{"Label2(1)"};
   ControlArray<OptionButton, 2> layouts{"Option3"};

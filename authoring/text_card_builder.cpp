@@ -11,7 +11,6 @@ namespace {
 
 /// Lines of a back from which on the user is told that a card shows no more.
 constexpr int kMostLines = 10;
-constexpr Color kBlue = FixedColor(0, 0, 255);
 constexpr Color kRed = FixedColor(255, 0, 0);
 const Text kTextCard(LetterOf(CardType::kText));
 
@@ -41,8 +40,6 @@ void TextCardBuilder::PlaceControls() {
       {&arrows[kPreviousCard], nullptr, u"<<", {3360, 120, 975, 375}, u"Previous card"},
       {&arrows[kNextCard], nullptr, u">>", {4320, 120, 975, 375}, u"Next card"},
   });
-  heading.SetFont({u"MS Sans Serif", 9.75});
-  heading.SetForeColor(kBlue);
   number.SetForeColor(kRed);
   for (TextBox& box : sides) {
     box.SetMultiLine(true);

@@ -17,7 +17,6 @@ class TextCardBuilder : public BuilderWindow {
 
   TextCardBuilder(AppContext& app, Window<DeckWindow> deck);
 
-  Label heading{"Label1"};
   Label frontHeading{"Label2(0)"};
   Label backHeading{"Label2(1)"};
   Label number{"Label2(2)"};

@@ -9,8 +9,6 @@ namespace tessara {
 
 namespace {
 
-constexpr int kWindowWidth = 6270;
-constexpr int kWindowHeight = 4650;
 constexpr int kTitleLength = 75;
 constexpr int kDescriptionLength = 400;
 
@@ -20,8 +18,8 @@ DeckInfoWindow::DeckInfoWindow(AppContext& app, Window<DeckLife> deck)
     : Form(app.windows, "frmInfo", FormKind::kChild, u"Tessara Information"),
       app_(app),
       deck_(deck) {
-  SetWidth(kWindowWidth);
-  SetHeight(kWindowHeight);
+  SetWidth(kWidth);
+  SetHeight(kHeight);
   PlaceControls();
   fields.Wire(&TextBox::onChange, [this](int) { NoteChange(); });
   save.onClick = [this] { Save(); };

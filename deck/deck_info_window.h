@@ -16,6 +16,10 @@ enum InfoField : int { kTitleField = 0, kAuthorField = 1, kDescriptionField = 2 
 /// screen. It stays loaded when the deck changes.
 class DeckInfoWindow : public Form {
  public:
+  /// Outer size in twips.
+  static constexpr int kHeight = 4650;
+  static constexpr int kWidth = 6270;
+
   DeckInfoWindow(AppContext& app, Window<DeckLife> deck);
 
   ControlArray<Label, 5> headings{"Label1"};

@@ -5,14 +5,8 @@
 
 namespace tessara {
 
-namespace {
-
-constexpr TextView kNewDeck = u"New Deck";
-
-}  // namespace
-
 DeckLife::DeckLife(AppContext& app, FileNumber& fileNumber, Window<DeckInfoWindow> info)
-    : Form(app.windows, "frmMain", FormKind::kChild, Text(kNewDeck)),
+    : Form(app.windows, "frmMain", FormKind::kChild, Text(kNewDeckName)),
       app_(app),
       fileNumber_(fileNumber),
       info_(info) {}
@@ -24,7 +18,7 @@ void DeckLife::NewTessara() {
   Card().SetCardTotal(u"0");
   Card().SetCardText(u"");
   answer.SetCaption(u"");
-  SetCaption(Text(kNewDeck));
+  SetCaption(Text(kNewDeckName));
   state.deck.cardCount = 0;
   state.deck.filePath.clear();
   state.deck.saveOffered = false;

@@ -2,6 +2,7 @@
 
 #include <exception>
 
+#include "deck/deck_name.h"
 #include "machine/desktop.h"
 #include "machine/safety_copies.h"
 
@@ -9,13 +10,12 @@ namespace tessara {
 
 namespace {
 
-constexpr TextView kNewDeck = u"New Deck";
 constexpr TextView kDeckEnding = u".tsr";
 
 /// What the deck's file is called; a deck without one has the name that its window has.
 Text FileNameOf(const Text& path) {
   const Text name = path.substr(path.find_last_of(u"/\\") + 1);
-  return name.empty() ? Text(kNewDeck) : name;
+  return name.empty() ? Text(kNewDeckName) : name;
 }
 
 Text WithoutEnding(const Text& fileName) {

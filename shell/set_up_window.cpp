@@ -9,8 +9,6 @@
 
 namespace tessara {
 
-namespace {}  // namespace
-
 SetUpWindow::SetUpWindow(AppContext& app)
     : Form(app.windows, "FrmSetUp", FormKind::kChild, u"Set-Up"), app_(app) {
   SetWidth(kWidth);

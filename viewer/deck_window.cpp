@@ -14,8 +14,6 @@ namespace {
 
 constexpr int kWindowHeight = 6315;
 constexpr int kWindowWidth = 7230;
-constexpr int kInfoHeight = 4650;
-constexpr int kInfoWidth = 6270;
 /// Both captions that the button takes in a test; it starts without one.
 constexpr TextView kNextOrScoreName = u"Next Question, Show Score";
 constexpr Bounds kUnderTheCard = {120, 3855, 4860, 1635};
@@ -162,7 +160,7 @@ void DeckWindow::OnClick() {
 }
 
 void DeckWindow::ShowDeckInfo() {
-  PlaceInFrame(Info().Slot(), kInfoHeight, kInfoWidth, App().frame);
+  PlaceInFrame(Info().Slot(), DeckInfoWindow::kHeight, DeckInfoWindow::kWidth, App().frame);
   SetEnabled(false);
 }
 

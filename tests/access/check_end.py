@@ -20,11 +20,13 @@ SAVE_AND_LEAVE = (("Unsaved Changes: ", "Return"), ("Save", "Return"), (SURE, "R
 tessara = samples = ""
 
 
-class Ends(unittest.TestCase):
+class Running(unittest.TestCase):
     def setUp(self):
         self.program = Program(tessara, samples)
         self.addCleanup(self.program.end)
 
+
+class Ends(Running):
     def ends_well(self, *steps):
         """The last step ends the program."""
         *way, (title, key) = steps
@@ -46,11 +48,7 @@ class Ends(unittest.TestCase):
                        (FRAME, "alt+f e"))
 
 
-class Menus(unittest.TestCase):
-    def setUp(self):
-        self.program = Program(tessara, samples)
-        self.addCleanup(self.program.end)
-
+class Menus(Running):
     def bar(self, *menus):
         """Waits for the menu bar: each menu's name, and whether it is on."""
         def shown():
