@@ -43,7 +43,7 @@ if(CPPUMAKER AND TARGET tessara_cups AND QPDF_LIBRARY AND libreofficeSources)
     COMPILE_DEFINITIONS POINTERHOLDER_TRANSITION=4
     BUILD_RPATH ${officeProgram} INSTALL_RPATH ${officeProgram})
   target_link_libraries(tessara_libreoffice
-    PRIVATE tessara_warnings tessara_uno ${QPDF_LIBRARY})
+    PRIVATE tessara_warnings tessara_uno ${QPDF_LIBRARY} PkgConfig::GLIB)
   link_layer(tessara_libreoffice adapters/libreoffice)
   if(TARGET tessara)
     add_dependencies(tessara tessara_libreoffice)

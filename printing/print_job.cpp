@@ -2,6 +2,7 @@
 
 #include "base/run_time_error.h"
 #include "deck/deck_name.h"
+#include "machine/hourglass.h"
 #include "machine/message_box.h"
 #include "printing/print_copies.h"
 #include "printing/print_window.h"
@@ -9,6 +10,7 @@
 namespace tessara {
 
 bool PrintWindow::RunJob() {
+  const Hourglass waiting(app_.machine.desktop);
   return flatSheet.Ticked() ? RunFlatJob() : RunCardJob();
 }
 

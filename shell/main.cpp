@@ -19,6 +19,7 @@
 #include "adapters/posix/posix_clock.h"
 #include "adapters/posix/posix_file_system.h"
 #include "adapters/posix/posix_safety_copies.h"
+#include "adapters/posix/whole_paths.h"
 #include "adapters/qt/devices/help_loader.h"
 #include "adapters/qt/devices/lazy_print_surface.h"
 #include "adapters/qt/devices/print_module.h"
@@ -113,5 +114,7 @@ int main(int argc, char** argv) {
   // A spreadsheet server that dies is an error of the job, not the end of the program.
   std::signal(SIGPIPE, SIG_IGN);
   tessara::SurviveFileSizeLimit();
+  tessara::KeepWholePathsOnly();
+  tessara::ForgetRelativeFolders();
   return tessara::RunTessara(argc, argv);
 }

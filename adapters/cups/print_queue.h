@@ -4,6 +4,8 @@
 #include <span>
 #include <string>
 
+#include "adapters/cups/printing_system.h"
+
 namespace tessara {
 
 /// A setting of a print job: "sides" is "one-sided". Without a value it is not set at all.
@@ -11,9 +13,6 @@ struct QueueOption {
   const char* name;
   const char* value = nullptr;
 };
-
-/// Most that the printing system may keep the program waiting for each of its answers.
-inline constexpr std::chrono::seconds kQueuePatience{10};
 
 /// Sends a PDF file to a print queue, named as CUPS names a destination ("queue" or
 /// "queue/instance"), with the user's own options for it but for those given here. Raises error 482

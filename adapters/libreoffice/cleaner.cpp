@@ -2,23 +2,27 @@
 
 #include <array>
 #include <fcntl.h>
+#include <poll.h>
 #include <spawn.h>
+#include <string>
 #include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "adapters/posix/system_call.h"
 #include "base/run_time_error.h"
 
 namespace tessara {
 
 namespace {
 
-/// Its first argument is the folder. A dying server may make one more file while the folder goes.
+/// Its first argument is the folder, the others are the files. It waits for a line or for the end
+/// of its input.
 constexpr const char* kScript =
     "trap '' HUP INT TERM\n"
-    "while read -r file; do set -- \"$@\" \"$file\"; done\n"
+    "read -r line\n"
     "rm -f -- \"$@\"\n"
-    "rm -rf -- \"$0\" || { sleep 1; rm -rf -- \"$0\"; }\n";
+    "rm -rf -- \"$0\"\n";
 
 constexpr int kFirstOwnFile = 3;
 
@@ -53,23 +57,33 @@ class Surroundings {
   posix_spawnattr_t attributes_{};
 };
 
-pid_t StartShell(int input, std::string folder) {
-  std::string shell = "sh";
-  std::string option = "-c";
-  std::string script = kScript;
-  const std::array<char*, 5> arguments{shell.data(), option.data(), script.data(), folder.data(),
-                                       nullptr};
+pid_t StartShell(int input, const std::filesystem::path& folder,
+                 const std::vector<std::filesystem::path>& files) {
+  std::vector<std::string> command{"sh", "-c", kScript, folder.string()};
+  for (const std::filesystem::path& file : files) command.push_back(file.string());
+  std::vector<char*> arguments;
+  for (std::string& argument : command) arguments.push_back(argument.data());
+  arguments.push_back(nullptr);
   return Surroundings(input).Start("/bin/sh", arguments.data());
+}
+
+/// Waits until the other end is closed, but no longer than that. False where it is not.
+bool WaitForOtherEnd(int end, std::chrono::milliseconds longest) {
+  pollfd other{end, POLLIN, 0};
+  return Uninterrupted([&] { return poll(&other, 1, static_cast<int>(longest.count())); }) == 1;
 }
 
 }  // namespace
 
-Cleaner::Cleaner(const std::string& folder) {
+Cleaner::Cleaner(const std::filesystem::path& folder,
+                 const std::vector<std::filesystem::path>& files,
+                 std::chrono::milliseconds patience)
+    : patience_(patience) {
   std::array<int, 2> ends{};
   if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) {
     throw RunTimeError(ErrorNumber::kAutomationError);
   }
-  process_ = StartShell(ends[1], folder);
+  process_ = StartShell(ends[1], folder, files);
   close(ends[1]);
   input_ = ends[0];
   if (process_ != 0) return;
@@ -78,14 +92,13 @@ Cleaner::Cleaner(const std::string& folder) {
 }
 
 Cleaner::~Cleaner() {
+  // Whoever else has the input open may live on: the line tells that the server has ended.
+  // A cleaner that somebody has killed hears nothing.
+  [[maybe_unused]] const ssize_t sent = send(input_, "\n", 1, MSG_NOSIGNAL);
+  // One that has not ended by then stays a child that nobody has waited for.
+  const bool ends = WaitForOtherEnd(input_, patience_);
   close(input_);
-  waitpid(process_, nullptr, 0);
-}
-
-void Cleaner::AlsoRemove(const std::string& file) const {
-  const std::string line = file + '\n';
-  // One that somebody has killed hears nothing.
-  [[maybe_unused]] const ssize_t sent = send(input_, line.data(), line.size(), MSG_NOSIGNAL);
+  waitpid(process_, nullptr, ends ? 0 : WNOHANG);
 }
 
 }  // namespace tessara

@@ -4,14 +4,16 @@
 #include <fcntl.h>
 #include <string_view>
 #include <sys/prctl.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <utility>
 #include <vector>
 
+#include "adapters/cups/printing_system.h"
 #include "adapters/libreoffice/file_url.h"
 #include "adapters/libreoffice/office_profile.h"
-#include "adapters/libreoffice/process_pipes.h"
+#include "adapters/libreoffice/server_sockets.h"
 #include "base/run_time_error.h"
 
 namespace tessara {
@@ -22,10 +24,12 @@ namespace {
 constexpr int kRestartAfterCrash = 79;
 constexpr int kRestart = 81;
 
-constexpr const char* kProfile = "profile";
+/// The first one behind standard input, output and error: it tells the cleaner that the server
+/// lives.
+constexpr int kSignOfLife = 3;
 
-/// The first one behind standard input, output and error.
-constexpr unsigned kFirstFileToClose = 3;
+/// What the server makes is nobody else's.
+constexpr mode_t kMask = S_IRWXG | S_IRWXO;
 
 /// A command with its environment as the system wants them: made before the fork, because behind
 /// it nothing may be allocated.
@@ -50,8 +54,7 @@ class Command {
   std::vector<char*> envp_;
 };
 
-std::vector<std::string> Arguments(const std::string& office, const std::string& folder,
-                                   const std::string& pipe) {
+std::vector<std::string> Arguments(const std::string& office, const std::filesystem::path& folder) {
   return {office + "/soffice.bin",
           "--headless",
           "--invisible",
@@ -59,29 +62,41 @@ std::vector<std::string> Arguments(const std::string& office, const std::string&
           "--nologo",
           "--nodefault",
           "--nolockcheck",
-          "-env:UserInstallation=" + FileUrl(folder + "/" + kProfile),
-          "--accept=pipe,name=" + pipe + ";urp"};
+          "-env:UserInstallation=" + FileUrl(ProfileOf(folder).string()),
+          "-env:" + std::string(kSocketPath) + "=" + SocketFolder(folder).string(),
+          "--accept=pipe,name=" + PipeName(folder) + ";urp"};
 }
 
-/// The program's own, but for the folder of temporary files.
+/// The program's own, but for the folder of temporary files and for the printing system, which the
+/// server has no use for and would wait for without a limit: its sheets are exported.
 std::vector<std::string> Environment(const std::string& folder) {
   constexpr std::string_view kTemporary = "TMPDIR=";
-  std::vector<std::string> environment{std::string(kTemporary) + folder};
+  constexpr std::string_view kPrinting = "CUPS_SERVER=";
+  std::vector<std::string> environment{std::string(kTemporary) + folder,
+                                       std::string(kPrinting) + kNoPrintingSystem};
   for (char** variable = environ; *variable != nullptr; ++variable) {
-    if (!std::string_view(*variable).starts_with(kTemporary)) environment.emplace_back(*variable);
+    const std::string_view own(*variable);
+    if (!own.starts_with(kTemporary) && !own.starts_with(kPrinting)) environment.emplace_back(own);
   }
   return environment;
 }
 
+void KeepOpen(int signOfLife) {
+  const bool there = signOfLife == kSignOfLife;
+  there ? fcntl(signOfLife, F_SETFD, 0) : dup2(signOfLife, kSignOfLife);
+}
+
 /// Between fork and execution: only what is safe there.
-[[noreturn]] void BecomeServer(const Command& command, pid_t parent) {
+[[noreturn]] void BecomeServer(const Command& command, pid_t parent, int signOfLife) {
   prctl(PR_SET_PDEATHSIG, SIGKILL);
   if (getppid() != parent) _exit(1);  // died before the line above
+  umask(kMask);
+  KeepOpen(signOfLife);
   const int nothing = open("/dev/null", O_RDWR);
   dup2(nothing, STDIN_FILENO);
   dup2(nothing, STDOUT_FILENO);
   dup2(nothing, STDERR_FILENO);
-  close_range(kFirstFileToClose, ~0U, 0);
+  close_range(kSignOfLife + 1, ~0U, 0);
   signal(SIGPIPE, SIG_DFL);
   command.Execute();
   _exit(1);
@@ -91,19 +106,8 @@ std::vector<std::string> Environment(const std::string& folder) {
 
 OfficeProcess::OfficeProcess(std::string officeProgramFolder)
     : officeProgramFolder_(std::move(officeProgramFolder)) {
-  PrepareProfile(folder_.Path() / kProfile, officeProgramFolder_);
+  PrepareProfile(ProfileOf(folder_.Path()), officeProgramFolder_);
   Start();
-}
-
-std::string OfficeProcess::PipeName() const {
-  return folder_.Path().filename().string();
-}
-
-void OfficeProcess::NotePipes() {
-  const std::lock_guard lock(mutex_);
-  for (const std::filesystem::path& pipe : PipesOf(process_)) {
-    if (pipes_.insert(pipe).second) folder_.AlsoRemove(pipe);
-  }
 }
 
 OfficeProcess::~OfficeProcess() {
@@ -112,12 +116,12 @@ OfficeProcess::~OfficeProcess() {
 }
 
 void OfficeProcess::Start() {
-  const std::string folder = folder_.Path().string();
-  const Command command(Arguments(officeProgramFolder_, folder, PipeName()), Environment(folder));
+  const Command command(Arguments(officeProgramFolder_, folder_.Path()),
+                        Environment(folder_.Path().string()));
   const pid_t parent = getpid();
   const pid_t child = fork();
   if (child < 0) throw RunTimeError(ErrorNumber::kAutomationError);
-  if (child == 0) BecomeServer(command, parent);
+  if (child == 0) BecomeServer(command, parent, folder_.SignOfLife());
   process_ = child;
 }
 

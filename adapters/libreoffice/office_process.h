@@ -1,8 +1,6 @@
 #pragma once
 
-#include <filesystem>
 #include <mutex>
-#include <set>
 #include <string>
 #include <sys/types.h>
 
@@ -10,8 +8,8 @@
 
 namespace tessara {
 
-/// The hidden server: a process of its own with a profile of its own, which listens on a pipe.
-/// It dies with the object, with the program, and when it is killed.
+/// The hidden server: a process of its own with a profile of its own, which listens on a pipe
+/// that only this user can use. It dies with the object, with the program, and when it is killed.
 class OfficeProcess {
  public:
   /// Raises error 440 where it can't be started.
@@ -21,11 +19,6 @@ class OfficeProcess {
   OfficeProcess& operator=(const OfficeProcess&) = delete;
 
   [[nodiscard]] const PrivateFolder& Folder() const { return folder_; }
-  /// The pipe's name, unique as the folder's is.
-  [[nodiscard]] std::string PipeName() const;
-  /// To be called while the server starts and when its pipe is there: the files of the pipes that
-  /// it has made go with the object.
-  void NotePipes();
 
   /// False where it has ended. A server that has ended because it wants to be started again, as
   /// it may with a new profile, is.
@@ -38,7 +31,6 @@ class OfficeProcess {
 
   std::string officeProgramFolder_;
   PrivateFolder folder_;
-  std::set<std::filesystem::path> pipes_;  ///< that are to be removed
   std::mutex mutex_;   ///< keeps Kill from a process number that is no longer ours
   pid_t process_ = 0;  ///< 0 where none runs
 };

@@ -12,6 +12,7 @@
 #include <utility>
 
 #include "adapters/libreoffice/file_url.h"
+#include "adapters/libreoffice/server_sockets.h"
 #include "adapters/libreoffice/uno_text.h"
 
 namespace tessara {
@@ -46,18 +47,18 @@ OfficeSession::Loader OfficeSession::Connect() {
 
 /// The pipe is there a while after the process. The watchdog ends a server that never opens one.
 OfficeSession::Context OfficeSession::WaitForPipe() {
+  const std::filesystem::path& folder = Folder();
+  rtl::Bootstrap::set(UnoText(std::string(kSocketPath)), UnoText(SocketFolder(folder).string()));
   const rtl::OUString url =
-      UnoText("uno:pipe,name=" + process_.PipeName() + ";urp;StarOffice.ComponentContext");
+      UnoText("uno:pipe,name=" + PipeName(folder) + ";urp;StarOffice.ComponentContext");
   const auto resolver = UnoUrlResolver::create(local_);
   while (process_.Running()) {
     try {
-      const Context context(resolver->resolve(url), uno::UNO_QUERY_THROW);
-      process_.NotePipes();
-      return context;
+      if (OwnsPipe(folder)) return {resolver->resolve(url), uno::UNO_QUERY_THROW};
     } catch (const NoConnectException&) {
-      process_.NotePipes();
-      std::this_thread::sleep_for(kBetweenTries);
+      // Made, and not listened on yet.
     }
+    std::this_thread::sleep_for(kBetweenTries);
   }
   throw RunTimeError(ErrorNumber::kAutomationError);
 }

@@ -7,6 +7,7 @@
 #include <system_error>
 #include <unistd.h>
 
+#include "adapters/libreoffice/server_sockets.h"
 #include "base/folder_entries.h"
 #include "base/run_time_error.h"
 
@@ -31,11 +32,16 @@ bool LeftBehind(const std::string& name) {
   return process > 0 && kill(static_cast<pid_t>(process), 0) != 0 && errno == ESRCH;
 }
 
+void RemoveAll(const fs::path& folder) {
+  std::error_code none;  // somebody else's stays
+  for (const fs::path& socket : SocketsOf(folder)) fs::remove(socket, none);
+  fs::remove_all(folder, none);
+}
+
 void SweepLeftBehind(const fs::path& parent) {
   std::error_code unread;
   for (const fs::directory_entry& entry : EntriesOf(parent, unread)) {
-    std::error_code none;  // somebody else's stays
-    if (LeftBehind(entry.path().filename().string())) fs::remove_all(entry.path(), none);
+    if (LeftBehind(entry.path().filename().string())) RemoveAll(entry.path());
   }
 }
 
@@ -47,7 +53,7 @@ PrivateFolder::PrivateFolder() {
   std::string name = (parent / (kPrefix + std::to_string(getpid()) + "-XXXXXX")).string();
   if (mkdtemp(name.data()) == nullptr) throw RunTimeError(ErrorNumber::kAutomationError);
   path_ = name;
-  cleaner_ = std::make_unique<Cleaner>(name);
+  cleaner_ = std::make_unique<Cleaner>(path_, SocketsOf(path_));
 }
 
 }  // namespace tessara

@@ -16,10 +16,12 @@
 #include <doctest/doctest.h>
 #include <functional>
 
+#include "adapters/qt/devices/qt_desktop.h"
 #include "adapters/qt/devices/qt_dialogs.h"
 #include "adapters/qt/devices/qt_message_boxes.h"
 #include "adapters/qt/text/qt_text.h"
 #include "base/run_time_error.h"
+#include "machine/hourglass.h"
 #include "tests/desktop/config_folder.h"
 #include "tests/desktop/event_loops.h"
 #include "tests/support/environment_variable.h"
@@ -290,4 +292,24 @@ TEST_CASE("A cancelled file dialog names no file, and opening wants one that exi
 TEST_CASE("Without the print module the printer is an error") {
   NoPrinting desk;
   CHECK_THROWS_AS(desk.dialogs.AskPrinter(), RunTimeError);
+}
+
+TEST_CASE(
+    "While a dialog is open the pointer is plain, also where the wait pointer is up around it") {
+  const QTemporaryDir folder;
+  NoPrinting desk;
+  QtDesktop desktop(nullptr);
+  const Hourglass waiting(desktop);
+  const auto plain = [] { return QApplication::overrideCursor() == nullptr; };
+  int dialogs = 0;
+  WhenUp<QFileDialog>([&](QFileDialog& dialog) { dialogs += plain(), dialog.reject(); });
+  desk.dialogs.AskFile(SaveIn(folder));
+  CHECK_FALSE(plain());
+  WhenUp<QInputDialog>([&](QInputDialog& dialog) { dialogs += plain(), dialog.reject(); });
+  desk.dialogs.AskText(u"Number", u"Go to", u"1");
+  CHECK_FALSE(plain());
+  WhenUp<QMessageBox>([&](QMessageBox& box) { dialogs += plain(), box.accept(); });
+  QtMessageBoxes().Show(u"Text", kOkOnly, u"Title");
+  CHECK_FALSE(plain());
+  CHECK(dialogs == 3);
 }

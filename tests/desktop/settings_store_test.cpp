@@ -4,6 +4,10 @@
 #include <QLockFile>
 #include <QTemporaryDir>
 #include <doctest/doctest.h>
+#include <functional>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
 
 #include "adapters/qt/devices/qt_settings_store.h"
 #include "tests/desktop/config_folder.h"
@@ -193,4 +197,67 @@ TEST_CASE("A lock that a killed writer has left empty does not hold up the next 
   CHECK(timer.elapsed() < kFarBelowTheHalfMinute);
   CHECK(QtSettingsStore().Read(u"BackDrop", u"") == u"DESERT");
   CHECK_FALSE(lock.exists());
+}
+
+/// What can be read of settings that somebody has put there, and how a write ends.
+void CheckDefaultsAtOnce(const ConfigFolder& config) {
+  QElapsedTimer watch;
+  watch.start();
+  CHECK(QtSettingsStore().Read(u"BackDrop", u"DEFAULT") == u"DEFAULT");
+  QtSettingsStore().Write(u"BackDrop", u"GRANITE");
+  CHECK(watch.elapsed() < 5000);
+  CHECK(QFileInfo::exists(config.Path()));
+}
+
+TEST_CASE("Settings that are a pipe, a device, a folder or without end give the defaults at once") {
+  const auto link = [](const ConfigFolder& config, const char* target) {
+    return symlink(target, config.Path().toUtf8()) == 0;
+  };
+  using Maker = std::function<bool(const ConfigFolder&)>;
+  const std::pair<const char*, Maker> kinds[] = {
+      {"pipe", [](const auto& config) { return mkfifo(config.Path().toUtf8(), 0600) == 0; }},
+      {"folder", [](const auto& config) { return QDir().mkdir(config.Path()); }},
+      {"zeros", [&](const auto& config) { return link(config, "/dev/zero"); }},
+      {"terminal", [&](const auto& config) { return link(config, "/dev/tty"); }},
+      {"1 GB", [](const auto& config) {
+         config.Write("[Settings]\nBackDrop=DESERT\n");
+         return QFile::resize(config.Path(), 1 << 30);
+       }}};
+  for (const auto& [name, make] : kinds) {
+    CAPTURE(name);
+    const ConfigFolder config;
+    REQUIRE(make(config));
+    CheckDefaultsAtOnce(config);
+  }
+}
+
+TEST_CASE("A folder in the place of the lock keeps no setting from being written") {
+  const ConfigFolder config;
+  REQUIRE(QDir().mkpath(config.Path() + ".lock/inside"));
+  QElapsedTimer watch;
+  watch.start();
+  QtSettingsStore().Write(u"BackDrop", u"GRANITE");
+  CHECK(watch.elapsed() < 5000);
+  CHECK(QtSettingsStore().Read(u"BackDrop", u"") == u"GRANITE");
+}
+
+TEST_CASE("A writer that never ends is not waited for, and the settings stay") {
+  const ConfigFolder config;
+  QtSettingsStore().Write(u"BackDrop", u"DESERT");
+  QLockFile other(config.Path() + ".lock");
+  REQUIRE(other.lock());
+  QElapsedTimer watch;
+  watch.start();
+  QtSettingsStore().Write(u"BackDrop", u"GRANITE");
+  CHECK(watch.elapsed() < 10000);
+  CHECK(QtSettingsStore().Read(u"BackDrop", u"") == u"DESERT");
+}
+
+TEST_CASE("A configuration folder by a relative path counts as missing") {
+  const QTemporaryDir home;
+  const EnvironmentVariable homeFolder("HOME", home.path().toStdString());
+  const EnvironmentVariable config("XDG_CONFIG_HOME", "relative");
+  QtSettingsStore().Write(u"BackDrop", u"GRANITE");
+  CHECK_FALSE(QFileInfo::exists("relative"));
+  CHECK(QFileInfo::exists(home.filePath(".config/Tessara.conf")));
 }

@@ -21,6 +21,10 @@ PATIENCE = 30  # seconds until a wait counts as a failure
 MEANT_TO_STAY = ("config/Tessara.conf", "config/mimeapps.list", "data/applications/", "data/icons/", "data/mime/",
                  "cache/fontconfig/")
 
+# Programs of others that the program starts, or that those start.
+STARTED = ("update-mime-database", "update-desktop-database", "gtk-update-icon-cache", "xdg-mime", "sh", "rm", "soffice")
+RAN = "a fake ran"
+
 
 def wait_for(condition, what):
     end = time.monotonic() + PATIENCE
@@ -59,13 +63,23 @@ class Home:
             shutil.copy(deck, self.deck)
         else:
             self.deck.write_bytes(b"E".ljust(1192, b"\x7f"))  # a row far outside the table
+        self.fakes = self.root / "fakes"
+        self.lay_fakes()
         self.before = files_in(self.root)
+
+    def lay_fakes(self):
+        """A folder of programs that are not to be started: it is the current one, and PATH names that alone."""
+        self.fakes.mkdir()
+        for name in STARTED:
+            fake = self.fakes / name
+            fake.write_text(f"#!/bin/sh\necho {name} >> '{self.root / RAN}'\n", encoding="ascii")
+            fake.chmod(0o700)
 
     def environment(self):
         folders = {"HOME": "home", "XDG_DATA_HOME": "data", "XDG_CONFIG_HOME": "config", "XDG_CACHE_HOME": "cache",
                    "XDG_STATE_HOME": "state", "XDG_RUNTIME_DIR": "runtime", "TMPDIR": "tmp"}
         return os.environ | {name: str(self.root / folder) for name, folder in folders.items()} | {
-            "TESSARA_LEFTOVERS": str(self.root), "QT_QPA_PLATFORM": "offscreen"}
+            "PATH": ":", "TESSARA_LEFTOVERS": str(self.root), "QT_QPA_PLATFORM": "offscreen"}
 
     def leftovers(self):
         new = [name for name in files_in(self.root) if name not in self.before]
@@ -111,7 +125,7 @@ def complaints(tessara, name, deck, end, display=None):
     home = Home(deck)
     on_display = {"DISPLAY": display.name, "QT_QPA_PLATFORM": "xcb"} if display else {}
     try:
-        process = subprocess.Popen([tessara, str(home.deck)], env=home.environment() | on_display,
+        process = subprocess.Popen([tessara, str(home.deck)], env=home.environment() | on_display, cwd=home.fakes,
                                    stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         # The settings file is written by the first start: by then the program is well under way.
         wait_for(lambda: holds_lock(home) and (home.root / "config" / "Tessara.conf").exists(), "the start")

@@ -5,6 +5,7 @@
 #include <QLabel>
 
 #include "adapters/qt/devices/file_dialog.h"
+#include "adapters/qt/devices/plain_pointer.h"
 #include "adapters/qt/text/qt_text.h"
 #include "base/run_time_error.h"
 #include "forms/window_system.h"
@@ -16,6 +17,7 @@ void QtDialogs::LeaveIfEnded() const {
 }
 
 Text QtDialogs::AskFile(const FileDialogRequest& request) {
+  const PlainPointer pointer;
   FileDialog dialog(QApplication::activeWindow(), request);
   bool answered = false;
   while (!answered) {
@@ -33,6 +35,7 @@ std::optional<Text> QtDialogs::AskText(const Text& prompt, const Text& title,
   dialog.setLabelText(LinesForQt(prompt));
   dialog.setTextValue(OneLineForQt(defaultText));
   for (QLabel* label : dialog.findChildren<QLabel*>()) label->setTextFormat(Qt::PlainText);
+  const PlainPointer pointer;
   const bool accepted = dialog.exec() == QDialog::Accepted;
   LeaveIfEnded();
   if (!accepted) return std::nullopt;

@@ -5,6 +5,7 @@
 #include <QLabel>
 #include <QMessageBox>
 
+#include "adapters/qt/devices/plain_pointer.h"
 #include "adapters/qt/text/qt_text.h"
 #include "forms/window_system.h"
 
@@ -110,6 +111,7 @@ MessageAnswer ShowMessageBox(const Text& text, int flags, const Text& title) {
   for (const auto button : buttons) box.addButton(button);
   const bool second = (flags & kSecondButtonDefault) != 0 && buttons.size() > 1;
   box.setDefaultButton(buttons[second ? 1 : 0]);
+  const PlainPointer pointer;
   return AnswerOf(box.exec());
 }
 

@@ -6,13 +6,15 @@
 #include <QFileInfo>
 #include <QLockFile>
 #include <QSaveFile>
-#include <QStandardPaths>
+#include <chrono>
 #include <fcntl.h>
 #include <optional>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #include <utility>
 
+#include "adapters/posix/system_call.h"
 #include "adapters/qt/text/qt_text.h"
 
 namespace tessara {
@@ -44,21 +46,54 @@ void RemoveLeftovers(const QString& settingsFile) {
   close(file);
 }
 
-/// Tessara.conf in the user's configuration folder.
+/// Tessara.conf in the user's configuration folder. A relative path to that counts as missing.
 QString UserFile() {
-  const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+  const QString chosen = QFile::decodeName(qgetenv("XDG_CONFIG_HOME"));
+  const QString folder =
+      QDir::isAbsolutePath(chosen) ? chosen : QDir::homePath() + QLatin1String("/.config");
   return folder + QLatin1String("/Tessara.conf");
 }
 
-/// Empty where there is no file; nothing where there is one that can't be read.
-std::optional<QByteArray> BytesOf(const QString& path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) {
-    return file.exists() ? std::nullopt : std::optional(QByteArray());
-  }
-  const QByteArray bytes = file.readAll();
-  return file.error() == QFile::NoError ? std::optional(bytes) : std::nullopt;
+bool IsRegularFile(int file) {
+  struct stat status {};
+  return fstat(file, &status) == 0 && S_ISREG(status.st_mode);
 }
+
+/// Empty where there is no file; nothing where there is one that can't be read, or that is no file
+/// of settings: a pipe, a device or a folder, or one without end. Waits for none of them.
+std::optional<QByteArray> BytesOf(const QString& path) {
+  constexpr qint64 kMost = 1 << 20;  // bytes; ours have less than 1000
+  const Descriptor opened(
+      open(QFile::encodeName(path).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
+  if (opened.Get() == kFailed) {
+    return QFile::exists(path) ? std::nullopt : std::optional(QByteArray());
+  }
+  QFile file;
+  if (!IsRegularFile(opened.Get()) || !file.open(opened.Get(), QIODevice::ReadOnly)) return {};
+  const QByteArray bytes = file.read(kMost + 1);
+  const bool whole = file.error() == QFile::NoError && bytes.size() <= kMost;
+  return whole ? std::optional(bytes) : std::nullopt;
+}
+
+/// Keeps other writers away for its life, if they are Tessara's.
+class WriterLock {
+ public:
+  explicit WriterLock(const QString& settingsFile) : lock_(settingsFile + kLockEnding) {
+    RemoveLeftovers(settingsFile);
+    // What else stands in its place, a folder say, is nobody's lock and would never go.
+    const QFileInfo place(settingsFile + kLockEnding);
+    const bool blocked = place.exists() && !place.isFile();
+    free_ = blocked || lock_.tryLock(kPatience);
+  }
+  /// False where another writer does not come to its end, or no lock can be made.
+  [[nodiscard]] bool Free() const { return free_; }
+
+ private:
+  static constexpr std::chrono::seconds kPatience{1};
+
+  QLockFile lock_;
+  bool free_ = false;
+};
 
 /// What somebody has broken by hand keeps its bytes, under a name of its own.
 [[nodiscard]] bool SetAside(const QString& path) {
@@ -92,9 +127,8 @@ void QtSettingsStore::Write(const Text& key, const Text& value) {
   known_.Set(ToQString(key), ToQString(value));
   // The lock has to stand somewhere: a new user has no configuration folder yet.
   QDir().mkpath(QFileInfo(path_).path());
-  RemoveLeftovers(path_);
-  QLockFile lock(path_ + kLockEnding);
-  if (!lock.lock()) return;
+  const WriterLock lock(path_);
+  if (!lock.Free()) return;
   // What somebody else has written meanwhile stays; what can't be read would be lost.
   const std::optional<QByteArray> bytes = BytesOf(path_);
   if (!bytes) return;

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "adapters/cups/print_queue.h"
+#include "adapters/cups/printing_system.h"
 #include "adapters/posix/system_call.h"
 #include "adapters/posix/write_file.h"
 #include "adapters/qt/text/qt_text.h"
@@ -34,8 +35,11 @@ double TwipsPerDot(const QPdfWriter& writer) {
   return kTwipsPerInch / writer.resolution();
 }
 
-/// The page that a queue prints on by default. Raises error 482 where there is no such queue.
+/// The page that a queue prints on by default. Raises error 482 where there is no such queue,
+/// or the printing system does not answer.
 QPageLayout LayoutOfQueue(const Text& queue) {
+  // Qt would wait for its answer without a limit.
+  if (ConnectToPrintingSystem() == nullptr) throw RunTimeError(ErrorNumber::kPrinterError);
   const QPrinterInfo info = QPrinterInfo::printerInfo(ToQString(queue));
   if (info.isNull()) throw RunTimeError(ErrorNumber::kPrinterError);
   QPrinter printer(info, QPrinter::HighResolution);

@@ -3,6 +3,7 @@
 #include <QFontMetricsF>
 #include <algorithm>
 
+#include "adapters/qt/text/line_breaks.h"
 #include "adapters/qt/text/pixel_scale.h"
 #include "adapters/qt/text/qt_text.h"
 
@@ -17,10 +18,9 @@ QString WithLineSeparators(const Text& text) {
   return lines;
 }
 
-QTextOption OptionOf(const TextStyle& style) {
+QTextOption OptionOf(const QString& text, const TextStyle& style) {
   QTextOption option;
-  option.setWrapMode(style.wrap ? QTextOption::WrapAtWordBoundaryOrAnywhere
-                                : QTextOption::ManualWrap);
+  option.setWrapMode(style.wrap ? WrapModeOf(text) : QTextOption::ManualWrap);
   switch (style.alignment) {
     case Alignment::kLeft:
       option.setAlignment(Qt::AlignLeft);
@@ -40,7 +40,7 @@ QTextOption OptionOf(const TextStyle& style) {
 LaidOutText::LaidOutText(const Text& text, double width, const TextStyle& style)
     : layout_(WithLineSeparators(text), PixelScale::CanvasFont(style)),
       lineHeight_(LineHeight(style)) {
-  layout_.setTextOption(OptionOf(style));
+  layout_.setTextOption(OptionOf(layout_.text(), style));
   LayOut(width);
 }
 

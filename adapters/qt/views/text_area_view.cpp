@@ -6,6 +6,7 @@
 #include <QTextBlock>
 #include <QTextLayout>
 
+#include "adapters/qt/text/line_breaks.h"
 #include "adapters/qt/text/text_mapping.h"
 
 namespace tessara {
@@ -15,14 +16,9 @@ namespace {
 /// What a QTextDocument leaves free at either side of its text.
 constexpr int kDocumentMargin = 4;
 
-QTextOption OptionOfArea() {
-  QTextOption option;
-  option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-  return option;
-}
-
 /// Takes plain text from a clipboard and nothing else: Qt would format what is marked as Markdown,
-/// and crashes where a clipboard offers nothing.
+/// and crashes where a clipboard offers nothing. It is laid out at once: how it breaks is told
+/// first.
 class PlainArea : public QPlainTextEdit {
  public:
   using QPlainTextEdit::QPlainTextEdit;
@@ -32,13 +28,16 @@ class PlainArea : public QPlainTextEdit {
     if (!source->hasText()) return;
     QMimeData plain;
     plain.setText(source->text());
+    const QTextOption::WrapMode breaks = WrapModeOf(plain.text());
+    if (breaks == QTextOption::WrapAnywhere) setWordWrapMode(breaks);
     QPlainTextEdit::insertFromMimeData(&plain);
   }
 };
 
-int LinesOfParagraph(const QString& paragraph, const QFont& font, int width) {
+int LinesOfParagraph(const QString& paragraph, const QTextOption& option, const QFont& font,
+                     int width) {
   QTextLayout layout(paragraph, font);
-  layout.setTextOption(OptionOfArea());
+  layout.setTextOption(option);
   layout.beginLayout();
   for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
     line.setLineWidth(width);
@@ -56,7 +55,7 @@ TextAreaView::TextAreaView(TextBox& box, QWidget& parent, const ViewContext& con
   Edit().setVerticalScrollBarPolicy(box.VerticalScrollBar() ? Qt::ScrollBarAlwaysOn
                                                             : Qt::ScrollBarAlwaysOff);
   Edit().document()->setDocumentMargin(kDocumentMargin);
-  Edit().setWordWrapMode(OptionOfArea().wrapMode());
+  Edit().setWordWrapMode(WrapModeOf({}));
   QObject::connect(&Edit(), &QPlainTextEdit::textChanged, this, [this] { PassEdit(); });
 }
 
@@ -78,6 +77,7 @@ void TextAreaView::PassEdit() {
   if (Detached() || following_) return;
   auto& box = As<TextBox>();
   const QString shown = Shown();
+  Edit().setWordWrapMode(WrapModeOf(shown));
   if (shown == ShownText(box.TextOf(), true)) return;
   passing_ = true;
   box.UserEdit(UserChange(box.TextOf(), shown, Edit().textCursor().position(), true));
@@ -92,6 +92,7 @@ void TextAreaView::ShowText() {
   if (passing_) {
     CorrectTo(wanted);
   } else {
+    Edit().setWordWrapMode(WrapModeOf(wanted));
     Edit().setPlainText(wanted);
   }
   following_ = false;
@@ -120,9 +121,12 @@ int LineWidthOf(const TextBox& box, const PixelScale& scale) {
 int LineCountOf(const TextBox& box, const PixelScale& scale) {
   const QFont font = scale.ControlFont(box.FontOf());
   const int width = LineWidthOf(box, scale);
+  const QString shown = ShownText(box.TextOf(), true);
+  QTextOption option;
+  option.setWrapMode(WrapModeOf(shown));
   int count = 0;
-  for (const QString& paragraph : ShownText(box.TextOf(), true).split(u'\n')) {
-    count += LinesOfParagraph(paragraph, font, width);
+  for (const QString& paragraph : shown.split(u'\n')) {
+    count += LinesOfParagraph(paragraph, option, font, width);
   }
   return count;
 }
