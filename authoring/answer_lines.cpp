@@ -1,6 +1,7 @@
 // How the answer lines of a question open and close, and what enables the buttons.
 
 #include <algorithm>
+#include <iterator>
 #include <limits>
 
 #include "authoring/question_builder.h"
@@ -68,6 +69,15 @@ void QuestionBuilder::LeaveClosedLine(int line) {
   if (FocusedControl() != &answers[line] || answers[line].Enabled()) return;
   TextBox& before = answers[line - 1];
   if (before.Reachable()) before.SetFocus();
+}
+
+Control* QuestionBuilder::TabTarget(const Control& from) {
+  const auto inReach = [](const Control& control) { return control.Reachable(); };
+  const auto last = std::find_if(std::make_reverse_iterator(answers.end()),
+                                 std::make_reverse_iterator(answers.begin()), inReach);
+  const auto mark = std::find_if(marks.begin(), marks.end(), inReach);
+  const bool atLast = last.base() != answers.begin() && &*last == &from;
+  return atLast && mark != marks.end() && !AnySelected(marks) ? &*mark : nullptr;
 }
 
 void QuestionBuilder::CardChange() {

@@ -28,6 +28,28 @@ void BuilderWindow::OnUnload(bool& /*cancel*/) {
   deck_->Show();
 }
 
+bool BuilderWindow::HoldsUnkeptText() {
+  const int row = State().deck.currentCard;
+  const auto differs = [&](const auto& box) {
+    const Text& text = box.first->TextOf();
+    return Adding() ? !text.empty() : text != State().deck.Cell(row, box.second);
+  };
+  const auto boxes = Boxes();
+  return ButtonsOf()[kAddButton].Enabled() || std::any_of(boxes.begin(), boxes.end(), differs);
+}
+
+bool BuilderWindow::OnKey(WindowKey key) {
+  if (key != WindowKey::kKeep) return false;
+  Keep();
+  return true;
+}
+
+void BuilderWindow::Keep() {
+  const bool wasNew = Adding();
+  ButtonsOf()[kAddButton].Press();
+  if (wasNew && !Adding()) ButtonsOf()[kNewButton].Press();
+}
+
 template <class Command>
 void BuilderWindow::KeepFocus(const Button& pressed, const Command& command,
                               std::initializer_list<Button*> others) {

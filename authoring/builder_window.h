@@ -2,6 +2,8 @@
 
 #include <initializer_list>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "deck/app_context.h"
 #include "deck/move_buttons.h"
@@ -30,6 +32,7 @@ class BuilderWindow : public Form {
   MoveButtons arrows{"cmdMove"};
 
   [[nodiscard]] bool OccupiesFrame() const override { return true; }
+  [[nodiscard]] bool HoldsUnkeptText() override;
 
   void Page(int arrow);
 
@@ -38,6 +41,7 @@ class BuilderWindow : public Form {
 
   void OnUnload(bool& cancel) override;
   void OnClick() override { app_.frame.CloseAbout(); }
+  bool OnKey(WindowKey key) override;
 
   [[nodiscard]] ProgramState& State() const { return app_.state; }
   [[nodiscard]] AppContext& App() const { return app_; }
@@ -48,6 +52,8 @@ class BuilderWindow : public Form {
   virtual Label& NumberLabel() = 0;
   /// The box that a new card starts with.
   virtual TextBox& FirstBox() = 0;
+  /// The boxes, each with the column of its text.
+  virtual std::vector<std::pair<const TextBox*, int>> Boxes() const = 0;
   virtual void ClearForm() = 0;
   virtual void ShowBuilderCard(int row) = 0;
   virtual void AskSaveChanged() = 0;
@@ -92,6 +98,8 @@ class BuilderWindow : public Form {
   [[nodiscard]] bool Adding();
   [[nodiscard]] bool Cancelling();
   void CancelOrDelete();
+  /// Adds or changes the card; an added one makes way for a new one.
+  void Keep();
   void Delete();
   /// Runs the command of a button. Where the button goes off by it with the focus on it, the
   /// focus goes to the first of the others that is on, and not to where the desktop throws it.

@@ -95,6 +95,12 @@ void QuestionBuilder::OnResize() {
   Deck()->card.SetCardTotal(DecimalText(State().deck.cardCount));
 }
 
+std::vector<std::pair<const TextBox*, int>> QuestionBuilder::Boxes() const {
+  std::vector<std::pair<const TextBox*, int>> boxes = {{&question, kCardText}};
+  for (const TextBox& line : answers) boxes.emplace_back(&line, kChoiceA + line.Index());
+  return boxes;
+}
+
 void QuestionBuilder::TrueFalseForm() {
   trueFalseLayout.SetVisible(true);
   choiceLayout.SetVisible(false);

@@ -21,6 +21,9 @@ class QuestionBuilder : public BuilderWindow {
 
   QuestionBuilder(AppContext& app, Window<DeckWindow> deck);
 
+  /// From the last answer line to the first mark that can be set, while none is.
+  [[nodiscard]] Control* TabTarget(const Control& from) override;
+
   Label questionHeading{"Label2(0)"};
   Label number{"Label2(1)"};
   ControlArray<OptionButton, 2> layouts{"Option3"};
@@ -69,6 +72,7 @@ class QuestionBuilder : public BuilderWindow {
   Buttons& ButtonsOf() override { return buttons; }
   Label& NumberLabel() override { return number; }
   TextBox& FirstBox() override { return question; }
+  [[nodiscard]] std::vector<std::pair<const TextBox*, int>> Boxes() const override;
   void ClearForm() override { ClrForm(); }
   void ShowBuilderCard(int row) override;
   void AskSaveChanged() override;

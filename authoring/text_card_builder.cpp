@@ -60,6 +60,10 @@ void TextCardBuilder::OnLoad() {
   Deck()->Hide();
 }
 
+std::vector<std::pair<const TextBox*, int>> TextCardBuilder::Boxes() const {
+  return {{&sides[kFrontSide], kCardText}, {&sides[kBackSide], kBackText}};
+}
+
 void TextCardBuilder::ClrFrm() {
   for (TextBox& box : sides) box.SetText(u"");
 }

@@ -37,6 +37,7 @@ class TextCardBuilder : public BuilderWindow {
   Buttons& ButtonsOf() override { return buttons; }
   Label& NumberLabel() override { return number; }
   TextBox& FirstBox() override { return sides[kFrontSide]; }
+  [[nodiscard]] std::vector<std::pair<const TextBox*, int>> Boxes() const override;
   void ClearForm() override { ClrFrm(); }
   void ShowBuilderCard(int row) override;
   void AskSaveChanged() override;

@@ -52,7 +52,14 @@ Text PointsText(double value) {
 }
 
 Text WholeNumberText(double value) {
-  return DecimalText(std::lround(value));
+  // What a division has lost or won behind these digits is none of the number's.
+  constexpr int kDigitsBehindPoint = 14;
+  char buffer[40];
+  const auto written = std::to_chars(std::begin(buffer), std::end(buffer), value,
+                                     std::chars_format::scientific, kDigitsBehindPoint);
+  double read = value;
+  std::from_chars(std::begin(buffer), written.ptr, read);
+  return DecimalText(std::lround(read));
 }
 
 }  // namespace tessara

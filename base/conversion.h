@@ -26,7 +26,9 @@ namespace tessara {
 /// The decimal text of a number of points: no decimals where whole, else as few as it takes.
 [[nodiscard]] Text PointsText(double value);
 
-/// The value, of at most 18 digits, as a whole number, halves away from zero: the format "##0".
+/// The value, of at most 18 digits, as a whole number: the format "##0". It is written with 15
+/// significant digits first and then rounded, halves away from zero: 57.5 per cent that a division
+/// has made 57.49999999999999 are 58.
 [[nodiscard]] Text WholeNumberText(double value);
 
 }  // namespace tessara

@@ -22,7 +22,25 @@ install(CODE "
 
 install(FILES packaging/tessara.desktop DESTINATION share/applications)
 install(FILES packaging/tessara.xml DESTINATION share/mime/packages)
-install(FILES packaging/io.github.tessara.tessara.metainfo.xml DESTINATION share/metainfo)
+
+# What a software centre shows: pictures only where the build is told at which address those of
+# docs/pictures stand.
+set(TESSARA_PICTURES_URL "" CACHE STRING "Address of the folder with the pictures of docs/pictures")
+set(SCREENSHOTS "")
+if(TESSARA_PICTURES_URL)
+  set(SCREENSHOTS "<screenshots>")
+  foreach(picture standard-front extended-front test-graded builder-standard-new print-window sheet-front)
+    set(kind "")
+    if(picture STREQUAL standard-front)
+      set(kind " type=\"default\"")
+    endif()
+    string(APPEND SCREENSHOTS
+      "<screenshot${kind}><image>${TESSARA_PICTURES_URL}/${picture}.png</image></screenshot>")
+  endforeach()
+  string(APPEND SCREENSHOTS "</screenshots>")
+endif()
+configure_file(packaging/io.github.tessara.tessara.metainfo.xml ${CMAKE_BINARY_DIR} @ONLY)
+install(FILES ${CMAKE_BINARY_DIR}/io.github.tessara.tessara.metainfo.xml DESTINATION share/metainfo)
 install(DIRECTORY data/icons/ DESTINATION share/icons)
 
 # Debian wants manual page and change log compressed, without the time of the build.

@@ -4,11 +4,16 @@
 
 namespace tessara {
 
+bool IsDeckFileName(const Text& fileName, MessageBoxes& messages) {
+  const bool isOne = fileName.ends_with(u"tsr");
+  if (!isOne) messages.Show(u"This is not a valid Tessara file", kStopIcon, u"Error Opening File");
+  return isOne;
+}
+
 bool IsDeckFileName(const Text& fileName, ProgramState& state, MessageBoxes& messages) {
-  if (fileName.ends_with(u"tsr")) return true;
-  messages.Show(u"This is not a valid Tessara file", kStopIcon, u"Error Opening File");
-  state.deck.filePath.clear();
-  return false;
+  const bool isOne = IsDeckFileName(fileName, messages);
+  if (!isOne) state.deck.filePath.clear();
+  return isOne;
 }
 
 bool DeckAlreadyOpen(const Text& fileName, TextView caption, MessageBoxes& messages) {

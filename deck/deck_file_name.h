@@ -5,8 +5,11 @@
 
 namespace tessara {
 
-/// True where the path ends in "tsr", exactly; otherwise says so and empties the deck's path. The
-/// content of the file is not examined.
+/// True where the path ends in "tsr", exactly; otherwise says so.
+[[nodiscard]] bool IsDeckFileName(const Text& fileName, MessageBoxes& messages);
+
+/// As above, and otherwise empties the deck's path too. The content of the file is not
+/// examined.
 [[nodiscard]] bool IsDeckFileName(const Text& fileName, ProgramState& state,
                                   MessageBoxes& messages);
 

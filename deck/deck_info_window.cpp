@@ -24,6 +24,7 @@ DeckInfoWindow::DeckInfoWindow(AppContext& app, Window<DeckLife> deck)
   fields.Wire(&TextBox::onChange, [this](int) { NoteChange(); });
   save.onClick = [this] { Save(); };
   close.onClick = [this] { Close(); };
+  close.SetCancel(true);
 }
 
 void DeckInfoWindow::PlaceControls() {
@@ -55,6 +56,7 @@ void DeckInfoWindow::PlaceControls() {
 void DeckInfoWindow::OnLoad() {
   const ProgramState& state = app_.state;
   loading_ = true;
+  StandBesideDeck();
   const Text today = DateText(app_.machine.clock.Today());
   date.SetCaption(InfoValueOrDefault(state.deck.date, today));
   if (state.deck.kind == kExtendedDeck) kind.SetCaption(u" Extended");
@@ -65,6 +67,21 @@ void DeckInfoWindow::OnLoad() {
   fields[kAuthorField].SetText(InfoValueOrDefault(state.deck.author, u"Your Name Here"));
   fields[kDescriptionField].SetText(
       InfoValueOrDefault(state.deck.description, u"Deck Description Here"));
+}
+
+void DeckInfoWindow::StandBesideDeck() {
+  if (!deck_.IsLoaded() || !deck_->Visible()) return;
+  const DeckLife& deck = deck_.Loaded();
+  const int right = deck.Left() + deck.Width();
+  const int below = deck.Top() + deck.Height();
+  const auto standAt = [this](int left, int top) {
+    SetLeft(left);
+    SetTop(top);
+  };
+  if (app_.frame.ScaleWidth() - right >= kWidth) return standAt(right, deck.Top());
+  if (deck.Left() >= kWidth) return standAt(deck.Left() - kWidth, deck.Top());
+  if (app_.frame.ScaleHeight() - below >= kHeight) return standAt(deck.Left(), below);
+  if (deck.Top() >= kHeight) standAt(deck.Left(), deck.Top() - kHeight);
 }
 
 void DeckInfoWindow::OnUnload(bool& /*cancel*/) {

@@ -13,7 +13,7 @@ enum InfoField : int { kTitleField = 0, kAuthorField = 1, kDescriptionField = 2 
 
 /// The deck information window. Its controls are the working copy of the deck's information for
 /// as long as it is loaded; a save loads it, and being a child of the frame it then comes on
-/// screen. It stays loaded when the deck changes.
+/// screen, beside the deck window where there is room. It stays loaded when the deck changes.
 class DeckInfoWindow : public Form {
  public:
   /// Outer size in twips.
@@ -47,6 +47,8 @@ class DeckInfoWindow : public Form {
 
  private:
   void PlaceControls();
+  /// Where the frame has room for both; else the window stays at its place.
+  void StandBesideDeck();
 
   AppContext& app_;
   Window<DeckLife> deck_;

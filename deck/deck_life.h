@@ -63,6 +63,8 @@ class DeckLife : public Form {
   // Commands of the life of a deck.
   void ClearDeck();
   void OpenDeck();
+  /// Opens a deck that was dropped on the program: refusals first, then the question about changes.
+  void OpenDroppedDeck(const Text& path);
   void SaveDeck();
   void SaveDeckAs();
   void CloseTessara();
@@ -111,6 +113,8 @@ class DeckLife : public Form {
  protected:
   void OnUnload(bool& cancel) override;
 
+  /// Empties the table and opens the deck of the path that the state holds.
+  void OpenChosenDeck();
   /// Loads the deck and brings it up in study mode on its first card.
   void LoadAndShowDeck(const Text& fileName);
 

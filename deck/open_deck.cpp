@@ -21,6 +21,21 @@ void DeckLife::OpenDeck() {
   if (DeckAlreadyOpen(state.deck.filePath, Caption(), messages)) return;
   // The path is the new one by now: a Yes here writes the old deck over the chosen file.
   ChkSave();
+  OpenChosenDeck();
+}
+
+void DeckLife::OpenDroppedDeck(const Text& path) {
+  MessageBoxes& messages = App().machine.messages;
+  if (!IsDeckFileName(path, messages)) return;
+  if (DeckAlreadyOpen(path, Caption(), messages)) return;
+  // A Yes here saves the old deck under its own path, which is still the deck's.
+  ChkSave();
+  State().deck.filePath = path;
+  OpenChosenDeck();
+}
+
+void DeckLife::OpenChosenDeck() {
+  ProgramState& state = State();
   ClearAllCards(state.deck);
   LoadAndShowDeck(state.deck.filePath);
   saveDeckAs.SetEnabled(state.deck.cardCount >= 1);

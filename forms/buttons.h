@@ -16,6 +16,7 @@ class Button : public CaptionedControl {
   [[nodiscard]] bool IsDefault() const { return isDefault_; }
   [[nodiscard]] bool IsCancel() const { return isCancel_; }
   void SetDefaultAndCancel(bool on) { isDefault_ = isCancel_ = on; }
+  void SetCancel(bool on) { isCancel_ = on; }
 
   /// Runs the click where the user can reach the button, else nothing.
   void Press();
@@ -36,12 +37,17 @@ class OptionButton : public CaptionedControl {
   /// Selecting a button that was not clears the others of its group without an event and runs
   /// the click; clearing runs none.
   void SetSelected(bool selected);
+  /// True where the arrow keys select as they go from one to the next, as in any group; else they
+  /// only go, and a blank selects.
+  [[nodiscard]] bool ArrowsSelect() const { return arrowsSelect_; }
+  void SetArrowsSelect(bool on) { arrowsSelect_ = on; }
   /// The user's click: selects; runs the click also where it was selected already.
   void Press();
   std::function<void()> onClick;
 
  private:
   bool selected_ = false;
+  bool arrowsSelect_ = true;
 };
 
 class CheckBox : public CaptionedControl {

@@ -49,6 +49,8 @@ class Canvas {
   /// Width of the text's widest line, not wrapped.
   [[nodiscard]] virtual double TextWidth(const Text& text, const TextStyle& style) = 0;
   [[nodiscard]] virtual double LineHeight(const TextStyle& style) = 0;
+  /// From the top of a line to the feet of its letters.
+  [[nodiscard]] virtual double Ascent(const TextStyle& style) = 0;
 };
 
 }  // namespace tessara

@@ -25,6 +25,14 @@ enum class FormKind {
 
 enum class WindowState { kNormal, kMinimised, kMaximised };
 
+/// Keys of a whole window, for which it may have a use that the control with the focus has not.
+enum class WindowKey {
+  kLeft,
+  kRight,
+  kSpace,
+  kKeep,  ///< Ctrl+Return: what was written is to be kept
+};
+
 enum class Modality { kModeless, kModal };
 
 /// A window: its controls, its menus, its events. What stands here are the rules that all share;
@@ -109,6 +117,10 @@ class Form {
   /// Return and Escape press the default and the cancel button. False where there is none.
   bool UserReturn();
   bool UserEscape();
+  /// True where the window has taken the key; else it is the control's that has the focus.
+  bool UserKey(WindowKey key);
+  /// A file was dropped on the window.
+  void UserDropFile(const Text& path);
 
   /// True where the user's input reaches the window.
   [[nodiscard]] bool TakesInput() const;
@@ -120,6 +132,12 @@ class Form {
   /// True for a window that holds the user's work, or stands in for the one that does: with one of
   /// them on screen the frame is not empty.
   [[nodiscard]] virtual bool OccupiesFrame() const { return false; }
+  /// True while the window holds a text of the user's that is nowhere else.
+  [[nodiscard]] virtual bool HoldsUnkeptText() { return false; }
+  /// Where Tab goes from a control; null where it is the next control in the order.
+  [[nodiscard]] virtual Control* TabTarget(const Control& /*from*/) { return nullptr; }
+  /// True where a file of that path can be dropped on the window just now.
+  [[nodiscard]] virtual bool TakesFile(const Text& /*path*/) { return false; }
 
  protected:
   struct ControlSpec {
@@ -133,6 +151,7 @@ class Form {
     MenuEntry* entry;
     MenuEntry* parent;  ///< null: a top-level menu
     TextView caption;
+    TextView keys = {};  ///< as MenuEntry::Keys
   };
   /// The window's controls, in tab order and from back to front. Once, in the constructor.
   void AddControls(std::initializer_list<ControlSpec> specs);
@@ -146,6 +165,10 @@ class Form {
   virtual void OnClick() {}
   virtual void OnMouseMove() {}
   virtual void OnLostFocus() {}
+  /// True where the window has a use for the key.
+  virtual bool OnKey(WindowKey /*key*/) { return false; }
+  /// A file that the window takes.
+  virtual void OnDropFile(const Text& /*path*/) {}
   /// On the frame: another window has come on screen, to the front of it, or gone from it.
   virtual void WindowsChanged() {}
 

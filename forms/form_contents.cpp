@@ -35,6 +35,7 @@ void Form::AddMenus(std::initializer_list<MenuSpec> specs) {
   for (const MenuSpec& spec : specs) {
     MenuEntry& entry = *spec.entry;
     entry.caption_ = spec.caption;
+    entry.keys_ = spec.keys;
     entry.parent_ = spec.parent;
     entry.owner_ = this;
     (spec.parent == nullptr ? menus_ : spec.parent->entries_).push_back(&entry);

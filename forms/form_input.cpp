@@ -115,4 +115,14 @@ bool Form::UserEscape() {
   return PressIfThere(FindButton(controls_, &Button::IsCancel));
 }
 
+bool Form::UserKey(WindowKey key) {
+  bool taken = false;
+  if (TakesInput()) system_.Run([&] { taken = OnKey(key); });
+  return taken;
+}
+
+void Form::UserDropFile(const Text& path) {
+  if (TakesInput() && TakesFile(path)) system_.Run([&] { OnDropFile(path); });
+}
+
 }  // namespace tessara

@@ -27,7 +27,15 @@ bool MenuEntry::Reachable() const {
 }
 
 void MenuEntry::Press() {
-  const bool inert = !Reachable() || !entries_.empty() || owner_ == nullptr;
+  if (Reachable()) Run();
+}
+
+void MenuEntry::UserChoose() {
+  if (keysWorkAlways_ || Reachable()) Run();
+}
+
+void MenuEntry::Run() {
+  const bool inert = !entries_.empty() || owner_ == nullptr;
   if (inert || !owner_->TakesInput() || !onClick) return;
   owner_->System().Run(onClick);
 }

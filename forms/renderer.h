@@ -22,6 +22,8 @@ class Renderer {
   /// bar and focus follow.
   virtual void ActiveFormChanged(Form* form) = 0;
   virtual void FocusChanged(Form& form) = 0;
+  /// Returns when the form has been painted on the screen, or where that takes too long.
+  virtual void WaitUntilSeen(Form& form) = 0;
   /// Returns when the form has been unloaded or hidden, or the program has ended.
   virtual void RunModal(Form& form) = 0;
   /// Display lines of the box's text, wrapped at its designed width in its font.

@@ -93,6 +93,17 @@ bool WindowSystem::FrameIsEmpty() const {
                       [](const Form* form) { return form->OccupiesFrame(); });
 }
 
+bool WindowSystem::HoldsUnkeptText() const {
+  return std::any_of(loaded_.begin(), loaded_.end(),
+                     [](Form* form) { return form->HoldsUnkeptText(); });
+}
+
+Form* WindowSystem::MenuBarForm() const {
+  Form* child = ActiveChild();
+  const bool offers = child != nullptr && child->Enabled() && !child->Menus().empty();
+  return offers ? child : FrameForm();
+}
+
 void WindowSystem::Add(Form& form) {
   loaded_.push_back(&form);
 }

@@ -52,6 +52,11 @@ class WindowSystem {
   [[nodiscard]] Form* FrameForm() const;
   /// True while no window that occupies the frame is on screen.
   [[nodiscard]] bool FrameIsEmpty() const;
+  /// True while a window holds a text of the user's that is nowhere else.
+  [[nodiscard]] bool HoldsUnkeptText() const;
+  /// The form whose menus the frame shows: the child in front where it has some and takes input,
+  /// else the frame; null without either.
+  [[nodiscard]] Form* MenuBarForm() const;
 
  private:
   friend class Form;

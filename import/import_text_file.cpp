@@ -42,7 +42,11 @@ ImportContext ContextOf(AppContext& app, FileNumber& fileNumber, Window<DeckLife
 
 void ImportTextFile(AppContext& app, FileNumber& fileNumber, Window<DeckLife> deck) {
   const Text path = AskFileName(FileDialogMode::kOpen, u"Text File|*.txt", app);
-  if (path.empty()) return;
+  if (!path.empty()) ImportTextFile(path, app, fileNumber, deck);
+}
+
+void ImportTextFile(const Text& path, AppContext& app, FileNumber& fileNumber,
+                    Window<DeckLife> deck) {
   const Text format = FirstLine(path, fileNumber, app.machine.codePage);
   const bool extended = IsWord(format, kExtendedWord);
   if (!extended && !IsWord(format, kStandardWord)) {

@@ -11,5 +11,8 @@ namespace tessara {
 /// nothing about changes. Raises the errors of a file that can't be opened or is empty (62), and
 /// 55 where an earlier import has left the file open and no save or load has closed it since.
 void ImportTextFile(AppContext& app, FileNumber& fileNumber, Window<DeckLife> deck);
+/// The same for the file of that path.
+void ImportTextFile(const Text& path, AppContext& app, FileNumber& fileNumber,
+                    Window<DeckLife> deck);
 
 }  // namespace tessara

@@ -190,7 +190,7 @@ menu $mode q
 press Page_Down
 take quiz-extended
 menu $mode t
-press Down
+press Down space
 take test-graded
 for _ in $(seq 59); do press space space; done
 press Return

@@ -2,6 +2,7 @@
 
 #include "deck/ask_file_name.h"
 #include "deck/deck_file_name.h"
+#include "deck/dialog_folder.h"
 #include "forms/place_in_frame.h"
 #include "import/import_text_file.h"
 #include "machine/desktop.h"
@@ -34,16 +35,18 @@ void ProgramFrame::PlaceMenuEntries() {
       {&newMenu, &fileMenu, u"&New"},
       {&newStandardDeck, &newMenu, u"&Standard Tessara"},
       {&newExtendedDeck, &newMenu, u"E&xtended Tessara"},
-      {&openExistingDeck, &fileMenu, u"&Open Existing Deck"},
+      {&openExistingDeck, &fileMenu, u"&Open Existing Deck", u"Ctrl+O"},
       {&setUp, &fileMenu, u"Set &Up"},
       {&importTextFile, &fileMenu, u"Import Text File"},
       {&aboveExit, &fileMenu, u"-"},
-      {&exit, &fileMenu, u"&Exit"},
+      {&exit, &fileMenu, u"&Exit", u"Ctrl+Q"},
       {&helpMenu, nullptr, u"&Help"},
-      {&helpTopics, &helpMenu, u"&Tessara Help Topics"},
+      {&helpTopics, &helpMenu, u"&Tessara Help Topics", u"F1"},
       {&about, &helpMenu, u"&About"},
       {&separatingCards, &helpMenu, u"Separating the cards"},
   });
+  // By its keys it is the frame's close box.
+  exit.LetKeysWorkAlways();
 }
 
 void ProgramFrame::WireMenus() {
@@ -52,7 +55,7 @@ void ProgramFrame::WireMenus() {
   openExistingDeck.onClick = [this] { OpenExistingDeck(); };
   setUp.onClick = [this] { ShowSetUp(); };
   importTextFile.onClick = [this] { ImportDeck(); };
-  exit.onClick = [this] { Unload(); };
+  exit.onClick = [this] { Exit(); };
   helpTopics.onClick = [this] { ShowHelpTopic(); };
   about.onClick = [this] { ShowAbout(); };
   separatingCards.onClick = [this] { ShowInstructions(); };
@@ -79,6 +82,11 @@ const Picture& ProgramFrame::BackDropPicture() const {
 
 void ProgramFrame::OnUnload(bool& /*cancel*/) {
   windows_.deck.Instance().ChkSave();
+}
+
+/// The keys for it come easily, beside those that close a window: they take no text away.
+void ProgramFrame::Exit() {
+  if (!System().HoldsUnkeptText()) Unload();
 }
 
 void ProgramFrame::ShowHelpTopic() {
@@ -110,12 +118,20 @@ void ProgramFrame::NewExtendedDeck() {
 }
 
 void ProgramFrame::OpenExistingDeck() {
-  ProgramState& state = app_.state;
-  app_.unsaved.Leave();
-  ClearAllCards(state.deck);
-  app_.unsaved.Follow(UnsavedDeck::Table::kAsInFile);
+  EmptyTable();
   const Text path = AskFileName(FileDialogMode::kOpen, kDeckFilter, app_);
-  if (NoAnswer(path) || !IsDeckFileName(path, state, app_.machine.messages)) return;
+  if (NoAnswer(path) || !IsDeckFileName(path, app_.state, app_.machine.messages)) return;
+  OpenDeckOf(path);
+}
+
+void ProgramFrame::EmptyTable() {
+  app_.unsaved.Leave();
+  ClearAllCards(app_.state.deck);
+  app_.unsaved.Follow(UnsavedDeck::Table::kAsInFile);
+}
+
+void ProgramFrame::OpenDeckOf(const Text& path) {
+  ProgramState& state = app_.state;
   state.deck.filePath = path;
   // The deck before the window: the window's load looks at the count of cards.
   windows_.deck.Instance().LoadDeck(state.deck.filePath);
@@ -128,6 +144,32 @@ void ProgramFrame::OpenExistingDeck() {
   state.deck.changed = false;
   state.deck.saveOffered = false;
   state.deck.mode = kStudyMode;
+}
+
+MenuEntry* ProgramFrame::EntryFor(const Text& path) {
+  const Text name = UpperCase(path);
+  const Form* bar = System().MenuBarForm();
+  MenuEntry* entry = nullptr;
+  if (bar == this && name.ends_with(u".TXT")) entry = &importTextFile;
+  if (bar == this && name.ends_with(u".TSR")) entry = &openExistingDeck;
+  if (bar != this && windows_.deck.IsLoaded() && name.ends_with(u".TSR")) {
+    entry = &windows_.deck->openDeck;
+  }
+  const bool on = entry != nullptr && entry->Reachable() && &entry->Owner() == bar;
+  return on && bar->TakesInput() ? entry : nullptr;
+}
+
+void ProgramFrame::OnDropFile(const Text& path) {
+  const MenuEntry* entry = EntryFor(path);
+  NoteFolderOf(path, app_.state);
+  if (entry == &importTextFile) {
+    ImportTextFile(path, app_, fileNumber_, windows_.deck);
+  } else if (entry != &openExistingDeck) {
+    windows_.deck->OpenDroppedDeck(path);
+  } else if (IsDeckFileName(path, app_.machine.messages)) {
+    EmptyTable();
+    OpenDeckOf(path);
+  }
 }
 
 void ProgramFrame::ShowSetUp() {

@@ -44,6 +44,8 @@ class ProgramFrame : public Form {
 
   [[nodiscard]] int ScaleWidth() const override;
   [[nodiscard]] int ScaleHeight() const override;
+  /// A deck where the open command on show is on, a text where the import command is.
+  [[nodiscard]] bool TakesFile(const Text& path) override { return EntryFor(path) != nullptr; }
 
   void ShowHelpTopic();
   void ShowAbout();
@@ -54,11 +56,13 @@ class ProgramFrame : public Form {
   void OpenExistingDeck();
   void ShowSetUp();
   void ImportDeck();
+  void Exit();
 
  protected:
   void OnLoad() override;
   void OnClick() override { windows_.about.Unload(); }
   void OnUnload(bool& cancel) override;
+  void OnDropFile(const Text& path) override;
   /// The file menu is for the empty frame: its commands fill the table, and ask nothing.
   void WindowsChanged() override { fileMenu.SetEnabled(System().FrameIsEmpty()); }
 
@@ -66,6 +70,10 @@ class ProgramFrame : public Form {
   void PlaceMenuEntries();
   void WireMenus();
   [[nodiscard]] const Picture& BackDropPicture() const;
+  /// The entry that a dropped file stands for, if it is on; else null.
+  [[nodiscard]] MenuEntry* EntryFor(const Text& path);
+  void EmptyTable();
+  void OpenDeckOf(const Text& path);
 
   AppContext& app_;
   FileNumber& fileNumber_;

@@ -1,5 +1,8 @@
 #include "shell/splash.h"
 
+#include "forms/renderer.h"
+#include "forms/window_system.h"
+
 namespace tessara {
 
 namespace {
@@ -20,6 +23,7 @@ Splash::Splash(WindowSystem& system) : Form(system, "Splash", FormKind::kSplash,
 
 void SplashPause(Window<Splash> splash, Desktop& desktop) {
   splash->Show();
+  splash->System().RendererOf().WaitUntilSeen(splash.Loaded());
   for (int yield = 0; yield < kYields; ++yield) desktop.Yield();
 }
 

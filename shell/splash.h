@@ -15,8 +15,8 @@ class Splash : public Form {
   Image picture{"Image1"};
 };
 
-/// Shows the start-up picture and hands control to the window system's queue 5000 times: that is
-/// the whole pause. The picture stays up.
+/// Shows the start-up picture and, once it is seen, hands control to the window system's queue 5000
+/// times: that is the whole pause. The picture stays up.
 void SplashPause(Window<Splash> splash, Desktop& desktop);
 
 }  // namespace tessara

@@ -60,6 +60,8 @@ void DeckWindow::PlaceControls() {
   });
   cardShadow.SetBackColor({Color::Role::kInactiveTitle});
   nextOrScore.SetEnabled(false);
+  // A choice is an answer: going past it gives none.
+  for (OptionButton& choice : choices) choice.SetArrowsSelect(false);
   answer.SetFont({u"MS Sans Serif", 9.75});
   answer.SetForeColor(FixedColor(29, 49, 82));
   answerCard.SetPicture(App().frame.CardPictures().At(u"White 3D").picture);
@@ -69,29 +71,31 @@ void DeckWindow::PlaceMenuEntries() {
   AddMenus({
       {&fileMenu, nullptr, u"&File"},
       {&clearDeck, &fileMenu, u"&Clear Tessara"},
-      {&openDeck, &fileMenu, u"&Open Tessara"},
+      {&openDeck, &fileMenu, u"&Open Tessara", u"Ctrl+O"},
       {&deleteCard, &fileMenu, u"&Delete Card"},
       {&belowDelete, &fileMenu, u"-"},
-      {&saveDeck, &fileMenu, u"&Save"},
-      {&saveDeckAs, &fileMenu, u"Save &As"},
-      {&createOrEditCard, &fileMenu, u"&Create/Edit Card"},
-      {&printDeck, &fileMenu, u"Print Deck"},
+      {&saveDeck, &fileMenu, u"&Save", u"Ctrl+S"},
+      {&saveDeckAs, &fileMenu, u"Save &As", u"Ctrl+Shift+S"},
+      {&createOrEditCard, &fileMenu, u"&Create/Edit Card", u"Ctrl+E"},
+      {&printDeck, &fileMenu, u"Print Deck", u"Ctrl+P"},
       {&aboveClose, &fileMenu, u"-"},
-      {&closeTessara, &fileMenu, u"&Close Tessara"},
+      {&closeTessara, &fileMenu, u"&Close Tessara", u"Ctrl+W"},
       {&modeMenu, nullptr, u"Mode"},
       {&study, &modeMenu, u"&Study"},
       {&quiz, &modeMenu, u"&Quiz"},
       {&test, &modeMenu, u"&Test"},
       {&utilityMenu, nullptr, u"&Utility"},
-      {&goToCard, &utilityMenu, u"<Go To Card >"},
+      {&goToCard, &utilityMenu, u"<Go To Card >", u"Ctrl+G"},
       {&belowGoTo, &utilityMenu, u"-"},
       {&deckInfo, &utilityMenu, u"Tessara Information"},
       {&helpMenu, nullptr, u"&Help"},
-      {&helpTopics, &helpMenu, u"&Tessara Help Topics"},
+      {&helpTopics, &helpMenu, u"&Tessara Help Topics", u"F1"},
       {&about, &helpMenu, u"&About"},
       {&separatingCards, &helpMenu, u"Separating the cards"},
   });
   saveDeck.SetEnabled(false);
+  card.SetHint(u"No cards yet: " + PlainCaption(fileMenu.Caption()) + u" > " +
+               PlainCaption(createOrEditCard.Caption()) + u" writes the first one.");
 }
 
 void DeckWindow::WireControls() {
@@ -157,6 +161,34 @@ void DeckWindow::OnResize() {
 
 void DeckWindow::OnClick() {
   App().frame.CloseAbout();
+}
+
+bool DeckWindow::KeysAreFree() const {
+  const Control* focused = FocusedControl();
+  const std::initializer_list<const Control*> pagers = {nullptr, &card, &flip,
+                                                        &arrows[kPreviousCard], &arrows[kNextCard]};
+  return std::find(pagers.begin(), pagers.end(), focused) != pagers.end();
+}
+
+bool DeckWindow::OnKey(WindowKey key) {
+  if (!KeysAreFree()) return false;
+  switch (key) {
+    case WindowKey::kLeft:
+      arrows[kPreviousCard].Press();
+      return true;
+    case WindowKey::kRight:
+      arrows[kNextCard].Press();
+      return true;
+    case WindowKey::kSpace: {
+      // With the focus on it, the button takes the blank itself.
+      const bool turns = flip.Reachable() && FocusedControl() != &flip;
+      if (turns) flip.Press();
+      return turns;
+    }
+    case WindowKey::kKeep:
+      break;
+  }
+  return false;
 }
 
 void DeckWindow::ShowDeckInfo() {

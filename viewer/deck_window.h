@@ -103,6 +103,7 @@ class DeckWindow : public DeckLife {
   void OnActivate() override;
   void OnResize() override;
   void OnClick() override;
+  bool OnKey(WindowKey key) override;
 
  private:
   void PlaceControls();
@@ -134,6 +135,8 @@ class DeckWindow : public DeckLife {
   /// The focus goes to the first of these that the user can reach: what the next step needs.
   void OfferNext(std::initializer_list<Control*> controls);
   void OfferChoices();
+  /// True where the keys that turn and page are not those of what has the focus.
+  [[nodiscard]] bool KeysAreFree() const;
   /// Where what had the focus has gone off, an arrow that still works gets it, else the card.
   void KeepFocusInReach();
 };

@@ -30,6 +30,30 @@ std::string EscapedForXml(const std::string& text) {
 /// of the line.
 constexpr std::string_view kReserved = " \t\n\r\"'\\<>~|&;$*?#()`";
 
+/// A value of a desktop entry that is a plain text.
+std::string EscapedForEntry(const std::string& text) {
+  std::string escaped;
+  for (const char c : text) {
+    switch (c) {
+      case '\\':
+        escaped += R"(\\)";
+        break;
+      case '\n':
+        escaped += R"(\n)";
+        break;
+      case '\r':
+        escaped += R"(\r)";
+        break;
+      case '\t':
+        escaped += R"(\t)";
+        break;
+      default:
+        escaped += c;
+    }
+  }
+  return escaped;
+}
+
 }  // namespace
 
 std::string MimePackage(const DocumentType& type) {
@@ -90,10 +114,12 @@ std::string DesktopEntry(const DocumentType& type) {
              "Comment=Learn with flash cards on screen and on paper\n"
              "Icon=tessara\n"
              "Exec=") +
-         QuotedForExec(type.program) + " %f\n" + "MimeType=" + kDeckMimeType +
+         QuotedForExec(type.program) + " %f\n" +
+         // Without the program the entry is none.
+         "TryExec=" + EscapedForEntry(type.program) + "\n" + "MimeType=" + kDeckMimeType +
          ";\n"
          "Categories=Education;\n"
-         "Keywords=flashcards;cards;learning;quiz;\n"
+         "Keywords=flashcards;cards;learning;study;quiz;test;questions;vocabulary;printing;\n"
          "Terminal=false\n"
          "StartupWMClass=tessara\n";
 }

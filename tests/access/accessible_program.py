@@ -14,6 +14,8 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402  after the version is chosen
 
+import small_deck  # noqa: E402
+
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "scripts"))
 import program_end  # noqa: E402  after the path is set
 
@@ -136,11 +138,16 @@ class Program:
 
     def go_to(self, scene):
         """Starts with the scene's deck and takes its steps."""
-        self.start(*([shutil.copy(f"{self._samples}/{scene.deck}.tsr", self.home)] if scene.deck else []))
+        self.start(*([self._deck(scene.deck)] if scene.deck else []))
         for title, *keys in scene.steps:
             self.ready(title)
             self.press(*keys[0].split()) if len(keys) == 1 else self.choose(*keys)
         self.ready(scene.title)
+
+    def _deck(self, name):
+        if name == small_deck.NAME:
+            return small_deck.write(self.home)
+        return shutil.copy(f"{self._samples}/{name}.tsr", self.home)
 
     def start(self, *arguments, **options):
         """Starts, and waits until the program is on the accessibility bus."""

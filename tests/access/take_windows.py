@@ -2,10 +2,10 @@
 """Takes a picture of every window as one user's desktop shows it, to be looked at.
 
 usage: SCREEN=WIDTHxHEIGHT scripts/with_display.sh dbus-run-session -- tests/access/take_windows.py BUILD FOLDER
-           [dark] [large-fonts] [NAME=VALUE...] [SCENE...]
+           [dark|yellow-on-black|white-on-black] [FONT=FACE,POINTS] [NAME=VALUE...] [SCENE...]
 
-"dark" and "large-fonts" are a Plasma desktop's colour scheme and font; NAME=VALUE goes into the
-environment, for example QT_SCALE_FACTOR=2. Without scenes all are taken.
+The colours and the font are those of a Plasma desktop; NAME=VALUE goes into the environment, for
+example QT_SCALE_FACTOR=2. Without scenes all are taken.
 """
 import pathlib
 import sys
@@ -16,18 +16,22 @@ from windows import SCENES
 
 import screen_picture  # from scripts/, where accessible_program has looked too
 
-FONT = "[General]\nfont=DejaVu Sans,12,-1,5,50,0,0,0,0,0\n"
-# Red, green, blue: the dark scheme that Plasma brings.
-GROUNDS = {"Window": "49,54,59", "View": "35,38,41", "Button": "49,54,59", "Tooltip": "49,54,59",
-           "Selection": "61,174,233"}
-TEXT, DIM_TEXT = "239,240,241", "161,169,177"
+# Red, green, blue: the dark scheme that Plasma brings, and two of high contrast.
+BREEZE = {"Window": "49,54,59", "View": "35,38,41", "Button": "49,54,59", "Tooltip": "49,54,59",
+          "Selection": "61,174,233"}
+BLACK = dict.fromkeys(["Window", "View", "Button", "Tooltip"], "0,0,0")
+# Name: grounds, text, dimmed text, focus.
+SCHEMES = {"dark": (BREEZE, "239,240,241", "161,169,177", "61,174,233"),
+           "yellow-on-black": (BLACK | {"Selection": "0,128,0"}, "255,255,0", "200,200,0", "0,255,0"),
+           "white-on-black": (BLACK | {"Selection": "26,235,255"}, "255,255,255", "200,200,200", "26,235,255")}
 
 
-def dark_scheme():
-    for part, ground in GROUNDS.items():
+def scheme_of(name):
+    grounds, text, dim_text, focus = SCHEMES[name]
+    for part, ground in grounds.items():
         yield f"[Colors:{part}]\nBackgroundNormal={ground}\nBackgroundAlternate={ground}\n"
-        yield f"ForegroundNormal={TEXT}\nForegroundInactive={DIM_TEXT}\nForegroundLink=29,153,243\n"
-        yield "DecorationFocus=61,174,233\nDecorationHover=61,174,233\n"
+        yield f"ForegroundNormal={text}\nForegroundInactive={dim_text}\nForegroundLink={focus}\n"
+        yield f"DecorationFocus={focus}\nDecorationHover={focus}\n"
 
 
 def take(picture):
@@ -41,7 +45,9 @@ def main():
     folder = pathlib.Path(folder)
     folder.mkdir(parents=True, exist_ok=True)
     environment = dict(word.split("=", 1) for word in rest if "=" in word)
-    plasma = (FONT if "large-fonts" in rest else "") + ("".join(dark_scheme()) if "dark" in rest else "")
+    font = environment.pop("FONT", None)
+    plasma = f"[General]\nfont={font},-1,5,50,0,0,0,0,0\n" if font else ""
+    plasma += "".join("".join(scheme_of(name)) for name in SCHEMES if name in rest)
     if plasma:
         environment |= {"XDG_CURRENT_DESKTOP": "KDE", "KDE_SESSION_VERSION": "5", "KDE_FULL_SESSION": "true"}
     wanted = {scene.name for scene in SCENES}.intersection(rest)

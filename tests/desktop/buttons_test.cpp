@@ -4,7 +4,6 @@
 #include <QRadioButton>
 #include <doctest/doctest.h>
 
-#include "adapters/qt/look/caption_fit.h"
 #include "tests/desktop/desk.h"
 
 using namespace tessara;
@@ -36,20 +35,6 @@ TEST_CASE("A long caption is made to fit its button and keeps its text") {
   CHECK(button.size() == QSize(97, 33));
 }
 
-TEST_CASE("A caption a little too long is narrowed before its letters become smaller") {
-  const QString caption = "Show the back";
-  QFont font;
-  font.setPixelSize(12);
-  const QSizeF whole = QFontMetricsF(font).size(Qt::TextShowMnemonic, caption);
-  CHECK(FitCaption(caption, font, whole).font == font);
-  const FittedCaption narrowed = FitCaption(caption, font, {whole.width() * 0.95, whole.height()});
-  CHECK(narrowed.text == caption);
-  CHECK(narrowed.font.stretch() < 100);
-  CHECK(narrowed.font.pixelSize() == 12);
-  const FittedCaption smaller = FitCaption(caption, font, {whole.width() * 0.8, whole.height()});
-  CHECK(smaller.font.pixelSize() < 12);
-}
-
 TEST_CASE("A caption's accelerator is underlined, and its mark is not seen") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
@@ -72,6 +57,25 @@ TEST_CASE("A caption's accelerator is underlined, and its mark is not seen") {
     const int middle = plain.height() / 2;
     CHECK(marked.copy(0, 0, plain.width(), middle) == plain.copy(0, 0, plain.width(), middle));
   }
+}
+
+TEST_CASE("A button without a caption that is off is not to be seen, and is there again with one") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  const auto picture = [] { return Desk::Of("Command2").grab().toImage(); };
+  const QColor ground = Desk::Of("Command2").palette().color(QPalette::Window);
+  const auto seen = [&](const QImage& image) {
+    QImage empty(image.size(), image.format());
+    empty.fill(ground);
+    return image != empty;
+  };
+  CHECK(seen(picture()));
+  form.Command2.SetCaption(u"");
+  CHECK(seen(picture()));
+  form.Command2.SetEnabled(false);
+  CHECK_FALSE(seen(picture()));
+  form.Command2.SetCaption(u"Next");
+  CHECK(seen(picture()));
 }
 
 TEST_CASE("An option that a form clears is cleared on screen") {
@@ -131,6 +135,23 @@ TEST_CASE("The arrow keys select the next option, round the group") {
   CHECK(Desk::Of("Option1(1)").hasFocus());
   QTest::keyClick(&Desk::Of("Option1(1)"), Qt::Key_Down);
   CHECK(form.Option1[0].Selected());
+}
+
+TEST_CASE("The arrow keys only go from option to option where a choice is an answer") {
+  Desk desk;
+  desk.prepare = [](SampleForm& form) {
+    for (OptionButton& option : form.Option1) option.SetArrowsSelect(false);
+  };
+  SampleForm& form = desk.ShowChild();
+  Desk::Of("Option1(0)").setFocus();
+  for (const char* next : {"Option1(1)", "Option1(0)", "Option1(1)"}) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+    CHECK(QApplication::focusWidget()->objectName() == next);
+  }
+  CHECK_FALSE(form.Option1[0].Selected());
+  CHECK_FALSE(form.Option1[1].Selected());
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
+  CHECK(form.Option1[1].Selected());
 }
 
 TEST_CASE("A disabled group keeps the user out and does not grey what it holds") {

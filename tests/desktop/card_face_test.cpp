@@ -143,3 +143,26 @@ TEST_CASE("A text too long even for the smallest letters is read to its end by s
   }
   CHECK(pictures[0] != pictures[1]);
 }
+
+TEST_CASE("The letters of a card stand on a ruled line, at every size and scaling") {
+  constexpr int kBesideText = 6;
+  const auto isRule = [](const QImage& picture, int x, int y) {
+    const QColor color = picture.pixelColor(x, y);
+    return color.blue() - color.red() > 15;
+  };
+  for (const int words : {1, 8, 20, 60}) {
+    Text text;
+    for (int word = 0; word < words; ++word) text += u"MHM ";
+    const CardDesk desk(text);
+    const Rect body = LayoutOf(CardDesk::Size()).body;
+    for (const double scaling : kScalings) {
+      CAPTURE(words);
+      CAPTURE(scaling);
+      const QImage picture = CardDesk::Picture(scaling);
+      const int below = qRound(InkIn(picture, body).bottom() * scaling);
+      const int x = qRound(kBesideText * scaling);
+      // A row of letters may be too pale to count as ink.
+      CHECK((isRule(picture, x, below) || isRule(picture, x, below + 1)));
+    }
+  }
+}

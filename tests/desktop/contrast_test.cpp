@@ -35,6 +35,50 @@ class DesktopOfColor {
   QPalette before_ = QApplication::palette();
 };
 
+/// High contrast as desktops offer it, and the plain light and dark.
+struct Scheme {
+  const char* name;
+  QColor ground;
+  QColor text;
+  QColor highlight;
+};
+const Scheme kSchemes[] = {{"yellow on black", Qt::black, QColor(255, 255, 0), QColor(0, 128, 0)},
+                           {"white on black", Qt::black, Qt::white, QColor(26, 235, 255)},
+                           {"light", kLight, Qt::black, QColor(61, 174, 233)},
+                           {"dark", kDark, QColor(239, 240, 241), QColor(61, 174, 233)}};
+
+class DesktopOfScheme {
+ public:
+  explicit DesktopOfScheme(const Scheme& scheme) {
+    QPalette palette(scheme.ground);
+    for (const auto role : {QPalette::Window, QPalette::Base, QPalette::Button}) {
+      palette.setColor(role, scheme.ground);
+    }
+    for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+      palette.setColor(role, scheme.text);
+    }
+    palette.setColor(QPalette::Highlight, scheme.highlight);
+    QApplication::setPalette(palette);
+  }
+  DesktopOfScheme(const DesktopOfScheme&) = delete;
+  DesktopOfScheme& operator=(const DesktopOfScheme&) = delete;
+  ~DesktopOfScheme() { QApplication::setPalette(before_); }
+
+ private:
+  QPalette before_ = QApplication::palette();
+};
+
+/// The most that a pixel of the picture stands out from the ground.
+double MostContrast(const QImage& picture, const QColor& ground) {
+  double most = 1;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      most = std::max(most, ContrastOf(picture.pixelColor(x, y), ground));
+    }
+  }
+  return most;
+}
+
 /// The most that any pixel at the left edge of a control, half way down, stands out from the
 /// ground.
 double ContrastOfEdge(const char* control, const QColor& ground) {
@@ -112,4 +156,70 @@ TEST_CASE("The focus of a card is seen on its paper, whatever the desktop's high
   constexpr int kInLine = 4;
   const QColor line = picture.pixelColor(kInLine, picture.height() / 2);
   CHECK(ContrastOf(line, Qt::white) >= kVisibleContrast);
+}
+
+TEST_CASE("Titles of windows in the frame are read in every scheme, in front and behind") {
+  for (const Scheme& scheme : kSchemes) {
+    CAPTURE(scheme.name);
+    const DesktopOfScheme desktop(scheme);
+    Desk desk;
+    desk.ShowChild().SetCaption(u"MMMMMMMM");
+    desk.other->Show();
+    desk.other->SetCaption(u"MMMMMMMM");
+    Desk::Settle();
+    for (const char* name : {"frmChild", "frmOther"}) {
+      CAPTURE(name);
+      QWidget& window = *Desk::Top(name);
+      const int height = window.contentsMargins().top();
+      // The middle of the title: its letters, and no button.
+      const QImage title =
+          window.grab({window.width() / 3, 6, window.width() / 3, height - 10}).toImage();
+      // Where the title has no letters, just below its upper edge.
+      const QColor ground = window.grab({window.width() / 2, 4, 1, 1}).toImage().pixelColor(0, 0);
+      CHECK(MostContrast(title, ground) >= kReadableContrast);
+    }
+  }
+}
+
+TEST_CASE("Marks that are set, edges of boxes and the frames of groups are seen in every scheme") {
+  for (const Scheme& scheme : kSchemes) {
+    CAPTURE(scheme.name);
+    const DesktopOfScheme desktop(scheme);
+    Desk desk;
+    SampleForm& form = desk.ShowChild();
+    form.Check1.SetTicked(true);
+    form.Option1[0].SetSelected(true);
+    for (const char* name : {"Check1", "Option1(0)"}) {
+      CAPTURE(name);
+      const QImage picture = Desk::Of(name).grab().toImage();
+      // Inside the outline of the mark.
+      const QRect mark(4, picture.height() / 2 - 3, 7, 7);
+      const QColor inside = picture.pixelColor(3, picture.height() / 2);
+      CHECK(MostContrast(picture.copy(mark), inside) >= kVisibleContrast);
+    }
+    for (const char* name : {"Text1", "Text2", "List1", "Combo1", "Frame1"}) {
+      CAPTURE(name);
+      CHECK(ContrastOfEdge(name, scheme.ground) >= kVisibleContrast);
+    }
+  }
+}
+
+TEST_CASE(
+    "Coloured captions are read in every scheme, in the colour itself where it reaches that") {
+  const Color colors[] = {FixedColor(0, 0, 255), FixedColor(255, 0, 0), FixedColor(128, 0, 0),
+                          FixedColor(0, 0, 238)};
+  for (const Scheme& scheme : kSchemes) {
+    CAPTURE(scheme.name);
+    const DesktopOfScheme desktop(scheme);
+    Desk desk;
+    SampleForm& form = desk.ShowChild();
+    for (const Color& color : colors) {
+      form.Label1.SetForeColor(color);
+      const QColor told(color.red, color.green, color.blue);
+      const QColor shown = TextColorOf("Label1");
+      CHECK(ContrastOf(shown, scheme.ground) >= kReadableContrast);
+      CHECK((shown == told) == (ContrastOf(told, scheme.ground) >= kReadableContrast));
+      CHECK(std::abs(shown.hslHue() - told.hslHue()) <= 2);
+    }
+  }
 }

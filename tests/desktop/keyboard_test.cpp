@@ -196,3 +196,108 @@ TEST_CASE("A focus set while a window loads is the one that it comes up with") {
   desk.ShowChild();
   CHECK(Focused().objectName() == "Command2");
 }
+
+TEST_CASE("An entry's keys choose it, where the entry is on, and stand beside it") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  const auto* entry = Desk::Top("MDIForm1")->findChild<QAction*>("mnuStudy");
+  REQUIRE(entry != nullptr);
+  CHECK(entry->shortcut().toString().toStdString() == "Ctrl+Shift+S");
+  for (const char* control : {"Command2", "Text1", "Text2"}) {
+    CAPTURE(control);
+    Desk::Of(control).setFocus();
+    form.log.Take();
+    QTest::keyClick(&Focused(), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+    CHECK(form.log.Take() == "study");
+  }
+  form.mnuMode.SetEnabled(false);
+  QTest::keyClick(&Focused(), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+  CHECK(form.log.Take().empty());
+}
+
+TEST_CASE("Of two bars with the same keys, those of the bar on show count") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  QTest::keyClick(&Focused(), Qt::Key_O, Qt::ControlModifier);
+  CHECK(form.log.Take() == "open");
+  CHECK(desk.frame->log.Take().empty());
+  form.Hide();
+  Desk::Settle();
+  QTest::keyClick(Desk::Top("MDIForm1"), Qt::Key_O, Qt::ControlModifier);
+  CHECK(form.log.Take().empty());
+  CHECK(desk.frame->log.Take() == "frame open");
+}
+
+TEST_CASE("Keys that always work do so behind another bar, and in a menu that is off") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  desk.frame->mnuFile.SetEnabled(false);
+  QTest::keyClick(&Focused(), Qt::Key_Q, Qt::ControlModifier);
+  CHECK(desk.frame->log.Take() == "frame exit");
+  form.Hide();
+  Desk::Settle();
+  QTest::keyClick(Desk::Top("MDIForm1"), Qt::Key_Q, Qt::ControlModifier);
+  CHECK(desk.frame->log.Take() == "frame exit");
+}
+
+TEST_CASE("No keys of a menu reach it while a box is open") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  QTimer::singleShot(0, [] {
+    QWidget* const box = QApplication::activeModalWidget();
+    CHECK(QTest::qWaitFor([&] { return QApplication::activeWindow() == box; }));
+    for (const Qt::Key key : {Qt::Key_O, Qt::Key_Q, Qt::Key_S}) {
+      QTest::keyClick(box->focusWidget(), key, Qt::ControlModifier);
+    }
+    QTest::keyClick(box->focusWidget(), Qt::Key_Return);
+  });
+  QtMessageBoxes().Show(u"!", kOkOnly, u"");
+  CHECK(form.log.Take().empty());
+  CHECK(desk.frame->log.Take().empty());
+}
+
+TEST_CASE("Arrows, the blank and Ctrl+Return are the window's where it has a use for them") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  const auto press = [&form] {
+    form.log.Take();
+    for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Space}) {
+      QTest::keyClick(&Focused(), key);
+    }
+    QTest::keyClick(&Focused(), Qt::Key_Return, Qt::ControlModifier);
+    return form.log.Take();
+  };
+  form.hasUseForKeys = true;
+  form.Text2.SetFocus();
+  CHECK(press() == "left, right, space, keep");
+  CHECK(form.Text2.TextOf().empty());
+  form.hasUseForKeys = false;
+  form.Text2.SetFocus();
+  CHECK(press() == "change");
+  CHECK(form.Text2.TextOf() == u" ");
+}
+
+TEST_CASE("A blank held down is no second one") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  form.hasUseForKeys = true;
+  form.Painting1.SetFocus();
+  form.log.Take();
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
+  QApplication::sendEvent(&Focused(), &held);
+  CHECK(form.log.Take().empty());
+}
+
+TEST_CASE("Tab goes where the window says, and else to the next control") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  CHECK(Focused().objectName() == "Text1");
+  form.tabTarget = &form.Command2;
+  QTest::keyClick(&Focused(), Qt::Key_Tab);
+  CHECK(Focused().objectName() == "Command2");
+  CHECK(form.FocusedControl() == &form.Command2);
+  form.Text1.SetFocus();
+  form.tabTarget = nullptr;
+  QTest::keyClick(&Focused(), Qt::Key_Tab);
+  CHECK(Focused().objectName() == "Text2");
+}

@@ -38,3 +38,13 @@ TEST_CASE("Control fonts grow with the factor and with their points") {
   large.points = 16.5;
   CHECK(ScaleFor(10).ControlFont(large).pixelSize() == 24);
 }
+
+TEST_CASE("The factor is at most what lets the deck window stand whole on the screen") {
+  QFont font = QApplication::font();
+  font.setPixelSize(24);
+  CHECK(PixelScale(font, {3840, 2160}).Factor() == doctest::Approx(1.8));
+  const PixelScale small(font, {1366, 768});
+  CHECK(small.Factor() > 1.3);
+  CHECK(small.Factor() < 1.7);
+  CHECK(PixelScale(font, {640, 480}).Factor() == 1);
+}

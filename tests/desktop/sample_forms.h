@@ -79,13 +79,13 @@ class SampleForm : public Form {
         {&Command2, nullptr, u"&Delete form deck", {4200, 4500, 1455, 495}, u""},
     });
     AddMenus({{&mnuFile, nullptr, u"&File"},
-              {&mnuOpen, &mnuFile, u"&Open"},
+              {&mnuOpen, &mnuFile, u"&Open", u"Ctrl+O"},
               {&mnu1, &mnuFile, u"-"},
               {&mnuOrder, &mnuFile, u"&Order"},
               {&mnuOther, &mnuFile, u"&Other"},
               {&mnuMode, nullptr, u"&Mode"},
-              {&mnuStudy, &mnuMode, u"&Study"},
-              {&mnuHelpTopic, &mnuMode, u"&Help"}});
+              {&mnuStudy, &mnuMode, u"&Study", u"Ctrl+Shift+S"},
+              {&mnuHelpTopic, &mnuMode, u"&Help", u"F1"}});
     Text2.SetMultiLine(true);
     Text2.SetVerticalScrollBar(true);
     Picture1.SetPicture({"print/nonflip.png", 117, 37});
@@ -126,6 +126,12 @@ class SampleForm : public Form {
   EventLog log;
   std::function<void()> onLoad;
   bool refusesToGo = false;
+  bool hasUseForKeys = false;
+  Control* tabTarget = nullptr;
+
+  [[nodiscard]] Control* TabTarget(const Control& from) override {
+    return &from == &Text1 ? tabTarget : nullptr;
+  }
 
  protected:
   void OnLoad() override {
@@ -134,6 +140,11 @@ class SampleForm : public Form {
   void OnUnload(bool& cancel) override { cancel = refusesToGo; }
   void OnClick() override { log.Add("form"); }
   void OnMouseMove() override { log.Add("move"); }
+  bool OnKey(WindowKey key) override {
+    constexpr const char* kNames[] = {"left", "right", "space", "keep"};
+    if (hasUseForKeys) log.Add(kNames[static_cast<int>(key)]);
+    return hasUseForKeys;
+  }
 
  private:
   void Wire() {
@@ -168,15 +179,24 @@ class SampleFrame : public Form {
  public:
   explicit SampleFrame(WindowSystem& system)
       : Form(system, "MDIForm1", FormKind::kFrame, u"Tessara 1.0") {
-    AddMenus({{&mnuFile, nullptr, u"&File"}, {&mnuOpen, &mnuFile, u"&Open Existing Deck"}});
+    AddMenus({{&mnuFile, nullptr, u"&File"},
+              {&mnuOpen, &mnuFile, u"&Open Existing Deck", u"Ctrl+O"},
+              {&mnuExit, &mnuFile, u"&Exit", u"Ctrl+Q"}});
+    mnuExit.LetKeysWorkAlways();
     mnuOpen.onClick = [this] { log.Add("frame open"); };
+    mnuExit.onClick = [this] { log.Add("frame exit"); };
   }
   MenuEntry mnuFile{"mnuFile"};
   MenuEntry mnuOpen{"mnuOpen"};
+  MenuEntry mnuExit{"mnuExit"};
   EventLog log;
+  Text taken = u"/decks/birds.tsr";  ///< the path that can be dropped
+
+  [[nodiscard]] bool TakesFile(const Text& path) override { return path == taken; }
 
  protected:
   void OnClick() override { log.Add("frame"); }
+  void OnDropFile(const Text& path) override { log.Add("dropped " + ToUtf8(path)); }
 };
 
 }  // namespace tessara::test

@@ -354,3 +354,22 @@ TEST_CASE("Lines are counted as the box on screen wraps them, and without one") 
   const int margins = 2 * static_cast<int>(area.document()->documentMargin());
   CHECK(LineWidthOf(form.Text2, scale) == area.viewport()->width() - margins);
 }
+
+TEST_CASE("Undo and redo work in every box, redo by either of its keys") {
+  Desk desk;
+  desk.ShowChild();
+  const std::pair<Qt::Key, Qt::KeyboardModifiers> redoKeys[] = {
+      {Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier}, {Qt::Key_Y, Qt::ControlModifier}};
+  for (TextBox* box : {&desk.child->Text1, &desk.child->Text2}) {
+    QWidget& widget = Desk::Of(box->Name().c_str());
+    widget.setFocus();
+    for (const auto& [key, modifiers] : redoKeys) {
+      QTest::keyClicks(&widget, QStringLiteral("word"));
+      const Text written = box->TextOf();
+      QTest::keyClick(&widget, Qt::Key_Z, Qt::ControlModifier);
+      CHECK(box->TextOf() != written);
+      QTest::keyClick(&widget, key, modifiers);
+      CHECK(box->TextOf() == written);
+    }
+  }
+}

@@ -1,4 +1,5 @@
 #include <QAccessible>
+#include <QElapsedTimer>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QTimer>
@@ -14,6 +15,17 @@ namespace {
 QMdiSubWindow& Sub(const char* name) {
   return *qobject_cast<QMdiSubWindow*>(Desk::Top(name));
 }
+
+class PaintCount : public QObject {
+ public:
+  int count = 0;
+
+ protected:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    count += event->type() == QEvent::Paint ? 1 : 0;
+    return false;
+  }
+};
 
 }  // namespace
 
@@ -216,4 +228,16 @@ TEST_CASE("An error that a handler lets out is reported and ends the program") {
   REQUIRE(desk.messages.shown.size() == 1);
   CHECK(desk.messages.shown[0].text.starts_with(u"Run-time error '340':"));
   CHECK(desk.windows.ExitStatus() == 1);
+}
+
+TEST_CASE("Waiting for a window to be seen lasts until it has been painted") {
+  Desk desk;
+  desk.dialog->Show();
+  PaintCount paints;
+  Desk::Of("Painting1", "frmDialog").installEventFilter(&paints);
+  QElapsedTimer time;
+  time.start();
+  desk.renderer.WaitUntilSeen(*desk.dialog.operator->());
+  constexpr int kLongestWait = 200;
+  CHECK((paints.count > 0 || time.elapsed() >= kLongestWait));
 }

@@ -20,6 +20,7 @@ SECONDS_TO_WAIT = 60
 SECONDS_BETWEEN_LOOKS = 0.1
 WINDOW_CLASS = '"tessara"'  # as the desktop entry tells it, which carries the program's icon to its window
 DECK_TYPE = "application/x-tessara-deck"
+METADATA = "io.github.tessara.tessara.metainfo.xml"
 
 build = pathlib.Path()
 
@@ -127,8 +128,9 @@ class Files(Scratch):
     def test_what_the_desktop_reads_stands_by_its_rules(self):
         share = self.usr / "share"
         said("desktop-file-validate", share / "applications" / "tessara.desktop")
-        said("appstreamcli", "validate", "--no-net", share / "metainfo" / "io.github.tessara.tessara.metainfo.xml")
+        said("appstreamcli", "validate", "--no-net", share / "metainfo" / METADATA)
         said("update-mime-database", share / "mime")
+        self.assertNotIn("SCREENSHOTS", (share / "metainfo" / METADATA).read_text())
         self.environment["XDG_DATA_DIRS"] = f"{share}:/usr/share"
         self.assertEqual(self.ask("gio", "info", "-a", "standard::content-type", self.deck).split()[-1], DECK_TYPE)
 

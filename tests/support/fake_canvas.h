@@ -60,6 +60,7 @@ class FakeCanvas : public Canvas {
     return widest;
   }
   double LineHeight(const TextStyle& style) override { return PixelsOf(style) * 1.2; }
+  double Ascent(const TextStyle& style) override { return PixelsOf(style) * 0.95; }
 
   /// Display lines, wrapped at words, and inside a word that is wider than the line.
   [[nodiscard]] int CountLines(TextView text, double width, const TextStyle& style) const {

@@ -19,6 +19,7 @@ class HeadlessRenderer : public Renderer {
   int frameScaleHeight = 9000;
   int exitStatus = -1;
   std::vector<std::string> activated;  ///< names in the order of their becoming active
+  std::vector<std::string> seen;       ///< names of the windows that were waited for
   /// What the user does while a modal window is up; unloads it where nothing is set.
   std::function<void(Form&)> whileModal;
 
@@ -30,6 +31,7 @@ class HeadlessRenderer : public Renderer {
     activated.push_back(form == nullptr ? "" : form->Name());
   }
   void FocusChanged(Form&) override {}
+  void WaitUntilSeen(Form& form) override { seen.push_back(form.Name()); }
   void RunModal(Form& form) override {
     if (whileModal) {
       whileModal(form);

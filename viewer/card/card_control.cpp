@@ -21,7 +21,14 @@ constexpr Color kRuledLine = FixedColor(205, 217, 233);
 constexpr Color kRuledLineOnYellow = FixedColor(199, 203, 190);
 constexpr Color kInk = FixedColor(29, 49, 82);
 constexpr Color kPaleInk = FixedColor(86, 88, 96);
-constexpr Color kBannerInk = FixedColor(158, 42, 28);
+constexpr Color kHintInk = FixedColor(100, 102, 110);
+constexpr Color kRightInk = FixedColor(22, 104, 48);
+constexpr Color kWrongInk = FixedColor(168, 28, 28);
+
+Color BannerInk(const Text& banner) {
+  if (banner == u"CORRECT") return kRightInk;
+  return banner == u"WRONG" ? kWrongInk : kInk;
+}
 
 /// A line from edge to edge of the card.
 void DrawAcross(Canvas& canvas, const Rect& card, double y, const Color& color) {
@@ -57,8 +64,22 @@ void CardControl::SetCardTotal(const Text& total) {
   Change(cardTotal_, total);
 }
 
+void CardControl::SetHint(const Text& hint) {
+  Change(hint_, hint);
+}
+
 Text CardControl::DisplayedText() const {
   return PlainCaption(cardText_);
+}
+
+bool CardControl::Hints() const {
+  return cardText_.empty() && cardTotal_ == u"0";
+}
+
+BodyLayout CardControl::LayoutOfBody(Canvas& canvas, const Rect& body) const {
+  const Text text = ShownText();
+  const bool large = !text.empty() && !Hints();
+  return large ? LayoutBody(canvas, text, body) : LayoutBody(canvas, text, body, kHintPoints);
 }
 
 Text CardControl::NumberLine() const {
@@ -69,7 +90,7 @@ Text CardControl::NumberLine() const {
 
 void CardControl::Paint(Canvas& canvas, const Rect& size, double scroll) const {
   const CardLayout card = LayoutOf(size);
-  const BodyLayout body = LayoutBody(canvas, DisplayedText(), card.body);
+  const BodyLayout body = LayoutOfBody(canvas, card.body);
   PaintPaper(canvas, size);
   if (frontLines_) {
     for (const double y : RuledLines(body, card.body, scroll)) {
@@ -95,7 +116,7 @@ void CardControl::PaintBanner(Canvas& canvas, const Rect& place) const {
   TextStyle style;
   style.points = kBannerPoints;
   style.bold = true;
-  style.color = kBannerInk;
+  style.color = BannerInk(cardBanner_);
   style.alignment = Alignment::kCenter;
   // One line, however long: a banner that is too wide gets smaller.
   while (style.points > kSmallestBody && canvas.TextWidth(cardBanner_, style) > place.width) {
@@ -115,16 +136,16 @@ void CardControl::PaintNumber(Canvas& canvas, const Rect& place) const {
 void CardControl::PaintBody(Canvas& canvas, const Rect& window, const BodyLayout& body,
                             double scroll) const {
   TextStyle style = body.style;
-  style.color = kInk;
+  style.color = Hints() ? kHintInk : kInk;
   Rect place = body.place;
   place.top -= scroll;
   canvas.Clip(window);
-  canvas.DrawText(place, DisplayedText(), style);
+  canvas.DrawText(place, ShownText(), style);
   canvas.Unclip();
 }
 
 double CardControl::ScrollRange(Canvas& canvas, const Rect& size) const {
-  return LayoutBody(canvas, DisplayedText(), LayoutOf(size).body).scrollRange;
+  return LayoutOfBody(canvas, LayoutOf(size).body).scrollRange;
 }
 
 Rect CardControl::ScrollArea(const Rect& size) const {
@@ -133,7 +154,7 @@ Rect CardControl::ScrollArea(const Rect& size) const {
 
 Text CardControl::Description() const {
   Text description = frontLines_ ? u"Front" : u"Back";
-  for (const Text& part : {NumberLine(), cardBanner_, DisplayedText()}) {
+  for (const Text& part : {NumberLine(), cardBanner_, ShownText()}) {
     if (!part.empty()) description += u". " + part;
   }
   return description;

@@ -27,6 +27,9 @@ class CardControl : public PaintedControl, public CardDisplay {
   [[nodiscard]] const Text& CardText() const { return cardText_; }
   [[nodiscard]] const Text& CardNumber() const { return cardNumber_; }
   [[nodiscard]] const Text& CardTotal() const { return cardTotal_; }
+  /// What a card of a deck without cards says instead of a text, as a text that is to be shown
+  /// literally: faintly, and to a screen reader.
+  void SetHint(const Text& hint);
   /// The body as it reads: doubled ampersands single.
   [[nodiscard]] Text DisplayedText() const;
 
@@ -44,6 +47,9 @@ class CardControl : public PaintedControl, public CardDisplay {
   void PaintBanner(Canvas& canvas, const Rect& place) const;
   void PaintNumber(Canvas& canvas, const Rect& place) const;
   void PaintBody(Canvas& canvas, const Rect& window, const BodyLayout& body, double scroll) const;
+  [[nodiscard]] bool Hints() const;
+  [[nodiscard]] Text ShownText() const { return Hints() ? hint_ : DisplayedText(); }
+  [[nodiscard]] BodyLayout LayoutOfBody(Canvas& canvas, const Rect& body) const;
   [[nodiscard]] bool Yellow() const { return cardColor_ == u"A"; }
   [[nodiscard]] Text NumberLine() const;
 
@@ -54,6 +60,7 @@ class CardControl : public PaintedControl, public CardDisplay {
   Text cardText_;
   Text cardNumber_;
   Text cardTotal_;
+  Text hint_;
 };
 
 }  // namespace tessara

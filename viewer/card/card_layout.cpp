@@ -22,11 +22,8 @@ constexpr double kNumberBottom = 4;
 constexpr double kBodySizes[] = {kLargestBody, 22, 19,           16, 14, kSmallestWithWholeWords,
                                  10.5,         9,  kSmallestBody};
 
-/// The ruling is as wide as on paper: a line of text is halved or doubled until it is.
-constexpr double kNarrowRuling = 15;
-constexpr double kWideRuling = 31;
-/// Where a rule runs in a line of text, as a share of its height: just below the letters' feet.
-constexpr double kFeet = 0.86;
+/// A ruled line is a pixel high.
+constexpr double kHalfRule = 0.5;
 
 TextStyle BodyStyle(double points) {
   TextStyle style;
@@ -54,13 +51,6 @@ TextStyle StyleThatFits(Canvas& canvas, const Text& text, const Rect& body) {
   return BodyStyle(found == std::end(kBodySizes) ? kSmallestBody : *found);
 }
 
-double RulingFor(double lineHeight) {
-  double ruling = std::max(lineHeight, 1.0);
-  while (ruling > kWideRuling) ruling /= 2;
-  while (ruling < kNarrowRuling) ruling *= 2;
-  return ruling;
-}
-
 }  // namespace
 
 CardLayout LayoutOf(const Rect& card) {
@@ -77,9 +67,14 @@ CardLayout LayoutOf(const Rect& card) {
 }
 
 BodyLayout LayoutBody(Canvas& canvas, const Text& text, const Rect& body) {
+  return LayoutBody(canvas, text, body, StyleThatFits(canvas, text, body).points);
+}
+
+BodyLayout LayoutBody(Canvas& canvas, const Text& text, const Rect& body, double points) {
   BodyLayout layout;
-  layout.style = StyleThatFits(canvas, text, body);
+  layout.style = BodyStyle(points);
   layout.lineHeight = canvas.LineHeight(layout.style);
+  layout.ascent = canvas.Ascent(layout.style);
   const double height = canvas.TextHeight(text, body.width, layout.style);
   layout.place = {body.left, body.top + std::max(0.0, (body.height - height) / 2), body.width,
                   height};
@@ -88,8 +83,8 @@ BodyLayout LayoutBody(Canvas& canvas, const Text& text, const Rect& body) {
 }
 
 std::vector<double> RuledLines(const BodyLayout& layout, const Rect& body, double scroll) {
-  const double ruling = RulingFor(layout.lineHeight);
-  const double underText = layout.place.top - scroll + kFeet * layout.lineHeight;
+  const double ruling = std::max(layout.lineHeight, 1.0);
+  const double underText = layout.place.top - scroll + layout.ascent + kHalfRule;
   // The first one leaves half a space below the heading.
   const double highest = body.top + ruling / 2;
   const double first = underText + std::ceil((highest - underText) / ruling) * ruling;

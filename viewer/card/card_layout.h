@@ -22,10 +22,14 @@ inline constexpr double kSmallestBody = 8;
 /// Down to this size no word is broken: a text with a long word gets smaller instead.
 inline constexpr double kSmallestWithWholeWords = 12;
 
+/// Of a hint, and of the ruling of a card without a text.
+inline constexpr double kHintPoints = 14;
+
 /// How a text is set in the body.
 struct BodyLayout {
   TextStyle style;
   double lineHeight = 0;
+  double ascent = 0;  ///< from the top of a line to the feet of its letters
   /// Of the whole text before scrolling: in the middle of the body where it fits, else from the
   /// body's top and higher than the body.
   Rect place;
@@ -35,10 +39,13 @@ struct BodyLayout {
 /// Takes the largest size at which all of the text stands in the body; the smallest where none
 /// does.
 [[nodiscard]] BodyLayout LayoutBody(Canvas& canvas, const Text& text, const Rect& body);
+/// The same with letters of that size.
+[[nodiscard]] BodyLayout LayoutBody(Canvas& canvas, const Text& text, const Rect& body,
+                                    double points);
 
-/// Heights of the ruled lines inside the body, from its top. The text stands on them, whatever
-/// its size and however far it is scrolled: a large text on every second line, a small one with
-/// two lines between each pair.
+/// Heights of the ruled lines inside the body, from its top: their middles. They are a line of
+/// text apart, and each line of the text has its feet on one, whatever its size and however far it
+/// is scrolled.
 [[nodiscard]] std::vector<double> RuledLines(const BodyLayout& layout, const Rect& body,
                                              double scroll);
 

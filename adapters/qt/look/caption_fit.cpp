@@ -2,19 +2,52 @@
 
 #include <QFontMetricsF>
 #include <QTextLayout>
+#include <algorithm>
 #include <array>
+#include <cmath>
+
+#include "adapters/qt/text/qt_text.h"
+#include "forms/control.h"
 
 namespace tessara {
 
 namespace {
 
+/// From the top of the first line to the bottom of the last, and what of it is ink. Pixels.
+struct Heights {
+  double block;
+  double inkTop;
+  double inkBottom;
+};
+
 QSizeF SizeOf(const QString& lines, const QFont& font) {
   return QFontMetricsF(font).size(Qt::TextShowMnemonic, lines);
 }
 
-bool Fits(const FittedCaption& caption, QSizeF room) {
-  const QSizeF size = SizeOf(caption.text, caption.font);
-  return size.width() <= room.width() && size.height() <= room.height();
+Heights HeightsOf(const QString& lines, const QFont& font) {
+  const QFontMetricsF metrics(font);
+  const QString read = ToQString(PlainCaption(FromQString(lines)));
+  const QStringList parts = read.split(u'\n');
+  const double lastBaseline =
+      metrics.ascent() + metrics.lineSpacing() * static_cast<double>(parts.size() - 1);
+  return {SizeOf(lines, font).height(),
+          metrics.ascent() + metrics.tightBoundingRect(parts.front()).top(),
+          lastBaseline + metrics.tightBoundingRect(parts.back()).bottom()};
+}
+
+/// Brings the ink into the room. True where it has room.
+bool FitHeight(FittedCaption& caption, double room, CaptionPlace place) {
+  const Heights heights = HeightsOf(caption.text, caption.font);
+  const double top = place == CaptionPlace::kInMiddle ? (room - heights.block) / 2 : 0;
+  const double below = std::max(0.0, top + heights.inkBottom - room);
+  // In the middle, the style draws it.
+  if (place == CaptionPlace::kInMiddle) return below == 0 && top + heights.inkTop >= 0;
+  caption.rise = std::ceil(below);
+  return heights.inkTop >= caption.rise;
+}
+
+bool FitsOnOneLine(const QString& caption, const QFont& font, double width) {
+  return SizeOf(caption, font).width() <= width;
 }
 
 QString Wrapped(const QString& caption, const QFont& font, double width) {
@@ -33,39 +66,60 @@ QString Wrapped(const QString& caption, const QFont& font, double width) {
   return lines;
 }
 
-/// Letters of a share of the font's size, and of a width in per cent of their own.
-struct Letters {
-  double size;
-  int width;
-};
-
-/// A little narrower is hardly seen beside other captions, where a little smaller is.
-constexpr int kOwnWidth = 100;
+/// Shares of the font's size, largest first.
+constexpr std::array kSizes = {1.0, 11.0 / 12, 10.0 / 12, 9.0 / 12, 8.0 / 12};
+/// A width of letters, in per cent of their own, that is hardly seen beside other captions.
 constexpr int kNarrow = 86;
-constexpr std::array kLetters = {Letters{1, kOwnWidth},       Letters{1, kNarrow},
-                                 Letters{11.0 / 12, kNarrow}, Letters{10.0 / 12, kNarrow},
-                                 Letters{9.0 / 12, kNarrow},  Letters{8.0 / 12, kNarrow}};
 
-QFont With(const Letters& letters, const QFont& font) {
+QFont OfSize(const QFont& font, double share) {
   QFont changed(font);
-  changed.setPixelSize(qRound(font.pixelSize() * letters.size));
-  if (letters.width != kOwnWidth) changed.setStretch(letters.width);
+  changed.setPixelSize(qRound(font.pixelSize() * share));
   return changed;
 }
 
+QFont Narrowed(const QFont& font) {
+  QFont changed(font);
+  changed.setStretch(kNarrow);
+  return changed;
+}
+
+/// Makes room for captions, try by try.
+class Fitting {
+ public:
+  Fitting(const QString& caption, QSizeF room, CaptionPlace place)
+      : caption_(caption), room_(room), place_(place) {}
+
+  /// True where the caption fits in the font, on one line or wrapped.
+  bool Try(const QFont& font) {
+    return Try(caption_, font) || Try(Wrapped(caption_, font, room_.width()), font);
+  }
+  [[nodiscard]] const FittedCaption& Fitted() const { return fitted_; }
+
+ private:
+  bool Try(const QString& text, const QFont& font) {
+    fitted_ = {text, font};
+    return FitHeight(fitted_, room_.height(), place_) && FitsOnOneLine(text, font, room_.width());
+  }
+
+  const QString& caption_;
+  QSizeF room_;
+  CaptionPlace place_;
+  FittedCaption fitted_;
+};
+
 }  // namespace
 
-FittedCaption FitCaption(const QString& caption, const QFont& font, QSizeF room) {
-  FittedCaption fitted{caption, font};
-  if (Fits(fitted, room)) return fitted;
-  for (const Letters& letters : kLetters) {
-    fitted.font = With(letters, font);
-    fitted.text = caption;
-    if (Fits(fitted, room)) return fitted;
-    fitted.text = Wrapped(caption, fitted.font, room.width());
-    if (Fits(fitted, room)) return fitted;
+FittedCaption FitCaption(const QString& caption, const QFont& font, QSizeF room,
+                         CaptionPlace place) {
+  Fitting fitting(caption, room, place);
+  if (caption.isEmpty()) return {caption, font};
+  for (const double size : kSizes) {
+    const QFont own = OfSize(font, size);
+    if (fitting.Try(own)) break;
+    const bool tooWide = !FitsOnOneLine(caption, own, room.width());
+    if (tooWide && fitting.Try(Narrowed(own))) break;
   }
-  return fitted;
+  return fitting.Fitted();
 }
 
 }  // namespace tessara

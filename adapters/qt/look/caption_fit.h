@@ -6,13 +6,21 @@
 
 namespace tessara {
 
-/// A caption made to fit its control: narrower, smaller or on several lines, but whole.
+/// Where a caption stands in its room: from the top of it, or in the middle of its height.
+enum class CaptionPlace { kFromTop, kInMiddle };
+
+/// A caption made to fit its control: on several lines, narrower or smaller, but whole.
 struct FittedCaption {
   QString text;  ///< with line feeds where it wraps, accelerator marks in place
   QFont font;
+  /// How far above its place it is to be drawn, in pixels: a font with much room above its letters
+  /// and below needs not all of that.
+  double rise = 0;
 };
 
-/// `caption` holds "&" marks. `room` is what the control leaves for the text, in pixels.
-[[nodiscard]] FittedCaption FitCaption(const QString& caption, const QFont& font, QSizeF room);
+/// `caption` holds "&" marks. `room` is what the control leaves for the text, in pixels. Letters
+/// get narrower only where the width is short, and smaller only where nothing else helps.
+[[nodiscard]] FittedCaption FitCaption(const QString& caption, const QFont& font, QSizeF room,
+                                       CaptionPlace place);
 
 }  // namespace tessara

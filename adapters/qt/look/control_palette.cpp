@@ -43,7 +43,8 @@ bool IsKeptOut(const Control& control) {
   if (!control.Enabled()) return false;
   for (const Control* holder = control.Container(); holder != nullptr;
        holder = holder->Container()) {
-    if (!holder->Enabled()) return true;
+    // What can't be pressed for now looks so; what is read stays readable.
+    if (!holder->Enabled()) return control.Kind() != ControlKind::kButton;
   }
   return !control.Owner().Enabled();
 }

@@ -8,6 +8,10 @@ namespace tessara {
 PictureCache::PictureCache(QString folder, double density)
     : folder_(std::move(folder)), density_(density) {}
 
+void PictureCache::SetDensity(double density) {
+  if (std::exchange(density_, density) != density) pixmaps_.clear();
+}
+
 const QPixmap& PictureCache::PixmapOf(const Picture& picture) {
   const QString file = QString::fromStdString(picture.file);
   const auto found = pixmaps_.constFind(file);

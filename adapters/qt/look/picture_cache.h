@@ -12,8 +12,11 @@ namespace tessara {
 /// drawn for twice the size is read.
 class PictureCache {
  public:
-  /// `folder` holds the picture files; `density` is device pixels per pixel of the program.
+  /// `folder` holds the picture files; `density` is the most device pixels to one of
+  /// the program.
   PictureCache(QString folder, double density);
+  /// Where it differs, the pictures that were handed out are no more.
+  void SetDensity(double density);
   /// A null pixmap for an empty picture or a missing file.
   [[nodiscard]] const QPixmap& PixmapOf(const Picture& picture);
 

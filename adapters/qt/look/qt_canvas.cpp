@@ -96,4 +96,8 @@ double QtCanvas::LineHeight(const TextStyle& style) {
   return LaidOutText::LineHeight(style);
 }
 
+double QtCanvas::Ascent(const TextStyle& style) {
+  return LaidOutText::Ascent(style);
+}
+
 }  // namespace tessara

@@ -22,6 +22,7 @@ class QtCanvas : public Canvas {
   [[nodiscard]] double TextHeight(const Text& text, double width, const TextStyle& style) override;
   [[nodiscard]] double TextWidth(const Text& text, const TextStyle& style) override;
   [[nodiscard]] double LineHeight(const TextStyle& style) override;
+  [[nodiscard]] double Ascent(const TextStyle& style) override;
 
  private:
   [[nodiscard]] QRectF OnDevicePixels(const QRectF& rect) const;

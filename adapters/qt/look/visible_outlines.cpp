@@ -2,8 +2,11 @@
 
 #include <QApplication>
 #include <QCache>
+#include <QGroupBox>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QStyleOption>
+#include <algorithm>
 #include <utility>
 
 #include "adapters/qt/look/contrast.h"
@@ -48,6 +51,46 @@ QPalette OutliningPalette(const QPalette& palette, int darkening) {
   return outlining;
 }
 
+/// A title is white on the highlight while its window is the active one, else of the text's colour
+/// on the window's. The style makes the ground of the title lighter.
+QPalette TitlePalette(const QPalette& palette) {
+  constexpr int kLightening = 114;
+  const auto lightened = [](const QColor& color) { return color.lighter(kLightening); };
+  QPalette title = palette;
+  for (const auto group : {QPalette::Active, QPalette::Inactive, QPalette::Disabled}) {
+    const QColor highlight = palette.color(group, QPalette::Highlight);
+    const QColor window = palette.color(group, QPalette::Window);
+    const QColor text = palette.color(QPalette::Active, QPalette::WindowText);
+    title.setColor(group, QPalette::Highlight,
+                   ReadableOn(Qt::white, lightened(highlight)).darker(kLightening));
+    title.setColor(group, QPalette::Text, ReadableOn(lightened(window), text));
+  }
+  return title;
+}
+
+/// Where the style draws the frame of a group: below its title.
+QRectF GroupFrameOf(const QStyleOption& option, const QWidget* widget, const QStyle& style) {
+  constexpr int kTopMargin = 3;
+  const auto* group = qobject_cast<const QGroupBox*>(widget);
+  const bool titled = group == nullptr || !group->title().isEmpty();
+  const int indicator = style.pixelMetric(QStyle::PM_IndicatorHeight, &option, widget);
+  const int title = titled ? std::max(indicator, option.fontMetrics.height()) : 0;
+  constexpr double kHalfPen = 0.5;
+  return QRectF(option.rect.adjusted(0, title + kTopMargin, 0, 0))
+      .adjusted(kHalfPen, kHalfPen, -kHalfPen, -kHalfPen);
+}
+
+/// The style's own frame is hardly seen on a light desktop, and not at all on a black one.
+void DrawGroupFrame(const QRectF& frame, const QPalette& palette, QPainter& painter) {
+  constexpr double kCorner = 2;
+  const QColor ground = palette.color(QPalette::Window);
+  painter.save();
+  painter.setPen(ReadableOn(ground, ground, kVisibleContrast));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(frame, kCorner, kCorner);
+  painter.restore();
+}
+
 /// The same palette for the same one each time: the style keeps what it has drawn, by palette.
 class OutliningPalettes {
  public:
@@ -84,11 +127,25 @@ class OutlineStyle : public QProxyStyle {
     const auto draw = [&](const QStyleOption& drawn) {
       QProxyStyle::drawPrimitive(element, &drawn, painter, widget);
     };
+    if (element == PE_FrameGroupBox) {
+      return DrawGroupFrame(GroupFrameOf(*option, widget, *this), option->palette, *painter);
+    }
     const int darkening = DarkeningOf(element);
     const bool outlined =
         darkening != 0 && (DrawOutlined<QStyleOptionButton>(*option, darkening, palettes_, draw) ||
                            DrawOutlined<QStyleOptionFrame>(*option, darkening, palettes_, draw));
     if (!outlined) draw(*option);
+  }
+
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                          QPainter* painter, const QWidget* widget) const override {
+    const auto* title = qstyleoption_cast<const QStyleOptionTitleBar*>(option);
+    if (control != CC_TitleBar || title == nullptr) {
+      return QProxyStyle::drawComplexControl(control, option, painter, widget);
+    }
+    QStyleOptionTitleBar readable(*title);
+    readable.palette = TitlePalette(title->palette);
+    QProxyStyle::drawComplexControl(control, &readable, painter, widget);
   }
 
  private:

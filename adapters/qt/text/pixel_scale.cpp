@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QFontInfo>
+#include <QFontMetrics>
 #include <QScreen>
 #include <algorithm>
 
@@ -27,13 +28,34 @@ void SetFamily(QFont& font, TextView family) {
   if (serif) font.setStyleHint(QFont::Serif);
 }
 
+// The client area of the largest window, the deck's, in pixels of the program.
+constexpr double kLargestWidth = 474;
+constexpr double kLargestHeight = 395;
+/// What the frame's border takes, and the border of the window in it, in pixels of the desktop.
+constexpr int kBorders = 32;
+/// What stands in lines of the desktop's font: the frame's title, its menu bar, the window's title,
+/// each with some room around its letters.
+constexpr int kLines = 3;
+constexpr int kRoomOfLine = 12;
+
+/// The factor at which the largest window just stands whole on the screen.
+double MostFactor(const QFontMetrics& font, QSize screen) {
+  const int lines = kLines * (font.height() + kRoomOfLine);
+  return std::min((screen.width() - kBorders) / kLargestWidth,
+                  (screen.height() - kBorders - lines) / kLargestHeight);
+}
+
 }  // namespace
 
 PixelScale::PixelScale(const QFont& desktopFont)
     : factor_(std::max(1.0, QFontInfo(desktopFont).pixelSize() / kLargestUnscaledFont)) {}
 
+PixelScale::PixelScale(const QFont& desktopFont, QSize screen)
+    : factor_(std::max(1.0, std::min(PixelScale(desktopFont).Factor(),
+                                     MostFactor(QFontMetrics(desktopFont), screen)))) {}
+
 PixelScale PixelScale::OfDesktop() {
-  return PixelScale(QApplication::font());
+  return PixelScale(QApplication::font(), QApplication::primaryScreen()->availableSize());
 }
 
 int PixelScale::FromTwips(int twips) const {

@@ -11,11 +11,14 @@
 namespace tessara {
 
 /// From the program's twips, pixels and fonts to those of the desktop. One factor serves all: 1 up
-/// to a desktop font of 10 points, growing with the font beyond, so that nothing is clipped.
+/// to a desktop font of 10 points, growing with the font beyond, so that nothing is clipped, up to
+/// what lets the deck window stand whole on the screen.
 class PixelScale {
  public:
   explicit PixelScale(const QFont& desktopFont);
-  /// By the font that the desktop gives applications.
+  /// `screen` is what a window has of it, in pixels of the desktop.
+  PixelScale(const QFont& desktopFont, QSize screen);
+  /// By the font that the desktop gives applications, on the first screen.
   static PixelScale OfDesktop();
 
   [[nodiscard]] double Factor() const { return factor_; }

@@ -39,7 +39,8 @@ QTextOption OptionOf(const QString& text, const TextStyle& style) {
 
 LaidOutText::LaidOutText(const Text& text, double width, const TextStyle& style)
     : layout_(WithLineSeparators(text), PixelScale::CanvasFont(style)),
-      lineHeight_(LineHeight(style)) {
+      lineHeight_(LineHeight(style)),
+      ascent_(Ascent(style)) {
   layout_.setTextOption(OptionOf(layout_.text(), style));
   LayOut(width);
 }
@@ -49,7 +50,8 @@ void LaidOutText::LayOut(double width) {
   double top = 0;
   for (QTextLine line = layout_.createLine(); line.isValid(); line = layout_.createLine()) {
     line.setLineWidth(width);
-    line.setPosition({0, top});
+    // Letters of another font, as of another script, have their feet in the same place.
+    line.setPosition({0, top + ascent_ - line.ascent()});
     top += lineHeight_;
   }
   layout_.endLayout();
@@ -69,6 +71,10 @@ void LaidOutText::Draw(QPainter& painter, const QPointF& topLeft) const {
 
 double LaidOutText::LineHeight(const TextStyle& style) {
   return QFontMetricsF(PixelScale::CanvasFont(style)).lineSpacing();
+}
+
+double LaidOutText::Ascent(const TextStyle& style) {
+  return QFontMetricsF(PixelScale::CanvasFont(style)).ascent();
 }
 
 }  // namespace tessara

@@ -17,12 +17,15 @@ class LaidOutText {
   void Draw(QPainter& painter, const QPointF& topLeft) const;
 
   [[nodiscard]] static double LineHeight(const TextStyle& style);
+  /// From the top of a line to the feet of its letters.
+  [[nodiscard]] static double Ascent(const TextStyle& style);
 
  private:
   void LayOut(double width);
 
   QTextLayout layout_;
   double lineHeight_;
+  double ascent_;
 };
 
 }  // namespace tessara

@@ -12,6 +12,8 @@ namespace tessara {
 class TextMeasures {
  public:
   [[nodiscard]] double HeightOf(const Text& text, double width, const TextStyle& style);
+  /// Another font is on the desktop.
+  void Forget() { heights_.clear(); }
 
  private:
   QCache<QString, double> heights_{64};

@@ -5,4 +5,11 @@ namespace tessara {
 ButtonView::ButtonView(tessara::Button& button, QWidget& parent, const ViewContext& context)
     : CaptionView(button, parent, context, QStyle::SE_PushButtonContents) {}
 
+void ButtonView::FollowOwn(Aspect aspect) {
+  CaptionView::FollowOwn(aspect);
+  // One that is there for another mode is seen when it has something to say.
+  const auto& button = As<tessara::Button>();
+  Shown().setFlat(button.Caption().empty() && !button.Enabled());
+}
+
 }  // namespace tessara

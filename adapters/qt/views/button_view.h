@@ -13,6 +13,7 @@ class ButtonView : public CaptionView<QPushButton> {
 
  protected:
   void Press() override { As<tessara::Button>().Press(); }
+  void FollowOwn(Aspect aspect) override;
 };
 
 }  // namespace tessara

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QStyle>
 
+#include "adapters/qt/look/caption_room.h"
 #include "adapters/qt/text/qt_text.h"
 #include "adapters/qt/views/captioned_widget.h"
 #include "adapters/qt/views/control_view.h"
@@ -41,7 +42,10 @@ class CaptionView : public ControlView {
   [[nodiscard]] QSizeF CaptionRoom() const {
     QStyleOptionButton option;
     option.initFrom(&Shown());
-    return Shown().style()->subElementRect(room_, &option, &Shown()).size();
+    const QSize whole = Shown().style()->subElementRect(room_, &option, &Shown()).size();
+    const auto& control = As<CaptionedControl>();
+    const int covered = control.BoundsOf().width - UncoveredWidth(control);
+    return whole - QSize(Context().scale.FromTwips(covered), 0);
   }
 
  private:

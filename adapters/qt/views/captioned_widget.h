@@ -17,7 +17,7 @@ class CaptionedWidget : public ButtonWidget {
 
   /// `font` is the one that the caption has where it fits.
   void Fit(const QFont& font, QSizeF room) {
-    const FittedCaption fitted = FitCaption(this->text(), font, room);
+    const FittedCaption fitted = FitCaption(this->text(), font, room, CaptionPlace::kInMiddle);
     shown_ = fitted.text;
     if (this->font() != fitted.font) this->setFont(fitted.font);
     this->update();

@@ -49,6 +49,13 @@ void ControlView::Follow(Aspect aspect) {
   FollowOwn(aspect);
 }
 
+void ControlView::FollowDesktop() {
+  for (const Aspect aspect : {Aspect::kBounds, Aspect::kFont, Aspect::kColor, Aspect::kPicture}) {
+    Follow(aspect);
+  }
+  widget_.update();
+}
+
 void ControlView::FollowEnabled() {
   FollowColors();
   widget_.setEnabled(control_->Enabled());

@@ -18,6 +18,8 @@ class ControlView : public QObject {
   [[nodiscard]] QWidget& Widget() const { return widget_; }
   void FollowAll();
   void Follow(Aspect aspect);
+  /// The desktop has another palette, font or density.
+  virtual void FollowDesktop();
   /// The control is about to go.
   void Detach() { control_ = nullptr; }
 

@@ -6,6 +6,7 @@
 
 #include "adapters/qt/look/accessible_role.h"
 #include "adapters/qt/look/caption_fit.h"
+#include "adapters/qt/look/caption_room.h"
 #include "adapters/qt/look/visible_focus.h"
 #include "adapters/qt/text/qt_text.h"
 
@@ -18,9 +19,12 @@ class CaptionLabel : public QLabel {
  public:
   explicit CaptionLabel(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
 
-  void Fit(const QFont& font) {
-    const FittedCaption fitted = FitCaption(text(), font, size());
+  /// `width` is how much of the label's is the caption's.
+  void Fit(const QFont& font, int width) {
+    const QSizeF room(width, height());
+    const FittedCaption fitted = FitCaption(text(), font, room, CaptionPlace::kFromTop);
     shown_ = fitted.text;
+    rise_ = static_cast<int>(fitted.rise);
     if (this->font() != fitted.font) setFont(fitted.font);
     update();
   }
@@ -30,13 +34,15 @@ class CaptionLabel : public QLabel {
     (void)event;
     QPainter painter(this);
     const int flags = static_cast<int>(alignment()) | Qt::TextShowMnemonic;
-    style()->drawItemText(&painter, rect(), flags, palette(), isEnabled(), shown_,
-                          foregroundRole());
+    // Higher than the label: text is cut at the place that it is given.
+    const QRect place = rect().adjusted(0, -rise_, 0, height());
+    style()->drawItemText(&painter, place, flags, palette(), isEnabled(), shown_, foregroundRole());
     PaintFocus(*this, rect(), palette().color(QPalette::Window), painter);
   }
 
  private:
   QString shown_;
+  int rise_ = 0;
 };
 
 QWidget& MakeWidget(const Label& label, QWidget& parent) {
@@ -77,7 +83,9 @@ void LabelView::FollowOwn(Aspect aspect) {
 }
 
 void LabelView::FollowFont() {
-  static_cast<CaptionLabel&>(Widget()).Fit(Context().scale.ControlFont(As<Label>().FontOf()));
+  const auto& label = As<Label>();
+  static_cast<CaptionLabel&>(Widget()).Fit(Context().scale.ControlFont(label.FontOf()),
+                                           Context().scale.FromTwips(UncoveredWidth(label)));
 }
 
 }  // namespace tessara

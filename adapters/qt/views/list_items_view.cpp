@@ -45,6 +45,11 @@ void ListItemsView::FollowOwn(Aspect aspect) {
   following_ = false;
 }
 
+void ListItemsView::FollowDesktop() {
+  ControlView::FollowDesktop();
+  ShowColumns();
+}
+
 void ListItemsView::ShowColumns() {
   const auto& columns = As<ListView>().Columns();
   QStringList headings;

@@ -13,6 +13,7 @@ namespace tessara {
 class ListItemsView : public ControlView {
  public:
   ListItemsView(ListView& list, QWidget& parent, const ViewContext& context);
+  void FollowDesktop() override;
 
  protected:
   void FollowOwn(Aspect aspect) override;

@@ -79,14 +79,14 @@ bool OptionView::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::KeyPress && !Detached()) {
     const int step = StepOf(static_cast<QKeyEvent*>(event)->key());
     if (step != 0) {
-      SelectNeighbour(step);
+      GoToNeighbour(step);
       return true;
     }
   }
   return CaptionView::eventFilter(watched, event);
 }
 
-void OptionView::SelectNeighbour(int step) {
+void OptionView::GoToNeighbour(int step) {
   const auto group = ReachableGroup(As<OptionButton>());
   const auto self = std::find(group.begin(), group.end(), &As<OptionButton>());
   if (self == group.end()) return;
@@ -94,7 +94,7 @@ void OptionView::SelectNeighbour(int step) {
   OptionButton& next =
       *group[static_cast<std::size_t>((self - group.begin() + step + count) % count)];
   next.Owner().UserFocus(next);
-  next.Press();
+  if (next.ArrowsSelect()) next.Press();
 }
 
 }  // namespace tessara

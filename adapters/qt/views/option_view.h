@@ -30,7 +30,7 @@ class OptionView : public CaptionView<OptionWidget> {
 
  private:
   void MakeRoomForCaption();
-  void SelectNeighbour(int step);
+  void GoToNeighbour(int step);
 };
 
 }  // namespace tessara

@@ -33,6 +33,12 @@ void PaintedView::FollowOwn(Aspect aspect) {
   if (aspect == Aspect::kContent) ShowContent();
 }
 
+void PaintedView::FollowDesktop() {
+  measures_.Forget();
+  ControlView::FollowDesktop();
+  FitScrollBar();
+}
+
 void PaintedView::ShowContent() {
   const auto& control = As<PaintedControl>();
   for (const auto& property : control.Properties()) {

@@ -14,6 +14,7 @@ namespace tessara {
 class PaintedView : public ControlView {
  public:
   PaintedView(PaintedControl& control, QWidget& parent, const ViewContext& context);
+  void FollowDesktop() override;
 
  protected:
   void FollowOwn(Aspect aspect) override;

@@ -1,13 +1,16 @@
 #include "adapters/qt/views/text_area_view.h"
 
 #include <QApplication>
+#include <QDragEnterEvent>
 #include <QMimeData>
 #include <QStyle>
 #include <QTextBlock>
 #include <QTextLayout>
 
+#include "adapters/qt/text/dropped_file.h"
 #include "adapters/qt/text/line_breaks.h"
 #include "adapters/qt/text/text_mapping.h"
+#include "adapters/qt/views/redo_keys.h"
 
 namespace tessara {
 
@@ -16,14 +19,18 @@ namespace {
 /// What a QTextDocument leaves free at either side of its text.
 constexpr int kDocumentMargin = 4;
 
-/// Takes plain text from a clipboard and nothing else: Qt would format what is marked as Markdown,
-/// and crashes where a clipboard offers nothing. It is laid out at once: how it breaks is told
-/// first.
+/// Takes plain text from a clipboard or a drag and nothing else, no file for the text of its path:
+/// Qt would format what is marked as Markdown, and crashes where a clipboard offers nothing. It is
+/// laid out at once: how it breaks is told first.
 class PlainArea : public QPlainTextEdit {
  public:
   using QPlainTextEdit::QPlainTextEdit;
 
  protected:
+  void dragEnterEvent(QDragEnterEvent* event) override {
+    QPlainTextEdit::dragEnterEvent(event);
+    if (HoldsFiles(*event->mimeData())) event->ignore();
+  }
   void insertFromMimeData(const QMimeData* source) override {
     if (!source->hasText()) return;
     QMimeData plain;
@@ -56,6 +63,7 @@ TextAreaView::TextAreaView(TextBox& box, QWidget& parent, const ViewContext& con
                                                             : Qt::ScrollBarAlwaysOff);
   Edit().document()->setDocumentMargin(kDocumentMargin);
   Edit().setWordWrapMode(WrapModeOf({}));
+  AddRedoKeys(Edit());
   QObject::connect(&Edit(), &QPlainTextEdit::textChanged, this, [this] { PassEdit(); });
 }
 

@@ -1,15 +1,36 @@
 #include "adapters/qt/views/text_line_view.h"
 
+#include <QDragEnterEvent>
+#include <QMimeData>
 #include <algorithm>
 #include <limits>
 
+#include "adapters/qt/text/dropped_file.h"
 #include "adapters/qt/text/text_mapping.h"
+#include "adapters/qt/views/redo_keys.h"
 
 namespace tessara {
 
+namespace {
+
+/// Takes no file for the text of its path.
+class PlainLine : public QLineEdit {
+ public:
+  using QLineEdit::QLineEdit;
+
+ protected:
+  void dragEnterEvent(QDragEnterEvent* event) override {
+    QLineEdit::dragEnterEvent(event);
+    if (HoldsFiles(*event->mimeData())) event->ignore();
+  }
+};
+
+}  // namespace
+
 TextLineView::TextLineView(TextBox& box, QWidget& parent, const ViewContext& context)
-    : ControlView(box, *new QLineEdit(&parent), context) {
+    : ControlView(box, *new PlainLine(&parent), context) {
   Edit().setMaxLength(std::numeric_limits<int>::max());
+  AddRedoKeys(Edit());
   QObject::connect(&Edit(), &QLineEdit::textEdited, this, [this] { PassEdit(); });
 }
 

@@ -76,6 +76,11 @@ void ChildWindow::FollowState() {
   }
 }
 
+void ChildWindow::FollowDesktop() {
+  surface_->FollowDesktop();
+  Follow(FormAspect::kBounds);
+}
+
 void ChildWindow::ComeForward() {
   area_.setActiveSubWindow(this);
 }

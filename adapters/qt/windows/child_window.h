@@ -19,6 +19,7 @@ class ChildWindow final : public QMdiSubWindow, public FormWindow {
   [[nodiscard]] FormSurface* Surface() const override { return surface_; }
   [[nodiscard]] QWidget& Top() override { return *this; }
   void Follow(FormAspect aspect) override;
+  void FollowDesktop() override;
   void ComeForward() override;
   void Detach() override;
   void Leave() override;

@@ -70,6 +70,11 @@ void DialogWindow::FollowVisible() {
   setVisible(form_->Visible());
 }
 
+void DialogWindow::FollowDesktop() {
+  surface_->FollowDesktop();
+  FollowBounds();
+}
+
 void DialogWindow::ComeForward() {
   raise();
   activateWindow();

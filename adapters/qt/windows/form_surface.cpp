@@ -85,6 +85,12 @@ void FormSurface::FollowForm() {
   setEnabled(form_->Enabled());
 }
 
+void FormSurface::FollowDesktop() {
+  setFont(context_.scale.ControlFont({}));
+  FollowForm();
+  for (const auto& [control, view] : views_) view->FollowDesktop();
+}
+
 /// Whether a container is enabled shows in the colours of what it holds.
 void FormSurface::FollowColors() {
   for (const auto& [control, view] : views_) view->Follow(Aspect::kColor);
@@ -107,6 +113,15 @@ void FormSurface::TakeFocus() {
   if (wanted == nullptr || ViewOf(*wanted).Widget().hasFocus()) return;
   TellReading();
   ViewOf(*wanted).Widget().setFocus(Qt::OtherFocusReason);
+}
+
+/// The window may have a better place for the focus than the next control.
+bool FormSurface::focusNextPrevChild(bool next) {
+  const Control* focused = form_ == nullptr ? nullptr : form_->FocusedControl();
+  const Control* target = next && focused != nullptr ? form_->TabTarget(*focused) : nullptr;
+  if (target == nullptr) return QWidget::focusNextPrevChild(next);
+  ViewOf(*target).Widget().setFocus(Qt::TabFocusReason);
+  return true;
 }
 
 void FormSurface::Detach() {

@@ -17,6 +17,8 @@ class FormSurface : public QWidget {
   void Follow(Control& control, Aspect aspect);
   /// The form has been enabled, or disabled, or has another size.
   void FollowForm();
+  /// The desktop has another palette, font or density.
+  void FollowDesktop();
   /// Moves the focus to the control that is to have it, or to the next one that can.
   void TakeFocus();
   /// The form is about to go.
@@ -27,6 +29,7 @@ class FormSurface : public QWidget {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
+  bool focusNextPrevChild(bool next) override;
 
  private:
   void MakeViews();

@@ -18,6 +18,8 @@ class FormWindow {
   [[nodiscard]] virtual FormSurface* Surface() const = 0;
   [[nodiscard]] virtual QWidget& Top() = 0;
   virtual void Follow(FormAspect aspect) = 0;
+  /// The desktop has another palette, font or density.
+  virtual void FollowDesktop() = 0;
   virtual void ComeForward() = 0;
   /// The form has been unloaded: the window knows it no more.
   virtual void Detach() = 0;

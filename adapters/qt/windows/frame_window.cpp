@@ -2,11 +2,14 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDropEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScreen>
 
+#include "adapters/qt/text/dropped_file.h"
 #include "adapters/qt/text/qt_text.h"
 #include "forms/window_system.h"
 
@@ -25,6 +28,7 @@ FrameWindow::FrameWindow(Form& form, const ViewContext& context)
   setObjectName(QString::fromStdString(form.Name()));
   setCentralWidget(area_);
   menuBar()->setAccessibleName(QStringLiteral("Menus"));
+  setAcceptDrops(true);
   resize(OpeningSize(context.scale));
   Follow(FormAspect::kCaption);
 }
@@ -50,6 +54,10 @@ void FrameWindow::Follow(FormAspect aspect) {
     case FormAspect::kState:
       break;
   }
+}
+
+void FrameWindow::FollowDesktop() {
+  area_->viewport()->update();
 }
 
 void FrameWindow::ComeForward() {
@@ -106,6 +114,32 @@ void FrameWindow::changeEvent(QEvent* event) {
 void FrameWindow::closeEvent(QCloseEvent* event) {
   event->setAccepted(form_ == nullptr);
   if (form_ != nullptr) form_->UserClose();
+}
+
+void FrameWindow::TakeDrag(QDropEvent& event) const {
+  event.ignore();
+  const auto path = OneFileIn(*event.mimeData());
+  const bool boxOpen = QApplication::activeModalWidget() != nullptr;
+  if (!path || boxOpen || form_ == nullptr || !form_->TakesInput() || !form_->TakesFile(*path)) {
+    return;
+  }
+  event.setDropAction(Qt::CopyAction);
+  event.accept();
+}
+
+void FrameWindow::dragEnterEvent(QDragEnterEvent* event) {
+  TakeDrag(*event);
+}
+
+/// The program that the file comes from waits until this returns: what asks the user comes later.
+void FrameWindow::dropEvent(QDropEvent* event) {
+  TakeDrag(*event);
+  if (!event->isAccepted()) return;
+  const auto take = [this, path = *OneFileIn(*event->mimeData())] {
+    const bool boxOpen = QApplication::activeModalWidget() != nullptr;
+    if (form_ != nullptr && !boxOpen) form_->UserDropFile(path);
+  };
+  QMetaObject::invokeMethod(this, take, Qt::QueuedConnection);
 }
 
 }  // namespace tessara

@@ -17,6 +17,7 @@ class FrameWindow final : public QMainWindow, public FormWindow {
   [[nodiscard]] FormSurface* Surface() const override { return nullptr; }
   [[nodiscard]] QWidget& Top() override { return *this; }
   void Follow(FormAspect aspect) override;
+  void FollowDesktop() override;
   void ComeForward() override;
   void Detach() override;
   void Leave() override;
@@ -34,9 +35,13 @@ class FrameWindow final : public QMainWindow, public FormWindow {
  protected:
   void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
 
  private:
   void ClearMenuBar();
+  /// Takes what is dragged as a copy, where it is a file that the form takes.
+  void TakeDrag(QDropEvent& event) const;
 
   Form* form_;
   BackdropArea* area_;

@@ -3,13 +3,15 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <optional>
 #include <utility>
+#include <vector>
 
 #include "adapters/qt/windows/form_window.h"
 #include "adapters/qt/windows/frame_window.h"
-#include "adapters/qt/windows/menu_bar_form.h"
 #include "forms/controls.h"
 
 namespace tessara {
@@ -44,6 +46,32 @@ bool TakePage(const QKeyEvent& key, const QWidget& receiver, const Form& form) {
   Button* button = ButtonWithCaption(form, key.key() == Qt::Key_PageUp ? u"<<" : u">>");
   if (button != nullptr) button->Press();
   return button != nullptr;
+}
+
+/// Ctrl+Return is the window's; plain Return is what has the focus first of all.
+std::optional<WindowKey> WindowKeyIn(const QKeyEvent& key) {
+  const auto modifiers = key.modifiers() & ~Qt::KeypadModifier;
+  const bool isReturn = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+  if (isReturn && modifiers == Qt::ControlModifier) return WindowKey::kKeep;
+  if (modifiers != Qt::NoModifier) return std::nullopt;
+  switch (key.key()) {
+    case Qt::Key_Left:
+      return WindowKey::kLeft;
+    case Qt::Key_Right:
+      return WindowKey::kRight;
+    case Qt::Key_Space:
+      return WindowKey::kSpace;
+    default:
+      return std::nullopt;
+  }
+}
+
+MenuEntry* EntryWithKeys(const std::vector<MenuEntry*>& entries, TextView keys) {
+  for (MenuEntry* entry : entries) {
+    if (entry->Keys() == keys) return entry;
+    if (MenuEntry* below = EntryWithKeys(entry->Entries(), keys)) return below;
+  }
+  return nullptr;
 }
 
 }  // namespace
@@ -84,6 +112,7 @@ Form* Keyboard::FormFor(QWidget& receiver) const {
 bool Keyboard::Take(const QKeyEvent& key, QWidget& receiver, Form& form) {
   const char16_t letter = AcceleratorIn(key);
   if (letter != 0) return TakeAccelerator(letter, form);
+  if (TakeWindowKey(key, receiver, form)) return true;
   switch (key.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -100,6 +129,16 @@ bool Keyboard::Take(const QKeyEvent& key, QWidget& receiver, Form& form) {
     default:
       return false;
   }
+}
+
+/// A menu bar that has the focus goes by the arrow keys itself. A key held down turns no card over
+/// and back again.
+bool Keyboard::TakeWindowKey(const QKeyEvent& key, const QWidget& receiver, Form& form) {
+  const auto windowKey = WindowKeyIn(key);
+  if (!windowKey || qobject_cast<const QMenuBar*>(&receiver) != nullptr) return false;
+  const bool repeats = key.isAutoRepeat();
+  const bool pages = *windowKey == WindowKey::kLeft || *windowKey == WindowKey::kRight;
+  return (!repeats || pages) && form.UserKey(*windowKey);
 }
 
 bool Keyboard::TakeAccelerator(char16_t letter, Form& form) {
@@ -125,16 +164,12 @@ bool Keyboard::TakeClose(Form& form) {
   return true;
 }
 
+/// For the windows beside the frame too, where the menu's own keys do not reach.
 bool Keyboard::TakeHelp() {
-  const Form* form = MenuBarForm(windows_);
-  if (form == nullptr) return false;
-  for (const char* name : {"mnuHelpTopic", "mnuHelpTopics"}) {
-    if (MenuEntry* entry = form->FindMenu(name)) {
-      entry->Press();
-      return true;
-    }
-  }
-  return false;
+  const Form* form = windows_.MenuBarForm();
+  MenuEntry* entry = form == nullptr ? nullptr : EntryWithKeys(form->Menus(), u"F1");
+  if (entry != nullptr) entry->UserChoose();
+  return entry != nullptr;
 }
 
 }  // namespace tessara

@@ -31,10 +31,19 @@ QAction* MenuView::MakeMenu(MenuEntry& entry) {
   return menu->menuAction();
 }
 
+/// Qt gives an action its keys while its bar is on show, and in every window that it belongs to.
+void MenuView::GiveKeys(QAction& action, const MenuEntry& entry) {
+  if (entry.Keys().empty()) return;
+  action.setShortcut(QKeySequence(ToQString(entry.Keys()), QKeySequence::PortableText));
+  action.setAutoRepeat(false);
+  if (entry.KeysWorkAlways()) Owner().addAction(&action);
+}
+
 QAction* MenuView::MakeCommand(MenuEntry& entry) {
   // A style would write a separator's caption into its line.
   auto* action = new QAction(entry.Separator() ? QString() : ToQString(entry.Caption()), &Owner());
   action->setSeparator(entry.Separator());
+  GiveKeys(*action, entry);
   QObject::connect(action, &QAction::triggered, this, [this, &entry] { Press(entry); });
   return action;
 }
@@ -43,7 +52,7 @@ void MenuView::Press(MenuEntry& entry) {
   if (actions_.empty()) return;
   // An event that waits for a box outlives a window that goes meanwhile, and these menus with it.
   const QPointer<MenuView> here(this);
-  entry.Press();
+  entry.UserChoose();
   // A click turns a mark over; whether it stands is the form's to say.
   if (here && !actions_.empty()) Follow(entry);
 }

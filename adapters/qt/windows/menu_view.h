@@ -26,6 +26,7 @@ class MenuView : public QObject {
   QAction* Make(MenuEntry& entry);
   QAction* MakeMenu(MenuEntry& entry);
   QAction* MakeCommand(MenuEntry& entry);
+  void GiveKeys(QAction& action, const MenuEntry& entry);
   void Press(MenuEntry& entry);
   [[nodiscard]] QWidget& Owner() const;
 

@@ -1,12 +1,13 @@
 #include "adapters/qt/windows/qt_renderer.h"
 
 #include <QApplication>
+#include <QTimer>
 
 #include "adapters/qt/views/text_area_view.h"
 #include "adapters/qt/windows/child_window.h"
+#include "adapters/qt/windows/desktop_watch.h"
 #include "adapters/qt/windows/dialog_window.h"
 #include "adapters/qt/windows/frame_window.h"
-#include "adapters/qt/windows/menu_bar_form.h"
 
 namespace tessara {
 
@@ -23,12 +24,29 @@ class Following {
   int& count_;
 };
 
+/// Ends the loop once a watched widget has been painted and its window brought to the screen.
+class FirstPaint : public QObject {
+ public:
+  explicit FirstPaint(QEventLoop& loop) : loop_(loop) {}
+
+ protected:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    if (event->type() == QEvent::Paint) {
+      QMetaObject::invokeMethod(&loop_, &QEventLoop::quit, Qt::QueuedConnection);
+    }
+    return false;
+  }
+
+ private:
+  QEventLoop& loop_;
+};
+
 }  // namespace
 
 QtRenderer::QtRenderer(WindowSystem& windows, const QString& pictureFolder)
     : windows_(windows),
       scale_(PixelScale::OfDesktop()),
-      pictures_(pictureFolder, scale_.Factor() * qApp->devicePixelRatio()),
+      pictures_(pictureFolder, Density()),
       context_{scale_, pictures_},
       keyboard_(windows, [this] { return frame_; }) {
   // The program ends with its frame, whatever else is on screen.
@@ -64,7 +82,21 @@ FrameWindow& QtRenderer::MakeFrame(Form& form) {
                      const bool byUser = following_ == 0 && child != nullptr;
                      if (byUser && child->FormOf() != nullptr) child->FormOf()->UserActivate();
                    });
+  new DesktopWatch(*frame_, [this] { FollowDesktop(); });
   return *frame_;
+}
+
+/// All that is on screen follows at once: a window keeps its place in twips, and its text.
+void QtRenderer::FollowDesktop() {
+  const Following following(following_);
+  scale_ = PixelScale::OfDesktop();
+  pictures_.SetDensity(Density());
+  for (const auto& [form, window] : shown_) window->FollowDesktop();
+}
+
+/// The most pixels of a screen that a picture's pixel takes.
+double QtRenderer::Density() const {
+  return scale_.Factor() * qApp->devicePixelRatio();
 }
 
 void QtRenderer::FormChanged(Form& form, FormAspect aspect) {
@@ -122,8 +154,22 @@ void QtRenderer::FocusChanged(Form& form) {
   if (inFront && window->Surface() != nullptr) window->Surface()->TakeFocus();
 }
 
+void QtRenderer::WaitUntilSeen(Form& form) {
+  constexpr int kLongestWait = 200;  // milliseconds
+  FormWindow* window = WindowOf(form);
+  if (window == nullptr) return;
+  QEventLoop loop;
+  FirstPaint paint(loop);
+  // What is covered whole by what it holds is not painted itself.
+  window->Top().installEventFilter(&paint);
+  for (QWidget* part : window->Top().findChildren<QWidget*>()) part->installEventFilter(&paint);
+  QTimer::singleShot(kLongestWait, &loop, &QEventLoop::quit);
+  loop.exec(QEventLoop::ExcludeUserInputEvents);
+  QGuiApplication::sync();
+}
+
 void QtRenderer::ShowMenus() {
-  Form* form = MenuBarForm(windows_);
+  Form* form = windows_.MenuBarForm();
   if (frame_ != nullptr && form != nullptr && WindowOf(*form) != nullptr) {
     frame_->ShowMenus(MenusOf(*form));
   }

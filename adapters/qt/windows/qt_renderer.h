@@ -28,6 +28,7 @@ class QtRenderer : public Renderer {
   void MenuChanged(MenuEntry& entry) override;
   void ActiveFormChanged(Form* form) override;
   void FocusChanged(Form& form) override;
+  void WaitUntilSeen(Form& form) override;
   void RunModal(Form& form) override;
   int LineCount(const TextBox& box) override;
   int FrameScaleWidth() override;
@@ -38,11 +39,13 @@ class QtRenderer : public Renderer {
   [[nodiscard]] FormWindow* WindowOf(const Form& form) const;
   FormWindow& Make(Form& form);
   FrameWindow& MakeFrame(Form& form);
+  void FollowDesktop();
   void ShowMenus();
   MenuView& MenusOf(Form& form);
   void DropMenusOf(const Form& form);
   void QuitModal(const Form& form);
   [[nodiscard]] QSize FrameClient() const;
+  [[nodiscard]] double Density() const;
 
   WindowSystem& windows_;
   PixelScale scale_;

@@ -336,4 +336,40 @@ TEST_CASE("an answer line is one line and takes 48 characters") {
   CHECK(window.answers[0].TextOf() == Text(48, u'x'));
 }
 
+TEST_CASE("Tab leaves the last open answer line for the first mark that can be set") {
+  struct Case {
+    std::vector<Text> lines;
+    int emptied = -1;
+    int from = 0;
+    int target = -1;  ///< the mark; -1 for the next control
+  };
+  const Case cases[] = {
+      {{}, -1, 0, -1},                        // no mark can be set
+      {{u"a"}, -1, 0, -1},                    // line B is next
+      {{u"a"}, -1, 1, 0},                     // line B is the last
+      {{u"a", u"b", u"c", u"d"}, -1, 2, -1},  //
+      {{u"a", u"b", u"c", u"d"}, -1, 3, 0},   //
+      {{u"a", u"b", u"c", u"d"}, 3, 2, 0},    // line D has closed itself
+  };
+  for (const Case& c : cases) {
+    CAPTURE(c.from);
+    BuilderDesk desk;
+    QuestionBuilder& window = desk.OpenQuestion();
+    Fill(window, c.lines);
+    if (c.emptied >= 0) Replace(window.answers[c.emptied], u"");
+    const Control* target = window.TabTarget(window.answers[c.from]);
+    CHECK(target == (c.target < 0 ? nullptr : &window.marks[c.target]));
+  }
+}
+
+TEST_CASE("with a mark set, or in the other layout, Tab goes to the next control") {
+  BuilderDesk desk;
+  QuestionBuilder& window = desk.OpenQuestion();
+  Fill(window, {u"a"});
+  REQUIRE(window.TabTarget(window.answers[1]) != nullptr);
+  window.marks[0].Press();
+  CHECK(window.TabTarget(window.answers[1]) == nullptr);
+  CHECK(window.TabTarget(window.question) == nullptr);
+}
+
 }  // namespace tessara::test

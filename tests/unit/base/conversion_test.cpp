@@ -128,8 +128,15 @@ TEST_CASE("percentages print whole, a half rounded up") {
     double value;
     TextView text;
   };
-  const Case cases[] = {{0, u"0"},     {12.5, u"13"},  {200.0 / 3, u"67"}, {100.0 / 3, u"33"},
-                        {100, u"100"}, {99.5, u"100"}, {0.4, u"0"}};
+  const Case cases[] = {{0, u"0"},
+                        {12.5, u"13"},
+                        {200.0 / 3, u"67"},
+                        {100.0 / 3, u"33"},
+                        {100, u"100"},
+                        {99.5, u"100"},
+                        {0.4, u"0"},
+                        {23.0 / 40 * 100, u"58"},
+                        {57.4999999999999, u"57"}};
   for (const Case& c : cases) CHECK(WholeNumberText(c.value) == c.text);
 }
 

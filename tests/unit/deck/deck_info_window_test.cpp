@@ -227,4 +227,49 @@ TEST_CASE("the window comes on screen when a save loads it") {
   CHECK(desk.state.deck.changed);
 }
 
+TEST_CASE("brought up by a save, the window stands beside the deck where the frame has room") {
+  struct Case {
+    int frameWidth, frameHeight;  ///< client area
+    int deckLeft, deckTop;
+    int left, top;
+  };
+  const Case cases[] = {
+      {20490, 12000, 4000, 300, 4000 + 7230, 300},  // right of it
+      {20490, 12000, 9000, 300, 9000 - 6270, 300},  // left
+      {9000, 12000, 500, 300, 500, 300 + 6315},     // below
+      {9000, 12000, 500, 5000, 500, 5000 - 4650},   // above
+      {12000, 9000, 2385, 1342, 0, 0},              // no room
+  };
+  for (const Case& c : cases) {
+    InfoDesk desk;
+    desk.frame.width = c.frameWidth + 120;
+    desk.frame.height = c.frameHeight + 390;
+    desk.deck->SetLeft(c.deckLeft);
+    desk.deck->SetTop(c.deckTop);
+    desk.info.Loaded();
+    CHECK(desk.info->Visible());
+    CHECK(desk.info->Left() == c.left);
+    CHECK(desk.info->Top() == c.top);
+  }
+}
+
+TEST_CASE("the menu's command brings the window up in the middle of the frame") {
+  InfoDesk desk;
+  desk.frame.width = 30000;
+  desk.OpenInfo();
+  CHECK(desk.info->Left() == (desk.frame.ScaleWidth() - 6270) / 2);
+}
+
+TEST_CASE("Escape closes the window as its button does") {
+  InfoDesk desk;
+  desk.OpenInfo();
+  desk.Type(kTitleField, u"x");
+  desk.fakes.messages.answers = {MessageAnswer::kYes, MessageAnswer::kNo};
+  CHECK(desk.info->UserEscape());
+  CHECK(desk.info.IsLoaded());
+  CHECK(desk.info->UserEscape());
+  CHECK_FALSE(desk.info.IsLoaded());
+  CHECK(desk.fakes.messages.Take() == Boxes{kReturnBox, kReturnBox});
+}
+
 }  // namespace tessara::test

@@ -163,6 +163,7 @@ TEST_CASE("the splash is shown for 5000 yields where its setting is numerically 
     desk.Start();
     CHECK(desk.fakes.desktop.yields == c.yields);
     CHECK(yieldsWithSplash == c.yields);
+    CHECK(desk.renderer.seen.size() == (c.yields > 0 ? 1U : 0U));
     for (const Form* form : desk.program.Windows().LoadedForms()) CHECK(form->Name() != "Splash");
   }
 }

@@ -118,7 +118,8 @@ TEST_CASE("percentages are whole, a half rounded up") {
     int cards;
     TextView text;
   };
-  const Case cases[] = {{2, 3, u"67"}, {1, 3, u"33"}, {0, 4, u"0"}, {1, 8, u"13"}, {5, 5, u"100"}};
+  const Case cases[] = {{2, 3, u"67"}, {1, 3, u"33"},  {0, 4, u"0"},
+                        {1, 8, u"13"}, {5, 5, u"100"}, {23, 40, u"58"}};
   for (const Case& c : cases) {
     DeckDesk desk;
     for (int card = 0; card < c.cards; ++card) desk.AddTrueFalse(u"?", u"T");

@@ -37,6 +37,16 @@ TEST_CASE("the desktop entry opens one file and names the deck type") {
   CHECK(entry.find("Icon=tessara\n") != std::string::npos);
 }
 
+TEST_CASE("the desktop entry vanishes with its program, whatever the path of that") {
+  for (const auto& [path, value] :
+       {std::pair{"/opt/tessara/tessara", "/opt/tessara/tessara"},
+        std::pair{"/my decks/t", "/my decks/t"}, std::pair{"/a\\b/t", R"(/a\\b/t)"},
+        std::pair{"/a\nTerminal=true\r\t/t", R"(/a\nTerminal=true\r\t/t)"}}) {
+    const std::string entry = DesktopEntry({"*.tsr", "Tessara File", path});
+    CHECK(entry.find(std::string("\nTryExec=") + value + "\n") != std::string::npos);
+  }
+}
+
 TEST_CASE("the MIME package escapes what it is told") {
   const std::string package = MimePackage({"*.t&r", "A <b> \"deck\"", "/t"});
   CHECK(package.find("<comment>A &lt;b> &quot;deck&quot;</comment>") != std::string::npos);

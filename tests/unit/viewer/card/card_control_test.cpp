@@ -199,4 +199,43 @@ TEST_CASE("the seven properties can be read by name") {
   CHECK(values == expected);
 }
 
+TEST_CASE("a right answer is told in green and a wrong one in red, and both read well") {
+  for (const TextView paper : {u"Q", u"A"}) {
+    for (const bool right : {true, false}) {
+      CardControl card{"NoteletCtl1"};
+      card.SetCardColor(Text(paper));
+      card.SetCardBanner(right ? u"CORRECT" : u"WRONG");
+      const FakeCanvas canvas = Painted(card);
+      const Color ink = FindText(canvas, card.CardBanner())->style.color;
+      CHECK(Contrast(ink, canvas.fills.at(0).color) >= 4.5);
+      CHECK(Reddish(ink) == !right);
+      CHECK((ink.green > ink.red + 40 && ink.green > ink.blue + 40) == right);
+    }
+  }
+}
+
+TEST_CASE("a deck without cards shows a faint hint, which is no text of the card") {
+  CardControl card{"NoteletCtl1"};
+  const Text hint = u"File > Create/Edit Card";
+  card.SetHint(hint);
+  CHECK_FALSE(Shows(card, hint));
+  card.SetCardTotal(u"0");
+  for (const TextView paper : {u"Q", u"A"}) {
+    card.SetCardColor(Text(paper));
+    const FakeCanvas canvas = Painted(card);
+    const auto* drawn = FindText(canvas, hint);
+    REQUIRE(drawn != nullptr);
+    CHECK(Contrast(drawn->style.color, canvas.fills.at(0).color) >= 4.5);
+    CHECK(Contrast(drawn->style.color, canvas.fills.at(0).color) < 6);
+  }
+  CHECK(card.CardText().empty());
+  CHECK(card.Description() == u"Front. 0 cards. " + hint);
+  card.SetCardText(u"front");
+  CHECK_FALSE(Shows(card, hint));
+  card.SetCardText(u"");
+  card.SetCardTotal(u"1");
+  CHECK_FALSE(Shows(card, hint));
+  CHECK(card.Description() == u"Front. 1 cards");
+}
+
 }  // namespace tessara::test

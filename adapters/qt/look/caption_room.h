@@ -1,0 +1,11 @@
+#pragma once
+
+#include "forms/control.h"
+
+namespace tessara {
+
+/// How much of the control's width no control in front of it covers, in twips from its left edge,
+/// at half its height: a caption that goes on would be cut there.
+[[nodiscard]] int UncoveredWidth(const Control& control);
+
+}  // namespace tessara

@@ -1,0 +1,110 @@
+#include "adapters/qt/look/caption_fit.h"
+
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <QLabel>
+#include <doctest/doctest.h>
+
+#include "adapters/qt/text/pixel_scale.h"
+#include "tests/desktop/desktop_font.h"
+#include "tests/desktop/program_on_screen.h"
+#include "tests/support/deck_bytes.h"
+
+using namespace tessara;
+using namespace tessara::test;
+
+namespace {
+
+constexpr int kOwnWidth = 100;
+
+QFont FontOf(const char* family, int pixels) {
+  QFont font(QString::fromLatin1(family));
+  font.setPixelSize(pixels);
+  return font;
+}
+
+QSizeF SizeOf(const QString& caption, const QFont& font) {
+  return QFontMetricsF(font).size(Qt::TextShowMnemonic, caption);
+}
+
+bool IsNarrowed(const QFont& font) {
+  return font.stretch() != QFont::AnyStretch && font.stretch() < kOwnWidth;
+}
+
+/// The label stands at its full size on one line.
+void CheckFullSize(const QLabel& label, double points) {
+  const Font designed{u"", points};
+  CHECK(label.font().pixelSize() == PixelScale::OfDesktop().ControlFont(designed).pixelSize());
+  CHECK_FALSE(IsNarrowed(label.font()));
+}
+
+}  // namespace
+
+TEST_CASE("Each face that captions are tried in is there") {
+  for (const char* family : kFaces) CHECK(QFontInfo(QFont(family)).family() == family);
+}
+
+TEST_CASE("Letters get narrower only where the width is short, smaller where that does not do") {
+  const QString caption = "Show the back";
+  for (const char* family : kFaces) {
+    CAPTURE(family);
+    const QFont font = FontOf(family, 12);
+    const QSizeF whole = SizeOf(caption, font);
+    const auto fit = [&](double width, double height) {
+      return FitCaption(caption, font, {whole.width() * width, whole.height() * height},
+                        CaptionPlace::kFromTop);
+    };
+    CHECK(fit(1, 1).font == font);
+    const FittedCaption narrowed = fit(0.95, 1);
+    CHECK(narrowed.text == caption);
+    CHECK(IsNarrowed(narrowed.font));
+    CHECK(narrowed.font.pixelSize() == 12);
+    CHECK(fit(0.8, 1).font.pixelSize() < 12);
+    const FittedCaption low = fit(1, 0.6);
+    CHECK_FALSE(IsNarrowed(low.font));
+    CHECK(low.font.pixelSize() < 12);
+    const FittedCaption wrapped = fit(0.8, 2);
+    CHECK(wrapped.font == font);
+    CHECK(wrapped.text.contains(u'\n'));
+  }
+}
+
+TEST_CASE("A line that is a little too high for its room is drawn higher, its ink whole") {
+  const QString caption = "Typing";
+  for (const char* family : kFaces) {
+    CAPTURE(family);
+    const QFont font = FontOf(family, 14);
+    const QFontMetricsF metrics(font);
+    const QRectF ink = metrics.tightBoundingRect(caption);
+    for (const double room : {ink.height() + 1, ink.height() + 2, metrics.height()}) {
+      CAPTURE(room);
+      const FittedCaption fitted = FitCaption(caption, font, {200, room}, CaptionPlace::kFromTop);
+      CHECK(fitted.font == font);
+      CHECK(metrics.ascent() + ink.top() - fitted.rise >= 0);
+      CHECK(metrics.ascent() + ink.bottom() - fitted.rise <= room);
+      if (room == metrics.height()) CHECK(fitted.rise == 0);
+    }
+  }
+}
+
+TEST_CASE("The answer card and the title of the About box stand at their full size in each face") {
+  constexpr int kPoints[] = {10, 18};
+  for (const char* family : kFaces) {
+    for (const int points : kPoints) {
+      CAPTURE(family);
+      CAPTURE(points);
+      const DesktopFont desktopFont(family, points);
+      ProgramOnScreen desk;
+      desk.folder.Write(
+          "one.tsr",
+          InfoBytes({}) +
+              QuestionBytes('M', u"question", 1, {u"\u00C9lectron (gypsy)", u"", u"", u""}, 'A') +
+              EndBytes());
+      desk.Start(u"one.tsr");
+      CheckFullSize(ProgramOnScreen::Of<QLabel>("Label2"), 9.75);
+      desk.program.FrameWindow()->ShowAbout();
+      ProgramOnScreen::Settle();
+      CheckFullSize(ProgramOnScreen::Of<QLabel>("Label1(0)", "frmAbout"), 15.75);
+    }
+  }
+}
