@@ -41,7 +41,9 @@ class Hand {
       ProgramOnScreen::Key(Qt::Key_Tab);
     }
     REQUIRE(ProgramOnScreen::Focus() == control);
-    ProgramOnScreen::Key(Qt::Key_Space);
+    // A blank turns the card, also from here.
+    const bool pages = std::string(control) == "cmdMove(1)";
+    ProgramOnScreen::Key(pages ? Qt::Key_Right : Qt::Key_Space);
   }
 
  private:
