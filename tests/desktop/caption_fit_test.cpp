@@ -41,12 +41,12 @@ void CheckFullSize(const QLabel& label, double points) {
 }  // namespace
 
 TEST_CASE("Each face that captions are tried in is there") {
-  for (const char* family : kFaces) CHECK(QFontInfo(QFont(family)).family() == family);
+  for (const char* family : Faces()) CHECK(QFontInfo(QFont(family)).family() == family);
 }
 
 TEST_CASE("Letters get narrower only where the width is short, smaller where that does not do") {
   const QString caption = "Show the back";
-  for (const char* family : kFaces) {
+  for (const char* family : Faces()) {
     CAPTURE(family);
     const QFont font = FontOf(family, 12);
     const QSizeF whole = SizeOf(caption, font);
@@ -71,7 +71,7 @@ TEST_CASE("Letters get narrower only where the width is short, smaller where tha
 
 TEST_CASE("A line that is a little too high for its room is drawn higher, its ink whole") {
   const QString caption = "Typing";
-  for (const char* family : kFaces) {
+  for (const char* family : Faces()) {
     CAPTURE(family);
     const QFont font = FontOf(family, 14);
     const QFontMetricsF metrics(font);
@@ -89,7 +89,7 @@ TEST_CASE("A line that is a little too high for its room is drawn higher, its in
 
 TEST_CASE("The answer card and the title of the About box stand at their full size in each face") {
   constexpr int kPoints[] = {10, 18};
-  for (const char* family : kFaces) {
+  for (const char* family : Faces()) {
     for (const int points : kPoints) {
       CAPTURE(family);
       CAPTURE(points);

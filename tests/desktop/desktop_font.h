@@ -2,6 +2,9 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QFontDatabase>
+#include <iterator>
+#include <vector>
 
 namespace tessara::test {
 
@@ -32,5 +35,19 @@ class DesktopFont {
 /// The faces that the desktops of Debian come with.
 inline const char* const kFaces[] = {"DejaVu Sans", "Liberation Sans", "Noto Sans", "Cantarell",
                                      "Inter"};
+
+/// All sizes take a while, and need every face: scripts/check_captions.sh asks for them.
+inline bool TriesAllFonts() {
+  return qEnvironmentVariableIsSet("TESSARA_ALL_FONTS");
+}
+
+/// Those of the faces that this machine has; all of them where all fonts are to be tried.
+inline std::vector<const char*> Faces() {
+  std::vector<const char*> faces(std::begin(kFaces), std::end(kFaces));
+  std::erase_if(faces, [](const char* face) {
+    return !TriesAllFonts() && !QFontDatabase::hasFamily(QString::fromLatin1(face));
+  });
+  return faces;
+}
 
 }  // namespace tessara::test

@@ -122,6 +122,17 @@ class OutlineStyle : public QProxyStyle {
  public:
   using QProxyStyle::QProxyStyle;
 
+  /// What is off is pale, and not lost in its ground, as a black one makes it.
+  void polish(QPalette& palette) override {
+    QProxyStyle::polish(palette);
+    const QColor ground = palette.color(QPalette::Active, QPalette::Window);
+    for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text}) {
+      const QColor pale = palette.color(QPalette::Disabled, role);
+      palette.setColor(QPalette::Disabled, role, ReadableOn(ground, pale, kVisibleContrast));
+    }
+  }
+  using QProxyStyle::polish;
+
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override {
     const auto draw = [&](const QStyleOption& drawn) {
