@@ -28,15 +28,6 @@ void StoreRecord(DeckRecord&& record, ProgramState& state) {
   state.deck.cardPresent.Set(record.number, 1);
 }
 
-/// A record that was cut off behind its number counts: blanks take the place of what is missing.
-std::optional<DeckRecord> ReadRecord(FileNumber& file, const CodePage& codePage) {
-  RecordBytes bytes;
-  const std::size_t count = file.GetNext(bytes);
-  if (count < kLeastRecord) return std::nullopt;
-  std::fill(bytes.begin() + count, bytes.end(), kBlank);
-  return DecodeRecord(bytes, codePage);
-}
-
 void ReadRecords(FileNumber& file, ProgramState& state, const CodePage& codePage) {
   while (std::optional<DeckRecord> record = ReadRecord(file, codePage)) {
     if (IsType(record->cardType, CardType::kTerminator) || state.deck.cardCount == kMostCards)
@@ -56,6 +47,14 @@ void TakeDeckStrings(ProgramState& state) {
 }
 
 }  // namespace
+
+std::optional<DeckRecord> ReadRecord(FileNumber& file, const CodePage& codePage) {
+  RecordBytes bytes;
+  const std::size_t count = file.GetNext(bytes);
+  if (count < kLeastRecord) return std::nullopt;
+  std::fill(bytes.begin() + count, bytes.end(), kBlank);
+  return DecodeRecord(bytes, codePage);
+}
 
 DeckRecord RecordOfRow(const ProgramState& state, int row) {
   const bool present = state.deck.cardPresent.At(row) != 0;

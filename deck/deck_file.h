@@ -1,11 +1,17 @@
 #pragma once
 
+#include <optional>
+
 #include "base/code_page.h"
 #include "deck/deck_record.h"
 #include "deck/file_number.h"
 #include "deck/program_state.h"
 
 namespace tessara {
+
+/// The next record of the open file; nothing at its end. One that was cut off behind its number
+/// counts: blanks take the place of what is missing.
+[[nodiscard]] std::optional<DeckRecord> ReadRecord(FileNumber& file, const CodePage& codePage);
 
 /// The record of a row; the row behind the last card gives the terminator.
 [[nodiscard]] DeckRecord RecordOfRow(const ProgramState& state, int row);

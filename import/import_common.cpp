@@ -2,6 +2,7 @@
 
 #include "deck/card_type.h"
 #include "deck/date_text.h"
+#include "import/import_boxes.h"
 
 namespace tessara {
 
@@ -10,7 +11,9 @@ namespace {
 bool ReadCards(const Text& fileName, const ImportContext& context, CardsReader readCards) {
   context.fileNumber.OpenInput(fileName);
   LineReader lines(context.fileNumber, context.codePage);
-  const bool good = readCards(lines, context);
+  ImportBoxes boxes(context);
+  CardsReading reading(lines, context.state, boxes);
+  const bool good = readCards(reading);
   // An error that the reader does not foresee leaves the file open.
   context.fileNumber.Close();
   return good;
@@ -33,8 +36,10 @@ Text BoundedText(TextView text) {
   return Text(text.substr(0, kLongestImportedText));
 }
 
-void AddBounded(Text& text, TextView line) {
-  text += line.substr(0, kLongestImportedText - text.size());
+bool AddBounded(Text& text, TextView line) {
+  const std::size_t room = kLongestImportedText - text.size();
+  text += line.substr(0, room);
+  return line.size() <= room;
 }
 
 void ShowImportedDeck(DeckKind kind, const ImportContext& context) {
@@ -82,22 +87,6 @@ void ImportErrorBox(const RunTimeError& error, const ImportContext& context) {
 
 void ShowErrorInFile(const Text& text, MessageBoxes& messages) {
   messages.Show(text, kStopIcon, u"Error In Import File");
-}
-
-bool CheckCardSequence(std::int16_t card, std::int16_t previous, MessageBoxes& messages) {
-  if (card == 0 || (card > 1 && previous == 0)) {
-    ShowErrorInFile(
-        u"First card is equal to 0 or is greater than \" 1 \". Import has been cancelled.",
-        messages);
-    return false;
-  }
-  if (previous >= card || card >= previous + 2) {
-    ShowErrorInFile(u"A sequence error has occured after \"card # " + DecimalText(previous) +
-                        u"\". Import has been cancelled.",
-                    messages);
-    return false;
-  }
-  return true;
 }
 
 }  // namespace tessara

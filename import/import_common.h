@@ -8,7 +8,7 @@
 #include "base/text.h"
 #include "deck/file_number.h"
 #include "deck/program_state.h"
-#include "import/line_reader.h"
+#include "import/cards_reading.h"
 #include "machine/clock.h"
 #include "machine/message_box.h"
 
@@ -27,10 +27,6 @@ struct ImportContext {
   std::function<void(DeckKind)> showDeck;
 };
 
-/// Reads lines to the end of the cards. False where the file has an error, which has been told.
-/// Raises run-time errors for what it does not foresee.
-using CardsReader = bool (*)(LineReader& lines, const ImportContext& context);
-
 /// Opens the file, reads its cards, closes it; tells where there are none, and abandons the import
 /// where the file has an error. True where the import is to end well, be it with an empty table.
 [[nodiscard]] bool ReadImportFile(const Text& fileName, const ImportContext& context,
@@ -41,8 +37,8 @@ using CardsReader = bool (*)(LineReader& lines, const ImportContext& context);
 inline constexpr std::size_t kLongestImportedText = 0x40000;
 /// The text, up to that bound.
 [[nodiscard]] Text BoundedText(TextView text);
-/// Adds a line to a text, up to that bound.
-void AddBounded(Text& text, TextView line);
+/// Adds a line to a text, up to that bound. False where the line was cut.
+bool AddBounded(Text& text, TextView line);
 
 /// Shows the deck that has been read, at card 1.
 void ShowImportedDeck(DeckKind kind, const ImportContext& context);
@@ -59,9 +55,5 @@ void ImportErrorBox(const RunTimeError& error, const ImportContext& context);
 
 /// Tells an error in the file.
 void ShowErrorInFile(const Text& text, MessageBoxes& messages);
-
-/// True where the card may follow the last finished one, else tells that it may not.
-[[nodiscard]] bool CheckCardSequence(std::int16_t card, std::int16_t previous,
-                                     MessageBoxes& messages);
 
 }  // namespace tessara

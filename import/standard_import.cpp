@@ -11,8 +11,7 @@ namespace {
 /// Takes the lines of a file one by one; a line lies in the state's ImportLine.
 class StandardReader {
  public:
-  explicit StandardReader(const ImportContext& context)
-      : state_(context.state), context_(context) {}
+  explicit StandardReader(CardsReading& reading) : state_(reading.State()), reading_(reading) {}
 
   /// False where the line is an error, which has been told.
   bool TakeLine() {
@@ -26,9 +25,29 @@ class StandardReader {
     return true;
   }
 
+  /// Makes the line's card the next in sequence, where the line begins one.
+  bool ResumesAtCard() {
+    const TextView line = state_.import.line;
+    if (!IsCardNumberLine(line) || !IsNumberOfCard(NumberOf(line))) return false;
+    state_.import.previousStandardCard = static_cast<std::int16_t>(NumberOfLine(line) - 1);
+    LeaveCard();
+    return true;
+  }
+
+  /// Drops the card that an error stands in.
+  void LeaveCard() {
+    ForgetTexts();
+    state_.import.standardCard = state_.import.previousStandardCard;
+  }
+
   /// Stores a card that the file ends in; its front must have been begun, its back need not.
   void FinishLastCard() {
-    if (!seenFront_) return;
+    const std::int16_t card = state_.import.standardCard;
+    if (!seenFront_) {
+      if (card != state_.import.previousStandardCard) reading_.Meet(ImportEvent::kEmptyCard, card);
+      return;
+    }
+    if (!seenBack_) reading_.Meet(ImportEvent::kNoBack, card);
     StoreCard();
     state_.import.standardCard = 0;
   }
@@ -37,27 +56,29 @@ class StandardReader {
   enum class Side { kNone, kFront, kBack };
 
   bool TakeNumberLine() {
-    const TextView line = state_.import.line;
-    state_.import.standardCard = IntegerOf(line.substr(0, line.size() - 1));
-    if (!CheckStdSequence(state_.import.standardCard, state_.import.previousStandardCard,
-                          context_.messages)) {
-      return false;
-    }
-    state_.deck.cardCount = state_.import.standardCard;
-    context_.setCardTotal(state_.deck.cardCount);
+    const std::int16_t before = state_.import.standardCard;
+    const std::int16_t previous = state_.import.previousStandardCard;
+    const std::int16_t card = NumberOfLine(state_.import.line);
+    state_.import.standardCard = card;
+    if (!CheckCardSequence(card, previous, reading_)) return false;
+    if (card == before) reading_.Meet(ImportEvent::kNumberRepeated, card);
+    state_.deck.cardCount = card;
+    reading_.MeetCard(card);
     return true;
   }
 
+  static std::int16_t NumberOfLine(TextView line) {
+    return IntegerOf(line.substr(0, line.size() - 1));
+  }
+
   bool RefuseLineOutsideCard() {
-    ShowErrorInFile(u"Error occurred after card # " + DecimalText(state_.import.standardCard) +
-                        u". Import aborted.",
-                    context_.messages);
+    reading_.Meet(ImportEvent::kLineOutsideCard, state_.import.standardCard);
     return false;
   }
 
   bool TakeTag() {
-    const bool front = IsWord(state_.import.line, u"*>F");
-    const bool back = IsWord(state_.import.line, u"*>B");
+    const bool front = IsWord(state_.import.line, kFrontTag);
+    const bool back = IsWord(state_.import.line, kBackTag);
     seenFront_ = seenFront_ || front;
     seenBack_ = seenBack_ || back;
     if (front) side_ = Side::kFront;
@@ -66,15 +87,15 @@ class StandardReader {
   }
 
   void AddText() {
-    if (side_ == Side::kFront) AddBounded(front_, state_.import.line);
-    if (side_ == Side::kBack) AddBounded(back_, state_.import.line);
+    const std::int16_t card = state_.import.standardCard;
+    if (side_ == Side::kNone) return reading_.Meet(ImportEvent::kTextBeforeTag, card);
+    Text& text = side_ == Side::kFront ? front_ : back_;
+    if (!AddBounded(text, state_.import.line)) reading_.Meet(ImportEvent::kTextTooLong, card);
   }
 
   bool FinishCard() {
     if (!seenFront_ || !seenBack_) {
-      ShowErrorInFile(u"Error at card # " + DecimalText(state_.import.standardCard) +
-                          u" in import file. Import has been cancelled.",
-                      context_.messages);
+      reading_.Meet(ImportEvent::kSideMissing, state_.import.standardCard);
       return false;
     }
     StoreCard();
@@ -84,6 +105,10 @@ class StandardReader {
 
   void StoreCard() {
     StoreStdCard(state_.import.standardCard, front_, back_, state_);
+    ForgetTexts();
+  }
+
+  void ForgetTexts() {
     front_.clear();
     back_.clear();
     seenFront_ = false;
@@ -91,7 +116,7 @@ class StandardReader {
   }
 
   ProgramState& state_;
-  const ImportContext& context_;
+  CardsReading& reading_;
   Side side_ = Side::kNone;  ///< survives the end of a card
   // Of the card being read.
   bool seenFront_ = false;
@@ -100,20 +125,51 @@ class StandardReader {
   Text back_;
 };
 
+/// For a listener that wants to know what follows, a run-time error is a line that fails.
+bool TakeLineOrMeet(StandardReader& reader, CardsReading& reading) {
+  try {
+    return reader.TakeLine();
+  } catch (const RunTimeError&) {
+    if (!reading.GoesOn()) throw;
+    reading.Meet(ImportEvent::kUnforeseen, reading.State().import.standardCard);
+    return false;
+  }
+}
+
+/// Only a listener that goes on is interested in what stands behind the end.
+void LeaveRest(CardsReading& reading) {
+  const std::int16_t card = reading.State().deck.cardCount;
+  if (reading.GoesOn() && reading.FindText()) reading.Meet(ImportEvent::kBehindEnd, card);
+}
+
 /// Takes lines up to the end line, the end of the file, the card behind a full deck, or an error:
 /// false.
-bool TakeLines(LineReader& lines, StandardReader& reader, ProgramState& state) {
-  while (!lines.AtEnd()) {
+bool TakeLines(CardsReading& reading, StandardReader& reader) {
+  ProgramState& state = reading.State();
+  bool good = true;
+  bool searching = false;
+  while (!reading.AtEnd()) {
     if (state.deck.cardCount == kMostCards + 1) {
       state.deck.cardCount = kMostCards;
-      return true;
+      reading.Meet(ImportEvent::kDeckFull, kMostCards);
+      break;
     }
-    // Swapped, so that the memory of a long line goes with it.
-    lines.ReadLine().swap(state.import.line);
-    if (IsWord(state.import.line, u"*END*")) return true;
-    if (!IsTypeLine(state.import.line) && !reader.TakeLine()) return false;
+    reading.NextLine();
+    if (IsWord(state.import.line, kEndWord)) {
+      LeaveRest(reading);
+      break;
+    }
+    if (IsTypeLine(state.import.line)) {
+      reading.MeetTypeLine(state.deck.cardCount);
+      continue;
+    }
+    if (searching && !reader.ResumesAtCard()) continue;
+    searching = !TakeLineOrMeet(reader, reading);
+    good = good && !searching;
+    if (searching && !reading.GoesOn()) break;
+    if (searching) reader.LeaveCard();
   }
-  return true;
+  return good;
 }
 
 }  // namespace
@@ -132,9 +188,9 @@ void ImportStandard(const Text& fileName, const ImportContext& context) {
   }
 }
 
-bool ReadStandardCards(LineReader& lines, const ImportContext& context) {
-  StandardReader reader(context);
-  const bool good = TakeLines(lines, reader, context.state);
+bool ReadStandardCards(CardsReading& reading) {
+  StandardReader reader(reading);
+  const bool good = TakeLines(reading, reader);
   // After an error too: a number beyond the table then raises error 9.
   reader.FinishLastCard();
   return good;
@@ -142,10 +198,6 @@ bool ReadStandardCards(LineReader& lines, const ImportContext& context) {
 
 bool IsCardNumberLine(TextView line) {
   return HasEarlyDot(line) && IsNumeric(line);
-}
-
-bool CheckStdSequence(std::int16_t card, std::int16_t previous, MessageBoxes& messages) {
-  return CheckCardSequence(card, previous, messages);
 }
 
 bool StoreStdCard(std::int16_t card, const Text& front, const Text& back, ProgramState& state) {

@@ -18,7 +18,8 @@ constexpr const char* kHiddenName = ".unfinished-";
 
 }  // namespace
 
-NewFile::NewFile(fs::path folder, Kind kind) : folder_(std::move(folder)), file_(OpenFile(kind)) {
+NewFile::NewFile(fs::path folder, Kind kind, const std::string& label)
+    : folder_(std::move(folder)), file_(OpenFile(kind, label)) {
   constexpr mode_t kOwnerMayReadAndWrite = 0600;
   // Whatever the user's mask.
   Checked(fchmod(file_.Get(), kOwnerMayReadAndWrite));
@@ -28,7 +29,7 @@ NewFile::~NewFile() {
   if (!hidden_.empty()) unlink(hidden_.c_str());
 }
 
-int NewFile::OpenFile(Kind kind) {
+int NewFile::OpenFile(Kind kind, const std::string& label) {
   const auto opened = [](const fs::path& path, int flags) {
     return Uninterrupted([&] { return open(path.c_str(), flags | O_WRONLY | O_CLOEXEC, 0); });
   };
@@ -36,7 +37,7 @@ int NewFile::OpenFile(Kind kind) {
     const int nameless = opened(folder_, O_TMPFILE);
     if (nameless != kFailed) return nameless;
   }
-  const fs::path hidden = folder_ / (kHiddenName + std::to_string(getpid()));
+  const fs::path hidden = folder_ / (kHiddenName + std::to_string(getpid()) + label);
   // A killed process of the same number may have left it.
   unlink(hidden.c_str());
   const int file = Checked(opened(hidden, O_CREAT | O_EXCL | O_NOFOLLOW));

@@ -15,8 +15,10 @@ class NewFile {
   /// behind, or, where the file system can't do that, a hidden file.
   enum class Kind { kNameless, kHidden };
 
-  /// A hidden one where a nameless one can't be made.
-  explicit NewFile(std::filesystem::path folder, Kind kind = Kind::kNameless);
+  /// A hidden one where a nameless one can't be made. A process that makes several at a time in one
+  /// folder gives each a label.
+  explicit NewFile(std::filesystem::path folder, Kind kind = Kind::kNameless,
+                   const std::string& label = {});
   NewFile(const NewFile&) = delete;
   NewFile& operator=(const NewFile&) = delete;
   ~NewFile();
@@ -37,7 +39,7 @@ class NewFile {
   static void RemoveUnfinished(const std::filesystem::path& folder);
 
  private:
-  [[nodiscard]] int OpenFile(Kind kind);
+  [[nodiscard]] int OpenFile(Kind kind, const std::string& label);
   void TakeName(const std::string& name);
 
   std::filesystem::path folder_;

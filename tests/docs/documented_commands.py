@@ -12,6 +12,9 @@ RUN_AS = {
     "build/release/tessara build/release/samples/capitals.tsr":
         "scripts/with_display.sh scripts/first_card.py {scratch}/card.png"
         " build/release/tessara build/release/samples/capitals.tsr",
+    "build/release/tessara-deck convert data/samples/verbs.csv verbs.tsr":
+        "build/release/tessara-deck convert data/samples/verbs.csv {scratch}/verbs.tsr",
+    "build/release/tessara-deck check data/samples/science.txt": "build/release/tessara-deck check data/samples/science.txt",
     "build/release/tests/tests_unit -tc='*deck*'":
         "build/release/tests/tests_unit -tc='*deck*' | grep 'test cases: *[1-9]'",
     "scripts/format.sh": "scripts/format.sh --check",

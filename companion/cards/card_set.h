@@ -1,0 +1,63 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <span>
+#include <vector>
+
+#include "companion/cards/place.h"
+#include "deck/card_type.h"
+#include "deck/deck_record.h"
+
+namespace tessara {
+
+/// A card on its way from one file to another, and where it comes from. Its number is not used.
+struct SourceCard {
+  DeckRecord record;
+  Place place;
+};
+
+/// What a deck's information tells besides its kind.
+struct SetInfo {
+  Text title;
+  Text author;
+  Text description;
+  Text date;  ///< as "m/d/yyyy"
+};
+
+/// Cards of one kind in any number: what each format is read into and written from. A text card has
+/// front and back in `text` and `longText`, a question its choices in `shortFields`. Line breaks
+/// are CR LF.
+struct CardSet {
+  DeckKind kind = kStandardDeck;
+  SetInfo info;
+  std::vector<SourceCard> cards;
+};
+
+/// What goes into one file: all cards of a set, or those that a file of the format holds.
+struct CardsToWrite {
+  DeckKind kind;
+  SetInfo info;
+  std::span<const SourceCard> cards;  ///< at least one
+};
+
+/// What messages call the short fields of a question.
+inline constexpr std::array<const char*, 4> kChoiceNames = {"choice A", "choice B", "choice C",
+                                                            "choice D"};
+
+[[nodiscard]] bool HasChoices(const DeckRecord& record);
+/// True for "T" and "F".
+[[nodiscard]] bool IsTrueOrFalse(TextView answer);
+/// True for "A" to "D".
+[[nodiscard]] bool IsChoiceLetter(TextView answer);
+
+/// The most cards that are taken together, and the most bytes of all inputs and of a field: what
+/// keeps the memory in bounds.
+inline constexpr std::size_t kMostSetCards = 50'000;
+inline constexpr std::size_t kLargestInput = std::size_t{16} << 20U;
+inline constexpr std::size_t kLargestField = std::size_t{1} << 20U;
+
+/// Adds a card. Raises Refused beyond kMostSetCards.
+void AddCard(CardSet& set, SourceCard card);
+
+}  // namespace tessara

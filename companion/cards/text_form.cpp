@@ -1,0 +1,82 @@
+#include "companion/cards/text_form.h"
+
+#include "base/utf8.h"
+#include "import/text_traits.h"
+#include "import/utf8_check.h"
+
+namespace tessara {
+
+namespace {
+
+bool IsWellFormed(std::string_view bytes) {
+  Utf8Check check;
+  check.Feed(bytes);
+  return check.IsWellFormed();
+}
+
+bool IsHighSurrogate(char16_t unit) {
+  return unit >= 0xD800 && unit <= 0xDBFF;
+}
+
+bool IsLowSurrogate(char16_t unit) {
+  return unit >= 0xDC00 && unit <= 0xDFFF;
+}
+
+/// How many units the line break at the front takes; 0 where there is none.
+std::size_t BreakLength(TextView text) {
+  if (text.starts_with(kLineBreak)) return kLineBreak.size();
+  return text.starts_with(kCarriageReturn) || text.starts_with(kLineFeed) ? 1 : 0;
+}
+
+}  // namespace
+
+std::string WellFormedUtf8(TextView text) {
+  constexpr char16_t kReplacement = 0xFFFD;
+  Text whole(text);
+  for (std::size_t at = 0; at < whole.size(); ++at) {
+    const bool pair =
+        IsHighSurrogate(whole[at]) && at + 1 < whole.size() && IsLowSurrogate(whole[at + 1]);
+    if (pair) {
+      ++at;
+    } else if (IsHighSurrogate(whole[at]) || IsLowSurrogate(whole[at])) {
+      whole[at] = kReplacement;
+    }
+  }
+  return ToUtf8(whole);
+}
+
+Text WithDeckLineBreaks(TextView text) {
+  Text result;
+  result.reserve(text.size());
+  while (!text.empty()) {
+    const std::size_t length = BreakLength(text);
+    if (length == 0) {
+      result += text.front();
+    } else {
+      result += kLineBreak;
+    }
+    text.remove_prefix(length == 0 ? 1 : length);
+  }
+  return result;
+}
+
+bool HasLoneBreak(TextView text) {
+  while (!text.empty()) {
+    const std::size_t length = BreakLength(text);
+    if (length == 1) return true;
+    text.remove_prefix(length == 0 ? 1 : length);
+  }
+  return false;
+}
+
+TextDecoder::TextDecoder(std::string_view file, const CodePage& codePage)
+    : contents_(file), codePage_(codePage) {
+  if (contents_.starts_with(kByteOrderMark)) contents_.remove_prefix(kByteOrderMark.size());
+  isUtf8_ = IsWellFormed(contents_);
+}
+
+Text TextDecoder::Decode(std::string_view bytes) const {
+  return isUtf8_ ? FromUtf8(bytes) : codePage_.Decode(bytes);
+}
+
+}  // namespace tessara

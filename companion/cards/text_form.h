@@ -1,0 +1,37 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "base/code_page.h"
+#include "base/text.h"
+
+namespace tessara {
+
+// The forms that a card's text has in the files of other programs.
+
+/// UTF-8; what is no character becomes U+FFFD.
+[[nodiscard]] std::string WellFormedUtf8(TextView text);
+
+/// The text with each of CR LF, CR and LF as the line break of a deck.
+[[nodiscard]] Text WithDeckLineBreaks(TextView text);
+
+/// True where a carriage return or a line feed stands alone.
+[[nodiscard]] bool HasLoneBreak(TextView text);
+
+/// Reads the texts of a file that is UTF-8, with or without its signature, else of the code page.
+class TextDecoder {
+ public:
+  TextDecoder(std::string_view file, const CodePage& codePage);
+
+  /// The file behind its signature.
+  [[nodiscard]] std::string_view Contents() const { return contents_; }
+  [[nodiscard]] Text Decode(std::string_view bytes) const;
+
+ private:
+  std::string_view contents_;
+  const CodePage& codePage_;
+  bool isUtf8_ = false;
+};
+
+}  // namespace tessara

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstdio>
+#include <string>
+
+#include "companion/cards/findings.h"
+#include "companion/cards/losses.h"
+
+namespace tessara {
+
+/// Exit statuses of the commands; those of `check` mean other things.
+enum ExitStatus : int { kDone = 0, kRefused = 1, kNotAllKept = 2 };
+enum CheckStatus : int { kClean = 0, kHasFindings = 1, kUnreadable = 2 };
+
+/// Writes what could not be kept to standard error, and remembers that there was something.
+class Reporter : public Losses {
+ public:
+  void Tell(const Place& place, const std::string& what) override;
+  /// Tells what is no loss.
+  static void Say(const std::string& message);
+  [[nodiscard]] bool HasLosses() const { return hasLosses_; }
+
+ private:
+  bool hasLosses_ = false;
+};
+
+}  // namespace tessara

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "companion/cards/card_set.h"
+#include "companion/formats/byte_sink.h"
+#include "companion/formats/source.h"
+
+namespace tessara {
+
+/// The cards of a deck file, as the program loads it. Raises Refused where it does not.
+[[nodiscard]] CardSet ReadDeck(const Source& source, const Conversion& conversion);
+
+/// Writes a deck file of at most 200 cards. Tells what their fields can't hold.
+void WriteDeck(const CardsToWrite& deck, ByteSink& sink, const Conversion& conversion);
+
+}  // namespace tessara
