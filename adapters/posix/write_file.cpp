@@ -25,7 +25,8 @@ void RemoveBroken(const std::string& path) {
 }  // namespace
 
 void WriteFile(const std::string& path, const std::string& bytes) {
-  constexpr int kFlags = O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC;
+  // Without waiting for whoever may read a pipe.
+  constexpr int kFlags = O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
   Descriptor file(Uninterrupted([&] { return open(path.c_str(), kFlags, kReadableByAll); }));
   if (file.Get() == kFailed) throw RunTimeError(PathError(errno));
   try {

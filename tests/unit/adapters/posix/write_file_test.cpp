@@ -1,8 +1,11 @@
 #include "adapters/posix/write_file.h"
 
 #include <doctest/doctest.h>
+#include <fcntl.h>
 #include <filesystem>
+#include <sys/stat.h>
 
+#include "adapters/posix/system_call.h"
 #include "tests/support/error_of.h"
 #include "tests/support/limited_process.h"
 #include "tests/support/scratch_folder.h"
@@ -43,6 +46,17 @@ TEST_CASE("a file that could not be written whole is gone") {
     if (ErrorOf([&] { WriteFile(folder / "a", bytes); }) != 61) _exit(1);
   }));
   CHECK_FALSE(std::filesystem::exists(folder / "a"));
+}
+
+TEST_CASE("a pipe that nobody reads, or that takes no more, is not waited for") {
+  const ScratchFolder folder;
+  const std::string pipe = folder / "pipe";
+  REQUIRE(mkfifo(pipe.c_str(), 0600) == 0);
+  CHECK(ErrorOf([&] { WriteFile(pipe, "x"); }) == 75);
+  const Descriptor reader(open(pipe.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
+  WriteFile(pipe, "x");
+  CHECK(ErrorOf([&] { WriteFile(pipe, std::string(1 << 20, 'x')); }) == 57);
+  CHECK(std::filesystem::is_fifo(pipe));
 }
 
 }  // namespace tessara::test
