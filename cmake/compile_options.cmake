@@ -22,3 +22,22 @@ if(sanitizers)
   target_compile_options(tessara_sanitizers INTERFACE
     -fsanitize=${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
 endif()
+
+# What is released is hardened: docs/performance.md tells what that costs. The sanitizers' builds are not.
+if(NOT sanitizers)
+  include(CheckCXXCompilerFlag)
+  include(CheckPIESupported)
+  check_pie_supported(LANGUAGES CXX)
+  set(hardening -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2 -fstack-protector-strong -fstack-clash-protection)
+  # Control-flow protection, by the name that it has on the processor.
+  check_cxx_compiler_flag(-fcf-protection TESSARA_CF_PROTECTION)
+  check_cxx_compiler_flag(-mbranch-protection=standard TESSARA_BRANCH_PROTECTION)
+  if(TESSARA_CF_PROTECTION)
+    list(APPEND hardening -fcf-protection)
+  elseif(TESSARA_BRANCH_PROTECTION)
+    list(APPEND hardening -mbranch-protection=standard)
+  endif()
+  set(released $<CONFIG:RelWithDebInfo,Release>)
+  add_compile_options("$<${released}:${hardening}>")
+  add_link_options("$<${released}:-Wl,-z,relro,-z,now>")
+endif()
