@@ -1,5 +1,6 @@
 #include <QDropEvent>
 #include <QMimeData>
+#include <QPlainTextEdit>
 #include <QTimer>
 #include <QUrl>
 #include <doctest/doctest.h>

@@ -10,7 +10,7 @@ using namespace tessara::test;
 
 namespace {
 
-void Control(Qt::Key key, Qt::KeyboardModifiers more = Qt::NoModifier) {
+void WithCtrl(Qt::Key key, Qt::KeyboardModifiers more = Qt::NoModifier) {
   ProgramOnScreen::Key(key, Qt::ControlModifier | more);
 }
 
@@ -23,10 +23,10 @@ std::string OneQuestion() {
 /// The frame alone; its own menu then makes a deck of questions and opens the builder.
 void StartQuestions(ProgramOnScreen& desk) {
   desk.Start();
-  Control(Qt::Key_W);
+  WithCtrl(Qt::Key_W);
   ProgramOnScreen::Alt(Qt::Key_F);
   ProgramOnScreen::Keys({Qt::Key_N, Qt::Key_X});
-  Control(Qt::Key_E);
+  WithCtrl(Qt::Key_E);
 }
 
 }  // namespace
@@ -34,13 +34,13 @@ void StartQuestions(ProgramOnScreen& desk) {
 TEST_CASE("Ten text cards are written with two keys each beside their text") {
   ProgramOnScreen desk;
   desk.Start();
-  Control(Qt::Key_E);
+  WithCtrl(Qt::Key_E);
   for (int card = 1; card <= 10; ++card) {
     CHECK(ProgramOnScreen::Focus() == "Text1(0)");
     ProgramOnScreen::Type(u"front " + DecimalText(card));
     ProgramOnScreen::Key(Qt::Key_Tab);
     ProgramOnScreen::Type(u"back " + DecimalText(card));
-    Control(Qt::Key_Return);
+    WithCtrl(Qt::Key_Return);
   }
   CHECK(desk.state.deck.cardCount == 10);
   CHECK(desk.state.deck.Cell(10, kBackText) == u"back 10");
@@ -60,7 +60,7 @@ TEST_CASE("Ten questions are written with their marks and tabs and one key more"
     ProgramOnScreen::Key(Qt::Key_Tab);
     CHECK(ProgramOnScreen::Focus() == "Option1(0)");
     ProgramOnScreen::Key(Qt::Key_Down);
-    Control(Qt::Key_Return);
+    WithCtrl(Qt::Key_Return);
   }
   CHECK(desk.state.deck.cardCount == 10);
   CHECK(desk.state.deck.Cell(10, kAnswer) == u"B");
@@ -115,20 +115,20 @@ TEST_CASE("Save, save as, go to and close go by their keys") {
     QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("3"));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
   });
-  Control(Qt::Key_G);
+  WithCtrl(Qt::Key_G);
   CHECK(ProgramOnScreen::Card("CardText") == "front 3");
   TypePathWhenAsked(desk, "other.tsr");
   desk.AnswerByKey(Qt::Key_Return);
-  Control(Qt::Key_S, Qt::ShiftModifier);
+  WithCtrl(Qt::Key_S, Qt::ShiftModifier);
   CHECK(desk.folder.Read("other.tsr").size() == desk.folder.Read("birds.tsr").size());
   desk.TakeAsked();
-  Control(Qt::Key_S);
+  WithCtrl(Qt::Key_S);
   CHECK(desk.TakeAsked().empty());
   desk.state.deck.changed = true;
   desk.AnswerByKey(Qt::Key_Y);
   desk.AnswerByKey(Qt::Key_Return);
   desk.AnswerByKey(Qt::Key_Y);
-  Control(Qt::Key_W);
+  WithCtrl(Qt::Key_W);
   CHECK(desk.TakeAsked().size() == 3);
   CHECK_FALSE(desk.program.DeckWindowOf().IsLoaded());
 }
