@@ -6,9 +6,6 @@
 
 namespace tessara::test {
 
-/// Off as long as the program keeps no copy of unsaved changes.
-inline constexpr bool kUnsavedWorkIsKept = false;
-
 /// Holds that no card is lost: what was in the table is there, in a file or among the copies, but
 /// for what a question or a command for a single card has given up. A card is its record.
 class KeptWork {

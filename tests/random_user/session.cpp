@@ -90,7 +90,7 @@ void Session::Check() {
   desk_.story.choosesBackDrop |= desk_.program.Windows().ActiveForm() != nullptr &&
                                  desk_.program.Windows().ActiveForm()->Name() == "FrmSetUp";
   const std::size_t lost = leaving_ ? 0 : desk_.LostCards();
-  if (kUnsavedWorkIsKept && lost > 0) fault_ = std::to_string(lost) + " cards are lost";
+  if (lost > 0) fault_ = std::to_string(lost) + " cards are lost";
   const bool byError = Ended() && !leaving_ && desk_.program.Windows().ExitStatus() != 0;
   if (byError && !IsRequiredEnd(desk_.story.lastBox, desk_.story)) {
     fault_ = "the program has ended with \"" + desk_.story.lastBox + "\"";

@@ -99,7 +99,9 @@ std::set<std::string> UserFiles::CardsOnDisk() const {
   std::set<std::string> cards;
   for (const fs::path& folder : {folder_.Path(), Copies()}) {
     for (const std::string& name : NamesIn(folder)) {
-      if (fs::is_regular_file(folder / name)) cards.merge(CardsIn(BytesOf(folder / name)));
+      // A user sees no hidden file: what only a spare one holds is lost.
+      const bool seen = !name.starts_with('.') && fs::is_regular_file(folder / name);
+      if (seen) cards.merge(CardsIn(BytesOf(folder / name)));
     }
   }
   return cards;
