@@ -1,6 +1,5 @@
 // Puts the pieces together: the real machine, the renderer, the program.
 
-#include <QApplication>
 #include <QIcon>
 #include <clocale>
 #include <csignal>
@@ -30,6 +29,7 @@
 #include "adapters/qt/look/visible_outlines.h"
 #include "adapters/qt/text/fonts_ahead.h"
 #include "adapters/qt/text/qt_text.h"
+#include "adapters/qt/windows/guarded_application.h"
 #include "adapters/qt/windows/qt_renderer.h"
 #include "base/utf8.h"
 #include "shell/program.h"
@@ -74,7 +74,7 @@ fs::path CopiesFolder() {
 
 int RunTessara(int argc, char** argv) {
   FontsAhead fonts;
-  QApplication application(argc, argv);
+  GuardedApplication application(argc, argv);
   fonts.Wait();
   ShowOutlines();
   const fs::path folder = ProgramFolder();
@@ -97,6 +97,7 @@ int RunTessara(int argc, char** argv) {
   Machine machine{messages, dialogs, settings,    files,   copies,   clock,
                   desktop,  classes, spreadsheet, printer, codePage, folderText};
   Program program(machine);
+  application.SetWindows(program.Windows());
   messages.SetWindows(program.Windows());
   dialogs.SetWindows(program.Windows());
   QtRenderer renderer(program.Windows(), ToQString(folderText + u"/pictures"));

@@ -202,3 +202,17 @@ TEST_CASE("A command that unloads its own window ends well") {
   Desk::Settle();
   CHECK(BarTexts() == "&File ");
 }
+
+TEST_CASE("A command that waits for a box while its window goes ends well") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  form.mnuOpen.onClick = [&desk] { desk.messages.Show(u"Wait", kOkOnly, u""); };
+  desk.messages.whileShown = [&desk](const FakeMessages::Shown&) {
+    desk.child.Unload();
+    // A box's own event loop destroys what waits for it.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  };
+  Entry("mnuOpen", "frmChild").trigger();
+  CHECK(Desk::Top("frmChild") == nullptr);
+  CHECK(BarTexts() == "&File ");
+}

@@ -31,9 +31,11 @@ class SamplePainting : public PaintedControl {
   using PaintedControl::PaintedControl;
   double textHeight = 10;
   Text text = u"Painting";
+  std::function<void()> whenPainted;
 
   [[nodiscard]] bool TakesFocus() const override { return true; }
   void Paint(Canvas& canvas, const Rect& size, double scroll) const override {
+    if (whenPainted) whenPainted();
     canvas.FillRect({0, -scroll, size.width, size.height / 2}, FixedColor(255, 0, 0));
   }
   [[nodiscard]] double ScrollRange(Canvas& canvas, const Rect& size) const override {
