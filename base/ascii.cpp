@@ -34,4 +34,12 @@ void MoveAscii(Text& text, std::string_view& bytes) {
   bytes.remove_prefix(length);
 }
 
+bool CopiedAsAscii(TextView text, std::span<char> to) {
+  char16_t bits = 0;
+  for (const char16_t character : text) bits |= character;
+  if (bits >= 0x80) return false;
+  std::copy_n(text.begin(), std::min(text.size(), to.size()), to.begin());
+  return true;
+}
+
 }  // namespace tessara

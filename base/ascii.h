@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string_view>
 
 #include "base/text.h"
@@ -14,5 +15,8 @@ namespace tessara {
 [[nodiscard]] std::size_t AsciiLength(std::string_view bytes);
 /// Appends bytes that are ASCII, all of them, and takes them off the front.
 void MoveAscii(Text& text, std::string_view& bytes);
+/// Copies a text that is ASCII, all of it or as much as there is room for. Any other text is left
+/// alone: false.
+[[nodiscard]] bool CopiedAsAscii(TextView text, std::span<char> to);
 
 }  // namespace tessara

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <span>
 #include <utility>
 
 #include "base/conversion.h"
@@ -56,18 +57,22 @@ std::optional<DeckRecord> ReadRecord(FileNumber& file, const CodePage& codePage)
   return DecodeRecord(bytes, codePage);
 }
 
-DeckRecord RecordOfRow(const ProgramState& state, int row) {
+DeckRecordView TextsOfRow(const ProgramState& state, int row) {
+  // A row's cells lie side by side: this looks only once whether the row is there.
+  const std::span cells(&state.deck.cardGrid.At(row, 0), kColumns);
   const bool present = state.deck.cardPresent.At(row) != 0;
-  DeckRecord record;
-  record.cardType =
-      present ? state.deck.Cell(row, kCardType) : Text(LetterOf(CardType::kTerminator));
-  record.text = state.deck.Cell(row, kCardText);
+  return {present ? TextView(cells[kCardType]) : LetterOf(CardType::kTerminator),
+          cells[kCardText],
+          0,
+          {cells[kChoiceA], cells[kChoiceB], cells[kChoiceC], cells[kChoiceD]},
+          cells[kAnswer],
+          cells[kBackText]};
+}
+
+DeckRecordView RecordOfRow(const ProgramState& state, int row) {
+  DeckRecordView record = TextsOfRow(state, row);
+  const bool present = state.deck.cardPresent.At(row) != 0;
   record.number = present ? NumberInCell(state.deck.Cell(row, kRowNumber)) : std::int16_t{0};
-  for (std::size_t at = 0; at < record.shortFields.size(); ++at) {
-    record.shortFields[at] = state.deck.Cell(row, kChoiceA + static_cast<int>(at));
-  }
-  record.answer = state.deck.Cell(row, kAnswer);
-  record.longText = state.deck.Cell(row, kBackText);
   return record;
 }
 

@@ -13,8 +13,11 @@ namespace tessara {
 /// counts: blanks take the place of what is missing.
 [[nodiscard]] std::optional<DeckRecord> ReadRecord(FileNumber& file, const CodePage& codePage);
 
-/// The record of a row; the row behind the last card gives the terminator.
-[[nodiscard]] DeckRecord RecordOfRow(const ProgramState& state, int row);
+/// The texts of a row as they lie in the table, without its number; the row behind the last card
+/// gives those of the terminator.
+[[nodiscard]] DeckRecordView TextsOfRow(const ProgramState& state, int row);
+/// The same with the number.
+[[nodiscard]] DeckRecordView RecordOfRow(const ProgramState& state, int row);
 
 /// Writes a record for each row down to the first absent one, whose record is the terminator.
 /// A record that can't be written is skipped; no error is raised. True where none was skipped.

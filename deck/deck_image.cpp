@@ -1,7 +1,5 @@
 #include "deck/deck_image.h"
 
-#include <algorithm>
-
 #include "deck/card_type.h"
 #include "deck/deck_file.h"
 
@@ -10,9 +8,9 @@ namespace tessara {
 namespace {
 
 /// A reader goes by the number, and takes the information again where a card is missing.
-DeckRecord RecordAt(const ProgramState& state, int row) {
+DeckRecordView RecordAt(const ProgramState& state, int row) {
   const bool isCard = row != kInfoRow && state.deck.cardPresent.At(row) != 0;
-  DeckRecord record = RecordOfRow(state, isCard ? row : kInfoRow);
+  DeckRecordView record = TextsOfRow(state, isCard ? row : kInfoRow);
   record.number = static_cast<std::int16_t>(isCard ? row : kInfoRow);
   if (!isCard) record.cardType = LetterOf(CardType::kInformation);
   return record;
@@ -37,9 +35,8 @@ bool DeckImage::IsEncoded(int row) const {
 }
 
 void DeckImage::EncodeRow(int row) {
-  const RecordBytes record = EncodeRecord(RecordAt(state_, row), codePage_);
-  std::copy(record.begin(), record.end(),
-            bytes_.begin() + static_cast<std::ptrdiff_t>(kRecordSize) * row);
+  char* const place = bytes_.data() + kRecordSize * static_cast<std::size_t>(row);
+  EncodeRecord(RecordAt(state_, row), codePage_, std::span<char, kRecordSize>(place, kRecordSize));
 }
 
 std::string_view DeckImage::Bytes() {
@@ -50,7 +47,7 @@ std::string_view DeckImage::Bytes() {
   }
   cellsEncoded_ = state_.deck.cardGrid.Changes().Count();
   flagsEncoded_ = state_.deck.cardPresent.Changes().Count();
-  DeckRecord end;
+  DeckRecordView end;
   end.cardType = LetterOf(CardType::kTerminator);
   const RecordBytes terminator = EncodeRecord(end, codePage_);
   bytes_.append(terminator.begin(), terminator.end());

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <string_view>
 
+#include "base/ascii.h"
+
 namespace tessara {
 
 namespace {
@@ -22,9 +24,21 @@ constexpr Field kLongField = {748, 444};
 static_assert(kLongField.offset + kLongField.width == kRecordSize);
 static_assert(kNumberField.offset + kNumberField.width == kLeastRecord);
 
-void PutText(RecordBytes& bytes, Field field, const Text& text, const CodePage& codePage) {
-  const std::string stored = codePage.Encode(TextView(text).substr(0, field.width));
-  std::copy(stored.begin(), stored.end(), bytes.data() + field.offset);
+using Bytes = std::span<char, kRecordSize>;
+
+/// How many bytes of the field the text has taken.
+std::size_t FillFront(std::span<char> field, TextView text, const CodePage& codePage) {
+  if (text.empty()) return 0;
+  if (CopiedAsAscii(text, field)) return std::min(text.size(), field.size());
+  const std::string stored = codePage.Encode(text.substr(0, field.size()));
+  std::copy(stored.begin(), stored.end(), field.begin());
+  return stored.size();
+}
+
+void PutText(Bytes bytes, Field field, TextView text, const CodePage& codePage) {
+  const std::span<char> place = bytes.subspan(field.offset, field.width);
+  const std::span<char> rest = place.subspan(FillFront(place, text, codePage));
+  std::fill(rest.begin(), rest.end(), kBlank);
 }
 
 /// Most of a field is blanks: they go in long strides.
@@ -42,7 +56,7 @@ Text TextAt(RecordView bytes, Field field, const CodePage& codePage) {
 }
 
 /// Little-endian, whatever the machine.
-void PutNumber(RecordBytes& bytes, std::int16_t number) {
+void PutNumber(Bytes bytes, std::int16_t number) {
   const auto bits = static_cast<std::uint16_t>(number);
   bytes[kNumberField.offset] = static_cast<char>(bits & 0xFFU);
   bytes[kNumberField.offset + 1] = static_cast<char>(bits >> 8U);
@@ -56,9 +70,7 @@ std::int16_t NumberAt(RecordView bytes) {
 
 }  // namespace
 
-RecordBytes EncodeRecord(const DeckRecord& record, const CodePage& codePage) {
-  RecordBytes bytes;
-  bytes.fill(kBlank);
+void EncodeRecord(const DeckRecordView& record, const CodePage& codePage, Bytes bytes) {
   PutText(bytes, kTypeField, record.cardType, codePage);
   PutText(bytes, kTextField, record.text, codePage);
   PutNumber(bytes, record.number);
@@ -67,6 +79,11 @@ RecordBytes EncodeRecord(const DeckRecord& record, const CodePage& codePage) {
   }
   PutText(bytes, kAnswerField, record.answer, codePage);
   PutText(bytes, kLongField, record.longText, codePage);
+}
+
+RecordBytes EncodeRecord(const DeckRecordView& record, const CodePage& codePage) {
+  RecordBytes bytes;
+  EncodeRecord(record, codePage, bytes);
   return bytes;
 }
 

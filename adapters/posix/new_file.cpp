@@ -1,6 +1,7 @@
 #include "adapters/posix/new_file.h"
 
 #include <chrono>
+#include <cstdio>
 #include <fcntl.h>
 #include <string>
 #include <sys/stat.h>
@@ -60,6 +61,14 @@ void NewFile::TakePlaceOf(const std::string& name) {
   hidden_.clear();
 }
 
+bool NewFile::SwapsWith(const std::string& name, Descriptor& opened) {
+  const fs::path other = folder_ / name;
+  const bool swaps =
+      renameat2(AT_FDCWD, hidden_.c_str(), AT_FDCWD, other.c_str(), RENAME_EXCHANGE) == 0;
+  if (swaps) file_.Swap(opened);
+  return swaps;
+}
+
 void NewFile::TakeName(const std::string& name) {
   if (!hidden_.empty()) return TakePlaceOf(name);
   const std::string open = "/proc/self/fd/" + std::to_string(Get());
@@ -74,6 +83,10 @@ void NewFile::RemoveUnfinished(const fs::path& folder) {
     std::error_code vanished;
     if (entry.last_write_time(vanished) < recent && !vanished) fs::remove(entry, vanished);
   }
+}
+
+bool NewFile::IsSpare(const std::string& name) {
+  return name.starts_with(kHiddenName) && name.ends_with(kSpareLabel);
 }
 
 void SyncFolder(const fs::path& folder) {

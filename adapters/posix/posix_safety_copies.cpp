@@ -5,6 +5,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
+#include "adapters/posix/file_lock.h"
 #include "adapters/posix/new_file.h"
 #include "base/utf8.h"
 
@@ -81,6 +82,12 @@ std::string SystemName(const Text& fileName) {
   return name;
 }
 
+/// One whose process has ended.
+void RemoveLeftSpare(const fs::path& path) {
+  const Descriptor file(OpenLeftFile(path));
+  if (file.Get() != kFailed) unlink(path.c_str());
+}
+
 /// A step that keeps something. Where it fails the program goes on without: nobody is told.
 template <class Step>
 bool Kept(const Step& step) noexcept {
@@ -152,6 +159,7 @@ std::vector<LeftDeck> PosixSafetyCopies::TakeLeftDecks() noexcept {
   std::vector<LeftDeck> decks;
   Kept([&] {
     for (const std::string& name : folder_.Names()) {
+      if (NewFile::IsSpare(name)) RemoveLeftSpare(folder_.Path() / name);
       const auto fileName = ReadUnsavedName(name);
       if (fileName) Kept([&] { TakeLeftDeck(name, *fileName, decks); });
     }

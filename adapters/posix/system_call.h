@@ -39,6 +39,7 @@ class Descriptor {
   [[nodiscard]] int Get() const { return descriptor_; }
   /// Hands it over to the caller, who closes it.
   [[nodiscard]] int Release() { return std::exchange(descriptor_, kFailed); }
+  void Swap(Descriptor& other) { std::swap(descriptor_, other.descriptor_); }
   /// Closes it now. kFailed where what was written to it has not all arrived.
   [[nodiscard]] int Close() { return close(Release()); }
 

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <list>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "adapters/posix/copies_folder.h"
+#include "adapters/posix/swapped_file.h"
 #include "adapters/posix/system_call.h"
 
 namespace tessara {
@@ -19,7 +21,6 @@ class UnsavedCopy {
   /// Puts the deck in place of what is kept of it, in one step; a file of its own at first. Nothing
   /// is forced to the disk.
   void Replace(const std::string& fileName, std::string_view deck);
-  [[nodiscard]] bool Exists() const { return !name_.empty(); }
   void Drop() noexcept;
   /// Goes on without it: it stays, locked until the process ends.
   void Leave();
@@ -29,16 +30,11 @@ class UnsavedCopy {
 
  private:
   [[nodiscard]] std::string FreeName(const std::string& fileName);
-  void Forget();
 
   const CopiesFolder& folder_;
-  std::string name_;  ///< empty where nothing is kept
-  std::list<Descriptor>
-      locks_;       ///< the last is the file's while it has a name, the others are left
-  int number_ = 0;  ///< of the decks that this process has kept
+  std::optional<SwappedFile> file_;
+  std::list<Descriptor> left_;  ///< open for their locks
+  int number_ = 0;              ///< of the decks that this process has kept
 };
-
-/// The file by that name, locked, if nobody else has it locked; kFailed otherwise.
-[[nodiscard]] int OpenLeftFile(const std::filesystem::path& path);
 
 }  // namespace tessara

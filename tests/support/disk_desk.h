@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "adapters/posix/new_file.h"
 #include "adapters/posix/posix_file_system.h"
 #include "adapters/posix/posix_safety_copies.h"
 #include "base/folder_entries.h"
@@ -85,10 +86,11 @@ struct DiskDesk {
   }
 };
 
-/// The bytes of every file that saves have kept, by name.
+/// The bytes of every file that saves have kept, by name; spare files hold no deck.
 inline std::vector<std::string> KeptIn(const ScratchFolder& folder) {
   std::vector<std::string> kept;
   for (const std::string& name : NamesIn(folder / "copies")) {
+    if (NewFile::IsSpare(name)) continue;
     kept.push_back(BytesOf(folder / "copies" / name));
   }
   return kept;

@@ -79,7 +79,7 @@ TEST_CASE("an absent row gives a terminator with what its cells hold") {
   ProgramState state = SampleDeck(0);
   state.deck.cardGrid.Set(1, kCardText, u"left over");
   state.deck.cardGrid.Set(1, kRowNumber, u"1");
-  const DeckRecord record = RecordOfRow(state, 1);
+  const DeckRecordView record = RecordOfRow(state, 1);
   CHECK(record.cardType == u"X");
   CHECK(record.number == 0);
   CHECK(record.text == u"left over");

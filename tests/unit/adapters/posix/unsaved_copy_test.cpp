@@ -1,10 +1,11 @@
 // The file in which a process keeps its unsaved deck: while it lives, and when it has ended.
 
 #include <algorithm>
+#include <array>
 #include <csignal>
 #include <doctest/doctest.h>
+#include <set>
 #include <sys/stat.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include "adapters/posix/copy_name.h"
@@ -12,6 +13,8 @@
 #include "tests/support/disk_desk.h"
 #include "tests/support/killed_process.h"
 #include "tests/support/open_files.h"
+#include "tests/support/process_end.h"
+#include "tests/support/refused_call.h"
 
 namespace tessara::test {
 
@@ -25,18 +28,33 @@ struct UnsavedDesk {
   PosixSafetyCopies copies{copiesFolder};
 
   [[nodiscard]] std::vector<std::string> Kept() const { return KeptIn(folder); }
-  [[nodiscard]] std::vector<std::string> Names() const { return NamesIn(copiesFolder); }
+  /// What a user sees there.
+  [[nodiscard]] std::vector<std::string> Names() const {
+    std::vector<std::string> names = NamesIn(copiesFolder);
+    std::erase_if(names, [](const std::string& name) { return name.starts_with('.'); });
+    return names;
+  }
+  [[nodiscard]] std::size_t HiddenFiles() const {
+    return NamesIn(copiesFolder).size() - Names().size();
+  }
 };
+
+ino_t FileOf(const fs::path& path) {
+  struct stat status {};
+  REQUIRE(lstat(path.c_str(), &status) == 0);
+  return status.st_ino;
+}
 
 /// Keeps a deck in a process of its own, which is then killed.
 void LeaveByAnotherProcess(const fs::path& folder, const Text& fileName, const std::string& deck) {
   const pid_t child = fork();
   if (child == 0) {
     PosixSafetyCopies copies(folder);
+    copies.KeepUnsaved(fileName, "before");
     copies.KeepUnsaved(fileName, deck);
     raise(SIGKILL);
   }
-  waitpid(child, nullptr, 0);
+  ExpectEndBySignal(child, SIGKILL);
 }
 
 using Decks = std::vector<std::string>;
@@ -52,6 +70,106 @@ TEST_CASE("the unsaved deck is one file that ends as a deck does, replaced by ea
   CHECK(desk.Kept() == Decks{"two"});
   const auto permissions = fs::status(desk.copiesFolder / desk.Names()[0]).permissions();
   CHECK(permissions == static_cast<fs::perms>(0600));
+}
+
+TEST_CASE("a shorter or a longer deck takes the place of the one before, whole") {
+  UnsavedDesk desk;
+  for (const std::size_t length : {9U, 2U, 5U, 1U, 7U}) {
+    const std::string deck(length, static_cast<char>('0' + length));
+    desk.copies.KeepUnsaved(u"verbs.tsr", deck);
+    CHECK(desk.Kept() == Decks{deck});
+  }
+}
+
+TEST_CASE("changes use two files in turn, and make no other") {
+  UnsavedDesk desk;
+  std::vector<ino_t> files;
+  for (const char* const deck : {"one", "two", "three", "four", "five"}) {
+    desk.copies.KeepUnsaved(u"verbs.tsr", deck);
+    files.push_back(FileOf(desk.copiesFolder / desk.Names().at(0)));
+  }
+  CHECK(files[0] == files[2]);
+  CHECK(files[1] == files[3]);
+  CHECK(files[2] == files[4]);
+  CHECK(desk.HiddenFiles() == 1);
+}
+
+TEST_CASE("the spare file goes with the deck that is dropped, left, or kept for good") {
+  const auto ways = std::to_array<void (*)(PosixSafetyCopies&)>(
+      {[](PosixSafetyCopies& copies) { copies.DropUnsaved(); },
+       [](PosixSafetyCopies& copies) { copies.LeaveUnsaved(); },
+       [](PosixSafetyCopies& copies) { copies.KeepNotSaved(u"verbs.tsr", "three"); }});
+  for (const auto way : ways) {
+    UnsavedDesk desk;
+    desk.copies.KeepUnsaved(u"verbs.tsr", "one");
+    desk.copies.KeepUnsaved(u"verbs.tsr", "two");
+    REQUIRE(desk.HiddenFiles() == 1);
+    way(desk.copies);
+    CHECK(desk.HiddenFiles() == 0);
+  }
+}
+
+TEST_CASE("the spare file of a process that lives stays, that of a killed one goes") {
+  UnsavedDesk desk;
+  LeaveByAnotherProcess(desk.copiesFolder, u"nouns.tsr", "unsaved");
+  desk.copies.KeepUnsaved(u"verbs.tsr", "one");
+  desk.copies.KeepUnsaved(u"verbs.tsr", "two");
+  REQUIRE(desk.HiddenFiles() == 2);
+  PosixSafetyCopies(desk.copiesFolder).TakeLeftDecks();
+  CHECK(desk.HiddenFiles() == 1);
+  desk.copies.KeepUnsaved(u"verbs.tsr", "three");
+  CHECK(desk.Kept() == Decks{"unsaved", "three"});
+}
+
+TEST_CASE("a deck is kept where the spare file or the deck's own has been taken away") {
+  for (const bool hidden : {true, false}) {
+    CAPTURE(hidden);
+    UnsavedDesk desk;
+    desk.copies.KeepUnsaved(u"verbs.tsr", "one");
+    desk.copies.KeepUnsaved(u"verbs.tsr", "two");
+    for (const std::string& name : NamesIn(desk.copiesFolder)) {
+      if (name.starts_with('.') == hidden) fs::remove(desk.copiesFolder / name);
+    }
+    desk.copies.KeepUnsaved(u"verbs.tsr", "three");
+    CHECK(desk.Kept() == Decks{"three"});
+  }
+}
+
+TEST_CASE("another file that has taken the deck's name, or is linked to it, is never written to") {
+  UnsavedDesk desk;
+  desk.copies.KeepUnsaved(u"verbs.tsr", "one");
+  const fs::path kept = desk.copiesFolder / desk.Names().at(0);
+  fs::create_hard_link(kept, desk.folder / "link");
+  fs::rename(kept, desk.folder / "moved");
+  desk.folder.Write("of another", "of another");
+  fs::create_hard_link(desk.folder / "of another", kept);
+  for (const char* const deck : {"two", "three", "four"}) {
+    desk.copies.KeepUnsaved(u"verbs.tsr", deck);
+    CHECK(desk.Kept() == Decks{deck});
+  }
+  CHECK(desk.folder.Read("link") == "one");
+  CHECK(desk.folder.Read("of another") == "of another");
+}
+
+TEST_CASE("where files can't swap their names, each deck comes into the place of the one before") {
+  UnsavedDesk desk;
+  StoppedAtCalls child([&] {
+    for (const char* const deck : {"one", "two", "three"}) {
+      desk.copies.KeepUnsaved(u"verbs.tsr", deck);
+    }
+    return 0;
+  });
+  int refused = 0;
+  while (child.GoOn()) {
+    const bool swap = child.Call() == SYS_renameat2;
+    if (swap) child.Prevent();
+    if (!child.GoOn()) break;
+    if (swap) child.Refuse(EINVAL);
+    refused += swap ? 1 : 0;
+  }
+  CHECK(refused == 2);
+  CHECK(desk.Kept() == Decks{"three"});
+  CHECK(desk.HiddenFiles() == 0);
 }
 
 TEST_CASE("the unsaved deck goes when it is dropped, and stays when it is left") {
@@ -137,15 +255,15 @@ TEST_CASE("a name that no file can have is made into one that can") {
 }
 
 TEST_CASE("wherever a process is killed, what it has kept is whole") {
+  const Decks inTurn{"one", "longer", "three", "4"};
+  std::set<std::string> met;
   bool killed = true;
-  int old = 0;
   for (int stop = 1; killed; ++stop) {
     CAPTURE(stop);
     UnsavedDesk desk;
     killed = KilledAt(stop, [&] {
       PosixSafetyCopies copies(desk.copiesFolder);
-      copies.KeepUnsaved(u"verbs.tsr", "one");
-      copies.KeepUnsaved(u"verbs.tsr", "two");
+      for (const std::string& deck : inTurn) copies.KeepUnsaved(u"verbs.tsr", deck);
     });
     const std::size_t decks = desk.copies.TakeLeftDecks().size();
     CHECK(decks <= 1);
@@ -154,10 +272,10 @@ TEST_CASE("wherever a process is killed, what it has kept is whole") {
       if (ReadCopyName(name)) whole.push_back(BytesOf(desk.copiesFolder / name));
     }
     CHECK(whole.size() == decks);
-    if (decks == 1) CHECK((whole[0] == "one" || whole[0] == "two"));
-    old += whole == Decks{"one"} ? 1 : 0;
+    met.insert(whole.begin(), whole.end());
+    CHECK(desk.HiddenFiles() == 0);
   }
-  CHECK(old > 0);
+  CHECK(met == std::set<std::string>(inTurn.begin(), inTurn.end()));
 }
 
 TEST_CASE("nothing stays open behind a deck that is dropped or taken") {
