@@ -46,13 +46,17 @@ install(DIRECTORY data/icons/ DESTINATION share/icons)
 # Debian wants manual page and change log compressed, without the time of the build.
 find_program(GZIP gzip REQUIRED)
 function(install_compressed source name folder)
+  set(component Unspecified)
+  if(ARGC GREATER 3)
+    set(component ${ARGV3})
+  endif()
   set(packed ${CMAKE_BINARY_DIR}/packed/${name}.gz)
   add_custom_command(OUTPUT ${packed}
     COMMAND ${CMAKE_COMMAND} -E make_directory ${CMAKE_BINARY_DIR}/packed
     COMMAND sh -c "\"${GZIP}\" -9nc \"${CMAKE_SOURCE_DIR}/${source}\" > \"${packed}\""
     DEPENDS ${source} VERBATIM)
   add_custom_target(packed_${name} ALL DEPENDS ${packed})
-  install(FILES ${packed} DESTINATION ${folder})
+  install(FILES ${packed} DESTINATION ${folder} COMPONENT ${component})
 endfunction()
 install_compressed(packaging/tessara.1 tessara.1 share/man/man1)
 install_compressed(packaging/changelog.Debian changelog share/doc/tessara)
@@ -60,6 +64,8 @@ install(FILES packaging/copyright DESTINATION share/doc/tessara)
 if(TARGET tessara_libreoffice)
   install(FILES packaging/lintian-overrides DESTINATION share/lintian/overrides RENAME tessara)
 endif()
+
+include(companion/install.cmake)
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME tessara)
@@ -74,8 +80,8 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION education)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # The fonts of the windows and of the printed sheets.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-dejavu-core, fonts-liberation")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "libreoffice-calc, xdg-utils, shared-mime-info, desktop-file-utils")
+set(CPACK_DEBIAN_UNSPECIFIED_PACKAGE_DEPENDS "fonts-dejavu-core, fonts-liberation")
+set(CPACK_DEBIAN_UNSPECIFIED_PACKAGE_RECOMMENDS "libreoffice-calc, xdg-utils, shared-mime-info, desktop-file-utils")
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS OFF)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)

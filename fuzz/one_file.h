@@ -1,45 +1,17 @@
 #pragma once
 
-#include <algorithm>
+#include <cstddef>
 #include <cstdint>
-#include <memory>
-#include <optional>
-#include <string_view>
 
-#include "machine/file_system.h"
+#include "companion/formats/source_file.h"
 
 namespace tessara::fuzz {
 
-/// A file that holds the fuzzer's bytes and can only be read.
-class BytesFile : public File {
- public:
-  explicit BytesFile(std::string_view bytes) : bytes_(bytes) {}
-
-  std::size_t ReadAt(std::uint64_t offset, std::span<char> buffer) override {
-    const std::size_t start = std::min<std::uint64_t>(offset, bytes_.size());
-    return bytes_.copy(buffer.data(), buffer.size(), start);
-  }
-  void WriteAt(std::uint64_t, std::span<const char>) override {}
-
- private:
-  std::string_view bytes_;
-};
-
-/// A file system with that one file under every path.
-class OneFile : public FileSystem {
+/// A file system with one file, of the fuzzer's bytes, under every path.
+class OneFile : public tessara::OneFile {
  public:
   OneFile(const std::uint8_t* data, std::size_t size)
-      : bytes_(reinterpret_cast<const char*>(data), size) {}
-
-  std::unique_ptr<File> Open(const Text&, OpenMode) override {
-    return std::make_unique<BytesFile>(bytes_);
-  }
-  void Delete(const Text&) override {}
-  void TrySaving(const Text&) override {}
-  std::optional<Text> EntryName(const Text& path) override { return path; }
-
- private:
-  std::string_view bytes_;
+      : tessara::OneFile({reinterpret_cast<const char*>(data), size}) {}
 };
 
 }  // namespace tessara::fuzz

@@ -8,7 +8,7 @@ namespace tessara {
 
 namespace {
 
-bool IsWellFormed(std::string_view bytes) {
+bool IsWellFormedUtf8(std::string_view bytes) {
   Utf8Check check;
   check.Feed(bytes);
   return check.IsWellFormed();
@@ -45,6 +45,10 @@ std::string WellFormedUtf8(TextView text) {
   return ToUtf8(whole);
 }
 
+bool IsWellFormed(TextView text) {
+  return FromUtf8(WellFormedUtf8(text)) == text;
+}
+
 Text WithDeckLineBreaks(TextView text) {
   Text result;
   result.reserve(text.size());
@@ -72,7 +76,7 @@ bool HasLoneBreak(TextView text) {
 TextDecoder::TextDecoder(std::string_view file, const CodePage& codePage)
     : contents_(file), codePage_(codePage) {
   if (contents_.starts_with(kByteOrderMark)) contents_.remove_prefix(kByteOrderMark.size());
-  isUtf8_ = IsWellFormed(contents_);
+  isUtf8_ = IsWellFormedUtf8(contents_);
 }
 
 Text TextDecoder::Decode(std::string_view bytes) const {

@@ -13,6 +13,9 @@ namespace tessara {
 /// UTF-8; what is no character becomes U+FFFD.
 [[nodiscard]] std::string WellFormedUtf8(TextView text);
 
+/// False where a half of a pair of units stands alone: it is no character.
+[[nodiscard]] bool IsWellFormed(TextView text);
+
 /// The text with each of CR LF, CR and LF as the line break of a deck.
 [[nodiscard]] Text WithDeckLineBreaks(TextView text);
 

@@ -13,7 +13,9 @@
 #include "companion/cards/refused.h"
 #include "companion/commands/check.h"
 #include "companion/commands/convert.h"
+#include "companion/commands/print.h"
 #include "companion/commands/reporter.h"
+#include "companion/commands/show.h"
 #include "companion/formats/file_format.h"
 
 namespace tessara {
@@ -30,6 +32,9 @@ class CommandLine {
     app_.set_version_flag("--version", kVersion);
     AddConvert();
     AddCheck();
+    AddShow("show", "List the cards of a deck", true);
+    AddShow("info", "Tell what a deck is about", false);
+    AddPrint();
   }
 
   int Run(int argc, const char* const* argv) {
@@ -43,7 +48,7 @@ class CommandLine {
   }
 
  private:
-  int RunChosen() const {
+  [[nodiscard]] int RunChosen() const {
     try {
       return run_();
     } catch (const Refused& refusal) {
@@ -96,10 +101,34 @@ class CommandLine {
     command->add_option("--from", from_, "Format of the files (tsr, txt)");
   }
 
+  void AddShow(const char* name, const char* help, bool withCards) {
+    CLI::App* command = AddCommand(name, help, [this, withCards] {
+      show_.withCards = withCards;
+      return ShowDeck(show_, CodePageOfLocale());
+    });
+    command->add_option("FILE", show_.file, "The deck; - is standard input")->required();
+    command->add_option("--from", show_.from, "Format of the file (" + FormatNames() + ")");
+    command->add_flag("--json", show_.json, "As a JSON object");
+  }
+
+  void AddPrint() {
+    CLI::App* command = AddCommand("print", "Print a deck to a PDF file, as cards to fold and tear",
+                                   [this] { return PrintDeck(print_, CodePageOfLocale()); });
+    command->add_option("FILE", print_.file, "The deck; - is standard input")->required();
+    command->add_option("OUTPUT", print_.output, "The PDF file; - is standard output")->required();
+    command->add_option("--from", print_.from, "Format of the file (" + FormatNames() + ")");
+    command->add_option("--cards", print_.cards, "Numbers of the cards: 1-20,25");
+    command->add_flag("--flip", print_.flip, "For sheets that are turned over their top edge");
+    command->add_flag("--listing", print_.listing, "A listing of the cards instead of sheets");
+    command->add_flag("--force", print_.force, "Replace an output that exists");
+  }
+
   CLI::App app_{"Decks of flash cards, in and out"};
   std::vector<std::string> files_;
   std::string from_;
   ConvertOptions convert_;
+  ShowOptions show_;
+  PrintOptions print_;
   std::function<int()> run_;
   int failure_ = kRefused;
 };

@@ -155,9 +155,10 @@ DeckRecord CardOfFields(const std::vector<Text>& fields, const CardColumns& colu
 std::vector<Text> FieldsOfCard(const SourceCard& card, DeckKind kind, Losses& losses) {
   std::vector<Text> fields =
       kind == kStandardDeck ? StandardFields(card.record) : QuestionFields(card, losses);
-  if (std::any_of(fields.begin(), fields.end(),
-                  [](const Text& text) { return HasLoneBreak(text); }))
+  if (std::any_of(fields.begin(), fields.end(), HasLoneBreak))
     losses.Tell(card.place, "a carriage return or line feed of its own becomes a line break");
+  if (!std::all_of(fields.begin(), fields.end(), IsWellFormed))
+    losses.Tell(card.place, "halves of characters are not kept");
   return fields;
 }
 

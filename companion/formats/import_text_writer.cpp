@@ -85,6 +85,7 @@ class TextLines {
     const Text line = WithoutBreaks(text);
     if (line.size() != text.size() || line != text)
       losses_.Tell(place, std::string("the line breaks of the ") + name + " become blanks");
+    if (!IsWellFormed(line)) losses_.Tell(place, "halves of characters are not kept");
     if (line.size() > kLongestImportedText) {
       losses_.Tell(place, std::string("the ") + name + " is longer than what an import reads");
     }

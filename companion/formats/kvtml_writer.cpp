@@ -104,6 +104,7 @@ class KvtmlWriter {
       hasControls = hasControls || !good;
       kept += good ? character : kReplacement;
     }
+    if (!IsWellFormed(kept)) losses_.Tell(place, "halves of characters are not kept");
     if (hasControls) losses_.Tell(place, "control characters are not kept");
     return kept;
   }

@@ -3,18 +3,22 @@
 
 usage: check_commands.py BUILD_FOLDER [unittest arguments]
 """
+import json
 import os
 import pathlib
+import re
 import resource
 import stat
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 
 BUILD = pathlib.Path(sys.argv.pop(1)).resolve()
 PROGRAM = BUILD / "tessara-deck"
 SAMPLES = BUILD / "samples"
+SOURCE = pathlib.Path(__file__).resolve().parents[2]
 RECORD = 1192
 SIGNATURE = b"\xef\xbb\xbf"
 
@@ -23,11 +27,16 @@ class Command(unittest.TestCase):
     def setUp(self):
         holder = tempfile.TemporaryDirectory()
         self.addCleanup(holder.cleanup)
-        self.folder = pathlib.Path(holder.name)
+        self.folder = pathlib.Path(holder.name) / "work"
+        self.folder.mkdir()
+        # Qt remarks on a runtime folder that is missing or open to others.
+        runtime = pathlib.Path(holder.name) / "runtime"
+        runtime.mkdir(0o700)
+        self.environment = {**os.environ, "LC_ALL": "C.UTF-8", "XDG_RUNTIME_DIR": str(runtime)}
 
     def run_command(self, *arguments, stdin=b"", **more):
         return subprocess.run([PROGRAM, *arguments], cwd=self.folder, input=stdin, capture_output=True, timeout=60,
-                              check=False, env={**os.environ, "LC_ALL": "C.UTF-8"}, **more)
+                              check=False, env=self.environment, **more)
 
     def write(self, name, content):
         (self.folder / name).write_bytes(content if isinstance(content, bytes) else content.encode())
@@ -194,6 +203,65 @@ class Check(Command):
         self.assertEqual(self.expect(2, "check").stdout, b"")
 
 
+class Show(Command):
+    def test_cards_are_listed_with_nothing_hidden(self):
+        self.write("a.csv", 'a,"1\n2\x1b"\n')
+        self.assertEqual(self.expect(0, "show", "a.csv").stdout, b"1. a\n   1\\n2\\u001B\n")
+        self.write("q.txt", "EXT\n1.q\nA.x\nB.y\n=B\n")
+        self.assertEqual(self.expect(0, "show", "q.txt").stdout, b"1. q\n   A: x\n   B: y\n   answer: B\n")
+
+    def test_json_has_all_of_a_deck(self):
+        self.write("a.csv", 'a,"1\n2"\n')
+        self.expect(0, "convert", "a.csv", "a.tsr", "--author", "A", "--description", "D")
+        deck = json.loads(self.expect(0, "show", "--json", "a.tsr").stdout)
+        date = deck.pop("date")
+        self.assertRegex(date, r"^\d+/\d+/\d{4}$")
+        self.assertEqual(deck, {"title": "a", "author": "A", "description": "D", "kind": "standard",
+                                "cards": [{"front": "a", "back": "1\r\n2"}]})
+        self.write("q.csv", "q,x,y,,,B\nr,,,,,T\n")
+        deck = json.loads(self.expect(0, "show", "q.csv", "--json").stdout)
+        self.assertEqual(deck["cards"], [{"question": "q", "choices": ["x", "y", "", ""], "answer": "B"},
+                                         {"question": "r", "choices": [], "answer": "T"}])
+
+    def test_information_comes_without_cards(self):
+        science = SAMPLES / "science.tsr"
+        self.assertIn(b"kind: extended\n", self.expect(0, "info", science).stdout)
+        self.assertNotIn("cards", json.loads(self.expect(0, "info", "--json", science).stdout))
+
+
+class Print(Command):
+    def text_of(self, name):
+        return subprocess.run(["pdftotext", "-layout", name, "-"], cwd=self.folder, capture_output=True, check=True,
+                              text=True).stdout
+
+    def pages_of(self, name):
+        return self.text_of(name).count("\f")
+
+    def test_chosen_cards_are_printed_front_and_back(self):
+        self.write("a.csv", rows(30))
+        self.expect(0, "print", "a.csv", "a.pdf", "--cards", "1-8,25")
+        self.assertEqual(self.pages_of("a.pdf"), 4)
+        text = self.text_of("a.pdf")
+        for number in (1, 8, 25):
+            self.assertIn(f"front {number}", text)
+            self.assertIn(f"back {number}", text)
+        self.assertNotIn("front 9", text)
+        self.assertIn("exists", self.expect(1, "print", "a.csv", "a.pdf").stderr.decode())
+        self.assertEqual(self.names(), ["a.csv", "a.pdf"])
+
+    def test_a_listing_is_printed(self):
+        self.expect(0, "print", SAMPLES / "capitals.tsr", "a.pdf", "--listing", "--cards", "1-2")
+        self.assertIn("TITLE: Capitals of the world", self.text_of("a.pdf"))
+
+    def test_cards_that_are_not_there_are_refused(self):
+        self.write("a.csv", rows(3))
+        for cards in ("4", "0", "2-1", "x", "1,"):
+            self.assertIn(b"no such cards", self.expect(1, "print", "a.csv", "a.pdf", "--cards", cards).stderr)
+        self.write("b.csv", rows(201))
+        self.assertIn(b"200 cards", self.expect(1, "print", "b.csv", "a.pdf").stderr)
+        self.assertEqual(self.names(), ["a.csv", "b.csv"])
+
+
 class Memory(Command):
     def test_stays_below_100_mb_whatever_is_given(self):
         size = 16 << 20
@@ -227,9 +295,42 @@ print(resource.getrusage(resource.RUSAGE_CHILDREN).ru_maxrss)
 """
 
 
+class Manual(Command):
+    def test_its_examples_run(self):
+        self.write("verbs.csv", rows(2))
+        page = (SOURCE / "packaging" / "tessara-deck.1").read_text()
+        examples = re.search(r"\.EX\n(.*?)\.EE", page, re.DOTALL).group(1).splitlines()
+        for example in examples:
+            words = f"PATH={BUILD}:$PATH; {example}"
+            done = subprocess.run(["sh", "-c", words], cwd=self.folder, capture_output=True, check=False,
+                                  env=self.environment)
+            self.assertEqual((done.returncode, done.stderr), (0, b""), example)
+        self.assertEqual(self.names(), ["again.tsr", "verbs.csv", "verbs.pdf", "verbs.tsr", "verbs.tsv"])
+
+    def test_it_and_the_completions_name_each_option(self):
+        pages = [SOURCE / "packaging" / "tessara-deck.1", *(SOURCE / "packaging" / "completions").iterdir()]
+        for command in ("convert", "check", "show", "info", "print"):
+            told = self.expect(0, command, "--help").stdout.decode()
+            for option in set(re.findall(r"--([a-z]+)", told)) - {"help", "version"}:
+                for page in pages:
+                    self.assertIn(option, page.read_text().replace("\\", ""), f"{page}: {command}")
+
+
+class Start(Command):
+    def test_starts_within_20_ms_of_a_program_that_does_nothing(self):
+        def shortest(*command):
+            times = []
+            for _ in range(30):
+                start = time.perf_counter()
+                subprocess.run(command, stdout=subprocess.DEVNULL, check=True)
+                times.append(time.perf_counter() - start)
+            return min(times)
+        self.assertLess(shortest(PROGRAM, "--version") - shortest("/bin/true"), 0.020)
+
+
 class Usage(Command):
     def test_help_and_version_of_each_command(self):
-        for command in ((), ("convert",), ("check",)):
+        for command in ((), ("convert",), ("check",), ("show",), ("info",), ("print",)):
             self.assertIn(b"Usage", self.expect(0, *command, "--help").stdout)
             self.assertIn(b"tessara-deck 1.", self.expect(0, *command, "--version").stdout)
 

@@ -13,8 +13,11 @@ RUN_AS = {
         "scripts/with_display.sh scripts/first_card.py {scratch}/card.png"
         " build/release/tessara build/release/samples/capitals.tsr",
     "build/release/tessara-deck convert data/samples/verbs.csv verbs.tsr":
-        "build/release/tessara-deck convert data/samples/verbs.csv {scratch}/verbs.tsr",
-    "build/release/tessara-deck check data/samples/science.txt": "build/release/tessara-deck check data/samples/science.txt",
+        "build/release/tessara-deck convert data/samples/verbs.csv {scratch}/words.tsr",
+    "build/release/tessara-deck print verbs.tsr verbs.pdf":
+        "build/release/tessara-deck convert data/samples/verbs.csv {scratch}/verbs.tsr"
+        " && build/release/tessara-deck print {scratch}/verbs.tsr {scratch}/verbs.pdf"
+        " && pdftotext {scratch}/verbs.pdf - | grep drunk",
     "build/release/tests/tests_unit -tc='*deck*'":
         "build/release/tests/tests_unit -tc='*deck*' | grep 'test cases: *[1-9]'",
     "scripts/format.sh": "scripts/format.sh --check",

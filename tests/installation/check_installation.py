@@ -161,10 +161,16 @@ class Package(Scratch):
     def setUpClass(cls):
         super().setUpClass()
         said("cpack", "--config", build / "CPackConfig.cmake", "-G", "DEB", "-B", cls.folder)
-        cls.package, = cls.folder.glob("*.deb")
+        cls.package, = cls.folder.glob("tessara_*.deb")
+        cls.deck_package, = cls.folder.glob("tessara-deck_*.deb")
 
     def field(self, name):
         return said("dpkg-deb", "--field", self.package, name)
+
+    @staticmethod
+    def entries(package):
+        told = said("dpkg-deb", "--contents", package)
+        return {line.split(" ./", 1)[1].split(" -> ")[0].rstrip("/") for line in told.splitlines() if " ./" in line}
 
     def test_it_needs_libraries_and_fonts_and_no_office(self):
         needed = [part.split()[0] for part in self.field("Depends").split(", ")]
@@ -176,11 +182,9 @@ class Package(Scratch):
             self.assertIn(name, recommended)
 
     def test_it_holds_all_that_an_installation_has(self):
-        told = said("dpkg-deb", "--contents", self.package)
-        packed = {line.split(" ./", 1)[1].split(" -> ")[0].rstrip("/") for line in told.splitlines()
-                  if " ./" in line}
+        packed = self.entries(self.package)
         installed = {str(path.relative_to(self.root)) for path in self.root.rglob("*")}
-        self.assertLessEqual(installed, packed)
+        self.assertLessEqual(installed, packed | self.entries(self.deck_package))
         for name in ("bin/tessara", "lib/tessara/tessara", "lib/tessara/tessara-notify",
                      "lib/tessara/TessaraHelp.chm", "lib/tessara/samples/science.tsr",
                      "share/applications/tessara.desktop", "share/mime/packages/tessara.xml",
@@ -194,7 +198,21 @@ class Package(Scratch):
         self.start(unpacked / "usr" / "bin" / "tessara", self.deck, deck=self.deck)
 
     def test_lintian_finds_no_error(self):
-        said("lintian", "--fail-on", "error", "--allow-root", self.package)
+        said("lintian", "--fail-on", "error", "--allow-root", self.package, self.deck_package)
+
+    def test_the_command_is_a_package_of_its_own_without_qt(self):
+        needed = said("dpkg-deb", "--field", self.deck_package, "Depends")
+        self.assertIn("libpugixml", needed)
+        for library in ("qt", "fonts", "libreoffice"):
+            self.assertNotIn(library, needed.lower())
+        packed = self.entries(self.deck_package)
+        for name in ("bin/tessara-deck", "lib/tessara/tessara-deck", "share/man/man1/tessara-deck.1.gz",
+                     "share/bash-completion/completions/tessara-deck", "share/doc/tessara-deck/copyright"):
+            self.assertIn(f"usr/{name}", packed)
+        unpacked = self.folder / "unpacked-deck"
+        said("dpkg-deb", "--extract", self.deck_package, unpacked)
+        said(unpacked / "usr" / "bin" / "tessara-deck", "--version")
+        self.assertNotIn("usr/bin/tessara-deck", self.entries(self.package))
 
 
 if __name__ == "__main__":

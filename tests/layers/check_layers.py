@@ -22,7 +22,7 @@ MAY_INCLUDE = listed_layers()
 ADAPTERS = {room for room in MAY_INCLUDE if room.startswith("adapters/")}
 
 # These put the pieces together, so they may include everything.
-ASSEMBLERS = ("shell/main.cpp", "companion/main.cpp", "tests/", "bench/", "fuzz/")
+ASSEMBLERS = ("shell/main.cpp", "companion/main.cpp", "companion/print_job/", "tests/", "bench/", "fuzz/")
 
 # A library's headers, and the rooms that may see them.
 LIBRARIES = (

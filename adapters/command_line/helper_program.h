@@ -1,0 +1,31 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace tessara {
+
+/// The folder of the executable, links followed.
+[[nodiscard]] std::filesystem::path ExecutableFolder();
+
+/// Runs a program with the user's environment and waits for it. Its exit status, 128 and the
+/// signal's number where one ended it. Raises std::system_error where it can't be started.
+[[nodiscard]] int RunAndWait(const std::filesystem::path& program,
+                             const std::vector<std::string>& arguments);
+
+/// A folder for its owner only, gone with this.
+class PrivateScratch {
+ public:
+  PrivateScratch();
+  PrivateScratch(const PrivateScratch&) = delete;
+  PrivateScratch& operator=(const PrivateScratch&) = delete;
+  ~PrivateScratch();
+
+  [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
+
+ private:
+  std::filesystem::path path_;
+};
+
+}  // namespace tessara

@@ -1,0 +1,39 @@
+#include "companion/cards/card_ranges.h"
+
+#include <charconv>
+#include <set>
+
+namespace tessara {
+
+namespace {
+
+/// 0 where it is no number.
+int NumberOf(std::string_view digits) {
+  int number = 0;
+  const char* end = digits.data() + digits.size();
+  const auto read = std::from_chars(digits.data(), end, number);
+  return read.ptr == end && read.ec == std::errc() ? number : 0;
+}
+
+bool AddRange(std::string_view range, int count, std::set<int>& numbers) {
+  const std::size_t dash = range.find('-');
+  const int first = NumberOf(range.substr(0, dash));
+  const int last = dash == range.npos ? first : NumberOf(range.substr(dash + 1));
+  if (first < 1 || last < first || last > count) return false;
+  for (int number = first; number <= last; ++number) numbers.insert(number);
+  return true;
+}
+
+}  // namespace
+
+std::optional<std::vector<int>> CardNumbersIn(std::string_view ranges, int count) {
+  std::set<int> numbers;
+  for (std::size_t comma = 0; comma != ranges.npos;) {
+    comma = ranges.find(',');
+    if (!AddRange(ranges.substr(0, comma), count, numbers)) return std::nullopt;
+    if (comma != ranges.npos) ranges.remove_prefix(comma + 1);
+  }
+  return std::vector<int>(numbers.begin(), numbers.end());
+}
+
+}  // namespace tessara

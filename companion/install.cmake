@@ -1,0 +1,28 @@
+# The command tessara-deck: in the program's folder, with a link in bin, and a package of its own, which
+# needs no Qt. What prints for it comes with the program.
+install(TARGETS tessara-deck RUNTIME DESTINATION ${programFolder} COMPONENT deck)
+install(TARGETS tessara-print RUNTIME DESTINATION ${programFolder})
+install(CODE "
+  set(bin \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/bin\")
+  file(MAKE_DIRECTORY \"\${bin}\")
+  file(CREATE_LINK ../${programFolder}/tessara-deck \"\${bin}/tessara-deck\" SYMBOLIC)" COMPONENT deck)
+
+install(FILES packaging/completions/tessara-deck.bash DESTINATION share/bash-completion/completions
+        RENAME tessara-deck COMPONENT deck)
+install(FILES packaging/completions/_tessara-deck DESTINATION share/zsh/vendor-completions COMPONENT deck)
+install(FILES packaging/completions/tessara-deck.fish DESTINATION share/fish/vendor_completions.d COMPONENT deck)
+install_compressed(packaging/tessara-deck.1 tessara-deck.1 share/man/man1 deck)
+# The change log is packed once.
+install(FILES ${CMAKE_BINARY_DIR}/packed/changelog.gz DESTINATION share/doc/tessara-deck COMPONENT deck)
+install(FILES packaging/copyright DESTINATION share/doc/tessara-deck COMPONENT deck)
+
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_COMPONENTS_ALL Unspecified deck)
+set(CPACK_DEBIAN_UNSPECIFIED_PACKAGE_NAME tessara)
+set(CPACK_DEBIAN_DECK_PACKAGE_NAME tessara-deck)
+set(CPACK_COMPONENT_DECK_DESCRIPTION
+"take decks of flash cards in and out
+ Makes decks of import texts, spreadsheets' tables and vocabulary files, gives
+ the cards back in each of these formats, checks decks and lists them. With the
+ package tessara it prints them.")
+set(CPACK_DEBIAN_DECK_PACKAGE_SUGGESTS tessara)

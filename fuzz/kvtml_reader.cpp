@@ -1,0 +1,8 @@
+// Any bytes as a vocabulary file.
+
+#include "fuzz/cards_run.h"
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  tessara::fuzz::ReadAndWriteAgain(tessara::FileFormat::kKvtml, data, size);
+  return 0;
+}
