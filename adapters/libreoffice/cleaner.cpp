@@ -60,8 +60,10 @@ class Surroundings {
 pid_t StartShell(int input, const std::filesystem::path& folder,
                  const std::vector<std::filesystem::path>& files) {
   std::vector<std::string> command{"sh", "-c", kScript, folder.string()};
+  command.reserve(command.size() + files.size());
   for (const std::filesystem::path& file : files) command.push_back(file.string());
   std::vector<char*> arguments;
+  arguments.reserve(command.size() + 1);
   for (std::string& argument : command) arguments.push_back(argument.data());
   arguments.push_back(nullptr);
   return Surroundings(input).Start("/bin/sh", arguments.data());

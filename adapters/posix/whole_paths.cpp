@@ -14,7 +14,8 @@ constexpr const char* kVariable = "PATH";
 std::string PathOfSystem() {
   std::string path(confstr(_CS_PATH, nullptr, 0), '\0');
   confstr(_CS_PATH, path.data(), path.size());
-  return path.c_str();  // without the closing 0
+  path.pop_back();  // the closing 0
+  return path;
 }
 
 std::string WholePathsOf(const std::string& path) {
