@@ -2,7 +2,9 @@
 
 #include "authoring/save_edited_card.h"
 #include "base/skip_errors.h"
+#include "deck/deck_record.h"
 #include "deck/double_amps.h"
+#include "deck/stored_text.h"
 #include "viewer/answer_text.h"
 
 namespace tessara {
@@ -54,6 +56,8 @@ void QuestionBuilder::PlaceControls() {
 void QuestionBuilder::DressControls() {
   number.SetForeColor(kDarkRed);
   question.SetMultiLine(true);
+  question.charactersCut = CutIn(kTextWidth, App().machine.codePage);
+  for (TextBox& line : answers) line.charactersCut = CutIn(kShortWidth, App().machine.codePage);
   for (std::size_t line = 0; line < State().building.answerLineLimit.size(); ++line) {
     answers[static_cast<int>(line)].SetMaxLength(State().building.answerLineLimit[line]);
   }

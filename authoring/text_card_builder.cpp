@@ -2,7 +2,9 @@
 
 #include "base/skip_errors.h"
 #include "deck/card_type.h"
+#include "deck/deck_record.h"
 #include "deck/double_amps.h"
+#include "deck/stored_text.h"
 #include "machine/message_box.h"
 
 namespace tessara {
@@ -44,6 +46,7 @@ void TextCardBuilder::PlaceControls() {
   for (TextBox& box : sides) {
     box.SetMultiLine(true);
     box.SetVerticalScrollBar(true);
+    box.charactersCut = CutIn(kTextWidth, App().machine.codePage);
   }
 }
 

@@ -1,7 +1,5 @@
 #include "base/code_page.h"
 
-#include <algorithm>
-
 #include "base/ascii.h"
 
 namespace tessara {
@@ -60,25 +58,19 @@ Text CodePage::Decode(std::string_view bytes) const {
   }
 }
 
-std::string CodePage::Encode(TextView text) const {
-  std::string bytes(text.size(), '\0');
-  std::transform(text.begin(), text.end(), bytes.begin(),
-                 [this](char16_t character) { return ByteOf(character); });
+std::optional<std::string> CodePage::Encode(TextView text) const {
+  std::string bytes;
+  bytes.reserve(text.size());
+  for (const char16_t character : text) {
+    if (character < kFirstUpper) {
+      bytes += static_cast<char>(character);
+      continue;
+    }
+    const auto found = bytes_.find(character);
+    if (found == bytes_.end()) return std::nullopt;
+    bytes += found->second;
+  }
   return bytes;
-}
-
-char CodePage::ByteOf(char16_t character) const {
-  if (character < kFirstUpper) return static_cast<char>(character);
-  const auto found = bytes_.find(character);
-  return found == bytes_.end() ? '?' : found->second;
-}
-
-Text CodePage::Representable(TextView text) const {
-  return Decode(Encode(text));
-}
-
-bool CodePage::Holds(char16_t character) const {
-  return bytes_.contains(character);
 }
 
 }  // namespace tessara

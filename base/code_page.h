@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -23,15 +24,10 @@ class CodePage {
   static const CodePage& Western();
 
   [[nodiscard]] Text Decode(std::string_view bytes) const;
-  /// A character that the code page lacks becomes "?".
-  [[nodiscard]] std::string Encode(TextView text) const;
-  /// The text as it will be after a way through Encode and Decode.
-  [[nodiscard]] Text Representable(TextView text) const;
-  [[nodiscard]] bool Holds(char16_t character) const;
+  /// Nothing where the code page lacks a character of the text.
+  [[nodiscard]] std::optional<std::string> Encode(TextView text) const;
 
  private:
-  [[nodiscard]] char ByteOf(char16_t character) const;
-
   std::array<char16_t, 256> characters_{};
   std::unordered_map<char16_t, char> bytes_;
 };

@@ -36,5 +36,8 @@ foreach(line ${layerLines})
   set_target_properties(tessara_${folder} PROPERTIES UNITY_BUILD OFF)
   target_link_libraries(tessara_core INTERFACE tessara_${folder})
 endforeach()
+# Unicode's characters and normal forms; starts quickly, and nothing of it needs data files.
+find_library(UNISTRING_LIBRARY unistring REQUIRED)
+target_link_libraries(tessara_base PRIVATE ${UNISTRING_LIBRARY})
 # Every text that is read goes through it: worth the vector instructions.
 set_source_files_properties(base/ascii.cpp PROPERTIES COMPILE_OPTIONS $<$<CONFIG:RelWithDebInfo,Release>:-O3>)

@@ -8,6 +8,7 @@
 #include "base/conversion.h"
 #include "base/skip_errors.h"
 #include "deck/card_type.h"
+#include "deck/stored_text.h"
 
 namespace tessara {
 

@@ -2,6 +2,8 @@
 
 #include "deck/card_type.h"
 #include "deck/date_text.h"
+#include "deck/deck_record.h"
+#include "deck/stored_text.h"
 #include "machine/clock.h"
 #include "machine/message_box.h"
 
@@ -47,6 +49,10 @@ void DeckInfoWindow::PlaceControls() {
   fields[kTitleField].SetMaxLength(kTitleLength);
   fields[kAuthorField].SetMaxLength(kTitleLength);
   fields[kDescriptionField].SetMaxLength(kDescriptionLength);
+  const CodePage& codePage = app_.machine.codePage;
+  fields[kTitleField].charactersCut = CutIn(kShortWidth, codePage);
+  fields[kAuthorField].charactersCut = CutIn(kShortWidth, codePage);
+  fields[kDescriptionField].charactersCut = CutIn(kTextWidth, codePage);
   fields[kDescriptionField].SetMultiLine(true);
   fields[kDescriptionField].SetVerticalScrollBar(true);
   save.SetEnabled(false);

@@ -1,9 +1,10 @@
 #include "deck/deck_record.h"
 
 #include <algorithm>
-#include <string_view>
+#include <string>
 
 #include "base/ascii.h"
+#include "deck/stored_text.h"
 
 namespace tessara {
 
@@ -16,11 +17,12 @@ struct Field {
 };
 
 constexpr Field kTypeField = {0, 1};
-constexpr Field kTextField = {1, 444};
+constexpr Field kTextField = {1, kTextWidth};
 constexpr Field kNumberField = {445, 2};
-constexpr std::array<Field, 4> kShortFields = {{{447, 75}, {522, 75}, {597, 75}, {672, 75}}};
+constexpr std::array<Field, 4> kShortFields = {
+    {{447, kShortWidth}, {522, kShortWidth}, {597, kShortWidth}, {672, kShortWidth}}};
 constexpr Field kAnswerField = {747, 1};
-constexpr Field kLongField = {748, 444};
+constexpr Field kLongField = {748, kTextWidth};
 static_assert(kLongField.offset + kLongField.width == kRecordSize);
 static_assert(kNumberField.offset + kNumberField.width == kLeastRecord);
 
@@ -30,7 +32,7 @@ using Bytes = std::span<char, kRecordSize>;
 std::size_t FillFront(std::span<char> field, TextView text, const CodePage& codePage) {
   if (text.empty()) return 0;
   if (CopiedAsAscii(text, field)) return std::min(text.size(), field.size());
-  const std::string stored = codePage.Encode(text.substr(0, field.size()));
+  const std::string stored = StoreText(text, field.size(), codePage).bytes;
   std::copy(stored.begin(), stored.end(), field.begin());
   return stored.size();
 }
@@ -41,18 +43,8 @@ void PutText(Bytes bytes, Field field, TextView text, const CodePage& codePage) 
   std::fill(rest.begin(), rest.end(), kBlank);
 }
 
-/// Most of a field is blanks: they go in long strides.
-std::string_view WithoutBlanksBehind(std::string_view bytes) {
-  constexpr std::string_view kStride = "        ";
-  while (bytes.ends_with(kStride)) bytes.remove_suffix(kStride.size());
-  while (bytes.ends_with(kBlank)) bytes.remove_suffix(1);
-  return bytes;
-}
-
 Text TextAt(RecordView bytes, Field field, const CodePage& codePage) {
-  std::string_view text = WithoutBlanksBehind({bytes.data() + field.offset, field.width});
-  while (text.starts_with(kBlank)) text.remove_prefix(1);
-  return text.empty() ? Text() : codePage.Decode(text);
+  return ReadText({bytes.data() + field.offset, field.width}, codePage);
 }
 
 /// Little-endian, whatever the machine.

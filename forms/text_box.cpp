@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "base/code_page.h"
+#include "base/characters.h"
 #include "forms/assign.h"
 #include "forms/form.h"
 #include "forms/window_system.h"
@@ -28,27 +28,18 @@ Text WithLineBreaks(TextView typed) {
   return result;
 }
 
-/// Takes off what goes over the room, without cutting a line break in two.
-Text CutToRoom(Text inserted, std::size_t room) {
-  if (inserted.size() <= room) return inserted;
-  const bool splitsLineBreak =
-      room > 0 && inserted[room - 1] == kCarriageReturn && inserted[room] == kLineFeed;
-  inserted.resize(splitsLineBreak ? room - 1 : room);
-  return inserted;
-}
-
 /// The box's text after the edit, by the box's rules.
 Text Edited(const TextBox& box, const TextEdit& edit) {
   Text text = box.TextOf();
   const std::size_t place = std::min(edit.place, text.size());
   const std::size_t removed = std::min(edit.removed, text.size() - place);
-  Text inserted = box.Owner().System().CodePageOf().Representable(edit.inserted);
-  inserted = box.MultiLine() ? WithLineBreaks(inserted)
-                             : inserted.substr(0, inserted.find_first_of(kLineBreak));
+  Text inserted = box.MultiLine()
+                      ? WithLineBreaks(edit.inserted)
+                      : edit.inserted.substr(0, edit.inserted.find_first_of(kLineBreak));
   if (box.MaxLength() > 0) {
     const std::size_t kept = text.size() - removed;
     const auto limit = static_cast<std::size_t>(box.MaxLength());
-    inserted = CutToRoom(std::move(inserted), limit > kept ? limit - kept : 0);
+    inserted.resize(WholeCharacters(inserted, limit > kept ? limit - kept : 0).size());
   }
   return text.replace(place, removed, inserted);
 }
@@ -71,6 +62,10 @@ void TextBox::SetLocked(bool locked) {
 
 int TextBox::LineCount() const {
   return Owner().System().RendererOf().LineCount(*this);
+}
+
+std::size_t TextBox::CharactersCut() const {
+  return charactersCut ? charactersCut(text_) : 0;
 }
 
 void TextBox::UserEdit(const TextEdit& edit) {

@@ -36,11 +36,16 @@ class TextBox : public Control {
   /// The number of display lines that the text takes, wrapped at the box's designed width.
   [[nodiscard]] int LineCount() const;
 
-  /// What the user typed, pasted, cut or undid. Characters that the code page lacks become "?",
-  /// line breaks CR LF (a single-line box takes what stands before the first one), and what goes
-  /// over the limit is left out. Nothing happens where the box is locked or not reachable.
+  /// What the user typed, pasted, cut or undid. Line breaks become CR LF (a single-line box takes
+  /// what stands before the first one), and what goes over the limit is left out, in characters as
+  /// a reader sees them. Nothing happens where the box is locked or not reachable.
   void UserEdit(const TextEdit& edit);
   std::function<void()> onChange;
+
+  /// How many characters of a text, as a reader sees them, a save would cut. A box that has it is
+  /// marked while there are some.
+  std::function<std::size_t(const Text& text)> charactersCut;
+  [[nodiscard]] std::size_t CharactersCut() const;
 
  private:
   Text text_;

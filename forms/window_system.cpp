@@ -10,8 +10,7 @@
 
 namespace tessara {
 
-WindowSystem::WindowSystem(MessageBoxes& messages, const CodePage& codePage)
-    : messages_(messages), codePage_(codePage) {}
+WindowSystem::WindowSystem(MessageBoxes& messages) : messages_(messages) {}
 
 WindowSystem::~WindowSystem() = default;
 

@@ -11,7 +11,6 @@
 
 namespace tessara {
 
-class CodePage;
 class MessageBoxes;
 class RunTimeError;
 
@@ -19,7 +18,7 @@ class RunTimeError;
 /// inside what. One for the program; the renderer is set once, before the first window loads.
 class WindowSystem {
  public:
-  WindowSystem(MessageBoxes& messages, const CodePage& codePage);
+  explicit WindowSystem(MessageBoxes& messages);
   WindowSystem(const WindowSystem&) = delete;
   WindowSystem& operator=(const WindowSystem&) = delete;
   ~WindowSystem();
@@ -28,7 +27,6 @@ class WindowSystem {
   /// Runs, and raises nothing, at the end of each event that is inside no other.
   void SetAfterEvent(std::function<void()> afterEvent) { afterEvent_ = std::move(afterEvent); }
   [[nodiscard]] Renderer& RendererOf() const { return *renderer_; }
-  [[nodiscard]] const CodePage& CodePageOf() const { return codePage_; }
 
   /// Runs an event. A run-time error that it lets out is shown in the error report box, and then
   /// the program ends with status 1: the renderer is told, and ProgramEnded leaves all events but
@@ -86,7 +84,6 @@ class WindowSystem {
   bool CloseFrame(Form& frame);
 
   MessageBoxes& messages_;
-  const CodePage& codePage_;
   Renderer* renderer_ = nullptr;
   std::function<void()> afterEvent_;
   std::vector<Form*> loaded_;

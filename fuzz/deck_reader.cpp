@@ -5,7 +5,7 @@
 #include "deck/deck_file.h"
 #include "fuzz/one_file.h"
 #include "fuzz/require.h"
-#include "tests/support/memory_files.h"
+#include "fuzz/saved_deck.h"
 
 namespace tessara::fuzz {
 
@@ -41,30 +41,6 @@ void CheckLoaded(const ProgramState& state) {
   Require(state.deck.title == state.deck.Cell(kInfoRow, kInfoTitle));
 }
 
-/// The writer goes down to the first absent row.
-int RowsWritten(const ProgramState& state) {
-  int row = 0;
-  while (row < kRows && state.deck.cardPresent.At(row) == 1) ++row;
-  return row;
-}
-
-void CheckSavedAndLoaded(const ProgramState& state) {
-  test::MemoryFiles files;
-  FileNumber number(files);
-  number.OpenRandom(kPath, OpenMode::kReadAndWrite, kRecordSize);
-  WriteRecords(state, number, CodePage::Western());
-  number.Close();
-  ProgramState again;
-  Require(Loads(files, again));
-  for (int row = 0; row < RowsWritten(state) && row <= kMostCards; ++row) {
-    // A terminator or a second information record in the middle makes the load stop or go on.
-    if (state.deck.Cell(row, kCardType) == u"X") return;
-    for (int column = kCardType; column < kColumns; ++column) {
-      Require(again.deck.Cell(row, column) == state.deck.Cell(row, column));
-    }
-  }
-}
-
 }  // namespace
 
 }  // namespace tessara::fuzz
@@ -75,6 +51,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   ProgramState state;
   if (!fuzz::Loads(files, state)) return 0;
   fuzz::CheckLoaded(state);
-  fuzz::CheckSavedAndLoaded(state);
+  fuzz::RequireSaved(state);
   return 0;
 }

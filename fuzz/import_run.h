@@ -2,6 +2,7 @@
 
 #include "fuzz/one_file.h"
 #include "fuzz/require.h"
+#include "fuzz/saved_deck.h"
 #include "import/import_common.h"
 
 namespace tessara::fuzz {
@@ -27,6 +28,7 @@ class ImportRun : private MessageBoxes {
     Require(shown_ == state_.deck.changed);
     Require(shown_ == (state_.deck.cardPresent.At(kInfoRow) == 1));
     for (int row = 1; row <= kMostCards; ++row) CheckRow(row);
+    if (shown_) RequireSaved(state_);
   }
 
  private:

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "base/characters.h"
 #include "base/run_time_error.h"
 #include "base/utf8.h"
 
@@ -10,39 +11,27 @@ namespace tessara {
 
 namespace {
 
-bool IsHighSurrogate(char16_t unit) {
-  return unit >= 0xD800 && unit <= 0xDBFF;
-}
-
-bool IsAscii(char16_t unit) {
-  return unit < 0x80;
-}
-
-/// The text with one "?" for each character that the code page lacks: two units can be one.
-Text WithinCodePage(Text text, const CodePage& codePage) {
-  std::size_t length = 0;
-  for (std::size_t at = 0; at < text.size(); ++at) {
-    const char16_t unit = text[at];
-    // Every code page holds ASCII: most characters need no look-up.
-    const bool held = IsAscii(unit) || codePage.Holds(unit);
-    text[length++] = held ? unit : u'?';
-    if (IsHighSurrogate(unit)) ++at;
+/// A byte order mark makes a text UTF-8, whatever follows: a byte that is none is one of the code
+/// page.
+Text FromMostlyUtf8(std::string_view bytes, const CodePage& codePage) {
+  Text text;
+  while (true) {
+    const std::size_t length = Utf8Length(bytes);
+    text += FromUtf8(bytes.substr(0, length));
+    bytes.remove_prefix(length);
+    if (bytes.empty()) return text;
+    text += codePage.Decode(bytes.substr(0, 1));
+    bytes.remove_prefix(1);
   }
-  text.resize(length);
-  return text;
 }
 
 }  // namespace
 
 LineReader::LineReader(FileNumber& file, const CodePage& codePage)
-    : file_(file), codePage_(codePage), traits_(LookThrough(file)), block_(kTextBlockSize) {
-  // Somebody may have cut the file since.
-  if (traits_.hasByteOrderMark && Refill())
-    rest_.remove_prefix(std::min(rest_.size(), kByteOrderMark.size()));
-}
+    : codePage_(codePage), traits_(LookThrough(file)), blocks_(file, traits_) {}
 
 bool LineReader::Refill() {
-  rest_ = {block_.data(), file_.ReadNext(block_)};
+  rest_ = blocks_.Next();
   return !rest_.empty();
 }
 
@@ -52,27 +41,34 @@ bool LineReader::AtEnd() {
 
 Text LineReader::ReadLine() {
   if (AtEnd()) throw RunTimeError(ErrorNumber::kInputPastEnd);
-  const char lineEnd = traits_.hasCarriageReturn ? '\r' : '\n';
   std::string line;
   do {
-    const std::size_t end = rest_.find(lineEnd);
+    const std::size_t end = LineEnd();
     line += rest_.substr(0, std::min(end, kLongestLine - line.size()));
     if (end != rest_.npos) {
-      rest_.remove_prefix(end + 1);
-      if (traits_.hasCarriageReturn) SkipLineFeed();
+      PassLineEnd(end);
       break;
     }
   } while (Refill());
   return Decode(line);
 }
 
-void LineReader::SkipLineFeed() {
-  if (!AtEnd() && rest_.front() == '\n') rest_.remove_prefix(1);
+std::size_t LineReader::LineEnd() const {
+  const std::size_t lineFeed = lineFeedEnds_ ? rest_.find('\n') : rest_.npos;
+  return std::min(lineFeed, rest_.substr(0, lineFeed).find('\r'));
+}
+
+void LineReader::PassLineEnd(std::size_t end) {
+  const bool carriageReturn = rest_[end] == '\r';
+  rest_.remove_prefix(end + 1);
+  if (carriageReturn && !AtEnd() && rest_.front() == '\n') rest_.remove_prefix(1);
+  if (inFirstLine_) lineFeedEnds_ = !carriageReturn;
+  inFirstLine_ = false;
 }
 
 Text LineReader::Decode(std::string_view bytes) const {
-  if (!traits_.isUtf8) return codePage_.Decode(bytes);
-  return WithinCodePage(FromUtf8(bytes), codePage_);
+  const bool inCodePage = traits_.encoding == TextEncoding::kCodePage;
+  return inCodePage ? codePage_.Decode(bytes) : FromMostlyUtf8(bytes, codePage_);
 }
 
 }  // namespace tessara

@@ -7,11 +7,12 @@ scripts=$(dirname "${BASH_SOURCE[0]}")
 declare -A packages=(
   [build]="g++ cmake ninja-build ccache pkgconf python3 qt6-base-dev libfontconfig-dev libgl1-mesa-dev libglib2.0-dev
     libchm-dev fp-utils-3.2.2 libreoffice-calc libreoffice-dev libcups2-dev libqpdf-dev libcli11-dev libcsv-dev
-    libpugixml-dev libxml2-dev nlohmann-json3-dev"
+    libpugixml-dev libxml2-dev nlohmann-json3-dev libunistring-dev"
   [run]="fonts-dejavu-core fonts-liberation libreoffice-calc"
   [wayland]="qt6-wayland"
   [virtual-display]="xvfb openbox xdotool x11-utils python3-pil"
-  [test]="doctest-dev fonts-cantarell fonts-inter fonts-noto-core at-spi2-core cups-daemon dbus-daemon gdb gir1.2-atspi-2.0 poppler-utils python3-gi"
+  [test]="doctest-dev fonts-cantarell fonts-inter fonts-noto-core at-spi2-core cups-daemon dbus-daemon gdb gir1.2-atspi-2.0 poppler-utils python3-gi
+    fonts-freefont-ttf fonts-noto-cjk fonts-noto-color-emoji"
   [package]="appstream desktop-file-utils dpkg-dev libfile-mimeinfo-perl libglib2.0-bin lintian shared-mime-info xdg-utils"
   [lint]="clang-format-14 clang-tidy-14"
   [sanitizers]="clang-14 libclang-rt-14-dev"

@@ -17,7 +17,7 @@ Program::Program(Machine& machine)
       messages_(machine.messages, unsaved_),
       dialogs_(machine.dialogs, unsaved_),
       machine_(WithKeeping(machine)),
-      windows_(messages_, machine.codePage),
+      windows_(messages_),
       fileNumber_(machine_.files),
       spreadsheetJob_(machine_),
       cardPictures_(MakeCardPictures()),

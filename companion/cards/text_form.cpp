@@ -1,5 +1,6 @@
 #include "companion/cards/text_form.h"
 
+#include "base/characters.h"
 #include "base/utf8.h"
 #include "import/text_traits.h"
 #include "import/utf8_check.h"
@@ -14,14 +15,6 @@ bool IsWellFormedUtf8(std::string_view bytes) {
   return check.IsWellFormed();
 }
 
-bool IsHighSurrogate(char16_t unit) {
-  return unit >= 0xD800 && unit <= 0xDBFF;
-}
-
-bool IsLowSurrogate(char16_t unit) {
-  return unit >= 0xDC00 && unit <= 0xDFFF;
-}
-
 /// How many units the line break at the front takes; 0 where there is none.
 std::size_t BreakLength(TextView text) {
   if (text.starts_with(kLineBreak)) return kLineBreak.size();
@@ -31,18 +24,7 @@ std::size_t BreakLength(TextView text) {
 }  // namespace
 
 std::string WellFormedUtf8(TextView text) {
-  constexpr char16_t kReplacement = 0xFFFD;
-  Text whole(text);
-  for (std::size_t at = 0; at < whole.size(); ++at) {
-    const bool pair =
-        IsHighSurrogate(whole[at]) && at + 1 < whole.size() && IsLowSurrogate(whole[at + 1]);
-    if (pair) {
-      ++at;
-    } else if (IsHighSurrogate(whole[at]) || IsLowSurrogate(whole[at])) {
-      whole[at] = kReplacement;
-    }
-  }
-  return ToUtf8(whole);
+  return ToUtf8(WellFormed(text));
 }
 
 bool IsWellFormed(TextView text) {

@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "base/characters.h"
 #include "base/run_time_error.h"
 #include "companion/cards/refused.h"
 #include "companion/formats/source_file.h"
@@ -45,8 +46,11 @@ void TakeKind(DeckRecord& record, DeckKind kind, const Place& place, Losses& los
   losses.Tell(place, "its unknown type is not kept");
 }
 
-void TellCut(const Text& text, const Text& kept, const char* field, const Place& place,
+/// A text may come back in form C: its letters with their marks are the same ones.
+void TellCut(const Text& written, const Text& read, const char* field, const Place& place,
              Losses& losses) {
+  const Text text = Composed(written);
+  const Text kept = Composed(read);
   if (text == kept) return;
   if (Trimmed(text) == kept) {
     losses.Tell(place, std::string("blanks at the ends of the ") + field + " are not kept");

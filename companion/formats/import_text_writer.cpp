@@ -1,6 +1,6 @@
 #include "companion/formats/import_text_writer.h"
 
-#include <algorithm>
+#include <optional>
 
 #include "companion/cards/text_form.h"
 #include "import/import_common.h"
@@ -113,17 +113,10 @@ bool LooksLikeUtf8(std::string_view bytes) {
   return check.IsWellFormed() && check.HasNonAscii();
 }
 
-bool HoldsAll(const CodePage& codePage, TextView text) {
-  return std::all_of(text.begin(), text.end(),
-                     [&codePage](char16_t character) { return codePage.Holds(character); });
-}
-
 /// Bytes of the code page that a reader would take for UTF-8 are written as UTF-8 indeed.
 void WriteEncoded(TextView text, ByteSink& sink, const CodePage& codePage) {
-  if (HoldsAll(codePage, text)) {
-    const std::string bytes = codePage.Encode(text);
-    if (!LooksLikeUtf8(bytes)) return sink.Write(bytes);
-  }
+  const std::optional<std::string> bytes = codePage.Encode(text);
+  if (bytes && !LooksLikeUtf8(*bytes)) return sink.Write(*bytes);
   sink.Write(kByteOrderMark);
   sink.Write(WellFormedUtf8(text));
 }

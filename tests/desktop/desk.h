@@ -9,7 +9,6 @@
 
 #include "adapters/qt/text/qt_text.h"
 #include "adapters/qt/windows/qt_renderer.h"
-#include "base/code_page.h"
 #include "forms/window_system.h"
 #include "tests/desktop/event_loops.h"
 #include "tests/desktop/sample_forms.h"
@@ -20,7 +19,7 @@ namespace tessara::test {
 /// A frame on screen, and windows to open in it.
 struct Desk {
   FakeMessages messages;
-  WindowSystem windows{messages, CodePage::Western()};
+  WindowSystem windows{messages};
   QtRenderer renderer{windows, TESSARA_TEST_PICTURES};
   std::function<void(SampleForm&)> prepare;
 

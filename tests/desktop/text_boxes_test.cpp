@@ -5,9 +5,11 @@
 #include <QPlainTextEdit>
 #include <QTextBlock>
 #include <QTextLayout>
+#include <algorithm>
 #include <doctest/doctest.h>
 
 #include "adapters/qt/views/text_area_view.h"
+#include "adapters/qt/views/too_long_mark.h"
 #include "base/utf8.h"
 #include "tests/desktop/desk.h"
 
@@ -75,9 +77,17 @@ TEST_CASE("Return in a box of several lines is CR LF, and deletes as one") {
 }
 
 TEST_CASE("What the user does not touch stays to the last character") {
-  const Text odd[] = {
-      u"non\u00A0breaking",        u"lone\rreturn", u"lone\nfeed", Text(u"nul\0byte", 8),
-      u"tab\tand\u0081unassigned", u"\r\n\r\n",     u"bell\u0007", u" blanks "};
+  const Text odd[] = {u"non\u00A0breaking",
+                      u"lone\rreturn",
+                      u"lone\nfeed",
+                      Text(u"nul\0byte", 8),
+                      u"tab\tand\u0081unassigned",
+                      u"\r\n\r\n",
+                      u"bell\u0007",
+                      u" blanks ",
+                      u"paragraph\u2029border\uFDD0\uFDD1",
+                      u"private\uE001",
+                      u"rat \xD83D\xDC00"};
   for (const Text& text : odd) {
     CAPTURE(ToUtf8(text));
     Desk desk;
@@ -98,36 +108,101 @@ TEST_CASE("What the user does not touch stays to the last character") {
   }
 }
 
-TEST_CASE("Characters that the code page lacks become question marks on every way in") {
+TEST_CASE("Characters of every script stay as they are on every way in") {
+  const QString scripts =
+      QStringLiteral("\u0416\u4E2D\u05D0e\u0301\U0001F400\uFEFF\uE001\u0915\u093F");
   Desk desk;
   SampleForm& form = desk.ShowChild();
   auto& line = Desk::Of<QLineEdit>("Text1");
   auto& area = Desk::Of<QPlainTextEdit>("Text2");
   SUBCASE("typed") {
-    QTest::sendKeyEvent(QTest::Click, &line, Qt::Key_unknown, QString(u'\u4E2D'), {});
-    QTest::sendKeyEvent(QTest::Click, &area, Qt::Key_unknown, QString(u'\u4E2D'), {});
+    for (const char32_t character : scripts.toStdU32String()) {
+      const QString typed = QStringView(QChar::fromUcs4(character)).toString();
+      QTest::sendKeyEvent(QTest::Click, &line, Qt::Key_unknown, typed, {});
+      QTest::sendKeyEvent(QTest::Click, &area, Qt::Key_unknown, typed, {});
+    }
   }
   SUBCASE("by an input method") {
-    Commit(line, QString(u'\u4E2D'));
-    Commit(area, QString(u'\u4E2D'));
+    Commit(line, scripts);
+    Commit(area, scripts);
   }
   SUBCASE("pasted") {
-    Paste(line, QString(u'\u4E2D'));
-    Paste(area, QString(u'\u4E2D'));
+    Paste(line, scripts);
+    Paste(area, scripts);
   }
-  CHECK(form.Text1.TextOf() == u"?");
-  CHECK(form.Text2.TextOf() == u"?");
-  CHECK(line.text() == "?");
-  CHECK(area.toPlainText() == "?");
+  const Text expected = scripts.toStdU16String();
+  CHECK(ToUtf8(form.Text1.TextOf()) == ToUtf8(expected));
+  CHECK(ToUtf8(form.Text2.TextOf()) == ToUtf8(expected));
+  CHECK(line.text() == scripts);
+  CHECK(area.toPlainText() == scripts);
+}
+
+TEST_CASE("Backspace and the arrow keys go by characters as a reader sees them") {
+  const Text characters[] = {u"x",
+                             u"e\u0301\u0323",
+                             u"\xD83D\xDE00",
+                             u"\u0915\u093F",
+                             u"\xD83D\xDC68\u200D\xD83D\xDC69",
+                             u"\u05E9\u05C1"};
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  for (const Text& character : characters) {
+    CAPTURE(ToUtf8(character));
+    for (TextBox* const box : {&form.Text1, &form.Text2}) {
+      QWidget& widget = Desk::Of(box == &form.Text1 ? "Text1" : "Text2");
+      box->SetText(u"a" + character);
+      QTest::keyClick(&widget, Qt::Key_End);
+      QTest::keyClick(&widget, Qt::Key_Left);
+      QTest::keyClicks(&widget, "|");
+      CHECK(ToUtf8(box->TextOf()) == ToUtf8(u"a|" + character));
+      QTest::keyClick(&widget, Qt::Key_End);
+      QTest::keyClick(&widget, Qt::Key_Backspace);
+      CHECK(ToUtf8(box->TextOf()) == "a|");
+      Undo(widget);
+      CHECK(ToUtf8(box->TextOf()) == ToUtf8(u"a|" + character));
+    }
+  }
+}
+
+TEST_CASE("A box whose text a save would cut is marked, and tells by how many characters") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  for (TextBox* const box : {&form.Text1, &form.Text2}) {
+    QWidget& widget = Desk::Of(box == &form.Text1 ? "Text1" : "Text2");
+    box->charactersCut = [](const Text& text) {
+      return text.size() - std::min<std::size_t>(text.size(), 3);
+    };
+    const auto marks = [&widget] {
+      const auto children = widget.findChildren<QWidget*>();
+      return std::ranges::count_if(children, [](const QWidget* child) {
+        return dynamic_cast<const TooLongMark*>(child) != nullptr && child->isVisible();
+      });
+    };
+    box->SetText(u"abc");
+    CHECK(marks() == 0);
+    CHECK(widget.accessibleDescription().isEmpty());
+    QTest::keyClick(&widget, Qt::Key_End);
+    QTest::keyClicks(&widget, "d");
+    CHECK(marks() == 1);
+    CHECK(widget.accessibleDescription() == "1 character too long: a save cuts it off.");
+    QTest::keyClicks(&widget, "e");
+    CHECK(box->TextOf() == u"abcde");
+    CHECK(widget.toolTip() == "2 characters too long: a save cuts them off.");
+    QTest::keyClick(&widget, Qt::Key_Backspace);
+    QTest::keyClick(&widget, Qt::Key_Backspace);
+    CHECK(marks() == 0);
+    CHECK(widget.toolTip().isEmpty());
+  }
 }
 
 TEST_CASE("A corrected paste can be undone") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
   auto& area = Desk::Of<QPlainTextEdit>("Text2");
+  form.Text2.SetMaxLength(2);
   QTest::keyClicks(&area, "a");
   Paste(area, QStringLiteral("\u4E2Db"));
-  CHECK(form.Text2.TextOf() == u"a?b");
+  CHECK(form.Text2.TextOf() == u"a\u4E2D");
   while (area.document()->isUndoAvailable()) area.undo();
   CHECK(form.Text2.TextOf().empty());
 }
@@ -142,15 +217,15 @@ TEST_CASE("Undo takes back typing and a corrected paste, and redo brings them ag
   for (const Kind& kind : {Kind{"Text1", form.Text1}, Kind{"Text2", form.Text2}}) {
     CAPTURE(kind.name);
     QWidget& widget = Desk::Of(kind.name);
-    QTest::keyClicks(&widget, "a");
-    Paste(widget, QStringLiteral("\u4E2Db"));
-    QTest::keyClicks(&widget, "c");
-    CHECK(kind.box.TextOf() == u"a?bc");
+    kind.box.SetMaxLength(4);
+    QTest::keyClicks(&widget, "ac");
+    Paste(widget, QStringLiteral("\u4E2Dbd"));
+    CHECK(kind.box.TextOf() == u"ac\u4E2Db");
     constexpr int kMostSteps = 4;
     for (int step = 0; step < kMostSteps && !kind.box.TextOf().empty(); ++step) Undo(widget);
     CHECK(kind.box.TextOf().empty());
     for (int step = 0; step < kMostSteps; ++step) Redo(widget);
-    CHECK(kind.box.TextOf() == u"a?bc");
+    CHECK(kind.box.TextOf() == u"ac\u4E2Db");
   }
 }
 
@@ -188,12 +263,14 @@ TEST_CASE("Composed text reaches the form when it is committed") {
   }
   CHECK(ComposedIn(area).isEmpty());
   // What is put right in the text before it leaves the composed text alone.
-  Compose(area, "zi", QStringLiteral("\u4E2D"));
-  CHECK(form.Text2.TextOf() == u"a\u00E9?");
+  form.Text2.SetMaxLength(3);
+  Compose(area, "zi", QStringLiteral("\u4E2D\u6587"));
+  CHECK(form.Text2.TextOf() == u"a\u00E9\u4E2D");
   CHECK(ComposedIn(area) == "zi");
+  form.Text2.SetMaxLength(4);
   Compose(area, {}, "z");
-  CHECK(form.Text2.TextOf() == u"a\u00E9?z");
-  CHECK(area.toPlainText() == QStringLiteral("a\u00E9?z"));
+  CHECK(form.Text2.TextOf() == u"a\u00E9\u4E2Dz");
+  CHECK(area.toPlainText() == QStringLiteral("a\u00E9\u4E2Dz"));
 }
 
 TEST_CASE("Pasted lines keep their breaks, whatever they are made of") {

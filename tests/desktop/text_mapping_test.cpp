@@ -8,7 +8,8 @@ using namespace tessara;
 
 TEST_CASE("Shown text and the form's text are each other's") {
   for (const Text& text : {Text(u""), Text(u"a\r\nb"), Text(u"\r\r\n\n"), Text(u"\0\x1F\x7F", 3),
-                           Text(u"\t\u00A0\u0081\u009F")}) {
+                           Text(u"\t\u00A0\u0081\u009F"), Text(u"\u2029\uFDD0\uFDD1"),
+                           Text(u"\uE001\uFEFF\xD83D\xDC00\xD83D\xDC9F")}) {
     CHECK(TextOfShown(ShownText(text, true), true) == text);
     CHECK(TextOfShown(ShownText(text, false), false) == text);
     CHECK(ShownText(text, false).size() == static_cast<qsizetype>(text.size()));
@@ -38,6 +39,20 @@ TEST_CASE("A change is told where the cursor says that it was made") {
     CHECK(edit.removed == test.removed);
     CHECK(edit.inserted.toStdString() == test.inserted);
   }
+}
+
+TEST_CASE("A change takes pairs of surrogates whole") {
+  const QString rat = QStringLiteral("\U0001F400");
+  const QString mouse = QStringLiteral("\U0001F401");
+  const ShownEdit changed = ChangeBetween("a" + rat, "a" + mouse, 3);
+  CHECK(changed.place == 1);
+  CHECK(changed.removed == 2);
+  CHECK(changed.inserted == mouse);
+  const QString bear = QStringLiteral("\U0001F800");  // another first half
+  const ShownEdit before = ChangeBetween(rat + "a", bear + "a", 2);
+  CHECK(before.place == 0);
+  CHECK(before.removed == 2);
+  CHECK(UserChange(u"", rat, 2, false).inserted == u"\xD83D\xDC00");
 }
 
 TEST_CASE("A change behind line breaks counts both their characters") {

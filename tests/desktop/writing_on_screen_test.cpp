@@ -92,9 +92,10 @@ TEST_CASE(
     saved = SaveByKeys(desk, "mnuSave");
     CHECK(desk.TakeAsked().empty());
   }
-  CHECK(saved == WithAccents(InfoBytes(NewDeckOfType(u" Standard")) +
-                             CardBytes(1, u"What is the capital\r\nof Norway?", u"It is Oslo") +
-                             CardBytes(2, u"caf# ? tea & milk", u" 100% ") + EndBytes()));
+  CHECK(saved ==
+        WithAccents(InfoBytes(NewDeckOfType(u" Standard")) +
+                    CardBytes(1, u"What is the capital\r\nof Norway?", u"It is Oslo") +
+                    CardBytes(2, u"\uFEFFcaf\u00E9 \u2192 tea & milk", u" 100% ") + EndBytes()));
   ProgramOnScreen again;
   again.folder.Write("new.tsr", saved);
   again.Start(u"new.tsr");

@@ -35,7 +35,7 @@ class OfficeDesk {
   FakeMachine fakes;
   RecordingPrintSurface surface;
   Machine machine;
-  WindowSystem windows{fakes.messages, machine.codePage};
+  WindowSystem windows{fakes.messages};
   HeadlessRenderer renderer;
   ProgramState state;
   TestFrame frame;

@@ -13,7 +13,7 @@ namespace tessara::test {
 struct TestDesk {
   FakeMachine fakes;
   Machine machine = fakes.Get();
-  WindowSystem windows{fakes.messages, machine.codePage};
+  WindowSystem windows{fakes.messages};
   HeadlessRenderer renderer;
   ProgramState state;
   TestFrame frame;

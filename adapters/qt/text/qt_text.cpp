@@ -3,7 +3,9 @@
 namespace tessara {
 
 QString ToQString(TextView text) {
-  return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
+  // Unit by unit: QString::fromUtf16 would take a byte order mark away.
+  const auto* const units = reinterpret_cast<const QChar*>(text.data());
+  return QString(units, static_cast<qsizetype>(text.size()));
 }
 
 Text FromQString(const QString& text) {

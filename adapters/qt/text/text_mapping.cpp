@@ -8,17 +8,39 @@ namespace tessara {
 
 namespace {
 
-constexpr char16_t kPlaceholders = 0xE000;
+/// The first of the surrogates that stand behind another in a pair.
+constexpr char16_t kPlaceholders = 0xDC00;
+/// The paragraph separator, and what Qt's documents keep for the borders of their frames.
+constexpr TextView kTakenForBorders = u"\u2029\uFDD0\uFDD1";
+constexpr char16_t kFirstBehindControls = 0xA0;
 
 bool IsControl(char16_t character) {
   constexpr char16_t kDelete = 0x7F;
-  constexpr char16_t kLastControl = 0x9F;
   const bool low = character < u' ' && character != u'\t';
-  return low || (character >= kDelete && character <= kLastControl);
+  return low || (character >= kDelete && character < kFirstBehindControls);
 }
 
-bool IsPlaceholder(char16_t character) {
-  return character >= kPlaceholders && IsControl(static_cast<char16_t>(character - kPlaceholders));
+char16_t ShownCharacter(char16_t character) {
+  const std::size_t border = kTakenForBorders.find(character);
+  if (border != TextView::npos) {
+    return static_cast<char16_t>(kPlaceholders + kFirstBehindControls + border);
+  }
+  return IsControl(character) ? static_cast<char16_t>(kPlaceholders + character) : character;
+}
+
+/// The way back, for a character that is no part of a pair of surrogates.
+char16_t CharacterOfShown(char16_t shown) {
+  if (shown < kPlaceholders) return shown;
+  const auto character = static_cast<char16_t>(shown - kPlaceholders);
+  if (IsControl(character)) return character;
+  const std::size_t border = static_cast<std::size_t>(character) - kFirstBehindControls;
+  return border < kTakenForBorders.size() ? kTakenForBorders[border] : shown;
+}
+
+/// True where a pair of surrogates begins.
+bool IsPair(QStringView shown, qsizetype at) {
+  return at >= 0 && at + 1 < shown.size() && shown[at].isHighSurrogate() &&
+         shown[at + 1].isLowSurrogate();
 }
 
 bool IsLineBreak(TextView text, std::size_t at) {
@@ -44,7 +66,7 @@ QString ShownText(TextView text, bool multiLine) {
       shown += u'\n';
       ++at;
     } else {
-      shown += QChar(IsControl(text[at]) ? kPlaceholders + text[at] : text[at]);
+      shown += QChar(ShownCharacter(text[at]));
     }
   }
   return shown;
@@ -52,12 +74,14 @@ QString ShownText(TextView text, bool multiLine) {
 
 Text TextOfShown(const QString& shown, bool multiLine) {
   Text text;
-  for (const QChar character : shown) {
-    const char16_t code = character.unicode();
-    if (multiLine && code == kLineFeed) {
+  for (qsizetype at = 0; at < shown.size(); ++at) {
+    const char16_t code = shown[at].unicode();
+    if (IsPair(shown, at)) {
+      text += {code, shown[++at].unicode()};
+    } else if (multiLine && code == kLineFeed) {
       text += kLineBreak;
     } else {
-      text += IsPlaceholder(code) ? static_cast<char16_t>(code - kPlaceholders) : code;
+      text += CharacterOfShown(code);
     }
   }
   return text;
@@ -71,8 +95,13 @@ ShownEdit ChangeBetween(const QString& before, const QString& after, qsizetype c
          before[before.size() - 1 - suffix] == after[after.size() - 1 - suffix]) {
     ++suffix;
   }
+  const auto behind = [&suffix](const QString& text) { return text.size() - suffix; };
+  if (suffix > 0 && (IsPair(before, behind(before) - 1) || IsPair(after, behind(after) - 1))) {
+    --suffix;
+  }
   qsizetype prefix = 0;
   while (prefix < shorter - suffix && before[prefix] == after[prefix]) ++prefix;
+  if (IsPair(before, prefix - 1) || IsPair(after, prefix - 1)) --prefix;
   return {prefix, before.size() - suffix - prefix,
           after.mid(prefix, after.size() - suffix - prefix)};
 }

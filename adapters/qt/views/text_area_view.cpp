@@ -1,15 +1,13 @@
 #include "adapters/qt/views/text_area_view.h"
 
 #include <QApplication>
-#include <QDragEnterEvent>
-#include <QMimeData>
 #include <QStyle>
 #include <QTextBlock>
 #include <QTextLayout>
 
-#include "adapters/qt/text/dropped_file.h"
 #include "adapters/qt/text/line_breaks.h"
 #include "adapters/qt/text/text_mapping.h"
+#include "adapters/qt/views/edit_widgets.h"
 #include "adapters/qt/views/redo_keys.h"
 
 namespace tessara {
@@ -18,28 +16,6 @@ namespace {
 
 /// What a QTextDocument leaves free at either side of its text.
 constexpr int kDocumentMargin = 4;
-
-/// Takes plain text from a clipboard or a drag and nothing else, no file for the text of its path:
-/// Qt would format what is marked as Markdown, and crashes where a clipboard offers nothing. It is
-/// laid out at once: how it breaks is told first.
-class PlainArea : public QPlainTextEdit {
- public:
-  using QPlainTextEdit::QPlainTextEdit;
-
- protected:
-  void dragEnterEvent(QDragEnterEvent* event) override {
-    QPlainTextEdit::dragEnterEvent(event);
-    if (HoldsFiles(*event->mimeData())) event->ignore();
-  }
-  void insertFromMimeData(const QMimeData* source) override {
-    if (!source->hasText()) return;
-    QMimeData plain;
-    plain.setText(source->text());
-    const QTextOption::WrapMode breaks = WrapModeOf(plain.text());
-    if (breaks == QTextOption::WrapAnywhere) setWordWrapMode(breaks);
-    QPlainTextEdit::insertFromMimeData(&plain);
-  }
-};
 
 int LinesOfParagraph(const QString& paragraph, const QTextOption& option, const QFont& font,
                      int width) {
@@ -56,7 +32,7 @@ int LinesOfParagraph(const QString& paragraph, const QTextOption& option, const 
 }  // namespace
 
 TextAreaView::TextAreaView(TextBox& box, QWidget& parent, const ViewContext& context)
-    : ControlView(box, *new PlainArea(&parent), context) {
+    : ControlView(box, *new PlainArea(&parent), context), tooLong_(*new TooLongMark(Widget())) {
   Edit().setTabChangesFocus(true);
   Edit().setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   Edit().setVerticalScrollBarPolicy(box.VerticalScrollBar() ? Qt::ScrollBarAlwaysOn
@@ -68,7 +44,10 @@ TextAreaView::TextAreaView(TextBox& box, QWidget& parent, const ViewContext& con
 }
 
 void TextAreaView::FollowOwn(Aspect aspect) {
-  if (aspect == Aspect::kText) ShowText();
+  if (aspect == Aspect::kText) {
+    ShowText();
+    tooLong_.Tell(As<TextBox>().CharactersCut());
+  }
   if (aspect == Aspect::kEnabled) Edit().setReadOnly(As<TextBox>().Locked());
 }
 

@@ -1,41 +1,26 @@
 #include "adapters/qt/views/text_line_view.h"
 
-#include <QDragEnterEvent>
-#include <QMimeData>
 #include <algorithm>
 #include <limits>
 
-#include "adapters/qt/text/dropped_file.h"
 #include "adapters/qt/text/text_mapping.h"
+#include "adapters/qt/views/edit_widgets.h"
 #include "adapters/qt/views/redo_keys.h"
 
 namespace tessara {
 
-namespace {
-
-/// Takes no file for the text of its path.
-class PlainLine : public QLineEdit {
- public:
-  using QLineEdit::QLineEdit;
-
- protected:
-  void dragEnterEvent(QDragEnterEvent* event) override {
-    QLineEdit::dragEnterEvent(event);
-    if (HoldsFiles(*event->mimeData())) event->ignore();
-  }
-};
-
-}  // namespace
-
 TextLineView::TextLineView(TextBox& box, QWidget& parent, const ViewContext& context)
-    : ControlView(box, *new PlainLine(&parent), context) {
+    : ControlView(box, *new CharacterLine(&parent), context), tooLong_(*new TooLongMark(Widget())) {
   Edit().setMaxLength(std::numeric_limits<int>::max());
   AddRedoKeys(Edit());
   QObject::connect(&Edit(), &QLineEdit::textEdited, this, [this] { PassEdit(); });
 }
 
 void TextLineView::FollowOwn(Aspect aspect) {
-  if (aspect == Aspect::kText) ShowText();
+  if (aspect == Aspect::kText) {
+    ShowText();
+    tooLong_.Tell(As<TextBox>().CharactersCut());
+  }
   if (aspect == Aspect::kEnabled) Edit().setReadOnly(As<TextBox>().Locked());
 }
 

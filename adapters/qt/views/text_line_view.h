@@ -3,6 +3,7 @@
 #include <QLineEdit>
 
 #include "adapters/qt/views/control_view.h"
+#include "adapters/qt/views/too_long_mark.h"
 #include "forms/controls.h"
 
 namespace tessara {
@@ -23,6 +24,7 @@ class TextLineView : public ControlView {
   void ShowText();
   void CorrectTo(const QString& wanted);
 
+  TooLongMark& tooLong_;
   bool passing_ = false;
   bool correcting_ = false;
 };

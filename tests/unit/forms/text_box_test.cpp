@@ -30,12 +30,26 @@ TEST_CASE("what the user types comes into the text by the box's rules") {
       {"a pasted line break stays one", true, 0, u"", {0, 0, u"a\r\nb"}, u"a\r\nb"},
       {"lone carriage returns become line breaks", true, 0, u"", {0, 0, u"a\rb"}, u"a\r\nb"},
       {"several lines into a single-line box", false, 0, u"", {0, 0, u"a\r\nb"}, u"a"},
-      {"a character that the code page lacks", true, 0, u"", {0, 0, u"\u4e2d"}, u"?"},
+      {"a character of any script",
+       true,
+       0,
+       u"",
+       {0, 0, u"\u4e2d\xD83D\xDE00"},
+       u"\u4e2d\xD83D\xDE00"},
+      {"a byte order mark",
+       false,
+       0,
+       u"a",
+       {0, 0, u"\uFEFF"},
+       u"\uFEFF"
+       u"a"},
       {"up to the limit", false, 3, u"ab", {2, 0, u"cd"}, u"abc"},
       {"nothing over the limit", false, 3, u"abc", {1, 0, u"x"}, u"abc"},
       {"a longer text can shrink", false, 3, u"abcdef", {5, 1, u""}, u"abcde"},
       {"a longer text takes nothing more", false, 3, u"abcdef", {0, 1, u"x"}, u"bcdef"},
       {"a line break is not cut in two", true, 3, u"ab", {2, 0, u"\r\n"}, u"ab"},
+      {"nor is a pair of surrogates", true, 3, u"ab", {2, 0, u"\xD83D\xDE00"}, u"ab"},
+      {"nor a letter and its mark", true, 3, u"a", {1, 0, u"be\u0301"}, u"ab"},
   };
   for (const EditCase& c : cases) {
     CAPTURE(c.what);

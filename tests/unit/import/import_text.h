@@ -37,7 +37,7 @@ class ImportText {
   }
 
  private:
-  void Add(const Text& line) { bytes_ += CodePage::Western().Encode(line) + "\r\n"; }
+  void Add(const Text& line) { bytes_ += CodePage::Western().Encode(line).value() + "\r\n"; }
   void AddSide(const Text& tag, TextView side, std::size_t lineLength) {
     Add(tag);
     for (; !side.empty(); side.remove_prefix(std::min(lineLength, side.size()))) {

@@ -26,6 +26,16 @@ std::string Bytes(std::string_view bytes) {
   return std::string(bytes);
 }
 
+std::string Utf16(const Text& units, bool littleEndian) {
+  std::string bytes;
+  for (const char16_t unit : units) {
+    const char low = static_cast<char>(unit & 0xFFU);
+    const char high = static_cast<char>(unit >> 8U);
+    bytes += littleEndian ? std::string{low, high} : std::string{high, low};
+  }
+  return bytes;
+}
+
 /// A file of any size that holds one line again and again, and remembers what was asked of it.
 class EndlessFile : public File {
  public:
@@ -57,7 +67,7 @@ class EndlessFiles : public MemoryFiles {
 
 }  // namespace
 
-TEST_CASE("a line ends at CR or CR LF, and at LF only where the file holds no CR") {
+TEST_CASE("a line ends at CR or CR LF, and at LF too where the first one does") {
   struct Case {
     std::string what;
     std::string bytes;
@@ -73,10 +83,14 @@ TEST_CASE("a line ends at CR or CR LF, and at LF only where the file holds no CR
       {"empty lines, CR LF", "\r\n\r\na\r\n\r\n", {u"", u"", u"a", u""}},
       {"empty lines, CR", "\r\r", {u"", u""}},
       {"empty lines, LF", "\n\na\n\n", {u"", u"", u"a", u""}},
-      {"LF before CR is text", "a\n\rb", {u"a\n", u"b"}},
-      {"LF alone is text where a CR stands", "a\nb\r\nc\nd", {u"a\nb", u"c\nd"}},
+      {"a stray CR among LF", "a\nb\rc\nd", {u"a", u"b", u"c", u"d"}},
+      {"LF before CR are two ends", "a\n\rb", {u"a", u"", u"b"}},
+      {"LF alone is text where the first line ends in CR LF",
+       "a\r\nb\nc\r\nd",
+       {u"a", u"b\nc", u"d"}},
       {"LF behind CR LF is text", "a\r\n\nb", {u"a", u"\nb"}},
-      {"one CR far behind decides for all", "a\nb\nc\r", {u"a\nb\nc"}},
+      {"LF alone is text where the first line ends in CR", "a\rb\nc", {u"a", u"b\nc"}},
+      {"CR LF behind a first line of LF is one end", "a\nb\r\nc", {u"a", u"b", u"c"}},
       {"NUL bytes are kept", Bytes({"a\0b\r\n\0\r\n", 8}), {Text(u"a\0b", 3), Text(u"\0", 1)}},
       {"the classic end-of-file byte is text",
        "a\x1A"
@@ -128,20 +142,22 @@ TEST_CASE("text that is well-formed UTF-8 throughout is read as such, all else b
        {u"\u00C3\u00A4", u"\u00E4"}},
       {"a character of the upper rows", "\xE2\x82\xAC", {u"\u20AC"}},
       {"the same one in the code page", "\x80", {u"\u20AC"}},
-      {"a character that the code page lacks", "a\xD0\x96z", {u"a?z"}},
-      {"one beyond the 16-bit units is one", "a\xF0\x9F\x98\x80z", {u"a?z"}},
+      {"a character that the code page lacks", "a\xD0\x96z", {u"a\u0416z"}},
+      {"one beyond the 16-bit units", "a\xF0\x9F\x98\x80z", {u"a\xD83D\xDE00z"}},
       {"a text that ends within a character", "\xC3\xA4\xC3", {u"\u00C3\u00A4\u00C3"}},
       {"the mark before ASCII", "\xEF\xBB\xBFSTD\r\nb", {u"STD", u"b"}},
       {"the mark before UTF-8", "\xEF\xBB\xBF\xC3\xA4", {u"\u00E4"}},
       {"the mark before a byte that is none",
        "\xEF\xBB\xBF"
        "a\xE4z",
-       {u"a?z"}},
+       {u"a\u00E4z"}},
       {"the mark alone", "\xEF\xBB\xBF", {}},
       {"the mark in another place",
        "a\n\xEF\xBB\xBF"
        "b",
-       {u"a", u"?b"}},
+       {u"a",
+        u"\uFEFF"
+        u"b"}},
   };
   for (const Case& c : cases) {
     CAPTURE(c.what);
@@ -149,13 +165,39 @@ TEST_CASE("text that is well-formed UTF-8 throughout is read as such, all else b
   }
 }
 
-TEST_CASE("characters are those of the program's code page") {
+TEST_CASE("bytes that are no UTF-8 are characters of the program's code page") {
   CodePage::UpperHalf cyrillicLetter{};
   cyrillicLetter[0xC6 - 0x80] = u'\u0416';
   const CodePage codePage(cyrillicLetter);
   CHECK(LinesOf("\xC6", codePage) == TextLines{u"\u0416"});
   CHECK(LinesOf("\xD0\x96", codePage) == TextLines{u"\u0416"});
-  CHECK(LinesOf("\xC3\xA4", codePage) == TextLines{u"?"});
+  CHECK(LinesOf("\xC3\xA4", codePage) == TextLines{u"\u00E4"});
+}
+
+TEST_CASE("a text with the mark of UTF-16 is read as such, in either order of bytes") {
+  const TextLines text = {u"STD", u"\u0416\u4E2D\xD83D\xDE00", u"", u"\uFEFFx"};
+  for (const bool littleEndian : {true, false}) {
+    for (const Text& end : {Text(u"\r\n"), Text(u"\r"), Text(u"\n")}) {
+      Text units = u"\uFEFF";
+      for (const Text& line : text) units += line + end;
+      CHECK(LinesOf(Utf16(units, littleEndian)) == text);
+    }
+  }
+}
+
+TEST_CASE("what is no character in UTF-16 becomes the replacement character") {
+  CHECK(LinesOf(Utf16(Text{0xFEFF, u'a', 0xDC80, u'b', 0xD83D}, true)) ==
+        TextLines{u"a\uFFFDb\uFFFD"});
+  CHECK(LinesOf(Utf16(u"\uFEFFa", true) + "b") == TextLines{u"a\uFFFD"});
+  CHECK(LinesOf(Utf16(u"\uFEFF", true)).empty());
+}
+
+TEST_CASE("a pair of surrogates may lie in two blocks of UTF-16") {
+  const Text filler(kTextBlockSize / 2 - 2, u'x');
+  for (const bool littleEndian : {true, false}) {
+    const Text text = filler + u"\xD83D\xDE00\u0416";
+    CHECK(LinesOf(Utf16(u"\uFEFF" + text, littleEndian)) == TextLines{text});
+  }
 }
 
 TEST_CASE("a UTF-8 character may lie in two blocks") {
@@ -193,7 +235,7 @@ TEST_CASE("a file that is cut while it is read ends where it is cut") {
       "abc");
   int reads = 0;
   text.files.fault = [&](MemoryFiles::Operation, const Text& path) -> std::optional<ErrorNumber> {
-    constexpr int kReadsOfLookThrough = 2;
+    constexpr int kReadsOfLookThrough = 1;
     if (++reads == kReadsOfLookThrough + 1) text.files.files.at(path)->resize(1);
     return std::nullopt;
   };

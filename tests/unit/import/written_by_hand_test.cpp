@@ -301,9 +301,16 @@ TEST_CASE("a text in the code page of the language reads like one in UTF-8") {
   CHECK(CardsOf(desk.state) == std::vector<Text>{u"E|gro\u00DF|caf\u00E9 \u20AC"});
 }
 
-TEST_CASE("a text in UTF-16 does not begin with a type") {
+TEST_CASE("a text in UTF-16 with its mark reads like one in UTF-8") {
+  const TextView text = u"\uFEFFSTD\r\n1.\r\n*>F\r\n\u0416\r\n*>B\r\n\u4E2D\r\n";
   CommandDesk desk;
-  desk.Import(std::string("\xFF\xFES\0T\0D\0\r\0\n\0", 12));
+  desk.Import({reinterpret_cast<const char*>(text.data()), text.size() * sizeof(char16_t)});
+  CHECK(CardsOf(desk.state) == std::vector<Text>{u"E|\u0416|\u4E2D"});
+}
+
+TEST_CASE("a text in UTF-16 without a mark does not begin with a type") {
+  CommandDesk desk;
+  desk.Import(std::string("S\0T\0D\0\r\0\n\0", 10));
   CHECK(desk.Told() == Boxes{kUnknownFormat});
 }
 

@@ -24,7 +24,7 @@ class PrintDesk {
   RecordingSpreadsheet server;
   RecordingPrintSurface surface;
   Machine machine = WithRecorders();
-  WindowSystem windows{fakes.messages, machine.codePage};
+  WindowSystem windows{fakes.messages};
   HeadlessRenderer renderer;
   ProgramState state;
   TestFrame frame;

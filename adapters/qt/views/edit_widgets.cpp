@@ -1,0 +1,62 @@
+#include "adapters/qt/views/edit_widgets.h"
+
+#include <QDragEnterEvent>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QTextBlock>
+
+#include "adapters/qt/text/character_before.h"
+#include "adapters/qt/text/dropped_file.h"
+#include "adapters/qt/text/line_breaks.h"
+
+namespace tessara {
+
+namespace {
+
+bool IsBackspace(const QKeyEvent& event) {
+  return event.key() == Qt::Key_Backspace && !(event.modifiers() & ~Qt::ShiftModifier);
+}
+
+}  // namespace
+
+void CharacterLine::dragEnterEvent(QDragEnterEvent* event) {
+  QLineEdit::dragEnterEvent(event);
+  if (HoldsFiles(*event->mimeData())) event->ignore();
+}
+
+void CharacterLine::keyPressEvent(QKeyEvent* event) {
+  if (IsBackspace(*event) && !isReadOnly() && !hasSelectedText() && cursorPosition() > 0) {
+    const auto first = static_cast<int>(CharacterBefore(text(), cursorPosition()));
+    if (cursorPosition() - first > 1) setSelection(first, cursorPosition() - first);
+  }
+  QLineEdit::keyPressEvent(event);
+}
+
+void PlainArea::dragEnterEvent(QDragEnterEvent* event) {
+  QPlainTextEdit::dragEnterEvent(event);
+  if (HoldsFiles(*event->mimeData())) event->ignore();
+}
+
+void PlainArea::insertFromMimeData(const QMimeData* source) {
+  if (!source->hasText()) return;
+  QMimeData plain;
+  plain.setText(source->text());
+  const QTextOption::WrapMode breaks = WrapModeOf(plain.text());
+  if (breaks == QTextOption::WrapAnywhere) setWordWrapMode(breaks);
+  QPlainTextEdit::insertFromMimeData(&plain);
+}
+
+void PlainArea::keyPressEvent(QKeyEvent* event) {
+  QTextCursor cursor = textCursor();
+  const int place = cursor.positionInBlock();
+  if (IsBackspace(*event) && !isReadOnly() && !cursor.hasSelection() && place > 0) {
+    const auto first = static_cast<int>(CharacterBefore(cursor.block().text(), place));
+    if (place - first > 1) {
+      cursor.setPosition(cursor.position() - (place - first), QTextCursor::KeepAnchor);
+      setTextCursor(cursor);
+    }
+  }
+  QPlainTextEdit::keyPressEvent(event);
+}
+
+}  // namespace tessara

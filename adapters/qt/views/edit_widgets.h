@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+namespace tessara {
+
+// Qt's edit widgets, where Backspace takes a whole character as a reader sees it, as the other keys
+// do, and not the last of its marks.
+
+/// It takes no file for the text of its path.
+class CharacterLine : public QLineEdit {
+ public:
+  using QLineEdit::QLineEdit;
+
+ protected:
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+};
+
+/// It takes plain text from a clipboard or a drag and nothing else, no file for the text of its
+/// path: Qt would format what is marked as Markdown, and crashes where a clipboard offers nothing.
+/// It is laid out at once: how it breaks is told first.
+class PlainArea : public QPlainTextEdit {
+ public:
+  using QPlainTextEdit::QPlainTextEdit;
+
+ protected:
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void insertFromMimeData(const QMimeData* source) override;
+  void keyPressEvent(QKeyEvent* event) override;
+};
+
+}  // namespace tessara
