@@ -16,8 +16,9 @@ if(CPPUMAKER AND TARGET tessara_cups AND QPDF_LIBRARY AND libreofficeSources)
   set(unoInterfaces
     beans.PropertyValue beans.XPropertySet bridge.UnoUrlResolver connection.NoConnectException
     document.MacroExecMode document.UpdateDocMode frame.Desktop frame.XComponentLoader frame.XModel
-    frame.XStorable lang.DisposedException lang.XComponent sheet.XSpreadsheet sheet.XSpreadsheetDocument
-    sheet.XSpreadsheetView text.XText uno.DeploymentException uno.XComponentContext util.XCloseable)
+    frame.XStorable lang.DisposedException lang.XComponent sheet.XCellRangeAddressable sheet.XCellRangeMovement
+    sheet.XSpreadsheet sheet.XSpreadsheetDocument
+    sheet.XSpreadsheetView table.CellVertJustify2 table.XColumnRowRange text.XText uno.DeploymentException uno.XComponentContext util.XCloseable)
   list(TRANSFORM unoInterfaces PREPEND -Tcom.sun.star.)
   set(unoHeaders ${CMAKE_BINARY_DIR}/uno)
   set(unoStamp ${unoHeaders}/made)

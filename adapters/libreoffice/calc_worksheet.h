@@ -3,7 +3,9 @@
 #include <com/sun/star/sheet/XSpreadsheet.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
 #include <com/sun/star/uno/Any.hxx>
+#include <compare>
 #include <memory>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -33,6 +35,14 @@ class CalcWorksheet : public Worksheet {
   void SetFont(const Text& range, const char* property, const com::sun::star::uno::Any& value);
   void ApplyFonts();
 
+  /// Row and column count from 1.
+  struct CellPlace {
+    std::int16_t row;
+    std::int16_t column;
+    auto operator<=>(const CellPlace&) const = default;
+  };
+  void Align(const CellPlace& place);
+
   struct FontSetting {
     Text range;
     std::string property;
@@ -48,6 +58,7 @@ class CalcWorksheet : public Worksheet {
   /// that a later one covers, and given to the server with the print if they differ.
   std::vector<FontSetting> fonts_;
   std::vector<FontSetting> fontsOfServer_;
+  std::set<CellPlace> written_;
 };
 
 }  // namespace tessara

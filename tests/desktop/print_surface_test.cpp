@@ -73,6 +73,11 @@ TEST_CASE("Lengths are twips and agree with each other") {
   CHECK(desk.surface.CurrentY() == doctest::Approx(2 * line));
 }
 
+TEST_CASE("A tab is four blanks on paper") {
+  PdfDesk desk;
+  CHECK(desk.surface.TextWidth(u"a\tb") == doctest::Approx(desk.surface.TextWidth(u"a    b")));
+}
+
 TEST_CASE("Bold and size change the measures") {
   PdfDesk desk;
   const double plain = desk.surface.TextWidth(u"Tessara");

@@ -109,6 +109,34 @@ TEST_CASE("a line break in a text is one on the card") {
   CHECK(std::abs(page.Word("last").top - first - 3 * line) < kTolerance);
 }
 
+TEST_CASE("a tab in a text is four blanks on the card") {
+  OfficeDesk desk(1);
+  desk.SetCard(1, u"left\tright\r\nleft2    right2", u"B1");
+  REQUIRE(desk.Print() == "PRINT");
+  const PrintedPage page = desk.Pages().front();
+  const double tab = page.Word("right").left - page.Word("left").right;
+  const double blanks = page.Word("right2").left - page.Word("left2").right;
+  CHECK(tab > 3);
+  CHECK(std::abs(tab - blanks) < kTolerance);
+}
+
+TEST_CASE(
+    "a card with more lines than fit begins at its top, and its neighbours stay in the middle") {
+  constexpr double kFirstRowCenter = -103.75;
+  Text lines = u"first";
+  for (int line = 2; line <= 20; ++line) lines += u"\r\nline" + DecimalText(line);
+  OfficeDesk desk(8);
+  desk.SetCard(1, lines, u"B1");
+  REQUIRE(desk.Print() == "PRINT");
+  const PrintedPage page = desk.Pages().front();
+  const double middle = page.height / 2 + kFirstRowCenter;
+  const double top = middle - kCardHeight / 2;
+  CHECK(page.Word("first").top >= top - kTolerance);
+  CHECK(page.Word("first").top < top + 3);
+  const PrintedWord neighbour = page.Word("F5");
+  CHECK(std::abs((neighbour.top + neighbour.bottom) / 2 - middle) < 2);
+}
+
 /// Text of 444 characters in words of an English text's length.
 Text LongestText() {
   const Text words = u"The quick brown foxes jump over seven lazy dogs, and nobody minds; ";

@@ -16,6 +16,7 @@
 #include "base/run_time_error.h"
 #include "base/skip_errors.h"
 #include "base/utf8.h"
+#include "machine/tab_on_paper.h"
 
 namespace tessara {
 
@@ -28,7 +29,8 @@ constexpr double kTwipsPerInch = 1440;
 constexpr QMarginsF kMargins(6, 6, 6, 6);
 
 QStringList LinesOf(const Text& text) {
-  return LinesForQt(text).replace(u'\r', u'\n').split(u'\n');
+  const QString lines = LinesForQt(text).replace(u'\r', u'\n');
+  return QString(lines).replace(kTab, ToQString(kTabOnPaper)).split(u'\n');
 }
 
 double TwipsPerDot(const QPdfWriter& writer) {
