@@ -81,7 +81,9 @@ set(CPACK_DEBIAN_PACKAGE_SECTION education)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # The fonts of the windows and of the printed sheets.
 set(CPACK_DEBIAN_UNSPECIFIED_PACKAGE_DEPENDS "fonts-dejavu-core, fonts-liberation")
-set(CPACK_DEBIAN_UNSPECIFIED_PACKAGE_RECOMMENDS "libreoffice-calc, xdg-utils, shared-mime-info, desktop-file-utils")
+# Among them fonts for the scripts that the fonts of the windows lack.
+set(CPACK_DEBIAN_UNSPECIFIED_PACKAGE_RECOMMENDS
+    "libreoffice-calc, xdg-utils, shared-mime-info, desktop-file-utils, fonts-freefont-ttf, fonts-noto-cjk, fonts-noto-color-emoji")
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS OFF)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)

@@ -14,6 +14,8 @@ from pathlib import Path
 HERE = Path(__file__).resolve().parent
 
 RECORD_SIZE = 1192
+# Before a text in UTF-8; the others are in the code page.
+SIGNATURE = b"\xef\xbb\xbf"
 # Offset and width of each text of a record; the number is the two bytes at NUMBER.
 TYPE, TEXT, ANSWER, LONG = (0, 1), (1, 444), (747, 1), (748, 444)
 SHORTS = [(447, 75), (522, 75), (597, 75), (672, 75)]
@@ -23,13 +25,15 @@ NUMBER = 445
 LONGEST_QUESTION, LONGEST_CHOICE, LONGEST_DESCRIPTION = 300, 48, 400
 
 # Name, type text, the types of its cards, fewest cards.
-DECKS = [("capitals", " Standard", {"E"}, 193), ("science", " Extended", {"T", "M"}, 48)]
+DECKS = [("capitals", " Standard", {"E"}, 193), ("science", " Extended", {"T", "M"}, 48),
+         ("words", " Standard", {"E"}, 40), ("scripts", " Extended", {"T", "M"}, 28)]
 MOST_CARDS = 200
 
 
 def text_at(record, where):
     offset, width = where
-    return record[offset:offset + width].decode("cp1252").rstrip(" ")
+    stored = record[offset:offset + width].rstrip(b" ")
+    return stored.removeprefix(SIGNATURE).decode("utf-8" if stored.startswith(SIGNATURE) else "cp1252")
 
 
 def number_at(record):

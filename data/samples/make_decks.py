@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes the sample decks capitals.tsr and science.tsr from the import texts beside this script.
+"""Makes the sample decks, capitals.tsr and so on, from the import texts beside this script.
 
 usage: make_decks.py OUTPUT_FOLDER
 
@@ -11,6 +11,7 @@ docs/deck-format.md has the records. Twice the same texts give twice the same by
 import re
 import struct
 import sys
+import unicodedata
 from dataclasses import dataclass
 from pathlib import Path
 from typing import Callable
@@ -18,6 +19,8 @@ from typing import Callable
 HERE = Path(__file__).resolve().parent
 
 CODE_PAGE = "cp1252"
+# Before a text that the code page lacks.
+SIGNATURE = b"\xef\xbb\xbf"
 TEXT_WIDTH, SHORT_WIDTH, SHORT_FIELDS = 444, 75, 4
 # Card type, text, number, four short fields, answer, long text.
 RECORD = struct.Struct(f"<1s{TEXT_WIDTH}sh" + f"{SHORT_WIDTH}s" * SHORT_FIELDS + f"1s{TEXT_WIDTH}s")
@@ -113,12 +116,26 @@ DECKS = [
     Deck("science", " Extended", "General science",
          "True or false, and multiple choice: physics, chemistry, biology, the Earth and the sky.",
          extended_cards),
+    Deck("words", " Standard", "Ten words in four scripts",
+         "Greek, Russian, Japanese and Hebrew: Ελληνικά, русский, 日本語, עברית.",
+         standard_cards),
+    Deck("scripts", " Extended", "Languages and scripts",
+         "True or false, and multiple choice: letters, words and sounds of the world's languages.",
+         extended_cards),
 ]
 
 
+def stored_text(text):
+    try:
+        return text.encode(CODE_PAGE)
+    except UnicodeEncodeError:
+        return SIGNATURE + unicodedata.normalize("NFC", text).encode()
+
+
 def field(text, width):
-    stored = text.encode(CODE_PAGE)
-    expect(len(stored) <= width, f"{text!r} is longer than {width} characters")
+    stored = stored_text(text)
+    expect(not text.startswith("ï»¿"), f"{text!r} would read as another text")
+    expect(len(stored) <= width, f"{text!r} is longer than {width} bytes")
     return stored.ljust(width)
 
 

@@ -34,7 +34,8 @@ TEST_CASE("the sample texts import to the cards of the sample decks, byte for by
     int fewestCards;
   };
   for (const Case& c :
-       {Case{"capitals", &ImportDesk::Standard, 190}, Case{"science", &ImportDesk::Extended, 40}}) {
+       {Case{"capitals", &ImportDesk::Standard, 190}, Case{"science", &ImportDesk::Extended, 40},
+        Case{"words", &ImportDesk::Standard, 40}, Case{"scripts", &ImportDesk::Extended, 28}}) {
     CAPTURE(c.name);
     ImportDesk desk;
     (desk.*c.import)(BytesOfFile(std::filesystem::path(TESSARA_SAMPLE_TEXTS) / (c.name + ".txt")));
