@@ -7,6 +7,10 @@ Of the tests, the sanitizers run every line, and two compilers give their warnin
 
 A source is looked at again only when its command, its content, a header it includes or the rules
 have changed. The memory is a file per clean state in build/tidy-cache.
+
+Most of the work is the headers of others. So sources with the same compiler options are looked at in bundles, as
+one translation unit; two that give the same name to different things come into different bundles, and where a bundle
+does not compile after all, each of its sources is looked at alone.
 """
 import collections
 import concurrent.futures
@@ -15,12 +19,19 @@ import json
 import os
 import pathlib
 import re
+import shlex
 import subprocess
 import sys
+import tempfile
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 CACHE = ROOT / "build" / "tidy-cache"
 TIDY = "clang-tidy-14"
+OWN_FILES = f"{re.escape(str(ROOT))}/.*\\.(h|cpp)$"
+# More of them save little and leave one processor waiting at the end.
+SOURCES_IN_A_BUNDLE = 16
+# A name declared at the beginning of a line: of a constant, a type or a function that is no member.
+DECLARED_NAME = re.compile(r"^(?!namespace|using namespace)\w[^=({;\n]*?(?<![:\w])(\w+)(?:\[\w*\])? *[=({;]", re.MULTILINE)
 
 
 def dependencies(build):
@@ -37,12 +48,12 @@ def dependencies(build):
 
 
 def own_commands(build):
-    """The compile commands of tracked sources; those that pull in Qt, the slow ones, last."""
+    """The compile commands of tracked sources; those that pull in Qt, the slow ones, first."""
     tracked = set(subprocess.run(["git", "-C", ROOT, "ls-files", "*.cpp", ":!tests"], capture_output=True, text=True,
                                  check=True).stdout.splitlines())
     commands = json.loads((build / "compile_commands.json").read_text())
     own = {c["file"]: c for c in commands if os.path.relpath(c["file"], ROOT) in tracked}
-    return sorted(own.values(), key=lambda c: ("qt6" in c["command"], c["file"]))
+    return sorted(own.values(), key=lambda c: ("qt6" not in c["command"], c["file"]))
 
 
 class States:
@@ -77,27 +88,74 @@ class States:
         return self._hashes[path]
 
 
-def tidy(build, command):
-    """The complaints about one source, or None."""
-    run = subprocess.run([TIDY, "--quiet", "-p", build, command["file"]], capture_output=True, text=True)
+def options_of(command):
+    """What the compiler is told, but for the names of the files and the kind of optimisation."""
+    words = shlex.split(command["command"])
+    without_files = words[:words.index("-o")] if "-o" in words else words
+    return tuple(word for word in without_files[1:] if not word.startswith("-O") and word != "/usr/bin/ccache")
+
+
+def declared_names(path):
+    return set(DECLARED_NAME.findall(pathlib.Path(path).read_text(encoding="utf-8")))
+
+
+def bundles(commands):
+    """Lists of commands that have the same options and declare no name twice."""
+    found = collections.defaultdict(list)
+    for command in commands:
+        names = declared_names(command["file"])
+        for bundle, taken in found[options_of(command)]:
+            if len(bundle) < SOURCES_IN_A_BUNDLE and not names & taken:
+                bundle.append(command)
+                taken |= names
+                break
+        else:
+            found[options_of(command)].append(([command], names))
+    return [bundle for same in found.values() for bundle, _ in same]
+
+
+def run_tidy(build, files, *options):
+    """The complaints about files, or None."""
+    run = subprocess.run([TIDY, "--quiet", "-p", build, *options, *files], capture_output=True, text=True)
     return None if run.returncode == 0 else run.stdout + run.stderr
+
+
+def tidy_as_one(bundle):
+    """The complaints about sources that are compiled as one, or None."""
+    with tempfile.TemporaryDirectory() as folder:
+        one = pathlib.Path(folder) / "bundle.cpp"
+        lines = (f'#include "{command["file"]}"  // NOLINT' for command in bundle)
+        one.write_text("\n".join(lines), encoding="utf-8")
+        words = shlex.split(bundle[0]["command"])
+        words[words.index("-c") + 1] = str(one)
+        database = [{**bundle[0], "file": str(one), "command": shlex.join(words)}]
+        (pathlib.Path(folder) / "compile_commands.json").write_text(json.dumps(database), encoding="utf-8")
+        return run_tidy(folder, [str(one)], f"--config-file={ROOT / '.clang-tidy'}", f"--header-filter={OWN_FILES}")
+
+
+def complaints_about(build, bundle):
+    """What there is to say of the sources of a bundle: (command, complaints or None) of each."""
+    if len(bundle) > 1 and tidy_as_one(bundle) is None:
+        return [(command, None) for command in bundle]
+    # Alone, a complaint is its source's own.
+    return [(command, run_tidy(build, [command["file"]])) for command in bundle]
 
 
 def main():
     build = pathlib.Path(sys.argv[1]).resolve()
     CACHE.mkdir(parents=True, exist_ok=True)
     states = States(build)
-    pending = [(c, CACHE / states.of(c)) for c in own_commands(build)]
-    pending = [(c, clean) for c, clean in pending if not clean.exists()]
+    clean = {command["file"]: CACHE / states.of(command) for command in own_commands(build)}
+    pending = [command for command in own_commands(build) if not clean[command["file"]].exists()]
     failed = 0
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        results = pool.map(lambda p: tidy(build, p[0]), pending)
-        for (command, clean), complaints in zip(pending, results):
-            if complaints is None:
-                clean.touch()
-            else:
-                failed += 1
-                print(complaints)
+        for results in pool.map(lambda bundle: complaints_about(build, bundle), bundles(pending)):
+            for command, complaints in results:
+                if complaints is None:
+                    clean[command["file"]].touch()
+                else:
+                    failed += 1
+                    print(complaints)
     print(f"   {len(pending)} sources looked at, {failed} with complaints")
     sys.exit(failed > 0)
 
