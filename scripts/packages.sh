@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # The one list of the Debian packages that Tessara needs, in groups.
 # usage: scripts/packages.sh GROUP...     installs what is missing of these groups
+# The rules of format and lint are those of clang 14, which only Debian 12 has: elsewhere the group lint is empty.
 set -euo pipefail
 scripts=$(dirname "${BASH_SOURCE[0]}")
 
@@ -14,14 +15,17 @@ declare -A packages=(
   [test]="doctest-dev fonts-cantarell fonts-inter fonts-noto-core at-spi2-core cups-daemon dbus-daemon gdb gir1.2-atspi-2.0 poppler-utils python3-gi
     fonts-freefont-ttf fonts-noto-cjk fonts-noto-color-emoji"
   [package]="appstream desktop-file-utils dpkg-dev libfile-mimeinfo-perl libglib2.0-bin lintian shared-mime-info xdg-utils"
-  [lint]="clang-format-14 clang-tidy-14"
-  [sanitizers]="clang-14 libclang-rt-14-dev"
+  [bare-root]="debootstrap"
+  [release]="librsvg2-bin python3-pil"
+  [debian-package]="build-essential debhelper lintian"
+  [lint]="$([ "$(. /etc/os-release && echo "${VERSION_ID:-}")" != 12 ] || echo clang-format-14 clang-tidy-14)"
+  [sanitizers]="clang libclang-rt-dev"
 )
 
 missing_packages() {
   local wanted="" group
   for group; do
-    wanted+=" ${packages[$group]:?there is no package group $group}"
+    wanted+=" ${packages[$group]?there is no package group $group}"
   done
   # A name that dpkg has never met makes its query fail; the others are told all the same.
   # shellcheck disable=SC2086 # names without blanks
