@@ -59,7 +59,7 @@ Text CommandLineOf(int argc, char** argv) {
 
 void NameApplication(const fs::path& folder) {
   QApplication::setApplicationName("Tessara");
-  QApplication::setApplicationVersion("1.0");
+  QApplication::setApplicationVersion(TESSARA_VERSION);
   // The desktop entry's name: every desktop finds icon and name by it.
   QGuiApplication::setDesktopFileName("tessara");
   QApplication::setWindowIcon(

@@ -1,6 +1,6 @@
 """The start-up picture: emblem, name and version on warm paper, with a strewn edge of stones."""
 
-from . import emblem, letters, noise, output, palette as p
+from . import emblem, letters, noise, output, palette as p, version
 from .svg import document, group, rect
 
 SIZE = (414, 196)
@@ -28,6 +28,6 @@ def draw(folder):
     body = rect(0, 0, width, height, fill=p.PAPER) + strewn_stones()
     body += group(emblem.stack(), transform="translate(26 24) scale(1.08)")
     body += letters.word("TESSARA", 184, 96, 30, 4.2, p.INK, 1.1)
-    body += letters.word("version 1.0", 186, 124, 13, 1.5, "#5b7094", 0.5)
+    body += letters.word(f"version {version.SHORT}", 186, 124, 13, 1.5, "#5b7094", 0.5)
     body += rect(0.5, 0.5, width - 1, height - 1, fill="none", stroke=p.PAPER_EDGE)
     output.vector(document(width, height, body), width, height, folder / "splash.png")
