@@ -3,26 +3,27 @@
 if(NOT TESSARA_DESKTOP)
   return()
 endif()
+if(NOT TESSARA_HELP)
+  add_feature_info(help TESSARA_HELP "the help and its viewer (TESSARA_HELP)")
+  return()
+endif()
 
 find_program(CHMCMD NAMES chmcmd chmcmd-3.2.2)
 if(CHMCMD)
   set(helpFile ${CMAKE_BINARY_DIR}/TessaraHelp.chm)
-  set(helpWork ${CMAKE_BINARY_DIR}/help)
+  set(makeHelp ${CMAKE_SOURCE_DIR}/scripts/make_help.py)
   file(GLOB_RECURSE helpSources CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/data/help/*)
-  # The compiler writes beside its sources, which therefore are a copy.
   add_custom_command(OUTPUT ${helpFile}
-    COMMAND ${CMAKE_COMMAND} -E rm -rf ${helpWork}
-    COMMAND ${CMAKE_COMMAND} -E copy_directory ${CMAKE_SOURCE_DIR}/data/help ${helpWork}
-    COMMAND ${CMAKE_COMMAND} -E chdir ${helpWork} ${CHMCMD} --verbosity 0 TessaraHelp.hhp
-    COMMAND ${CMAKE_COMMAND} -E copy ${helpWork}/TessaraHelp.chm ${helpFile}
-    DEPENDS ${helpSources}
-    COMMENT "Compiling the help")
+    COMMAND ${PYTHON3} ${makeHelp} ${CHMCMD} ${helpFile}
+    DEPENDS ${helpSources} ${makeHelp}
+    COMMENT "Compiling the help" VERBATIM)
   add_custom_target(help_file ALL DEPENDS ${helpFile})
+  add_dependencies(tessara help_file)
 endif()
 
 find_path(CHM_INCLUDE_DIR chm_lib.h)
 find_library(CHM_LIBRARY chm)
-if(TARGET tessara_qt AND CHM_INCLUDE_DIR AND CHM_LIBRARY)
+if(CHM_INCLUDE_DIR AND CHM_LIBRARY)
   # Compiled once, for the module and for the tests.
   file(GLOB helpViewerSources CONFIGURE_DEPENDS adapters/qt/help/*.cpp)
   add_library(tessara_help_viewer OBJECT ${helpViewerSources})
@@ -34,10 +35,12 @@ if(TARGET tessara_qt AND CHM_INCLUDE_DIR AND CHM_LIBRARY)
   target_link_libraries(tessara_help PRIVATE tessara_help_viewer)
   set_target_properties(tessara_help PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
   headers_compile_alone(help tessara_help_viewer adapters/qt/help/*.h)
-  if(TARGET tessara)
-    add_dependencies(tessara tessara_help)
-  endif()
+  add_dependencies(tessara tessara_help)
 endif()
-if(TARGET tessara AND TARGET help_file)
-  add_dependencies(tessara help_file)
+# For the tests that look at the help.
+set(helpTargets "")
+if(TARGET help_file AND TARGET tessara_help)
+  set(withHelp ON)
+  set(helpTargets help_file tessara_help)
 endif()
+add_feature_info(help withHelp "the help and its viewer (TESSARA_HELP; chmcmd and libchm)")

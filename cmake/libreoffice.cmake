@@ -1,6 +1,10 @@
 # The spreadsheet server over UNO, a module that is loaded at its first use, and the template of
-# the card sheets. Where LibreOffice is missing the program is built without them.
+# the card sheets. A program without them runs, and its two-sided printing says that there is no server.
 if(NOT TESSARA_DESKTOP)
+  return()
+endif()
+if(NOT TESSARA_LIBREOFFICE)
+  add_feature_info(two-sided-printing TESSARA_LIBREOFFICE "printing cards through LibreOffice (TESSARA_LIBREOFFICE)")
   return()
 endif()
 
@@ -11,7 +15,8 @@ find_program(CPPUMAKER cppumaker HINTS ${officeSdk}/bin)
 find_library(QPDF_LIBRARY qpdf)
 file(GLOB libreofficeSources CONFIGURE_DEPENDS adapters/libreoffice/*.cpp)
 
-if(CPPUMAKER AND TARGET tessara_cups AND QPDF_LIBRARY AND libreofficeSources)
+if(CPPUMAKER AND QPDF_LIBRARY)
+  set(withLibreOffice ON)
   # The interfaces that the sources use; what these use in turn is made with them.
   set(unoInterfaces
     beans.PropertyValue beans.XPropertySet bridge.UnoUrlResolver connection.NoConnectException
@@ -46,12 +51,10 @@ if(CPPUMAKER AND TARGET tessara_cups AND QPDF_LIBRARY AND libreofficeSources)
   target_link_libraries(tessara_libreoffice
     PRIVATE tessara_warnings tessara_uno ${QPDF_LIBRARY} PkgConfig::GLIB)
   link_layer(tessara_libreoffice adapters/libreoffice)
-  if(TARGET tessara)
-    add_dependencies(tessara tessara_libreoffice)
-  endif()
-else()
-  message(STATUS "Two-sided printing is left out: libreoffice-dev or libqpdf-dev is missing")
+  add_dependencies(tessara tessara_libreoffice)
 endif()
+add_feature_info(two-sided-printing withLibreOffice
+  "printing cards through LibreOffice (TESSARA_LIBREOFFICE; LibreOffice's development kit and qpdf)")
 
 # The template stands beside the executable.
 find_program(SOFFICE soffice)
@@ -63,7 +66,6 @@ if(SOFFICE)
     DEPENDS ${templateSource}/make_template.py ${templateSource}/sheet.py
     COMMENT "Making the template of the card sheets" VERBATIM)
   add_custom_target(template ALL DEPENDS ${template})
-  if(TARGET tessara)
-    add_dependencies(tessara template)
-  endif()
+  add_dependencies(tessara template)
 endif()
+add_feature_info(template SOFFICE "the template of the printed cards (TESSARA_LIBREOFFICE; the program soffice)")

@@ -2,19 +2,16 @@
 # needs no Qt. What prints for it comes with the program.
 install(TARGETS tessara-deck RUNTIME DESTINATION ${programFolder} COMPONENT deck)
 install(TARGETS tessara-print RUNTIME DESTINATION ${programFolder})
-install(CODE "
-  set(bin \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/bin\")
-  file(MAKE_DIRECTORY \"\${bin}\")
-  file(CREATE_LINK ../${programFolder}/tessara-deck \"\${bin}/tessara-deck\" SYMBOLIC)" COMPONENT deck)
+install_link(tessara-deck deck)
 
-install(FILES packaging/completions/tessara-deck.bash DESTINATION share/bash-completion/completions
+install(FILES packaging/completions/tessara-deck.bash DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions
         RENAME tessara-deck COMPONENT deck)
-install(FILES packaging/completions/_tessara-deck DESTINATION share/zsh/vendor-completions COMPONENT deck)
-install(FILES packaging/completions/tessara-deck.fish DESTINATION share/fish/vendor_completions.d COMPONENT deck)
-install_compressed(packaging/tessara-deck.1 tessara-deck.1 share/man/man1 deck)
-# The change log is packed once.
-install(FILES ${CMAKE_BINARY_DIR}/packed/changelog.gz DESTINATION share/doc/tessara-deck COMPONENT deck)
-install(FILES packaging/copyright DESTINATION share/doc/tessara-deck COMPONENT deck)
+install(FILES packaging/completions/_tessara-deck DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions
+        COMPONENT deck)
+install(FILES packaging/completions/tessara-deck.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d
+        COMPONENT deck)
+configure_file(packaging/tessara-deck.1.in tessara-deck.1 @ONLY)
+install(FILES ${CMAKE_BINARY_DIR}/tessara-deck.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT deck)
 
 set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENTS_ALL Unspecified deck)

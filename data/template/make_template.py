@@ -3,6 +3,7 @@
 
 usage: make_template.py FILE     needs the Debian package libreoffice-calc
 """
+import os
 import pathlib
 import shutil
 import subprocess
@@ -17,6 +18,13 @@ FILTER = "xlt:MS Excel 97 Vorlage/Template"
 TIMEOUT_SECONDS = 120
 
 
+def environment(home):
+    """Without a display, and with a home that is thrown away."""
+    kept = {name: value for name, value in os.environ.items()
+            if not name.startswith("XDG_") and name not in ("DISPLAY", "WAYLAND_DISPLAY", "DBUS_SESSION_BUS_ADDRESS")}
+    return {**kept, "HOME": str(home), "XDG_RUNTIME_DIR": str(home)}
+
+
 def convert(folder):
     """Has the spreadsheet server, with a profile of its own, save the sheet as a template."""
     source = folder / "sheet.fods"
@@ -24,7 +32,7 @@ def convert(folder):
     subprocess.run(
         ["soffice", "--headless", f"-env:UserInstallation={(folder / 'profile').as_uri()}",
          "--convert-to", FILTER, "--outdir", str(folder), str(source)],
-        check=True, stdout=subprocess.DEVNULL, timeout=TIMEOUT_SECONDS)
+        env=environment(folder), check=True, stdout=subprocess.DEVNULL, timeout=TIMEOUT_SECONDS)
     return folder / "sheet.xlt"
 
 

@@ -7,6 +7,14 @@ RUN_AS = {
     "./run [deck]": "env -u DISPLAY ./run build/release/samples/science.tsr && test -s build/release/first-card.png",
     "cmake --install build/release --prefix ~/.local":
         "cmake --install build/release --prefix ~/.local && test -x ~/.local/bin/tessara",
+    "./test --list": "./test --list | grep -x 'Release build .*'",
+    # What is built stands; the rest is a build of minutes.
+    "cmake -B build": "cmake -B {scratch}/build -S .",
+    "cmake --build build": "cmake -B {scratch}/build -S . -G Ninja && cmake --build {scratch}/build -- -n",
+    "cmake --install build": "cmake --install build/release --prefix {scratch}/installed",
+    # The packages themselves take minutes, and a root of its own takes a mirror too.
+    "scripts/debian_package.sh FOLDER": "bash -n scripts/debian_package.sh && test -x packaging/debian/rules",
+    "scripts/release.sh check": "scripts/release.sh check",
     "cpack --config build/release/CPackConfig.cmake -G DEB":
         "cpack --config build/release/CPackConfig.cmake -G DEB -B {scratch} && ls {scratch}/tessara_*.deb",
     "build/release/tessara build/release/samples/capitals.tsr":
@@ -52,7 +60,8 @@ RUN_AS = {
 # What another part of ./test runs: the file that does, and the line in it that says so.
 RUN_BY = {
     "./test": (".ci/run", "test"),
-    "./test quick": ("test", "run_tests release \"$behaviourTests\""),
+    "scripts/on_debian.sh 13 './test quick'": (".ci/run", "scripts/on_debian.sh 12 ./test"),
+    "./test quick": ("test", "tests \"Tests\" release \"$behaviourTests\""),
     "cmake --preset release": ("test", "cmake --preset \"$preset\""),
     "cmake --build --preset release": ("test", "cmake --build --preset \"$preset\""),
     "scripts/packages.sh build run test package lint sanitizers virtual-display":
