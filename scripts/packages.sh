@@ -15,6 +15,7 @@ declare -A packages=(
   [test]="doctest-dev fonts-cantarell fonts-inter fonts-noto-core at-spi2-core cups-daemon dbus-daemon gdb gir1.2-atspi-2.0 poppler-utils python3-gi
     fonts-freefont-ttf fonts-noto-cjk fonts-noto-color-emoji"
   [package]="appstream desktop-file-utils dpkg-dev libfile-mimeinfo-perl libglib2.0-bin lintian shared-mime-info xdg-utils"
+  [coverage]="gcovr"
   [bare-root]="debootstrap"
   [release]="librsvg2-bin python3-pil"
   [debian-package]="build-essential debhelper lintian"
