@@ -32,8 +32,7 @@ foreach(line ${layerLines})
   target_include_directories(tessara_${folder} PUBLIC ${CMAKE_SOURCE_DIR})
   target_link_libraries(tessara_${folder} PRIVATE tessara_warnings PUBLIC tessara_sanitizers)
   link_layer(tessara_${folder} ${folder})
-  # Each window has a width and a height: its sources can't be compiled as one.
-  set_target_properties(tessara_${folder} PROPERTIES UNITY_BUILD OFF)
+  unite(tessara_${folder})
   target_link_libraries(tessara_core INTERFACE tessara_${folder})
 endforeach()
 # Unicode's characters and normal forms; starts quickly, and nothing of it needs data files.

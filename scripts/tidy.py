@@ -24,14 +24,14 @@ import subprocess
 import sys
 import tempfile
 
+import source_bundles
+
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 CACHE = ROOT / "build" / "tidy-cache"
 TIDY = "clang-tidy-14"
 OWN_FILES = f"{re.escape(str(ROOT))}/.*\\.(h|cpp)$"
 # More of them save little and leave one processor waiting at the end.
 SOURCES_IN_A_BUNDLE = 16
-# A name declared at the beginning of a line: of a constant, a type or a function that is no member.
-DECLARED_NAME = re.compile(r"^(?!namespace|using namespace)\w[^=({;\n]*?(?<![:\w])(\w+)(?:\[\w*\])? *[=({;]", re.MULTILINE)
 
 
 def dependencies(build):
@@ -95,23 +95,13 @@ def options_of(command):
     return tuple(word for word in without_files[1:] if not word.startswith("-O") and word != "/usr/bin/ccache")
 
 
-def declared_names(path):
-    return set(DECLARED_NAME.findall(pathlib.Path(path).read_text(encoding="utf-8")))
-
-
 def bundles(commands):
-    """Lists of commands that have the same options and declare no name twice."""
-    found = collections.defaultdict(list)
+    """Lists of commands that have the same options and can be compiled as one."""
+    with_same_options = collections.defaultdict(list)
     for command in commands:
-        names = declared_names(command["file"])
-        for bundle, taken in found[options_of(command)]:
-            if len(bundle) < SOURCES_IN_A_BUNDLE and not names & taken:
-                bundle.append(command)
-                taken |= names
-                break
-        else:
-            found[options_of(command)].append(([command], names))
-    return [bundle for same in found.values() for bundle, _ in same]
+        with_same_options[options_of(command)].append(command)
+    return [bundle for same in with_same_options.values()
+            for bundle in source_bundles.bundles(same, SOURCES_IN_A_BUNDLE, lambda command: command["file"])]
 
 
 def run_tidy(build, files, *options):
