@@ -5,6 +5,11 @@ add_compile_options(-ffile-prefix-map=${CMAKE_SOURCE_DIR}=. -ffile-prefix-map=${
 add_library(tessara_warnings INTERFACE)
 target_compile_options(tessara_warnings INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual)
+# In the tests the word stands here, so that their commands stay those that compiler caches remember.
+define_property(TARGET PROPERTY TESSARA_TEST INITIALIZE_FROM_VARIABLE TESSARA_TEST)
+if(CMAKE_COMPILE_WARNING_AS_ERROR)
+  target_compile_options(tessara_warnings INTERFACE $<$<BOOL:$<TARGET_PROPERTY:TESSARA_TEST>>:-Werror>)
+endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   # A false alarm of this compiler about the sum of a literal and a string.
   target_compile_options(tessara_warnings INTERFACE -Wno-restrict)

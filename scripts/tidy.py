@@ -30,6 +30,9 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 CACHE = ROOT / "build" / "tidy-cache"
 TIDY = "clang-tidy-14"
 OWN_FILES = f"{re.escape(str(ROOT))}/.*\\.(h|cpp)$"
+OWN_RULES = [f"--config-file={ROOT / '.clang-tidy'}"]
+# The sources of a bundle are included; without this the analyser leaves out what is.
+ANALYSE_INCLUDED = ["--extra-arg=-Xclang", "--extra-arg=-analyzer-opt-analyze-headers"]
 # More of them save little and leave one processor waiting at the end.
 SOURCES_IN_A_BUNDLE = 16
 
@@ -120,7 +123,7 @@ def tidy_as_one(bundle):
         words[words.index("-c") + 1] = str(one)
         database = [{**bundle[0], "file": str(one), "command": shlex.join(words)}]
         (pathlib.Path(folder) / "compile_commands.json").write_text(json.dumps(database), encoding="utf-8")
-        return run_tidy(folder, [str(one)], f"--config-file={ROOT / '.clang-tidy'}", f"--header-filter={OWN_FILES}")
+        return run_tidy(folder, [str(one)], *OWN_RULES, *ANALYSE_INCLUDED, f"--header-filter={OWN_FILES}")
 
 
 def complaints_about(build, bundle):
