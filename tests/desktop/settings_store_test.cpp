@@ -88,11 +88,14 @@ TEST_CASE("Settings that are no key file give the defaults, and are set aside by
 
 TEST_CASE("Nothing in a value is interpreted, and one that is no text gives the default") {
   const ConfigFolder config;
-  config.Write("[Settings]\nBackDrop=\xFF\nShowSplash=\\x\nFirstLoad=@Variant(\\0\\0)\nMine=1\n");
+  config.Write(
+      "[Settings]\nBackDrop=\xFF\nShowSplash=\\x\nFirstLoad=@Variant(\\0\\0)\nMine=1\n"
+      "Mixed=\\s\\x\n");
   const QtSettingsStore store;
   CHECK(store.Read(u"BackDrop", u"DEFAULT") == u"DEFAULT");
   CHECK(store.Read(u"ShowSplash", u"1") == u"\\x");
   CHECK(store.Read(u"FirstLoad", u"True") == u"@Variant(\\0\\0)");
+  CHECK(store.Read(u"Mixed", u"") == u"\\s\\x");
   CHECK(store.Read(u"Mine", u"") == u"1");
 }
 

@@ -13,6 +13,11 @@ struct Free {
 };
 using GlibText = std::unique_ptr<char, Free>;
 
+struct FreeError {
+  void operator()(GError* error) const { g_error_free(error); }
+};
+using GlibError = std::unique_ptr<GError, FreeError>;
+
 }  // namespace
 
 SettingsFile::SettingsFile() : keyFile_(g_key_file_new()) {}
@@ -26,8 +31,15 @@ std::optional<SettingsFile> SettingsFile::Parse(const QByteArray& bytes) {
 }
 
 std::optional<QString> SettingsFile::Find(const QString& key) const {
-  const GlibText text(
-      g_key_file_get_string(keyFile_.get(), kSection, key.toUtf8().constData(), nullptr));
+  const QByteArray name = key.toUtf8();
+  GError* raised = nullptr;
+  GlibText text(g_key_file_get_string(keyFile_.get(), kSection, name.constData(), &raised));
+  const GlibError error(raised);
+  // A backslash that escapes nothing: some versions of GLib give the text beside the error, others
+  // don't.
+  if (g_error_matches(error.get(), G_KEY_FILE_ERROR, G_KEY_FILE_ERROR_INVALID_VALUE)) {
+    text.reset(g_key_file_get_value(keyFile_.get(), kSection, name.constData(), nullptr));
+  }
   return text == nullptr ? std::nullopt : std::optional(QString::fromUtf8(text.get()));
 }
 
