@@ -46,7 +46,7 @@ mkdir -p "$cache" "$root/root/.cache/ccache"
 
 # Expanded by the inner shell, which alone sees the mounts.
 # shellcheck disable=SC2016
-exec unshare --mount --pid --fork --propagation private sh -c '
+exec unshare --mount --pid --fork --kill-child --propagation private sh -c '
   set -e
   root=$1 cache=$2 command=$3
   mount -t proc proc "$root/proc"
