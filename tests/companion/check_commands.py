@@ -298,7 +298,7 @@ print(resource.getrusage(resource.RUSAGE_CHILDREN).ru_maxrss)
 class Manual(Command):
     def test_its_examples_run(self):
         self.write("verbs.csv", rows(2))
-        page = (SOURCE / "packaging" / "tessara-deck.1").read_text()
+        page = (SOURCE / "packaging" / "tessara-deck.1.in").read_text()
         examples = re.search(r"\.EX\n(.*?)\.EE", page, re.DOTALL).group(1).splitlines()
         for example in examples:
             words = f"PATH={BUILD}:$PATH; {example}"
@@ -308,7 +308,7 @@ class Manual(Command):
         self.assertEqual(self.names(), ["again.tsr", "verbs.csv", "verbs.pdf", "verbs.tsr", "verbs.tsv"])
 
     def test_it_and_the_completions_name_each_option(self):
-        pages = [SOURCE / "packaging" / "tessara-deck.1", *(SOURCE / "packaging" / "completions").iterdir()]
+        pages = [SOURCE / "packaging" / "tessara-deck.1.in", *(SOURCE / "packaging" / "completions").iterdir()]
         for command in ("convert", "check", "show", "info", "print"):
             told = self.expect(0, command, "--help").stdout.decode()
             for option in set(re.findall(r"--([a-z]+)", told)) - {"help", "version"}:
