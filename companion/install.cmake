@@ -17,9 +17,10 @@ set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_COMPONENTS_ALL Unspecified deck)
 set(CPACK_DEBIAN_UNSPECIFIED_PACKAGE_NAME tessara)
 set(CPACK_DEBIAN_DECK_PACKAGE_NAME tessara-deck)
+# Its first line is the program's.
 set(CPACK_COMPONENT_DECK_DESCRIPTION
-"take decks of flash cards in and out
- Makes decks of import texts, spreadsheets' tables and vocabulary files, gives
- the cards back in each of these formats, checks decks and lists them. With the
- package tessara it prints them.")
+"The command tessara-deck takes decks in and out: it makes them of import
+texts, spreadsheets' tables and vocabulary files, gives the cards back in each
+of these formats, checks decks and lists them. It prints them where the
+package tessara is installed too.")
 set(CPACK_DEBIAN_DECK_PACKAGE_SUGGESTS tessara)
