@@ -18,16 +18,14 @@ KeptWork::Cards Without(const KeptWork::Cards& cards, const KeptWork::Cards& oth
 }  // namespace
 
 std::size_t KeptWork::Look(const Cards& inTable) {
-  Cards missing = Missing(inTable);
-  // The disk is read only where something has gone.
-  if (!missing.empty()) missing = Without(missing, onDisk_());
-  const std::size_t allowed = std::exchange(mayLoseOne_, false) ? 1 : 0;
-  inTable_ = inTable;
-  return missing.size() > allowed ? missing.size() : 0;
-}
-
-KeptWork::Cards KeptWork::Missing(const Cards& inTable) const {
-  return Without(Without(inTable_, inTable), givenUp_);
+  const bool mayLoseOne = std::exchange(mayLoseOne_, false);
+  const Cards before = std::exchange(inTable_, inTable);
+  // The disk is read only where something has changed.
+  if (inTable == before) return 0;
+  const Cards kept = onDisk_();
+  const std::size_t gone = Without(Without(Without(before, inTable), givenUp_), kept).size();
+  const std::size_t inMemoryAlone = Without(Without(inTable, givenUp_), kept).size();
+  return inMemoryAlone + (gone > (mayLoseOne ? 1 : 0) ? gone : 0);
 }
 
 }  // namespace tessara::test
