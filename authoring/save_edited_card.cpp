@@ -19,8 +19,9 @@ bool SaveEditedCard(const Button& button, AppContext& app, const Save& save) {
   if (answer != MessageAnswer::kYes) return false;
   if (app.state.deck.currentCard == 0) app.state.deck.currentCard = 1;
   save();
-  app.machine.messages.Show(u"Changes Saved!", kOkOnly, Text(kProgramName));
+  // Before the box: the deck is kept then, should the program end while it is up.
   app.state.deck.changed = true;
+  app.machine.messages.Show(u"Changes Saved!", kOkOnly, Text(kProgramName));
   app.state.deck.saveOffered = true;
   return true;
 }

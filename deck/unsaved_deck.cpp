@@ -50,9 +50,10 @@ void UnsavedDeck::EventEnds() noexcept {
 void UnsavedDeck::KeepIfChanged() {
   const std::uint64_t changes = image_.Changes();
   if (changes == seen_) return;
-  seen_ = changes;
   unsaved_ = unsaved_ || state_.deck.changed;
+  // A command can change the table first and tell of it later.
   if (!unsaved_) return;
+  seen_ = changes;
   if (image_.HasCards()) {
     copies_.KeepUnsaved(FileNameOf(state_.deck.filePath), image_.Bytes());
   } else {

@@ -34,6 +34,17 @@ TEST_CASE("the prompt at close writes a text card and leaves the count") {
   CHECK(desk.state.deck.saveOffered);
 }
 
+TEST_CASE("the deck counts as changed before the box tells so") {
+  BuilderDesk desk;
+  TextCardBuilder& window = desk.OpenEssay(1);
+  Type(window.sides[kBackSide], u"b");
+  desk.fakes.messages.whileShown = [&desk](const FakeMessages::Shown& box) {
+    CHECK(desk.state.deck.changed == (box.text == u"Changes Saved!"));
+  };
+  desk.Answer(MessageAnswer::kYes);
+  CHECK(SaveEditedText(window, desk.app));
+}
+
 TEST_CASE("the prompt at close counts a question only where it was a new one") {
   for (const bool isNew : {true, false}) {
     BuilderDesk desk;

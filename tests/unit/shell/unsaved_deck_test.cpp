@@ -131,6 +131,19 @@ TEST_CASE("before a box or a dialog comes up inside an event, what it has change
   }
 }
 
+TEST_CASE("a change that counts as one only behind a box is kept when the event ends") {
+  UnsavedProgram desk;
+  desk.Open(kPath, 1);
+  desk.fakes.dialogs.texts.push_back(std::nullopt);
+  desk.Run([&] {
+    desk.state.deck.cardGrid.Set(1, kCardText, u"told later");
+    desk.deck->AskForCard();
+    desk.state.deck.changed = true;
+  });
+  CHECK(desk.copies.unsavedWrites == 1);
+  CHECK(desk.Kept().find("told later") != std::string::npos);
+}
+
 TEST_CASE("what is kept goes when the deck is saved or given up, and stays otherwise") {
   struct Case {
     const char* name;
