@@ -35,7 +35,7 @@ RUN_AS = {
     "scripts/coverage.sh": "bash -n scripts/coverage.sh && echo '{{\"files\": []}}' >{scratch}/none.json"
         " && scripts/coverage_by_folder.py {scratch}/none.json",
     "scripts/mutants.py [COUNT [SEED]]": "python3 -c 'import sys; sys.path.insert(0, \"scripts\"); import mutants;"
-        " assert list(mutants.faults_in(\"deck/deck_file.cpp\"))'",
+        " assert any(list(mutants.faults_in(name)) for name in mutants.sources())'",
     # Real-time priority is root's; what runs under it is the line above.
     "ionice -c 1 chrt -f 10 bench/run": "ionice -c 3 chrt -i 0 test -x bench/run",
     "scripts/with_display.sh dbus-run-session -- tests/access/take_windows.py build/release /tmp/windows dark":
