@@ -127,7 +127,7 @@ void CalcWorksheet::Align(const CellPlace& place) {
                     HeightOf(RowOf(sheet_, place.row - 1));
   const sal_Int32 justify = fits ? table::CellVertJustify2::CENTER : table::CellVertJustify2::TOP;
   const uno::Reference<XPropertySet> properties(range, uno::UNO_QUERY_THROW);
-  properties->setPropertyValue("VertJust", uno::Any(justify));
+  properties->setPropertyValue("VertJustify", uno::Any(justify));
 }
 
 void CalcWorksheet::PrintOut() {
