@@ -7,7 +7,7 @@
 
 #include "deck/app_context.h"
 #include "deck/move_buttons.h"
-#include "forms/controls.h"
+#include "forms/controls/controls.h"
 #include "forms/form.h"
 #include "forms/window.h"
 #include "viewer/deck_window.h"

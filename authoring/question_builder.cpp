@@ -2,9 +2,9 @@
 
 #include "authoring/save_edited_card.h"
 #include "base/skip_errors.h"
-#include "deck/deck_record.h"
 #include "deck/double_amps.h"
-#include "deck/stored_text.h"
+#include "deck/file/deck_record.h"
+#include "deck/file/stored_text.h"
 #include "viewer/answer_text.h"
 
 namespace tessara {

@@ -2,9 +2,9 @@
 
 #include "base/skip_errors.h"
 #include "deck/card_type.h"
-#include "deck/deck_record.h"
 #include "deck/double_amps.h"
-#include "deck/stored_text.h"
+#include "deck/file/deck_record.h"
+#include "deck/file/stored_text.h"
 #include "machine/message_box.h"
 
 namespace tessara {

@@ -12,12 +12,12 @@
 #include <string>
 #include <vector>
 
+#include "adapters/posix/copies/posix_safety_copies.h"
 #include "adapters/posix/new_file.h"
 #include "adapters/posix/posix_file_system.h"
-#include "adapters/posix/posix_safety_copies.h"
 #include "base/utf8.h"
-#include "deck/deck_file.h"
-#include "deck/deck_image.h"
+#include "deck/file/deck_file.h"
+#include "deck/file/deck_image.h"
 #include "import/extended_import.h"
 #include "import/standard_import.h"
 

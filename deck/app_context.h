@@ -1,7 +1,7 @@
 #pragma once
 
+#include "deck/life/unsaved_deck.h"
 #include "deck/program_state.h"
-#include "deck/unsaved_deck.h"
 #include "forms/app_frame.h"
 #include "forms/window_system.h"
 #include "machine/machine.h"

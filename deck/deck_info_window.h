@@ -1,8 +1,8 @@
 #pragma once
 
 #include "deck/app_context.h"
-#include "deck/deck_life.h"
-#include "forms/controls.h"
+#include "deck/life/deck_life.h"
+#include "forms/controls/controls.h"
 #include "forms/form.h"
 #include "forms/window.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "deck/program_state.h"
-#include "forms/control_array.h"
-#include "forms/controls.h"
+#include "forms/controls/control_array.h"
+#include "forms/controls/controls.h"
 
 namespace tessara {
 

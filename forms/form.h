@@ -4,10 +4,10 @@
 #include <string>
 #include <vector>
 
-#include "forms/control.h"
-#include "forms/control_array.h"
+#include "forms/controls/control.h"
+#include "forms/controls/control_array.h"
+#include "forms/controls/menu.h"
 #include "forms/geometry.h"
-#include "forms/menu.h"
 
 namespace tessara {
 

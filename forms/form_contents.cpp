@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "forms/controls.h"
+#include "forms/controls/controls.h"
 #include "forms/form.h"
 #include "forms/renderer.h"
 #include "forms/window_system.h"

@@ -1,4 +1,4 @@
-#include "forms/controls.h"
+#include "forms/controls/controls.h"
 #include "forms/form.h"
 #include "forms/shared_letter.h"
 #include "forms/window_system.h"

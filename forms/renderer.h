@@ -1,8 +1,8 @@
 #pragma once
 
-#include "forms/controls.h"
+#include "forms/controls/controls.h"
+#include "forms/controls/menu.h"
 #include "forms/form.h"
-#include "forms/menu.h"
 
 namespace tessara {
 

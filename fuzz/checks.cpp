@@ -2,7 +2,7 @@
 // that is read.
 
 #include "companion/formats/deck_check.h"
-#include "companion/formats/import_text_check.h"
+#include "companion/formats/texts/import_text_check.h"
 #include "fuzz/cards_run.h"
 
 namespace tessara::fuzz {

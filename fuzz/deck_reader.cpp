@@ -2,7 +2,7 @@
 // was loaded comes back from a save.
 
 #include "base/run_time_error.h"
-#include "deck/deck_file.h"
+#include "deck/file/deck_file.h"
 #include "fuzz/one_file.h"
 #include "fuzz/require.h"
 #include "fuzz/saved_deck.h"

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "deck/deck_file.h"
+#include "deck/file/deck_file.h"
 #include "fuzz/byte_source.h"
 
 namespace tessara::fuzz {

@@ -4,7 +4,7 @@
 #include <optional>
 
 #include "fuzz/byte_source.h"
-#include "tests/support/fake_machine.h"
+#include "tests/support/fakes/fake_machine.h"
 
 namespace tessara::fuzz {
 

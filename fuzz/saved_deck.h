@@ -1,10 +1,10 @@
 #pragma once
 
 #include "base/characters.h"
-#include "deck/deck_file.h"
-#include "deck/stored_text.h"
+#include "deck/file/deck_file.h"
+#include "deck/file/stored_text.h"
 #include "fuzz/require.h"
-#include "tests/support/memory_files.h"
+#include "tests/support/fakes/memory_files.h"
 
 namespace tessara::fuzz {
 

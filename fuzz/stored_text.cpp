@@ -1,7 +1,7 @@
 // Any text in a field of any width, and any bytes as a field: what fits comes back, and within
 // the code page it is stored as it stands.
 
-#include "deck/stored_text.h"
+#include "deck/file/stored_text.h"
 
 #include "base/characters.h"
 #include "fuzz/byte_source.h"

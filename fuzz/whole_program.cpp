@@ -9,7 +9,7 @@
 #include "fuzz/random_machine.h"
 #include "fuzz/require.h"
 #include "shell/program.h"
-#include "tests/support/headless_renderer.h"
+#include "tests/support/fakes/headless_renderer.h"
 
 namespace tessara::fuzz {
 

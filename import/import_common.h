@@ -6,7 +6,7 @@
 #include "base/code_page.h"
 #include "base/run_time_error.h"
 #include "base/text.h"
-#include "deck/file_number.h"
+#include "deck/file/file_number.h"
 #include "deck/program_state.h"
 #include "import/cards_reading.h"
 #include "machine/clock.h"

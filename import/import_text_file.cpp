@@ -1,6 +1,6 @@
 #include "import/import_text_file.h"
 
-#include "deck/ask_file_name.h"
+#include "deck/life/ask_file_name.h"
 #include "import/extended_import.h"
 #include "import/import_common.h"
 #include "import/line_kinds.h"

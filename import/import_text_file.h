@@ -1,8 +1,8 @@
 #pragma once
 
 #include "deck/app_context.h"
-#include "deck/deck_life.h"
-#include "deck/file_number.h"
+#include "deck/file/file_number.h"
+#include "deck/life/deck_life.h"
 #include "forms/window.h"
 
 namespace tessara {

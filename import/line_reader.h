@@ -5,7 +5,7 @@
 
 #include "base/code_page.h"
 #include "base/text.h"
-#include "deck/file_number.h"
+#include "deck/file/file_number.h"
 #include "import/text_blocks.h"
 #include "import/text_traits.h"
 

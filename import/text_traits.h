@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <string_view>
 
-#include "deck/file_number.h"
+#include "deck/file/file_number.h"
 
 namespace tessara {
 

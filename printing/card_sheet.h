@@ -3,7 +3,7 @@
 #include <cstdint>
 
 #include "base/text.h"
-#include "forms/controls.h"
+#include "forms/controls/controls.h"
 #include "machine/spreadsheet.h"
 
 namespace tessara {

@@ -4,7 +4,7 @@
 
 #include "base/run_time_error.h"
 #include "deck/app_context.h"
-#include "forms/controls.h"
+#include "forms/controls/controls.h"
 #include "forms/form.h"
 #include "forms/window.h"
 #include "machine/dialogs.h"

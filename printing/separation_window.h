@@ -3,9 +3,9 @@
 #include <array>
 #include <cstdint>
 
-#include "forms/controls.h"
+#include "forms/controls/controls.h"
+#include "forms/controls/image_list.h"
 #include "forms/form.h"
-#include "forms/image_list.h"
 #include "forms/window.h"
 
 namespace tessara {

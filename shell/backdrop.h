@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/controls.h"
+#include "forms/controls/controls.h"
 #include "forms/form.h"
 #include "forms/window.h"
 #include "machine/desktop.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/image_list.h"
+#include "forms/controls/image_list.h"
 
 namespace tessara {
 

@@ -1,8 +1,8 @@
 #include "shell/program_frame.h"
 
-#include "deck/ask_file_name.h"
-#include "deck/deck_file_name.h"
-#include "deck/dialog_folder.h"
+#include "deck/file/deck_file_name.h"
+#include "deck/life/ask_file_name.h"
+#include "deck/life/dialog_folder.h"
 #include "forms/place_in_frame.h"
 #include "import/import_text_file.h"
 #include "machine/desktop.h"

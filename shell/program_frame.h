@@ -1,7 +1,7 @@
 #pragma once
 
 #include "deck/app_context.h"
-#include "deck/file_number.h"
+#include "deck/file/file_number.h"
 #include "forms/form.h"
 #include "forms/window.h"
 #include "forms/window_system.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "deck/app_context.h"
-#include "forms/controls.h"
+#include "forms/controls/controls.h"
 #include "forms/form.h"
 
 namespace tessara {

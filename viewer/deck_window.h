@@ -2,7 +2,7 @@
 
 #include <initializer_list>
 
-#include "deck/deck_life.h"
+#include "deck/life/deck_life.h"
 #include "viewer/card/card_control.h"
 
 namespace tessara {

@@ -7,7 +7,7 @@
 
 #include "companion/cards/place.h"
 #include "deck/card_type.h"
-#include "deck/deck_record.h"
+#include "deck/file/deck_record.h"
 
 namespace tessara {
 

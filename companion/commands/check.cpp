@@ -7,7 +7,7 @@
 #include "companion/commands/input.h"
 #include "companion/commands/reporter.h"
 #include "companion/formats/deck_check.h"
-#include "companion/formats/import_text_check.h"
+#include "companion/formats/texts/import_text_check.h"
 
 namespace tessara {
 

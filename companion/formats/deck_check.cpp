@@ -6,7 +6,7 @@
 
 #include "companion/cards/card_set.h"
 #include "companion/formats/source_file.h"
-#include "deck/deck_file.h"
+#include "deck/file/deck_file.h"
 
 namespace tessara {
 

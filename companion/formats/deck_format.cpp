@@ -6,8 +6,8 @@
 #include "base/run_time_error.h"
 #include "companion/cards/refused.h"
 #include "companion/formats/source_file.h"
-#include "deck/deck_file.h"
-#include "deck/deck_image.h"
+#include "deck/file/deck_file.h"
+#include "deck/file/deck_image.h"
 
 namespace tessara {
 

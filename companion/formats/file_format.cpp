@@ -4,12 +4,12 @@
 #include <array>
 #include <cctype>
 
-#include "companion/formats/csv_format.h"
 #include "companion/formats/deck_format.h"
-#include "companion/formats/import_text_reader.h"
-#include "companion/formats/import_text_writer.h"
-#include "companion/formats/kvtml_reader.h"
-#include "companion/formats/kvtml_writer.h"
+#include "companion/formats/kvtml/kvtml_reader.h"
+#include "companion/formats/kvtml/kvtml_writer.h"
+#include "companion/formats/tables/csv_format.h"
+#include "companion/formats/texts/import_text_reader.h"
+#include "companion/formats/texts/import_text_writer.h"
 
 namespace tessara {
 

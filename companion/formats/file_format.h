@@ -7,7 +7,7 @@
 #include "companion/cards/card_set.h"
 #include "companion/formats/byte_sink.h"
 #include "companion/formats/source.h"
-#include "companion/formats/tsv_format.h"
+#include "companion/formats/tables/tsv_format.h"
 
 namespace tessara {
 

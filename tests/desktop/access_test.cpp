@@ -3,7 +3,7 @@
 #include <QAccessible>
 #include <doctest/doctest.h>
 
-#include "tests/desktop/desk.h"
+#include "tests/desktop/support/desk.h"
 
 using namespace tessara;
 using namespace tessara::test;

@@ -4,7 +4,7 @@
 #include <QRadioButton>
 #include <doctest/doctest.h>
 
-#include "tests/desktop/desk.h"
+#include "tests/desktop/support/desk.h"
 
 using namespace tessara;
 using namespace tessara::test;

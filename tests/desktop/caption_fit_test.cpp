@@ -6,8 +6,8 @@
 #include <doctest/doctest.h>
 
 #include "adapters/qt/text/pixel_scale.h"
-#include "tests/desktop/desktop_font.h"
-#include "tests/desktop/program_on_screen.h"
+#include "tests/desktop/support/desktop_font.h"
+#include "tests/desktop/support/program_on_screen.h"
 #include "tests/support/deck_bytes.h"
 
 using namespace tessara;

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <doctest/doctest.h>
 
-#include "tests/desktop/program_on_screen.h"
+#include "tests/desktop/support/program_on_screen.h"
 #include "tests/support/deck_bytes.h"
 #include "viewer/card/card_layout.h"
 

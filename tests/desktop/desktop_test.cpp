@@ -13,7 +13,7 @@
 #include "adapters/qt/devices/qt_desktop.h"
 #include "adapters/qt/text/pixel_scale.h"
 #include "adapters/qt/text/qt_text.h"
-#include "tests/desktop/config_folder.h"
+#include "tests/desktop/support/config_folder.h"
 #include "tests/support/environment_variable.h"
 
 using namespace tessara;

@@ -22,8 +22,8 @@
 #include "adapters/qt/text/qt_text.h"
 #include "base/run_time_error.h"
 #include "machine/hourglass.h"
-#include "tests/desktop/config_folder.h"
-#include "tests/desktop/event_loops.h"
+#include "tests/desktop/support/config_folder.h"
+#include "tests/desktop/support/event_loops.h"
 #include "tests/support/environment_variable.h"
 
 using namespace tessara;

@@ -4,7 +4,7 @@
 #include <doctest/doctest.h>
 
 #include "adapters/qt/devices/qt_message_boxes.h"
-#include "tests/desktop/desk.h"
+#include "tests/desktop/support/desk.h"
 
 using namespace tessara;
 using namespace tessara::test;

@@ -15,8 +15,8 @@
 #include "adapters/qt/look/caption_fit.h"
 #include "adapters/qt/windows/qt_renderer.h"
 #include "shell/program.h"
-#include "tests/desktop/desktop_font.h"
-#include "tests/desktop/event_loops.h"
+#include "tests/desktop/support/desktop_font.h"
+#include "tests/desktop/support/event_loops.h"
 #include "tests/support/program_desk.h"
 #include "tests/support/window_tour.h"
 

@@ -11,7 +11,7 @@
 #include "adapters/qt/text/line_breaks.h"
 #include "adapters/qt/text/qt_text.h"
 #include "adapters/qt/text/text_layout.h"
-#include "tests/desktop/desk.h"
+#include "tests/desktop/support/desk.h"
 
 using namespace tessara;
 using namespace tessara::test;

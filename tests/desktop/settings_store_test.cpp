@@ -10,7 +10,7 @@
 #include <utility>
 
 #include "adapters/qt/devices/qt_settings_store.h"
-#include "tests/desktop/config_folder.h"
+#include "tests/desktop/support/config_folder.h"
 #include "tests/support/killed_process.h"
 #include "tests/support/refused_call.h"
 #include "tests/support/scratch_folder.h"

@@ -8,10 +8,10 @@
 #include <algorithm>
 #include <doctest/doctest.h>
 
-#include "adapters/qt/views/text_area_view.h"
+#include "adapters/qt/views/boxes/text_area_view.h"
 #include "adapters/qt/views/too_long_mark.h"
 #include "base/utf8.h"
-#include "tests/desktop/desk.h"
+#include "tests/desktop/support/desk.h"
 
 using namespace tessara;
 using namespace tessara::test;

@@ -5,7 +5,7 @@
 #include <QTimer>
 #include <doctest/doctest.h>
 
-#include "tests/desktop/desk.h"
+#include "tests/desktop/support/desk.h"
 
 using namespace tessara;
 using namespace tessara::test;

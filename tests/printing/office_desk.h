@@ -12,11 +12,11 @@
 #include "printing/spreadsheet_job.h"
 #include "tests/printing/printed_pdf.h"
 #include "tests/printing/watched_server.h"
-#include "tests/support/fake_machine.h"
-#include "tests/support/headless_renderer.h"
-#include "tests/support/recording_print_surface.h"
+#include "tests/support/fakes/fake_machine.h"
+#include "tests/support/fakes/headless_renderer.h"
+#include "tests/support/fakes/recording_print_surface.h"
+#include "tests/support/fakes/test_frame.h"
 #include "tests/support/scratch_folder.h"
-#include "tests/support/test_frame.h"
 
 namespace tessara::test {
 

@@ -1,7 +1,7 @@
 #include "tests/random_user/card_record.h"
 
 #include "base/code_page.h"
-#include "deck/deck_file.h"
+#include "deck/file/deck_file.h"
 
 namespace tessara::test {
 

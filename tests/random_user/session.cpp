@@ -8,7 +8,7 @@
 #include <QTest>
 
 #include "adapters/qt/text/qt_text.h"
-#include "tests/desktop/event_loops.h"
+#include "tests/desktop/support/event_loops.h"
 #include "tests/random_user/required_ends.h"
 
 namespace tessara::test {

@@ -2,8 +2,8 @@
 
 #include <functional>
 
+#include "adapters/posix/copies/posix_safety_copies.h"
 #include "adapters/posix/posix_file_system.h"
-#include "adapters/posix/posix_safety_copies.h"
 #include "adapters/qt/devices/help_loader.h"
 #include "adapters/qt/devices/lazy_print_surface.h"
 #include "adapters/qt/devices/print_module.h"
@@ -15,8 +15,8 @@
 #include "tests/random_user/kept_work.h"
 #include "tests/random_user/story.h"
 #include "tests/random_user/user_files.h"
-#include "tests/support/fake_machine.h"
-#include "tests/support/recording_spreadsheet.h"
+#include "tests/support/fakes/fake_machine.h"
+#include "tests/support/fakes/recording_spreadsheet.h"
 
 namespace tessara::test {
 

@@ -7,14 +7,14 @@
 #include <string>
 #include <vector>
 
+#include "adapters/posix/copies/posix_safety_copies.h"
 #include "adapters/posix/new_file.h"
 #include "adapters/posix/posix_file_system.h"
-#include "adapters/posix/posix_safety_copies.h"
 #include "base/folder_entries.h"
 #include "base/utf8.h"
 #include "shell/program.h"
-#include "tests/support/fake_machine.h"
-#include "tests/support/headless_renderer.h"
+#include "tests/support/fakes/fake_machine.h"
+#include "tests/support/fakes/headless_renderer.h"
 #include "tests/support/scratch_folder.h"
 
 namespace tessara::test {

@@ -4,7 +4,7 @@
 
 #include "base/code_page.h"
 #include "base/text.h"
-#include "deck/deck_file.h"
+#include "deck/file/deck_file.h"
 
 namespace tessara::test {
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "deck/deck_file.h"
+#include "deck/file/deck_file.h"
 #include "shell/program.h"
-#include "tests/support/fake_machine.h"
-#include "tests/support/headless_renderer.h"
+#include "tests/support/fakes/fake_machine.h"
+#include "tests/support/fakes/headless_renderer.h"
 
 namespace tessara::test {
 

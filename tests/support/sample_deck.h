@@ -1,8 +1,8 @@
 #pragma once
 
-#include "deck/deck_file.h"
+#include "deck/file/deck_file.h"
 #include "tests/support/cards.h"
-#include "tests/support/memory_files.h"
+#include "tests/support/fakes/memory_files.h"
 
 namespace tessara::test {
 

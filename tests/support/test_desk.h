@@ -1,11 +1,11 @@
 #pragma once
 
 #include "deck/app_context.h"
-#include "deck/file_number.h"
+#include "deck/file/file_number.h"
 #include "forms/window_system.h"
-#include "tests/support/fake_machine.h"
-#include "tests/support/headless_renderer.h"
-#include "tests/support/test_frame.h"
+#include "tests/support/fakes/fake_machine.h"
+#include "tests/support/fakes/headless_renderer.h"
+#include "tests/support/fakes/test_frame.h"
 
 namespace tessara::test {
 

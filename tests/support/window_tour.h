@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/program.h"
-#include "tests/support/fake_machine.h"
+#include "tests/support/fakes/fake_machine.h"
 
 namespace tessara::test {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "deck/card_display.h"
-#include "forms/painted_control.h"
+#include "forms/controls/painted_control.h"
 #include "viewer/card/card_layout.h"
 
 namespace tessara {

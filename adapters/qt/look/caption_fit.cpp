@@ -7,7 +7,7 @@
 #include <cmath>
 
 #include "adapters/qt/text/qt_text.h"
-#include "forms/control.h"
+#include "forms/controls/control.h"
 
 namespace tessara {
 

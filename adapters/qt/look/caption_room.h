@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/control.h"
+#include "forms/controls/control.h"
 
 namespace tessara {
 

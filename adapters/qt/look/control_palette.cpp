@@ -5,7 +5,7 @@
 
 #include "adapters/qt/look/contrast.h"
 #include "adapters/qt/look/qt_colors.h"
-#include "forms/controls.h"
+#include "forms/controls/controls.h"
 #include "forms/form.h"
 
 namespace tessara {

@@ -2,7 +2,7 @@
 
 #include <QPalette>
 
-#include "forms/control.h"
+#include "forms/controls/control.h"
 
 namespace tessara {
 

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-#include "forms/controls.h"
+#include "forms/controls/controls.h"
 
 namespace tessara {
 

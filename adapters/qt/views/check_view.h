@@ -3,7 +3,7 @@
 #include <QCheckBox>
 
 #include "adapters/qt/views/caption_view.h"
-#include "forms/controls.h"
+#include "forms/controls/controls.h"
 
 namespace tessara {
 

@@ -4,7 +4,7 @@
 #include <QWidget>
 
 #include "adapters/qt/look/view_context.h"
-#include "forms/control.h"
+#include "forms/controls/control.h"
 
 namespace tessara {
 

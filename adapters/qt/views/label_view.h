@@ -1,7 +1,7 @@
 #pragma once
 
 #include "adapters/qt/views/control_view.h"
-#include "forms/controls.h"
+#include "forms/controls/controls.h"
 
 namespace tessara {
 

@@ -1,17 +1,17 @@
 #include "adapters/qt/views/make_view.h"
 
-#include "adapters/qt/views/box_view.h"
+#include "adapters/qt/views/boxes/box_view.h"
+#include "adapters/qt/views/boxes/combo_view.h"
+#include "adapters/qt/views/boxes/text_area_view.h"
+#include "adapters/qt/views/boxes/text_line_view.h"
 #include "adapters/qt/views/button_view.h"
 #include "adapters/qt/views/check_view.h"
-#include "adapters/qt/views/combo_view.h"
 #include "adapters/qt/views/label_view.h"
 #include "adapters/qt/views/list_items_view.h"
 #include "adapters/qt/views/option_view.h"
 #include "adapters/qt/views/painted_view.h"
 #include "adapters/qt/views/picture_view.h"
 #include "adapters/qt/views/shape_view.h"
-#include "adapters/qt/views/text_area_view.h"
-#include "adapters/qt/views/text_line_view.h"
 
 namespace tessara {
 

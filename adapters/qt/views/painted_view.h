@@ -5,7 +5,7 @@
 
 #include "adapters/qt/text/text_measures.h"
 #include "adapters/qt/views/control_view.h"
-#include "forms/painted_control.h"
+#include "forms/controls/painted_control.h"
 
 namespace tessara {
 

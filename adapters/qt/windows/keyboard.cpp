@@ -12,7 +12,7 @@
 
 #include "adapters/qt/windows/form_window.h"
 #include "adapters/qt/windows/frame_window.h"
-#include "forms/controls.h"
+#include "forms/controls/controls.h"
 
 namespace tessara {
 

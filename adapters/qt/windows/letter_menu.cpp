@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "adapters/qt/text/qt_text.h"
-#include "forms/control.h"
+#include "forms/controls/control.h"
 #include "forms/shared_letter.h"
 
 namespace tessara {

@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QTimer>
 
-#include "adapters/qt/views/text_area_view.h"
+#include "adapters/qt/views/boxes/text_area_view.h"
 #include "adapters/qt/windows/child_window.h"
 #include "adapters/qt/windows/desktop_watch.h"
 #include "adapters/qt/windows/dialog_window.h"

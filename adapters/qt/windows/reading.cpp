@@ -1,8 +1,8 @@
 #include "adapters/qt/windows/reading.h"
 
 #include "adapters/qt/text/qt_text.h"
-#include "forms/controls.h"
-#include "forms/painted_control.h"
+#include "forms/controls/controls.h"
+#include "forms/controls/painted_control.h"
 
 namespace tessara {
 

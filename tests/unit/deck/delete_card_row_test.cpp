@@ -3,8 +3,8 @@
 #include <doctest/doctest.h>
 
 #include "tests/support/error_of.h"
-#include "tests/support/fake_card_display.h"
-#include "tests/support/fake_messages.h"
+#include "tests/support/fakes/fake_card_display.h"
+#include "tests/support/fakes/fake_messages.h"
 #include "tests/support/sample_deck.h"
 
 namespace tessara::test {

@@ -1,6 +1,6 @@
 #include <doctest/doctest.h>
 
-#include "forms/image_list.h"
+#include "forms/controls/image_list.h"
 #include "tests/support/error_of.h"
 #include "tests/unit/forms/test_windows.h"
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "forms/controls.h"
+#include "forms/controls/controls.h"
 #include "forms/form.h"
 #include "forms/window.h"
 #include "tests/support/test_desk.h"

@@ -7,7 +7,7 @@
 #include "import/extended_import.h"
 #include "import/import_common.h"
 #include "import/standard_import.h"
-#include "tests/support/fake_messages.h"
+#include "tests/support/fakes/fake_messages.h"
 #include "tests/support/sample_deck.h"
 #include "tests/unit/import/text_file.h"
 

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "base/utf8.h"
-#include "deck/deck_file.h"
+#include "deck/file/deck_file.h"
 #include "tests/support/program_desk.h"
 #include "tests/unit/import/command_desk.h"
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "deck/file_number.h"
-#include "tests/support/memory_files.h"
+#include "deck/file/file_number.h"
+#include "tests/support/fakes/memory_files.h"
 
 namespace tessara::test {
 

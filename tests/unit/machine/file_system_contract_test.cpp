@@ -5,7 +5,7 @@
 #include "base/utf8.h"
 #include "machine/file_system.h"
 #include "tests/support/error_of.h"
-#include "tests/support/memory_files.h"
+#include "tests/support/fakes/memory_files.h"
 #include "tests/support/scratch_folder.h"
 
 // What every file system keeps to: the real one and the one of the tests.

@@ -3,7 +3,7 @@
 #include <array>
 #include <doctest/doctest.h>
 
-#include "tests/support/recording_spreadsheet.h"
+#include "tests/support/fakes/recording_spreadsheet.h"
 
 namespace tessara {
 namespace {

@@ -8,11 +8,11 @@
 #include "forms/window.h"
 #include "printing/print_window.h"
 #include "printing/spreadsheet_job.h"
-#include "tests/support/fake_machine.h"
-#include "tests/support/headless_renderer.h"
-#include "tests/support/recording_print_surface.h"
-#include "tests/support/recording_spreadsheet.h"
-#include "tests/support/test_frame.h"
+#include "tests/support/fakes/fake_machine.h"
+#include "tests/support/fakes/headless_renderer.h"
+#include "tests/support/fakes/recording_print_surface.h"
+#include "tests/support/fakes/recording_spreadsheet.h"
+#include "tests/support/fakes/test_frame.h"
 
 namespace tessara::test {
 

@@ -3,7 +3,7 @@
 #include <doctest/doctest.h>
 
 #include "base/run_time_error.h"
-#include "tests/support/recording_print_surface.h"
+#include "tests/support/fakes/recording_print_surface.h"
 
 namespace tessara {
 namespace {

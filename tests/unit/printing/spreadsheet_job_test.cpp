@@ -3,8 +3,8 @@
 #include <doctest/doctest.h>
 
 #include "base/run_time_error.h"
-#include "tests/support/fake_machine.h"
-#include "tests/support/recording_spreadsheet.h"
+#include "tests/support/fakes/fake_machine.h"
+#include "tests/support/fakes/recording_spreadsheet.h"
 
 namespace tessara {
 namespace {

@@ -7,13 +7,13 @@
 #include "adapters/posix/code_page_of_locale.h"
 #include "base/characters.h"
 #include "base/utf8.h"
-#include "deck/deck_record.h"
 #include "deck/double_amps.h"
+#include "deck/file/deck_record.h"
 #include "shell/program.h"
-#include "tests/support/fake_machine.h"
-#include "tests/support/headless_renderer.h"
-#include "tests/support/recording_print_surface.h"
-#include "tests/support/recording_spreadsheet.h"
+#include "tests/support/fakes/fake_machine.h"
+#include "tests/support/fakes/headless_renderer.h"
+#include "tests/support/fakes/recording_print_surface.h"
+#include "tests/support/fakes/recording_spreadsheet.h"
 
 namespace tessara::test {
 

@@ -3,7 +3,7 @@
 
 #include <doctest/doctest.h>
 
-#include "tests/support/faulty_files.h"
+#include "tests/support/fakes/faulty_files.h"
 #include "tests/support/limited_process.h"
 #include "tests/support/program_desk.h"
 #include "tests/unit/import/text_file.h"

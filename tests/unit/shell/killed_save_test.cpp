@@ -8,7 +8,7 @@
 #include <set>
 
 #include "tests/support/disk_desk.h"
-#include "tests/support/faulty_files.h"
+#include "tests/support/fakes/faulty_files.h"
 #include "tests/support/killed_process.h"
 #include "tests/support/program_desk.h"
 #include "tests/support/refused_call.h"

@@ -5,7 +5,7 @@
 
 #include "tests/support/cards.h"
 #include "tests/support/deck_bytes.h"
-#include "tests/support/faulty_files.h"
+#include "tests/support/fakes/faulty_files.h"
 #include "tests/support/life_program.h"
 
 namespace tessara::test {

@@ -1,4 +1,4 @@
-#include "adapters/posix/copy_name.h"
+#include "adapters/posix/copies/copy_name.h"
 
 #include <ctime>
 #include <doctest/doctest.h>

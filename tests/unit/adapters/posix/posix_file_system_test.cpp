@@ -10,7 +10,7 @@
 #include <unistd.h>
 
 #include "base/utf8.h"
-#include "deck/deck_file.h"
+#include "deck/file/deck_file.h"
 #include "tests/support/error_of.h"
 #include "tests/support/limited_process.h"
 #include "tests/support/open_files.h"

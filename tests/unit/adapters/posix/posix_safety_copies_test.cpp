@@ -1,11 +1,11 @@
-#include "adapters/posix/posix_safety_copies.h"
+#include "adapters/posix/copies/posix_safety_copies.h"
 
 #include <chrono>
 #include <doctest/doctest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "adapters/posix/copy_name.h"
+#include "adapters/posix/copies/copy_name.h"
 #include "base/utf8.h"
 #include "tests/support/disk_desk.h"
 #include "tests/support/limited_process.h"

@@ -8,8 +8,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "adapters/posix/copy_name.h"
-#include "adapters/posix/posix_safety_copies.h"
+#include "adapters/posix/copies/copy_name.h"
+#include "adapters/posix/copies/posix_safety_copies.h"
 #include "tests/support/disk_desk.h"
 #include "tests/support/killed_process.h"
 #include "tests/support/open_files.h"

@@ -1,7 +1,7 @@
 #include <doctest/doctest.h>
 
 #include "companion/cards/refused.h"
-#include "companion/formats/import_text_check.h"
+#include "companion/formats/texts/import_text_check.h"
 #include "tests/unit/companion/formats/format_desk.h"
 
 namespace tessara::test {

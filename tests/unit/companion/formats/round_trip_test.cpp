@@ -1,7 +1,7 @@
 #include <doctest/doctest.h>
 #include <random>
 
-#include "companion/formats/delimited_reader.h"
+#include "companion/formats/tables/delimited_reader.h"
 #include "tests/unit/companion/formats/format_desk.h"
 
 namespace tessara::test {

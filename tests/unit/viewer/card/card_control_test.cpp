@@ -5,7 +5,7 @@
 #include <doctest/doctest.h>
 #include <map>
 
-#include "tests/support/fake_canvas.h"
+#include "tests/support/fakes/fake_canvas.h"
 
 namespace tessara::test {
 

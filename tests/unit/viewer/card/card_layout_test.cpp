@@ -5,7 +5,7 @@
 #include <random>
 
 #include "base/utf8.h"
-#include "tests/support/fake_canvas.h"
+#include "tests/support/fakes/fake_canvas.h"
 
 namespace tessara::test {
 

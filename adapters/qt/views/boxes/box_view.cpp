@@ -1,0 +1,17 @@
+#include "adapters/qt/views/boxes/box_view.h"
+
+#include <QGroupBox>
+
+#include "adapters/qt/text/qt_text.h"
+
+namespace tessara {
+
+BoxView::BoxView(Frame& frame, QWidget& parent, const ViewContext& context)
+    : ControlView(frame, *new QGroupBox(&parent), context) {}
+
+void BoxView::FollowOwn(Aspect aspect) {
+  if (aspect != Aspect::kCaption) return;
+  static_cast<QGroupBox&>(Widget()).setTitle(ToQString(As<Frame>().Caption()));
+}
+
+}  // namespace tessara

@@ -1,0 +1,112 @@
+#include "deck/life/unsaved_deck.h"
+
+#include <exception>
+
+#include "deck/life/deck_name.h"
+#include "machine/desktop.h"
+#include "machine/safety_copies.h"
+
+namespace tessara {
+
+namespace {
+
+constexpr TextView kDeckEnding = u".tsr";
+
+/// What the deck's file is called; a deck without one has the name that its window has.
+Text FileNameOf(const Text& path) {
+  const Text name = path.substr(path.find_last_of(u"/\\") + 1);
+  return name.empty() ? Text(kNewDeckName) : name;
+}
+
+Text WithoutEnding(const Text& fileName) {
+  const bool ends = fileName.ends_with(kDeckEnding);
+  return fileName.substr(0, fileName.size() - (ends ? kDeckEnding.size() : 0));
+}
+
+}  // namespace
+
+UnsavedDeck::UnsavedDeck(const ProgramState& state, const Machine& machine)
+    : state_(state),
+      copies_(machine.copies),
+      desktop_(machine.desktop),
+      image_(state, machine.codePage) {}
+
+void UnsavedDeck::BeforeBox() noexcept {
+  try {
+    if (following_ && !givenUp_) KeepIfChanged();
+  } catch (const std::exception&) {
+    // The event goes on: nobody is told.
+  }
+}
+
+void UnsavedDeck::EventEnds() noexcept {
+  // The deck that was given up is still there: the closing was refused.
+  const bool refused = givenUp_ && state_.deck.changed;
+  givenUp_ = false;
+  if (refused) seen_ = 0;
+  BeforeBox();
+}
+
+void UnsavedDeck::KeepIfChanged() {
+  const std::uint64_t changes = image_.Changes();
+  if (changes == seen_) return;
+  unsaved_ = unsaved_ || state_.deck.changed;
+  // A command can change the table first and tell of it later.
+  if (!unsaved_) return;
+  seen_ = changes;
+  if (image_.HasCards()) {
+    copies_.KeepUnsaved(FileNameOf(state_.deck.filePath), image_.Bytes());
+  } else {
+    // The user has deleted the last one.
+    copies_.DropUnsaved();
+    unsaved_ = false;
+  }
+}
+
+void UnsavedDeck::Saved() {
+  copies_.DropUnsaved();
+  unsaved_ = false;
+  seen_ = image_.Changes();
+}
+
+void UnsavedDeck::NotSaved(const Text& path) {
+  const Text fileName = FileNameOf(path);
+  const Text kept = copies_.KeepNotSaved(fileName, image_.Bytes());
+  if (kept.empty()) return;
+  unsaved_ = false;
+  seen_ = image_.Changes();
+  desktop_.Notify(u"A deck may not have been saved", u"Saving the deck " + WithoutEnding(fileName) +
+                                                         u" met an error. The deck is kept as " +
+                                                         kept + u" and can be opened there.");
+}
+
+void UnsavedDeck::GivenUp() {
+  Saved();
+  givenUp_ = true;
+}
+
+void UnsavedDeck::Leave() {
+  if (unsaved_) copies_.LeaveUnsaved();
+  following_ = false;
+  unsaved_ = false;
+  givenUp_ = false;
+}
+
+void UnsavedDeck::Follow(Table table) {
+  following_ = true;
+  if (table == Table::kAsInFile) seen_ = image_.Changes();
+}
+
+Text TellOfLeftDecks(const Machine& machine, const Text& path) {
+  Text newPath = path;
+  for (const LeftDeck& deck : machine.copies.TakeLeftDecks()) {
+    if (deck.oldPath == path) newPath = deck.path;
+    machine.desktop.Notify(u"A deck with unsaved changes was kept",
+                           u"The deck " + deck.name +
+                               u" had changes that were not saved. It is kept as " + deck.path +
+                               u" and can be opened there.");
+  }
+  return newPath;
+}
+
+}  // namespace tessara

@@ -1,0 +1,9 @@
+#include "forms/controls/label.h"
+
+namespace tessara {
+
+void Label::UserClick() {
+  if (TakesInput()) Raise(onClick);
+}
+
+}  // namespace tessara

@@ -1,9 +1,0 @@
-#include "forms/label.h"
-
-namespace tessara {
-
-void Label::UserClick() {
-  if (TakesInput()) Raise(onClick);
-}
-
-}  // namespace tessara

@@ -1,0 +1,93 @@
+#include <QTimer>
+#include <doctest/doctest.h>
+#include <functional>
+#include <new>
+#include <system_error>
+
+#include "adapters/qt/windows/guarded_application.h"
+#include "base/run_time_error.h"
+#include "tests/desktop/support/desk.h"
+#include "tests/desktop/support/program_on_screen.h"
+#include "tests/support/deck_bytes.h"
+
+using namespace tessara;
+using namespace tessara::test;
+
+namespace {
+
+/// A desk under the guard of the application.
+struct GuardedDesk : Desk {
+  GuardedDesk() { static_cast<GuardedApplication&>(*qApp).SetWindows(windows); }
+
+  [[nodiscard]] bool Ends() {
+    return QTest::qWaitFor([this] { return windows.ExitStatus().has_value(); });
+  }
+  [[nodiscard]] std::vector<std::string> Told() const {
+    std::vector<std::string> told;
+    for (const auto& box : messages.shown) told.push_back(ToUtf8(box.text));
+    return told;
+  }
+};
+
+const std::vector<std::string> kOutOfMemory{"Run-time error '7':\r\n\r\nOut of memory"};
+
+}  // namespace
+
+TEST_CASE("An error in painting is told once, as one in an event is, and ends the program") {
+  struct Case {
+    std::function<void()> fails;
+    const char* told;
+  };
+  const Case cases[] = {
+      {[] { throw std::bad_alloc(); }, "Run-time error '7':\r\n\r\nOut of memory"},
+      {[] { throw RunTimeError(ErrorNumber::kOverflow); }, "Run-time error '6':\r\n\r\nOverflow"},
+      {[] { throw std::system_error(ENOSPC, std::generic_category()); },
+       "Run-time error '61':\r\n\r\nDisk full"},
+  };
+  for (const Case& each : cases) {
+    GuardedDesk desk;
+    desk.ShowChild().Painting1.whenPainted = each.fails;
+    // Painted again while the box is there.
+    desk.messages.whileShown = [](const FakeMessages::Shown&) { Desk::Of("Painting1").repaint(); };
+    Desk::Of("Painting1").repaint();
+    CHECK(desk.Told().empty());
+    CHECK(desk.Ends());
+    CHECK(desk.Told() == std::vector<std::string>{each.told});
+    CHECK(desk.windows.ExitStatus() == 1);
+  }
+}
+
+TEST_CASE("An error in a timer's work ends the program too") {
+  GuardedDesk desk;
+  QTimer::singleShot(0, qApp, [] { throw std::bad_alloc(); });
+  CHECK(desk.Ends());
+  CHECK(desk.Told() == kOutOfMemory);
+}
+
+TEST_CASE("An error in painting ends the program from inside a dialog") {
+  GuardedDesk desk;
+  bool left = true;
+  QTimer::singleShot(0, qApp, [&desk] {
+    desk.dialog->Painting1.whenPainted = [] { throw std::bad_alloc(); };
+    Desk::Of("Painting1", "frmDialog").repaint();
+  });
+  desk.windows.Run([&] {
+    desk.dialog->Show(Modality::kModal);
+    left = false;
+  });
+  CHECK(desk.Told() == kOutOfMemory);
+  CHECK(desk.windows.ExitStatus() == 1);
+  CHECK(left);
+}
+
+TEST_CASE("A program that an error has ended is taken down with its windows on screen") {
+  ProgramOnScreen desk;
+  desk.folder.Write("birds.tsr", DeckBytes(3));
+  desk.Start(u"birds.tsr");
+  desk.AnswerByKey(Qt::Key_Return);
+  desk.program.Windows().Run([] { throw RunTimeError(ErrorNumber::kSubscriptOutOfRange); });
+  CHECK(desk.TakeAsked() ==
+        std::vector<std::string>{"Run-time error '9':\n\nSubscript out of range"});
+  CHECK(desk.program.Windows().ExitStatus() == 1);
+  CHECK(ProgramOnScreen::Of("NoteletCtl1").isVisible());
+}
