@@ -3,12 +3,13 @@
 #include <cstdint>
 
 #include "base/text.h"
+#include "deck/card_mode.h"
 #include "deck/card_table.h"
 
 namespace tessara {
 
-enum DeckKind : std::int32_t { kStandardDeck = 0, kExtendedDeck = 1 };
-enum CardMode : std::int32_t { kStudyMode = 0, kQuizMode = 1, kTestMode = 2 };
+enum class DeckKind { kStandardDeck, kExtendedDeck };
+using enum DeckKind;
 
 /// The open deck: its cards, its file, and how it is taken. Filled by the deck file and the
 /// imports, edited in place by the builders.
@@ -32,8 +33,8 @@ struct Deck {
   bool saveOffered = false;  ///< built or imported, never had a file name chosen
 
   // How it is taken.
-  std::int32_t kind = kStandardDeck;
-  std::int32_t mode = kStudyMode;
+  DeckKind kind = kStandardDeck;
+  CardMode mode = kStudyMode;
   double testPoints = 0;  ///< in steps of 0.5
 
   /// The text of a cell.

@@ -18,7 +18,7 @@ void DeckWindow::CommandLineLoad(const Text& fileName) {
   LoadAndShowDeck(fileName);
 }
 
-void DeckWindow::ShowNewCard(std::int32_t kind) {
+void DeckWindow::ShowNewCard(DeckKind kind) {
   if (kind == kStandardDeck) {
     ConfigureStandardCard(kStudyMode);
   } else if (kind == kExtendedDeck) {
@@ -50,7 +50,7 @@ void DeckWindow::OpenExtendedView() {
   }
 }
 
-void DeckWindow::ShowFirstCard(std::int32_t kind) {
+void DeckWindow::ShowFirstCard(DeckKind kind) {
   ShowCardText(1, kCardText);
   if (kind != kExtendedDeck) return;
   // The key is that of card 1, the row that of the card on show.
@@ -58,7 +58,7 @@ void DeckWindow::ShowFirstCard(std::int32_t kind) {
   answer.SetCaption(DoubleAmps(AnswerText(key, State().deck.currentCard, State())));
 }
 
-void DeckWindow::AfterEditShow(std::int32_t kind) {
+void DeckWindow::AfterEditShow(DeckKind kind) {
   ProgramState& state = State();
   if (kind == kStandardDeck) {
     if (OffersFlip(FlipAction::kShowFront)) {

@@ -40,8 +40,8 @@ class DeckWindow : public DeckLife {
   /// Applies the four card settings.
   void SetUpDeck();
   void HideAllFrames();
-  void ConfigureStandardCard(std::int32_t mode);
-  void ConfigureExtendedCard(std::int32_t mode);
+  void ConfigureStandardCard(CardMode mode);
+  void ConfigureExtendedCard(CardMode mode);
   /// True for the back of a card: the decorations of the front go.
   void ShowCardBack(bool back);
 
@@ -77,18 +77,18 @@ class DeckWindow : public DeckLife {
   void OpDefaultForeColor();
 
   // The mode menu.
-  void SetModeMenu(std::int32_t kind);
+  void SetModeMenu(DeckKind kind);
   void ConfigModeMenu(bool offersStudy, bool offersQuiz, bool offersTest);
-  void ChkModeMenu(std::int32_t mode);
+  void ChkModeMenu(CardMode mode);
   void AutoModeMenu() override;
 
   // A deck comes up.
   void CommandLineLoad(const Text& fileName);
-  void ShowNewCard(std::int32_t kind);
+  void ShowNewCard(DeckKind kind);
   void OpenStandardView() override;
   void OpenExtendedView() override;
-  void ShowFirstCard(std::int32_t kind) override;
-  void AfterEditShow(std::int32_t kind) override;
+  void ShowFirstCard(DeckKind kind) override;
+  void AfterEditShow(DeckKind kind) override;
   void ConfigSaveMenu() override;
 
   // Single cards.

@@ -27,7 +27,7 @@ void DeckWindow::HideAllFrames() {
   answerCard.SetVisible(false);
 }
 
-void DeckWindow::ConfigureStandardCard(std::int32_t mode) {
+void DeckWindow::ConfigureStandardCard(CardMode mode) {
   if (mode == kStudyMode || mode == kQuizMode) {
     HideAllFrames();
     OfferFlip(FlipAction::kShowBack);
@@ -42,7 +42,7 @@ void DeckWindow::ConfigureStandardCard(std::int32_t mode) {
   flip.SetEnabled(State().deck.HasCards());
 }
 
-void DeckWindow::ConfigureExtendedCard(std::int32_t mode) {
+void DeckWindow::ConfigureExtendedCard(CardMode mode) {
   const auto enableMoves = [this](bool enabled) {
     for (Button& button : arrows) button.SetEnabled(enabled);
   };

@@ -5,7 +5,7 @@
 
 namespace tessara {
 
-void DeckWindow::SetModeMenu(std::int32_t kind) {
+void DeckWindow::SetModeMenu(DeckKind kind) {
   if (kind == kStandardDeck || kind == kExtendedDeck) ConfigModeMenu(true, true, true);
 }
 
@@ -15,7 +15,7 @@ void DeckWindow::ConfigModeMenu(bool offersStudy, bool offersQuiz, bool offersTe
   test.SetVisible(offersTest);
 }
 
-void DeckWindow::ChkModeMenu(std::int32_t mode) {
+void DeckWindow::ChkModeMenu(CardMode mode) {
   quiz.SetChecked(mode == kQuizMode);
   study.SetChecked(mode == kStudyMode);
   test.SetChecked(mode == kTestMode);

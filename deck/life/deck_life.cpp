@@ -30,8 +30,7 @@ void DeckLife::NewTessara() {
 }
 
 void DeckLife::ShowTitle(CardMode mode) {
-  constexpr TextView kMarks[] = {u"[STUDY]", u"[QUIZ]", u"[TEST]"};
-  SetCaption(DeckNameOf(State().deck.filePath) + u"  " + Text(kMarks[mode]));
+  SetCaption(DeckNameOf(State().deck.filePath) + u"  " + Text(MarkOf(mode)));
 }
 
 void DeckLife::MenuOp(bool enabled) {

@@ -100,15 +100,14 @@ class DeckLife : public Form {
   /// Brings the window up in the shape for text cards, or for questions, and sets the deck's type.
   virtual void OpenStandardView() = 0;
   virtual void OpenExtendedView() = 0;
-  /// Writes the texts of card 1 to the window; `kind` is a DeckKind.
-  virtual void ShowFirstCard(std::int32_t kind) = 0;
+  /// Writes the texts of card 1 to the window.
+  virtual void ShowFirstCard(DeckKind kind) = 0;
   /// The save command follows whether the deck has been changed.
   virtual void ConfigSaveMenu() = 0;
   /// Sets the mode menu by the type of card 1; an unknown type leaves it.
   virtual void AutoModeMenu() = 0;
-  /// Paints the card on show anew from the table, and sets the commands that hang on it;
-  /// `kind` is a DeckKind.
-  virtual void AfterEditShow(std::int32_t kind) = 0;
+  /// Paints the card on show anew from the table, and sets the commands that hang on it.
+  virtual void AfterEditShow(DeckKind kind) = 0;
 
  protected:
   void OnUnload(bool& cancel) override;

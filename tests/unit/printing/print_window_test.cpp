@@ -240,8 +240,8 @@ TEST_CASE("the sides of a card depend on the type of the deck") {
   PrintDesk desk;
   const PrintWindow& window = desk.Open();
   desk.state.deck.cardGrid.Set(1, kChoiceC, u"third");
-  const auto back = [&](std::int32_t type, const Text& answer) {
-    desk.state.deck.kind = type;
+  const auto back = [&](DeckKind kind, const Text& answer) {
+    desk.state.deck.kind = kind;
     desk.state.deck.cardGrid.Set(1, kAnswer, answer);
     return window.GetCardText(u"Back", 1);
   };
@@ -250,10 +250,10 @@ TEST_CASE("the sides of a card depend on the type of the deck") {
   CHECK(back(kExtendedDeck, u"T") == u"TRUE");
   CHECK(back(kExtendedDeck, u"F") == u"FALSE");
   CHECK(back(kExtendedDeck, u"x").empty());
-  CHECK(back(2, u"C").empty());
+  CHECK(back(static_cast<DeckKind>(2), u"C").empty());
   CHECK(window.GetCardText(u"Front", 1).empty());
-  for (const std::int32_t type : {kStandardDeck, kExtendedDeck}) {
-    desk.state.deck.kind = type;
+  for (const DeckKind kind : {kStandardDeck, kExtendedDeck}) {
+    desk.state.deck.kind = kind;
     CHECK(window.GetCardText(u"Front", 1) == u"front 1");
     CHECK(window.GetCardText(u"front", 1).empty());
     CHECK(window.GetCardText(u"", 1).empty());

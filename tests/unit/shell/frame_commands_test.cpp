@@ -68,7 +68,7 @@ TEST_CASE("no command of the frame's file menu touches the deck behind a window 
   for (const Front& front : kFronts) {
     CAPTURE(front.window);
     FrontDesk desk(front);
-    const std::int32_t deckType = desk.state.deck.kind;
+    const DeckKind deckType = desk.state.deck.kind;
     for (MenuEntry* command : {&desk.Frame().newStandardDeck, &desk.Frame().newExtendedDeck,
                                &desk.Frame().openExistingDeck, &desk.Frame().importTextFile,
                                &desk.Frame().setUp, &desk.Frame().exit}) {

@@ -164,7 +164,7 @@ TEST_CASE("each mode entry can be hidden and marked by itself") {
   const std::vector<MenuEntry*> entries = {&deck.study, &deck.quiz, &deck.test};
   for (int mode = 0; mode < 4; ++mode) {
     deck.ConfigModeMenu(mode == 0, mode == 1, mode == 2);
-    deck.ChkModeMenu(mode);
+    deck.ChkModeMenu(static_cast<CardMode>(mode));
     for (int entry = 0; entry < 3; ++entry) {
       CHECK(entries[static_cast<std::size_t>(entry)]->Visible() == (entry == mode));
       CHECK(entries[static_cast<std::size_t>(entry)]->Checked() == (entry == mode));
@@ -181,7 +181,7 @@ TEST_CASE("a repaint keeps the side, and of an unknown deck type shows the numbe
   CHECK(desk.deck->card.CardText() == u"new back");
   desk.state.deck.cardGrid.Set(1, kBackText, u"newer back");
   desk.state.deck.currentCard = 2;
-  desk.deck->AfterEditShow(7);
+  desk.deck->AfterEditShow(static_cast<DeckKind>(7));
   CHECK(desk.deck->card.CardText() == u"new back");
   CHECK(desk.deck->card.CardNumber() == u"2");
 }

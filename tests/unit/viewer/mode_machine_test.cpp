@@ -6,15 +6,15 @@ namespace tessara::test {
 
 namespace {
 
-constexpr std::int32_t kModes[] = {kStudyMode, kQuizMode, kTestMode};
+constexpr CardMode kModes[] = {kStudyMode, kQuizMode, kTestMode};
 
-void Enter(DeckDesk& desk, std::int32_t mode) {
+void Enter(DeckDesk& desk, CardMode mode) {
   MenuEntry* const entries[] = {&desk.deck->study, &desk.deck->quiz, &desk.deck->test};
-  entries[mode]->Press();
+  entries[static_cast<std::size_t>(mode)]->Press();
 }
 
 /// Leaves traces of a mode: another card or side, a banner, points.
-void GoOn(DeckDesk& desk, std::int32_t mode, bool extended) {
+void GoOn(DeckDesk& desk, CardMode mode, bool extended) {
   if (mode != kTestMode) {
     desk.deck->arrows[kNextCard].Press();
     desk.deck->flip.Press();
@@ -29,7 +29,7 @@ void GoOn(DeckDesk& desk, std::int32_t mode, bool extended) {
 /// What entering a mode comes to, whatever the mode before.
 struct Entry {
   bool extended;
-  std::int32_t mode;
+  CardMode mode;
   bool previous, next;  ///< the arrows
   TextView title;
   TextView flip;
@@ -90,7 +90,7 @@ void CheckEntered(DeckDesk& desk, const Entry& entry) {
 
 TEST_CASE("every mode can be entered from every mode, and starts over on card 1") {
   for (const Entry& entry : kEntries) {
-    for (const std::int32_t from : kModes) {
+    for (const CardMode from : kModes) {
       for (const bool afterSteps : {false, true}) {
         CAPTURE(entry.extended);
         CAPTURE(from);
@@ -112,7 +112,7 @@ TEST_CASE("every mode can be entered from every mode, and starts over on card 1"
 }
 
 TEST_CASE("a change of mode leaves the deck and its flags alone") {
-  for (const std::int32_t mode : kModes) {
+  for (const CardMode mode : kModes) {
     DeckDesk desk;
     desk.OpenStandardDeck(2);
     desk.state.deck.filePath = u"/decks/birds.tsr";
@@ -129,7 +129,7 @@ TEST_CASE("a change of mode leaves the deck and its flags alone") {
 }
 
 TEST_CASE("the window can't be closed outside study, and says why") {
-  for (const std::int32_t mode : {kQuizMode, kTestMode}) {
+  for (const CardMode mode : {kQuizMode, kTestMode}) {
     DeckDesk desk;
     desk.OpenStandardDeck(2);
     Enter(desk, mode);
@@ -153,7 +153,7 @@ TEST_CASE("in study the close button closes a deck after a question") {
 }
 
 TEST_CASE("an activation in a quiz or a test sets the arrows by the place in the deck") {
-  for (const std::int32_t mode : {kQuizMode, kTestMode}) {
+  for (const CardMode mode : {kQuizMode, kTestMode}) {
     DeckDesk desk;
     desk.OpenExtendedDeck(3);
     Enter(desk, mode);

@@ -136,7 +136,7 @@ class Walk {
 
   void CheckMenus() const {
     const DeckWindow& deck = Deck();
-    const std::int32_t mode = desk_.state.deck.mode;
+    const CardMode mode = desk_.state.deck.mode;
     CHECK(deck.study.Checked() == (mode == kStudyMode));
     CHECK(deck.quiz.Checked() == (mode == kQuizMode));
     CHECK(deck.test.Checked() == (mode == kTestMode));
@@ -144,7 +144,7 @@ class Walk {
     CHECK(deck.utilityMenu.Enabled() == (mode == kStudyMode));
     CHECK(deck.deleteCard.Enabled() == (desk_.state.deck.cardCount > 0));
     constexpr TextView kMarks[] = {u"[STUDY]", u"[QUIZ]", u"[TEST]"};
-    CHECK(deck.Caption() == u"  " + Text(kMarks[mode]));
+    CHECK(deck.Caption() == u"  " + Text(kMarks[static_cast<std::size_t>(mode)]));
     if (!Testing() || !Extended()) CHECK_FALSE(deck.nextOrScore.Enabled());
   }
 

@@ -66,7 +66,7 @@ TEST_CASE("pictures are found by key in either list, and the missing ones are er
 TEST_CASE("the shapes of a deck type and a mode") {
   struct Case {
     bool extended;
-    std::int32_t mode;
+    CardMode mode;
     bool credit, choices, answer;
     TextView flip;
     bool flipEnabled, back, next;
