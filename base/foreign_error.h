@@ -7,7 +7,7 @@
 namespace tessara {
 
 /// What an exception of the standard library comes to as a run-time error: no memory, or a failure
-/// of the file system by the system's code for it; an internal error where it is nothing classic.
+/// of the file system by the system's code for it; an internal error where none of them fits.
 [[nodiscard]] RunTimeError RunTimeErrorOf(const std::exception& foreign);
 
 }  // namespace tessara

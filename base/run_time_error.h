@@ -6,7 +6,7 @@
 
 namespace tessara {
 
-/// The classic numbers of run-time errors that the program raises or tells apart.
+/// The numbers of the run-time errors that the program raises or tells apart.
 enum class ErrorNumber : int {
   kInvalidProcedureCall = 5,
   kOverflow = 6,
@@ -39,7 +39,7 @@ enum class ErrorNumber : int {
   kImageListKey = 35601,
 };
 
-/// A run-time error: its number and its classic description ("Subscript out of range").
+/// A run-time error: its number and its description ("Subscript out of range").
 /// Where no routine catches it, the guard round events shows it and ends the program.
 class RunTimeError : public std::exception {
  public:

@@ -32,7 +32,7 @@ constexpr Color FixedColor(std::uint8_t red, std::uint8_t green, std::uint8_t bl
 /// A font; what it leaves open the desktop decides.
 struct Font {
   Text family;        ///< empty: the desktop's own
-  double points = 0;  ///< 0: the desktop's own size; else relative to the classic 8.25
+  double points = 0;  ///< 0: the desktop's own size; else relative to the forms' 8.25
   bool bold = false;
   bool italic = false;
   bool underline = false;

@@ -13,7 +13,7 @@ namespace tessara {
 
 namespace {
 
-/// The most characters that a classic message box shows; a text without end would fill the screen.
+/// The most characters that a message box shows; a text without end would fill the screen.
 constexpr std::size_t kLongestMessage = 1024;
 constexpr int kButtonBits = 0x0F;
 constexpr int kIconBits = 0xF0;

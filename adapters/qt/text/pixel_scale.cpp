@@ -12,15 +12,17 @@ namespace tessara {
 
 namespace {
 
-constexpr double kClassicPoints = 8.25;
+/// The size of letters that the windows' places in twips were drawn for.
+constexpr double kFormPoints = 8.25;
 constexpr double kPointsPerInch = 72;
 /// Pixels to an inch that the program's pixels are counted by.
 constexpr double kPixelsPerInch = 96;
 constexpr double kLargestUnscaledFont = 10 * kPixelsPerInch / kPointsPerInch;
-/// Height of a control's font; the classic 8.25 points were 11 pixels, of a narrower face.
+/// Height of a control's font of that size: a pixel more than 8.25 points are, for faces are wider
+/// now.
 constexpr double kControlFontPixels = 12;
 
-/// The classic sans-serif face is the desktop's own; another one keeps its name.
+/// The forms' sans-serif face stands for the desktop's own; another one keeps its name.
 void SetFamily(QFont& font, TextView family) {
   if (family.empty() || family == u"MS Sans Serif") return;
   const bool serif = family == u"MS Serif" || family == u"Georgia";
@@ -83,8 +85,8 @@ int PixelScale::ToProgramPixels(int pixels) const {
 QFont PixelScale::ControlFont(const Font& font) const {
   QFont result = QApplication::font();
   SetFamily(result, font.family);
-  const double points = font.points > 0 ? font.points : kClassicPoints;
-  result.setPixelSize(qRound(kControlFontPixels * factor_ * points / kClassicPoints));
+  const double points = font.points > 0 ? font.points : kFormPoints;
+  result.setPixelSize(qRound(kControlFontPixels * factor_ * points / kFormPoints));
   result.setBold(font.bold);
   result.setItalic(font.italic);
   result.setUnderline(font.underline);

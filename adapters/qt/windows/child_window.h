@@ -10,7 +10,8 @@
 namespace tessara {
 
 /// A window inside the frame, of fixed size, with a close box and no other buttons. Its client area
-/// has the form's size whatever border the desktop draws, and stands where a classic one would.
+/// has the form's size whatever border the desktop draws, and stands where it would stand
+/// inside a border of kBorderAcross and kBorderDown twips, with which the forms count.
 class ChildWindow final : public QMdiSubWindow, public FormWindow {
  public:
   ChildWindow(Form& form, QMdiArea& area, const ViewContext& context);
@@ -31,7 +32,7 @@ class ChildWindow final : public QMdiSubWindow, public FormWindow {
  private:
   void FollowBounds();
   void FollowState();
-  /// How much wider and higher than the classic border this desktop's border is.
+  /// How much wider and higher this desktop's border is than the forms' own.
   [[nodiscard]] QSize BorderDifference() const;
 
   Form* form_;

@@ -68,7 +68,7 @@ const NumberCase kNumbers[] = {
 
 }  // namespace
 
-TEST_CASE("numbers are read by the classic grammar, whole text or error") {
+TEST_CASE("numbers are read by their grammar, whole text or error") {
   for (const NumberCase& c : kNumbers) {
     const std::string text = ToUtf8(c.text);
     CAPTURE(text);

@@ -92,7 +92,7 @@ TEST_CASE("a line ends at CR or CR LF, and at LF too where the first one does") 
       {"LF alone is text where the first line ends in CR", "a\rb\nc", {u"a", u"b\nc"}},
       {"CR LF behind a first line of LF is one end", "a\nb\r\nc", {u"a", u"b", u"c"}},
       {"NUL bytes are kept", Bytes({"a\0b\r\n\0\r\n", 8}), {Text(u"a\0b", 3), Text(u"\0", 1)}},
-      {"the classic end-of-file byte is text",
+      {"the byte 1A, which once ended a text, is text",
        "a\x1A"
        "b\r\nc",
        {u"a\u001Ab", u"c"}},

@@ -121,7 +121,7 @@ TEST_CASE("the settings are read in their order, with defaults, and nothing is w
   CHECK(desk.state.settings.backdrop == u"DEFAULT");
 }
 
-TEST_CASE("nonsense in the settings ends the start with the classic errors") {
+TEST_CASE("nonsense in the settings ends the start with a run-time error") {
   struct Case {
     TextView key;
     TextView value;

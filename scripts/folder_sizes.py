@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Prints how full each folder of C++ sources is, and which headers are very short.
 
-usage: house.py [MOST]     MOST files a folder may hold (30); exits with 1 where one holds more
+usage: folder_sizes.py [MOST]     MOST files a folder may hold (30); exits with 1 where one holds more
 """
 import collections
 import pathlib
