@@ -9,6 +9,7 @@
 #include "adapters/qt/devices/lazy_print_surface.h"
 #include "adapters/qt/text/qt_text.h"
 #include "base/run_time_error.h"
+#include "tests/support/contracts/print_surface_contract.h"
 
 using namespace tessara;
 
@@ -57,6 +58,11 @@ class FullDisk {
 };
 
 }  // namespace
+
+TEST_CASE("The surface keeps to what the print jobs count on") {
+  PdfDesk desk;
+  test::CheckPrintSurfaceContract(desk.surface);
+}
 
 TEST_CASE("Lengths are twips and agree with each other") {
   PdfDesk desk;

@@ -11,12 +11,19 @@
 
 #include "adapters/qt/devices/qt_settings_store.h"
 #include "tests/desktop/support/config_folder.h"
+#include "tests/support/contracts/settings_contract.h"
 #include "tests/support/killed_process.h"
 #include "tests/support/refused_call.h"
 #include "tests/support/scratch_folder.h"
 
 using namespace tessara;
 using namespace tessara::test;
+
+TEST_CASE("The settings keep to what the program counts on") {
+  const ConfigFolder config;
+  QtSettingsStore store;
+  CheckSettingsContract(store);
+}
 
 TEST_CASE("A missing key gives the default, an empty value is a value") {
   const ConfigFolder config;

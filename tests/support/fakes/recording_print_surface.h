@@ -33,8 +33,9 @@ class RecordingPrintSurface : public PrintSurface {
   void SetItalic(bool italic) override { record.Add(italic ? "Italic on" : "Italic off"); }
   void PrintLine(const Text& text) override {
     record.Add("Line " + ToUtf8(text));
-    y += TextHeight(text);
-    if (y > pageHeight) y = TextHeight(text);
+    for (std::size_t line = 0; line < Lines(text).size(); ++line) {
+      y = y + kLineHeight > pageHeight ? kLineHeight : y + kLineHeight;
+    }
   }
   void DrawLine(double x1, double y1, double x2, double y2) override {
     record.Add("Rule " + Number(x1) + " " + Number(y1) + " " + Number(x2) + " " + Number(y2));
@@ -69,15 +70,17 @@ class RecordingPrintSurface : public PrintSurface {
     stream << value;
     return stream.str();
   }
+  /// CR LF, LF and CR end a line.
   static std::vector<Text> Lines(const Text& text) {
-    std::vector<Text> lines;
-    std::size_t start = 0;
-    for (std::size_t end = text.find(kLineBreak); end != Text::npos;
-         end = text.find(kLineBreak, start)) {
-      lines.push_back(text.substr(start, end - start));
-      start = end + kLineBreak.size();
+    std::vector<Text> lines(1);
+    for (std::size_t at = 0; at < text.size(); ++at) {
+      if (text[at] != kCarriageReturn && text[at] != kLineFeed) {
+        lines.back() += text[at];
+      } else {
+        if (text.compare(at, kLineBreak.size(), kLineBreak) == 0) ++at;
+        lines.emplace_back();
+      }
     }
-    lines.push_back(text.substr(start));
     return lines;
   }
 };

@@ -33,44 +33,59 @@ class RecordingSpreadsheet : public SpreadsheetServer {
   void FinishDestination() override { record.Add("Finish"); }
 
  private:
+  static void RefuseUnless(bool allowed) {
+    if (!allowed) throw RunTimeError(ErrorNumber::kAutomationError);
+  }
+
   class Sheet : public Worksheet {
    public:
-    explicit Sheet(RecordingSpreadsheet& server) : server_(server) {}
+    Sheet(RecordingSpreadsheet& server, std::shared_ptr<bool> open)
+        : server_(server), open_(std::move(open)) {}
     void SetFontName(const Text& range, const Text& name) override {
+      RefuseUnless(*open_);
       server_.record.Add("Font " + ToUtf8(range) + " " + ToUtf8(name));
     }
     void SetFontSize(const Text& range, std::int16_t points) override {
+      RefuseUnless(*open_);
       server_.record.Add("Size " + ToUtf8(range) + " " + std::to_string(points));
     }
     void SetCell(std::int16_t row, std::int16_t column, const Text& value) override {
+      RefuseUnless(*open_ && row > 0 && column > 0);
       const std::string name = static_cast<char>('A' + column - 1) + std::to_string(row);
       server_.record.Add(name + " = " + ToUtf8(value));
       server_.cells[name] = value;
       if (value.empty()) server_.cells.erase(name);
     }
     void PrintOut() override {
+      RefuseUnless(*open_);
       server_.record.Add("Print");
       server_.sheets.push_back(server_.cells);
     }
 
    private:
     RecordingSpreadsheet& server_;
+    std::shared_ptr<bool> open_;
   };
 
   class Book : public Workbook {
    public:
     explicit Book(RecordingSpreadsheet& server) : server_(server) {}
     std::shared_ptr<Worksheet> ActiveSheet() override {
+      RefuseUnless(*open_);
       server_.record.Add("ActiveSheet");
-      return std::make_shared<Sheet>(server_);
+      return std::make_shared<Sheet>(server_, open_);
     }
     void SetDisplayAlerts(bool show) override {
       server_.record.Add(show ? "Alerts on" : "Alerts off");
     }
-    void Close() override { server_.record.Add("Close"); }
+    void Close() override {
+      *open_ = false;
+      server_.record.Add("Close");
+    }
 
    private:
     RecordingSpreadsheet& server_;
+    std::shared_ptr<bool> open_ = std::make_shared<bool>(true);
   };
 };
 

@@ -1,0 +1,27 @@
+#include <doctest/doctest.h>
+
+#include "tests/support/contracts/print_surface_contract.h"
+#include "tests/support/contracts/settings_contract.h"
+#include "tests/support/contracts/spreadsheet_contract.h"
+#include "tests/support/fakes/fake_machine.h"
+#include "tests/support/fakes/recording_print_surface.h"
+#include "tests/support/fakes/recording_spreadsheet.h"
+
+namespace tessara::test {
+
+TEST_CASE("the settings of the tests keep to what the real ones do") {
+  FakeSettings settings;
+  CheckSettingsContract(settings);
+}
+
+TEST_CASE("the print surface of the tests keeps to what the real one does") {
+  RecordingPrintSurface surface;
+  CheckPrintSurfaceContract(surface);
+}
+
+TEST_CASE("the spreadsheet server of the tests keeps to what the real one does") {
+  RecordingSpreadsheet server;
+  CheckSpreadsheetContract(server, u"/opt/tessara/Notelet.xlt");
+}
+
+}  // namespace tessara::test
