@@ -43,7 +43,7 @@ foreach(adapter posix cups qt libreoffice freedesktop)
   if(TARGET tessara_${adapter})
     # A loadable module cannot be linked; its headers need its include folders all the same.
     get_target_property(adapterLibraries tessara_${adapter} LINK_LIBRARIES)
-    set(adapterHeaders adapters/${adapter}/*.h)
+    set(adapterHeaders adapters/${adapter}/*.h adapters/${adapter}/copies/*.h)
     if(adapter STREQUAL qt)
       set(adapterHeaders adapters/qt/*/*.h adapters/qt/*/*/*.h)
     endif()

@@ -37,9 +37,10 @@ const CardSheet::Slot* CardSheet::SlotAt(std::int16_t position) {
   return &kSlots[static_cast<std::size_t>(position - kFirstSlot)];
 }
 
-void CardSheet::PlaceCardText(const Text& text, std::int16_t position, const Text& side) {
+void CardSheet::PlaceCardText(const Text& text, std::int16_t position, const Text& side,
+                              SheetTurn turn) {
   if (side == kFront) PlaceFrontText(text, position);
-  if (side == kBack) PlaceBackText(text, position);
+  if (side == kBack) PlaceBackText(text, position, turn);
 }
 
 void CardSheet::PlaceFrontText(const Text& text, std::int16_t position) {
@@ -47,8 +48,8 @@ void CardSheet::PlaceFrontText(const Text& text, std::int16_t position) {
   Place(text, position, &Slot::front);
 }
 
-void CardSheet::PlaceBackText(const Text& text, std::int16_t position) {
-  if (flipPrint_.Ticked()) {
+void CardSheet::PlaceBackText(const Text& text, std::int16_t position, SheetTurn turn) {
+  if (turn == SheetTurn::kOverTop) {
     PlaceBackFlipped(text, position);
   } else {
     PlaceBackMirrored(text, position);

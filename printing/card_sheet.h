@@ -3,7 +3,6 @@
 #include <cstdint>
 
 #include "base/text.h"
-#include "forms/controls/controls.h"
 #include "machine/spreadsheet.h"
 
 namespace tessara {
@@ -11,6 +10,9 @@ namespace tessara {
 /// The two sides of a card.
 inline constexpr TextView kFront = u"Front";
 inline constexpr TextView kBack = u"Back";
+
+/// How a sheet is turned between its front and its back: over its side edge, or over its top edge.
+enum class SheetTurn { kOverSide, kOverTop };
 
 /// The slots of a sheet in card order: eight cards.
 inline constexpr std::int16_t kFirstSlot = 2;
@@ -21,13 +23,12 @@ inline constexpr std::int16_t kLastSlot = 9;
 /// is no slot sets the fonts and writes nothing. All operations raise the server's errors.
 class CardSheet {
  public:
-  /// The box is read at each placement: ticked, the sheet is turned over its top edge.
-  CardSheet(Worksheet& sheet, const CheckBox& flipPrint) : sheet_(sheet), flipPrint_(flipPrint) {}
+  explicit CardSheet(Worksheet& sheet) : sheet_(sheet) {}
 
   /// Sets the fonts of the side and writes the text; a side of another name does nothing.
-  void PlaceCardText(const Text& text, std::int16_t position, const Text& side);
+  void PlaceCardText(const Text& text, std::int16_t position, const Text& side, SheetTurn turn);
   void PlaceFrontText(const Text& text, std::int16_t position);
-  void PlaceBackText(const Text& text, std::int16_t position);
+  void PlaceBackText(const Text& text, std::int16_t position, SheetTurn turn);
   /// For a sheet turned over its side edge: the columns change places.
   void PlaceBackMirrored(const Text& text, std::int16_t position);
   /// For a sheet turned over its top edge: the rows change places.
@@ -53,7 +54,6 @@ class CardSheet {
   void Place(const Text& text, std::int16_t position, Cell Slot::*cell);
 
   Worksheet& sheet_;
-  const CheckBox& flipPrint_;
 };
 
 }  // namespace tessara

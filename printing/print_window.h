@@ -8,6 +8,7 @@
 #include "forms/form.h"
 #include "forms/window.h"
 #include "machine/dialogs.h"
+#include "printing/card_sheet.h"
 #include "printing/spreadsheet_job.h"
 
 namespace tessara {
@@ -64,6 +65,8 @@ class PrintWindow : public Form {
   void PrintCardsDialog();
   /// One pass over all ticked cards, of the side "Front" or "Back". Raises the server's errors.
   void PrintCards(const Text& side);
+  /// As the box says now: it is read at each placement.
+  [[nodiscard]] SheetTurn Turn() const;
 
   // Flat sheets.
   /// The same as PrintCardsDialog for flat sheets.

@@ -17,9 +17,9 @@ void AskForPaper(MessageBoxes& messages, const Text& side) {
 }
 
 /// How the sheet is to be turned, for the page line of a front.
-Text TurningMark(const CheckBox& flipPrint, const Text& side) {
+Text TurningMark(SheetTurn turn, const Text& side) {
   if (side == kBack) return {};
-  return flipPrint.Ticked() ? u"VV" : u"^^";
+  return turn == SheetTurn::kOverTop ? u"VV" : u"^^";
 }
 
 void TellPrintingError(Machine& machine, const RunTimeError& error) {
@@ -48,7 +48,7 @@ void PrintWindow::PrintCardCopies(const PrinterChoice& choice) {
     // Nothing clears the cells between a copy's backs and the next copy's fronts.
     PrintCopies(app_.machine, choice.copies, [this] {
       PrintCards(Text(kFront));
-      CardSheet(*job_.JobSheet(), flipPrint).ClearCardCells();
+      CardSheet(*job_.JobSheet()).ClearCardCells();
       PrintCards(Text(kBack));
     });
   } catch (const RunTimeError&) {
@@ -59,11 +59,15 @@ void PrintWindow::PrintCardCopies(const PrinterChoice& choice) {
   server.FinishDestination();
 }
 
+SheetTurn PrintWindow::Turn() const {
+  return flipPrint.Ticked() ? SheetTurn::kOverTop : SheetTurn::kOverSide;
+}
+
 void PrintWindow::PrintCards(const Text& side) {
   AskForPaper(app_.machine.messages, side);
-  const Text mark = TurningMark(flipPrint, side);
+  const Text mark = TurningMark(Turn(), side);
   Worksheet& worksheet = *job_.JobSheet();
-  CardSheet sheet(worksheet, flipPrint);
+  CardSheet sheet(worksheet);
   std::int16_t position = kFirstSlot;
   std::int16_t page = 1;
   const int items = cards.Count();
@@ -76,10 +80,11 @@ void PrintWindow::PrintCards(const Text& side) {
       sheet.ClearCardCells();
     }
     const std::int16_t row = IntegerOf(cards.Item(item).text);
-    sheet.PlaceCardText(GetCardText(side, row), position++, side);
+    sheet.PlaceCardText(GetCardText(side, row), position++, side, Turn());
   }
   // A sheet that is not full says that it is the last one.
-  if (position <= kLastSlot) sheet.PlaceCardText(u"ALL SELECTED CARDS PRINTED", position, side);
+  if (position <= kLastSlot)
+    sheet.PlaceCardText(u"ALL SELECTED CARDS PRINTED", position, side, Turn());
   sheet.WritePageLine(page, side, mark);
   worksheet.PrintOut();
 }

@@ -22,10 +22,9 @@ inline void CheckSpreadsheetContract(SpreadsheetServer& server, const Text& temp
   book->Close();
   CHECK_NOTHROW(book->Close());
   CHECK(ErrorOf([&] { (void)book->ActiveSheet(); }) == kRefused);
-  const std::function<void()> asked[] = {[&] { sheet->SetCell(1, 1, u"text"); },
-                                         [&] { sheet->SetFontName(u"A1", u"Arial"); },
-                                         [&] { sheet->SetFontSize(u"A1", 10); },
-                                         [&] { sheet->PrintOut(); }};
+  const std::function<void()> asked[] = {
+      [&] { sheet->SetCell(1, 1, u"text"); }, [&] { sheet->SetFontName(u"A1", u"Arial"); },
+      [&] { sheet->SetFontSize(u"A1", 10); }, [&] { sheet->PrintOut(); }};
   for (const auto& ask : asked) CHECK(ErrorOf(ask) == kRefused);
 }
 

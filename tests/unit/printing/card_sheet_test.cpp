@@ -11,8 +11,7 @@ namespace {
 struct Sheet {
   test::RecordingSpreadsheet server;
   std::shared_ptr<Worksheet> worksheet = server.Bind(u"")->ActiveSheet();
-  CheckBox flipPrint{"Check2"};
-  CardSheet cards{*worksheet, flipPrint};
+  CardSheet cards{*worksheet};
 
   Sheet() { server.record.Take(); }
 };
@@ -44,11 +43,11 @@ TEST_CASE("each slot has a cell on the front and one behind it for each way of t
 
 TEST_CASE("each placement sets the fonts of its side anew before it writes") {
   Sheet sheet;
-  sheet.cards.PlaceCardText(u"front", 2, u"Front");
+  sheet.cards.PlaceCardText(u"front", 2, u"Front", SheetTurn::kOverSide);
   CHECK(sheet.server.record.Take() ==
         Calls{"Font A1:C7 Arial", "Size A1:C7 12", "Size C6 10", "A1 = front"});
   const Calls back{"Font A1:C7 Courier New", "Size A1:C7 11", "Size C6 10"};
-  sheet.cards.PlaceCardText(u"back", 2, u"Back");
+  sheet.cards.PlaceCardText(u"back", 2, u"Back", SheetTurn::kOverSide);
   Calls expected = back;
   expected.emplace_back("C1 = back");
   CHECK(sheet.server.record.Take() == expected);
@@ -57,13 +56,12 @@ TEST_CASE("each placement sets the fonts of its side anew before it writes") {
   CHECK(sheet.server.record.Take() == expected);
 }
 
-TEST_CASE("the box chooses the way of turning, and is read at each placement") {
+TEST_CASE("where a back stands follows from how the sheet is turned") {
   Sheet sheet;
-  for (const bool flips : {false, true, false}) {
-    sheet.flipPrint.SetTicked(flips);
-    sheet.cards.PlaceBackText(u"x", kFirstSlot);
-    CHECK(sheet.server.record.Take().back() == (flips ? "A7 = x" : "C1 = x"));
-  }
+  sheet.cards.PlaceBackText(u"x", kFirstSlot, SheetTurn::kOverSide);
+  CHECK(sheet.server.record.Take().back() == "C1 = x");
+  sheet.cards.PlaceBackText(u"x", kFirstSlot, SheetTurn::kOverTop);
+  CHECK(sheet.server.record.Take().back() == "A7 = x");
 }
 
 TEST_CASE("a position that is no slot sets the fonts and writes no cell") {
@@ -81,7 +79,7 @@ TEST_CASE("a position that is no slot sets the fonts and writes no cell") {
 TEST_CASE("a side of another name does nothing") {
   for (const TextView side : {u"front", u"BACK", u""}) {
     Sheet sheet;
-    sheet.cards.PlaceCardText(u"x", 2, Text(side));
+    sheet.cards.PlaceCardText(u"x", 2, Text(side), SheetTurn::kOverSide);
     CHECK(sheet.server.record.calls.empty());
   }
 }

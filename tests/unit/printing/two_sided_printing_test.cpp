@@ -50,6 +50,14 @@ TEST_CASE("one card makes one sheet of each side, in this order of calls") {
                                            "Box PRINT FRONT", "Box PRINT BACK", "Box PRINT"});
 }
 
+TEST_CASE("the choice of turning is read at each placement") {
+  PrintDesk desk(1);
+  desk.fakes.messages.whileShown = [&desk](const Shown& box) {
+    if (box.title == u"PRINT BACK") desk.window->flipPrint.SetTicked(true);
+  };
+  CHECK(Print(desk, 1, false).back().contains("A7"));
+}
+
 TEST_CASE("the boxes ask for the paper") {
   PrintDesk desk;
   Print(desk, 1, false);
