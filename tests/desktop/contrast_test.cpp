@@ -189,6 +189,7 @@ TEST_CASE("Marks that are set, edges of boxes and the frames of groups are seen 
     SampleForm& form = desk.ShowChild();
     form.Check1.SetTicked(true);
     form.Option1[0].SetSelected(true);
+    form.Check1.SetFocus();  // away from the boxes, whose edge it colours
     for (const char* name : {"Check1", "Option1(0)"}) {
       CAPTURE(name);
       const QImage picture = Desk::Of(name).grab().toImage();

@@ -124,6 +124,8 @@ TEST_CASE("Save, save as, go to and close go by their keys") {
   desk.TakeAsked();
   WithCtrl(Qt::Key_S);
   CHECK(desk.TakeAsked().empty());
+  // The information of the saved deck is in front, and has the keys.
+  ProgramOnScreen::Key(Qt::Key_Escape);
   desk.state.deck.changed = true;
   desk.AnswerByKey(Qt::Key_Y);
   desk.AnswerByKey(Qt::Key_Return);

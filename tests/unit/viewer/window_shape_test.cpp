@@ -78,7 +78,7 @@ TEST_CASE("the shapes of a deck type and a mode") {
       {true, kStudyMode, false, false, true, u"&Hide Answer", false, true, true},
       {true, kQuizMode, false, false, false, u"&Show Answer", true, true, true},
       {true, kTestMode, false, true, false, u"&Hide Answer", false, false, false},
-      {true, 9, false, false, false, u"&Hide Answer", false, false, true},
+      {true, static_cast<CardMode>(9), false, false, false, u"&Hide Answer", false, false, true},
   };
   for (const Case& c : cases) {
     CAPTURE(c.extended);
