@@ -30,6 +30,7 @@ class PrintRun {
     const fs::path program = ExecutableFolder() / kPrintProgram;
     if (!IsThere(program)) throw Refused({}, "printing needs the package tessara");
     WriteInput();
+    Reporter::SayProgress("printing " + std::to_string(numbers_.size()) + " cards ...");
     if (RunAndWait(program, Arguments()) != 0) throw Refused({&options_.file}, "it is not printed");
     Outputs outputs;
     outputs.Add(options_.output).Write(ReadInput(Pdf(), std::string::npos).bytes);

@@ -18,6 +18,8 @@ class Reporter : public Losses {
   void Tell(const Place& place, const std::string& what) override;
   /// Tells what is no loss.
   static void Say(const std::string& message);
+  /// Tells what takes a while, to somebody who is waiting at a terminal.
+  static void SayProgress(const std::string& message);
   [[nodiscard]] bool HasLosses() const { return hasLosses_; }
 
  private:

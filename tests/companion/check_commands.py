@@ -249,6 +249,16 @@ class Print(Command):
         self.assertIn("exists", self.expect(1, "print", "a.csv", "a.pdf").stderr.decode())
         self.assertEqual(self.names(), ["a.csv", "a.pdf"])
 
+    def test_who_waits_at_a_terminal_is_told_that_it_prints(self):
+        master, terminal = os.openpty()
+        subprocess.run([PROGRAM, "print", SAMPLES / "capitals.tsr", "a.pdf", "--listing", "--cards", "1-2"],
+                       cwd=self.folder, stderr=terminal, timeout=60, check=True, env=self.environment)
+        os.close(terminal)
+        self.assertIn(b"printing 2 cards", os.read(master, 1000))
+        os.close(master)
+        silent = self.expect(0, "print", SAMPLES / "capitals.tsr", "b.pdf", "--listing", "--cards", "1-2")
+        self.assertNotIn(b"printing", silent.stderr)
+
     def test_a_listing_is_printed(self):
         self.expect(0, "print", SAMPLES / "capitals.tsr", "a.pdf", "--listing", "--cards", "1-2")
         self.assertIn("TITLE: Capitals of the world", self.text_of("a.pdf"))
