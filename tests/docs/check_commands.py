@@ -20,7 +20,7 @@ from documented_commands import RUN_AS, RUN_BY
 BEGINS_A_COMMAND = re.compile(r"(\./|(bench|fuzz)/run\b|(cmake|ionice|gdb|env) -{0,2}\w|(scripts|tests|build)/\S+ )")
 FENCE = re.compile(r"^```sh\n(.*?)^```$", re.MULTILINE | re.DOTALL)
 IN_BACKTICKS = re.compile(r"`([^`\n]+)`")
-SECONDS = 300
+SECONDS = 800
 
 
 def documents(root):
