@@ -233,10 +233,10 @@ TEST_CASE("Settings that are a pipe, a device, a folder or without end give the 
          config.Write("[Settings]\nBackDrop=DESERT\n");
          return QFile::resize(config.Path(), 1 << 30);
        }}};
-  for (const auto& [name, make] : kinds) {
-    CAPTURE(name);
+  for (const auto& kind : kinds) {
+    CAPTURE(kind.first);
     const ConfigFolder config;
-    REQUIRE(make(config));
+    REQUIRE(kind.second(config));
     CheckDefaultsAtOnce(config);
   }
 }
