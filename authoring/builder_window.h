@@ -53,7 +53,7 @@ class BuilderWindow : public Form {
   /// The box that a new card starts with.
   virtual TextBox& FirstBox() = 0;
   /// The boxes, each with the column of its text.
-  virtual std::vector<std::pair<const TextBox*, int>> Boxes() const = 0;
+  [[nodiscard]] virtual std::vector<std::pair<const TextBox*, int>> Boxes() const = 0;
   virtual void ClearForm() = 0;
   virtual void ShowBuilderCard(int row) = 0;
   virtual void AskSaveChanged() = 0;
