@@ -39,4 +39,15 @@ enum class CardType { kInformation, kText, kTrueFalse, kMultipleChoice, kTermina
   return question ? std::optional(kExtendedDeck) : std::nullopt;
 }
 
+/// What the deck's information calls the kind; empty for an unknown one.
+[[nodiscard]] constexpr TextView NameOf(DeckKind kind) {
+  switch (kind) {
+    case kStandardDeck:
+      return u" Standard";
+    case kExtendedDeck:
+      return u" Extended";
+  }
+  return {};
+}
+
 }  // namespace tessara

@@ -65,8 +65,8 @@ void DeckInfoWindow::OnLoad() {
   StandBesideDeck();
   const Text today = DateText(app_.machine.clock.Today());
   date.SetCaption(InfoValueOrDefault(state.deck.date, today));
-  if (state.deck.kind == kExtendedDeck) kind.SetCaption(u" Extended");
-  if (state.deck.kind == kStandardDeck) kind.SetCaption(u" Standard");
+  const TextView name = NameOf(state.deck.kind);
+  if (!name.empty()) kind.SetCaption(Text(name));
   cardCount.SetCaption(u"Number of cards: " +
                        InfoValueOrDefault(DecimalText(state.deck.cardCount), u"0"));
   fields[kTitleField].SetText(InfoValueOrDefault(state.deck.title, u"Enter Title Here"));

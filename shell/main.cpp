@@ -15,6 +15,7 @@
 #include "adapters/libreoffice/loader/loaded_spreadsheet.h"
 #include "adapters/posix/code_page_of_locale.h"
 #include "adapters/posix/copies/posix_safety_copies.h"
+#include "adapters/posix/executable_folder.h"
 #include "adapters/posix/file_size_signal.h"
 #include "adapters/posix/posix_clock.h"
 #include "adapters/posix/posix_file_system.h"
@@ -38,12 +39,6 @@ namespace tessara {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// The folder of the executable, links followed.
-fs::path ProgramFolder() {
-  std::error_code unknown;
-  return fs::read_symlink("/proc/self/exe", unknown).parent_path();
-}
 
 /// The arguments joined with a blank, as one absolute path; empty without arguments.
 Text CommandLineOf(int argc, char** argv) {
@@ -77,7 +72,7 @@ int RunTessara(int argc, char** argv) {
   GuardedApplication application(argc, argv);
   fonts.Wait();
   ShowOutlines();
-  const fs::path folder = ProgramFolder();
+  const fs::path folder = ExecutableFolder();
   NameApplication(folder);
   const Text folderText = FromUtf8(folder.string());
   const CodePage codePage = CodePageOfLocale();

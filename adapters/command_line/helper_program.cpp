@@ -12,11 +12,6 @@ namespace tessara {
 
 namespace fs = std::filesystem;
 
-fs::path ExecutableFolder() {
-  std::error_code unknown;
-  return fs::read_symlink("/proc/self/exe", unknown).parent_path();
-}
-
 int RunAndWait(const fs::path& program, const std::vector<std::string>& arguments) {
   std::vector<std::string> words = {program.string()};
   words.insert(words.end(), arguments.begin(), arguments.end());

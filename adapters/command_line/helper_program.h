@@ -6,9 +6,6 @@
 
 namespace tessara {
 
-/// The folder of the executable, links followed.
-[[nodiscard]] std::filesystem::path ExecutableFolder();
-
 /// Runs a program with the user's environment and waits for it. Its exit status, 128 and the
 /// signal's number where one ended it. Raises std::system_error where it can't be started.
 [[nodiscard]] int RunAndWait(const std::filesystem::path& program,

@@ -3,17 +3,10 @@
 #include "base/characters.h"
 #include "base/utf8.h"
 #include "import/text_traits.h"
-#include "import/utf8_check.h"
 
 namespace tessara {
 
 namespace {
-
-bool IsWellFormedUtf8(std::string_view bytes) {
-  Utf8Check check;
-  check.Feed(bytes);
-  return check.IsWellFormed();
-}
 
 /// How many units the line break at the front takes; 0 where there is none.
 std::size_t BreakLength(TextView text) {
@@ -28,22 +21,7 @@ std::string WellFormedUtf8(TextView text) {
 }
 
 bool IsWellFormed(TextView text) {
-  return FromUtf8(WellFormedUtf8(text)) == text;
-}
-
-Text WithDeckLineBreaks(TextView text) {
-  Text result;
-  result.reserve(text.size());
-  while (!text.empty()) {
-    const std::size_t length = BreakLength(text);
-    if (length == 0) {
-      result += text.front();
-    } else {
-      result += kLineBreak;
-    }
-    text.remove_prefix(length == 0 ? 1 : length);
-  }
-  return result;
+  return WellFormed(text) == text;
 }
 
 bool HasLoneBreak(TextView text) {
@@ -58,7 +36,7 @@ bool HasLoneBreak(TextView text) {
 TextDecoder::TextDecoder(std::string_view file, const CodePage& codePage)
     : contents_(file), codePage_(codePage) {
   if (contents_.starts_with(kByteOrderMark)) contents_.remove_prefix(kByteOrderMark.size());
-  isUtf8_ = IsWellFormedUtf8(contents_);
+  isUtf8_ = Utf8Length(contents_) == contents_.size();
 }
 
 Text TextDecoder::Decode(std::string_view bytes) const {

@@ -16,9 +16,6 @@ namespace tessara {
 /// False where a half of a pair of units stands alone: it is no character.
 [[nodiscard]] bool IsWellFormed(TextView text);
 
-/// The text with each of CR LF, CR and LF as the line break of a deck.
-[[nodiscard]] Text WithDeckLineBreaks(TextView text);
-
 /// True where a carriage return or a line feed stands alone.
 [[nodiscard]] bool HasLoneBreak(TextView text);
 

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "adapters/command_line/output_file.h"
+#include "base/line_breaks.h"
 #include "base/utf8.h"
 #include "companion/cards/refused.h"
 #include "companion/cards/text_form.h"
@@ -110,8 +111,7 @@ class Conversions {
     SetInfo info = set_.info;
     if (options_.title) info.title = FromUtf8(*options_.title);
     if (options_.author) info.author = FromUtf8(*options_.author);
-    if (options_.description)
-      info.description = WithDeckLineBreaks(FromUtf8(*options_.description));
+    if (options_.description) info.description = WithLineBreaks(FromUtf8(*options_.description));
     if (info.title.empty() && !options_.title) info.title = TitleFor(part);
     if (info.date.empty()) info.date = DateText(today_);
     return info;

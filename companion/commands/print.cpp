@@ -5,6 +5,7 @@
 
 #include "adapters/command_line/helper_program.h"
 #include "adapters/command_line/output_file.h"
+#include "adapters/posix/executable_folder.h"
 #include "companion/cards/card_ranges.h"
 #include "companion/cards/refused.h"
 #include "companion/commands/input.h"

@@ -7,6 +7,7 @@
 #include "companion/cards/card_set.h"
 #include "companion/formats/source_file.h"
 #include "deck/file/deck_file.h"
+#include "deck/file/deck_record.h"
 
 namespace tessara {
 
@@ -99,12 +100,10 @@ class DeckCheck {
   void CheckFilled(const DeckRecord& record, std::size_t card,
                    const std::array<const char*, 4>& shortNames, const char* textName,
                    const char* longName) {
-    constexpr std::size_t kLong = 444;
-    constexpr std::size_t kShort = 75;
-    CheckWidth(record.text, kLong, textName, card);
+    CheckWidth(record.text, kTextWidth, textName, card);
     for (std::size_t at = 0; at < shortNames.size(); ++at)
-      CheckWidth(record.shortFields[at], kShort, shortNames[at], card);
-    CheckWidth(record.longText, kLong, longName, card);
+      CheckWidth(record.shortFields[at], kShortWidth, shortNames[at], card);
+    CheckWidth(record.longText, kTextWidth, longName, card);
   }
 
   void CheckWidth(const Text& text, std::size_t width, const char* name, std::size_t card) {

@@ -74,8 +74,7 @@ void TellCuts(const DeckRecord& record, const DeckRecord& kept, DeckKind kind, c
 DeckRecord InformationOf(const CardsToWrite& deck) {
   DeckRecord record;
   record.cardType = LetterOf(CardType::kInformation);
-  record.shortFields = {deck.info.date, deck.kind == kStandardDeck ? u" Standard" : u" Extended",
-                        deck.info.title, deck.info.author};
+  record.shortFields = {deck.info.date, Text(NameOf(deck.kind)), deck.info.title, deck.info.author};
   record.longText = deck.info.description;
   return record;
 }

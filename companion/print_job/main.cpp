@@ -15,6 +15,7 @@
 #include "adapters/libreoffice/loader/loaded_spreadsheet.h"
 #include "adapters/posix/code_page_of_locale.h"
 #include "adapters/posix/copies/posix_safety_copies.h"
+#include "adapters/posix/executable_folder.h"
 #include "adapters/posix/file_size_signal.h"
 #include "adapters/posix/posix_clock.h"
 #include "adapters/posix/posix_file_system.h"
@@ -89,8 +90,7 @@ bool Print(Machine& machine, const AnsweredBoxes& boxes, const PrintRequest& req
 int RunPrint(int argc, char** argv) {
   const QGuiApplication application(argc, argv);
   const PrintRequest request = RequestOf(argc, argv);
-  std::error_code unknown;
-  const fs::path folder = fs::read_symlink("/proc/self/exe", unknown).parent_path();
+  const fs::path folder = ExecutableFolder();
   const Text folderText = FromUtf8(folder.string());
   const CodePage codePage = CodePageOfLocale();
   PosixFileSystem files;

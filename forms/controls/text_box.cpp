@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/characters.h"
+#include "base/line_breaks.h"
 #include "forms/assign.h"
 #include "forms/form.h"
 #include "forms/window_system.h"
@@ -11,22 +12,6 @@
 namespace tessara {
 
 namespace {
-
-/// Every line break, lone carriage returns and line feeds included, becomes CR LF.
-Text WithLineBreaks(TextView typed) {
-  Text result;
-  for (std::size_t at = 0; at < typed.size(); ++at) {
-    const char16_t character = typed[at];
-    if (character != kCarriageReturn && character != kLineFeed) {
-      result += character;
-      continue;
-    }
-    result += kLineBreak;
-    const bool pair = character == kCarriageReturn && typed.substr(at + 1, 1) == u"\n";
-    if (pair) ++at;
-  }
-  return result;
-}
 
 /// The box's text after the edit, by the box's rules.
 Text Edited(const TextBox& box, const TextEdit& edit) {

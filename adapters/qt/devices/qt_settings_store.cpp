@@ -9,11 +9,10 @@
 #include <chrono>
 #include <fcntl.h>
 #include <optional>
-#include <sys/file.h>
 #include <sys/stat.h>
-#include <unistd.h>
 #include <utility>
 
+#include "adapters/posix/file_lock.h"
 #include "adapters/posix/system_call.h"
 #include "adapters/qt/text/qt_text.h"
 
@@ -36,14 +35,12 @@ void RemoveUnfinished(const QFileInfo& settings, const QDateTime& locked) {
 /// not come to put its number into the lock, the next one would wait for half a minute.
 void RemoveLeftovers(const QString& settingsFile) {
   const QString lock = settingsFile + kLockEnding;
-  const int file = open(QFile::encodeName(lock).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
-  if (file < 0) return;
+  const Descriptor file(
+      open(QFile::encodeName(lock).constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
   // The lock of a writer that is alive can't be had.
-  if (flock(file, LOCK_EX | LOCK_NB) == 0) {
-    RemoveUnfinished(QFileInfo(settingsFile), QFileInfo(lock).lastModified());
-    QFile::remove(lock);
-  }
-  close(file);
+  if (file.Get() == kFailed || !LockFile(file.Get())) return;
+  RemoveUnfinished(QFileInfo(settingsFile), QFileInfo(lock).lastModified());
+  QFile::remove(lock);
 }
 
 /// Tessara.conf in the user's configuration folder. A relative path to that counts as missing.

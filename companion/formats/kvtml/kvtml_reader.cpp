@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "base/line_breaks.h"
 #include "base/utf8.h"
 #include "companion/cards/refused.h"
 #include "companion/cards/text_form.h"
@@ -28,7 +29,7 @@ std::ptrdiff_t CountOfTags(const std::string& bytes) {
 Text TextIn(const pugi::xml_node& element) {
   std::string bytes;
   for (const pugi::xml_node& child : element.children()) bytes += child.value();
-  return WithDeckLineBreaks(FromUtf8(bytes));
+  return WithLineBreaks(FromUtf8(bytes));
 }
 
 /// The ids of the languages that make the sides; empty where there is no second one.

@@ -4,6 +4,7 @@
 #include <pugixml.hpp>
 #include <string>
 
+#include "base/line_breaks.h"
 #include "companion/cards/refused.h"
 #include "companion/cards/text_form.h"
 #include "companion/formats/kvtml/kvtml_date.h"
@@ -98,7 +99,7 @@ class KvtmlWriter {
       losses_.Tell(place, "a carriage return or line feed of its own becomes a line break");
     Text kept;
     bool hasControls = false;
-    for (const char16_t character : WithDeckLineBreaks(text)) {
+    for (const char16_t character : WithLineBreaks(text)) {
       if (character == kCarriageReturn) continue;
       const bool good = IsCharacterOfXml(character);
       hasControls = hasControls || !good;

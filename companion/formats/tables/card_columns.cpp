@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "base/line_breaks.h"
 #include "companion/cards/text_form.h"
 
 namespace tessara {
@@ -142,7 +143,7 @@ DeckRecord CardOfFields(const std::vector<Text>& fields, const CardColumns& colu
   DeckRecord record;
   for (std::size_t at = 0; at < std::min(fields.size(), columns.columns.size()); ++at) {
     const CardColumn column = columns.columns[at];
-    if (column != CardColumn::kOther) CellOf(record, column) = WithDeckLineBreaks(fields[at]);
+    if (column != CardColumn::kOther) CellOf(record, column) = WithLineBreaks(fields[at]);
   }
   if (columns.kind == kStandardDeck) {
     record.cardType = LetterOf(CardType::kText);
