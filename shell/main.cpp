@@ -1,8 +1,6 @@
 // Puts the pieces together: the real machine, the renderer, the program.
 
 #include <QIcon>
-#include <clocale>
-#include <csignal>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -16,10 +14,9 @@
 #include "adapters/posix/code_page_of_locale.h"
 #include "adapters/posix/copies/posix_safety_copies.h"
 #include "adapters/posix/executable_folder.h"
-#include "adapters/posix/file_size_signal.h"
 #include "adapters/posix/posix_clock.h"
 #include "adapters/posix/posix_file_system.h"
-#include "adapters/posix/whole_paths.h"
+#include "adapters/posix/process/prepare_process.h"
 #include "adapters/qt/devices/help_loader.h"
 #include "adapters/qt/devices/lazy_print_surface.h"
 #include "adapters/qt/devices/print_module.h"
@@ -106,11 +103,6 @@ int RunTessara(int argc, char** argv) {
 }  // namespace tessara
 
 int main(int argc, char** argv) {
-  std::setlocale(LC_ALL, "");
-  // A spreadsheet server that dies is an error of the job, not the end of the program.
-  std::signal(SIGPIPE, SIG_IGN);
-  tessara::SurviveFileSizeLimit();
-  tessara::KeepWholePathsOnly();
-  tessara::ForgetRelativeFolders();
+  tessara::PrepareProcess();
   return tessara::RunTessara(argc, argv);
 }

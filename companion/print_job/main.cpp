@@ -3,11 +3,10 @@
 // usage: tessara-print DECK OUTPUT.pdf cards|flip|listing NUMBER...
 
 #include <QGuiApplication>
-#include <clocale>
-#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <qlogging.h>
 #include <string>
 #include <vector>
 
@@ -16,9 +15,9 @@
 #include "adapters/posix/code_page_of_locale.h"
 #include "adapters/posix/copies/posix_safety_copies.h"
 #include "adapters/posix/executable_folder.h"
-#include "adapters/posix/file_size_signal.h"
 #include "adapters/posix/posix_clock.h"
 #include "adapters/posix/posix_file_system.h"
+#include "adapters/posix/process/prepare_process.h"
 #include "adapters/qt/devices/lazy_print_surface.h"
 #include "adapters/qt/devices/print_module.h"
 #include "adapters/qt/devices/qt_desktop.h"
@@ -115,9 +114,9 @@ int RunPrint(int argc, char** argv) {
 int main(int argc, char** argv) {
   constexpr int kLeastArguments = 5;
   if (argc < kLeastArguments) return EXIT_FAILURE;
-  std::setlocale(LC_ALL, "");
-  std::signal(SIGPIPE, SIG_IGN);
-  tessara::SurviveFileSizeLimit();
+  tessara::PrepareProcess();
+  // Its remarks on fonts and folders are no part of what the job tells.
+  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
   qputenv("QT_QPA_PLATFORM", "offscreen");
   return tessara::RunPrint(argc, argv);
 }

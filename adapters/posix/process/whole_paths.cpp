@@ -1,4 +1,4 @@
-#include "adapters/posix/whole_paths.h"
+#include "adapters/posix/process/whole_paths.h"
 
 #include <cstdlib>
 #include <sstream>

@@ -1,4 +1,4 @@
-#include "adapters/posix/file_size_signal.h"
+#include "adapters/posix/process/file_size_signal.h"
 
 #include <csignal>
 
