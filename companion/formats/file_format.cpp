@@ -1,12 +1,11 @@
 #include "companion/formats/file_format.h"
 
-#include <algorithm>
 #include <array>
-#include <cctype>
 
 #include "companion/formats/deck_format.h"
 #include "companion/formats/kvtml/kvtml_reader.h"
 #include "companion/formats/kvtml/kvtml_writer.h"
+#include "companion/formats/lower_case.h"
 #include "companion/formats/tables/csv_format.h"
 #include "companion/formats/texts/import_text_reader.h"
 #include "companion/formats/texts/import_text_writer.h"
@@ -26,17 +25,12 @@ constexpr std::array<FormatRow, 5> kFormats = {{{"tsr", FileFormat::kDeck},
                                                 {"tsv", FileFormat::kTsv},
                                                 {"kvtml", FileFormat::kKvtml}}};
 
-bool IsSameWord(std::string_view one, std::string_view other) {
-  return std::equal(one.begin(), one.end(), other.begin(), other.end(),
-                    [](unsigned char a, unsigned char b) { return std::tolower(a) == b; });
-}
-
 }  // namespace
 
 std::optional<FileFormat> FormatNamed(std::string_view name) {
   if (name.starts_with('.')) name.remove_prefix(1);
   for (const FormatRow& row : kFormats) {
-    if (IsSameWord(name, row.name)) return row.format;
+    if (LowerCase(name) == row.name) return row.format;
   }
   return std::nullopt;
 }

@@ -1,11 +1,10 @@
 #include "companion/formats/tables/tsv_head.h"
 
-#include <algorithm>
 #include <array>
-#include <cctype>
 #include <charconv>
 #include <utility>
 
+#include "companion/formats/lower_case.h"
 #include "companion/formats/tables/delimited_reader.h"
 
 namespace tessara {
@@ -24,13 +23,6 @@ constexpr std::array<NamedSeparator, 6> kSeparators = {{{"tab", '\t'},
                                                         {"pipe", '|'},
                                                         {"colon", ':'}}};
 constexpr std::string_view kColumnEnding = " column";
-
-std::string LowerCase(std::string_view text) {
-  std::string lower(text);
-  std::transform(lower.begin(), lower.end(), lower.begin(),
-                 [](unsigned char letter) { return static_cast<char>(std::tolower(letter)); });
-  return lower;
-}
 
 std::string_view WithoutEnd(std::string_view line) {
   return line.substr(0, line.find_first_of("\r\n"));
