@@ -44,7 +44,9 @@ class StandardReader {
   void FinishLastCard() {
     const std::int16_t card = state_.import.standardCard;
     if (!seenFront_) {
-      if (card != state_.import.previousStandardCard) reading_.Meet(ImportEvent::kEmptyCard, card);
+      // The card behind a full deck was left as it began.
+      const bool isBegun = card != state_.import.previousStandardCard && card <= kMostCards;
+      if (isBegun) reading_.Meet(ImportEvent::kEmptyCard, card);
       return;
     }
     if (!seenBack_) reading_.Meet(ImportEvent::kNoBack, card);

@@ -8,6 +8,7 @@
 #include "companion/formats/source_file.h"
 #include "deck/file/deck_file.h"
 #include "deck/file/deck_record.h"
+#include "deck/file/stored_text.h"
 
 namespace tessara {
 
@@ -107,7 +108,7 @@ class DeckCheck {
   }
 
   void CheckWidth(const Text& text, std::size_t width, const char* name, std::size_t card) {
-    if (text.size() >= width)
+    if (FillsField(text, width, codePage_))
       Find(card, Severity::kRemark,
            std::string("its ") + name + " fills the field: perhaps it was cut");
   }

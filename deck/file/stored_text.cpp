@@ -37,11 +37,14 @@ std::optional<StoredText> InCodePage(TextView text, TextView front, const CodePa
   return StoredText{std::move(*bytes), Text(text.substr(front.size()))};
 }
 
+bool IsSurrogate(char16_t unit) {
+  return unit >= 0xD800 && unit <= 0xDFFF;
+}
+
 /// Each half of a surrogate pair counts for half of its four bytes.
 std::size_t Utf8Bytes(char16_t unit) {
   if (unit < 0x80) return 1;
-  const bool isSurrogate = unit >= 0xD800 && unit <= 0xDFFF;
-  return unit < 0x800 || isSurrogate ? 2 : 3;
+  return unit < 0x800 || IsSurrogate(unit) ? 2 : 3;
 }
 
 /// How many units of the text come to so many bytes of UTF-8 at most.
@@ -52,6 +55,13 @@ std::size_t UnitsWithin(TextView text, std::size_t mostBytes) {
     return bytes > mostBytes;
   });
   return static_cast<std::size_t>(beyond - text.begin());
+}
+
+std::size_t LongestInUtf8(TextView text) {
+  std::size_t longest = 0;
+  for (const char16_t unit : text)
+    longest = std::max(longest, IsSurrogate(unit) ? 2 * Utf8Bytes(unit) : Utf8Bytes(unit));
+  return longest;
 }
 
 StoredText BehindSignature(TextView text, std::size_t width) {
@@ -82,6 +92,12 @@ Text ReadText(std::string_view field, const CodePage& codePage) {
 std::size_t CharactersCut(TextView text, std::size_t width, const CodePage& codePage) {
   const std::size_t last = text.find_last_not_of(u' ');
   return CharacterCount(StoreText(text.substr(0, last + 1), width, codePage).cut);
+}
+
+bool FillsField(TextView text, std::size_t width, const CodePage& codePage) {
+  const StoredText stored = StoreText(text, width, codePage);
+  const std::size_t longest = ReadsAsUtf8(stored.bytes) ? LongestInUtf8(text) : 1;
+  return stored.bytes.size() + longest > width;
 }
 
 std::function<std::size_t(const Text&)> CutIn(std::size_t width, const CodePage& codePage) {

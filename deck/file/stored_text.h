@@ -30,7 +30,11 @@ struct StoredText {
 /// How many characters, as a reader sees them, a text loses in a field of so many bytes. Blanks at
 /// its end don't count: no load brings them back.
 [[nodiscard]] std::size_t CharactersCut(TextView text, std::size_t width, const CodePage& codePage);
-/// The same for the texts of a box. The code page outlives the box.
+/// True where the field has no room for one more character as long as the text's longest: perhaps
+/// the text that it comes from was cut.
+[[nodiscard]] bool FillsField(TextView text, std::size_t width, const CodePage& codePage);
+
+/// How many characters are cut, for the texts of a box. The code page outlives the box.
 [[nodiscard]] std::function<std::size_t(const Text&)> CutIn(std::size_t width,
                                                             const CodePage& codePage);
 

@@ -15,6 +15,9 @@ struct EventWords {
   const char* words;
 };
 
+constexpr EventWords kUnfinishedBefore = {Severity::kError,
+                                          "no empty line finishes the card before it"};
+
 EventWords WordsOf(ImportEvent event) {
   switch (event) {
     case ImportEvent::kBadFirstCard:
@@ -24,7 +27,7 @@ EventWords WordsOf(ImportEvent event) {
     case ImportEvent::kLineOutsideCard:
       return {Severity::kError, "a card's number is due here"};
     case ImportEvent::kSideMissing:
-      return {Severity::kError, "it ends without both of the lines \"*>F\" and \"*>B\""};
+      return {Severity::kError, R"(it ends without both of the lines "*>F" and "*>B")"};
     case ImportEvent::kBadChoiceOrder:
       return {Severity::kError, "the letters of its choices go backward"};
     case ImportEvent::kBadAnswer:
@@ -40,7 +43,7 @@ EventWords WordsOf(ImportEvent event) {
     case ImportEvent::kTypeLine:
       return {Severity::kLoss, "a line that names a format is passed over"};
     case ImportEvent::kTextBeforeTag:
-      return {Severity::kLoss, "text before the first \"*>F\" or \"*>B\" is passed over"};
+      return {Severity::kLoss, R"(text before the first "*>F" or "*>B" is passed over)"};
     case ImportEvent::kNumberRepeated:
       return {Severity::kLoss, "its number stands there again and is passed over"};
     case ImportEvent::kEmptyCard:
@@ -71,7 +74,8 @@ class FindingsListener : public ImportListener {
 
   void MeetCard(std::int16_t, std::size_t) override { ++cards_; }
   void Meet(const ImportFinding& finding) override {
-    const EventWords words = WordsOf(finding.event);
+    const EventWords words =
+        IsUnfinishedBefore(finding) ? kUnfinishedBefore : WordsOf(finding.event);
     const auto card = static_cast<std::size_t>(finding.card > 0 ? finding.card : 0);
     findings_.Find({&source_.name, finding.line, card}, words.severity, words.words);
   }
@@ -79,6 +83,11 @@ class FindingsListener : public ImportListener {
   [[nodiscard]] bool HasCards() const { return cards_ > 0; }
 
  private:
+  /// Where a card was read but none is finished, the next one is taken for the first.
+  [[nodiscard]] bool IsUnfinishedBefore(const ImportFinding& finding) const {
+    return finding.event == ImportEvent::kBadFirstCard && HasCards();
+  }
+
   const Source& source_;
   Findings& findings_;
   std::size_t cards_ = 0;

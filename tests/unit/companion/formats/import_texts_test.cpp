@@ -3,18 +3,11 @@
 #include "companion/cards/refused.h"
 #include "companion/formats/texts/import_text_check.h"
 #include "tests/unit/companion/formats/format_desk.h"
+#include "tests/unit/companion/formats/told_findings.h"
 
 namespace tessara::test {
 
 namespace {
-
-class ToldFindings : public Findings {
- public:
-  void Find(const Place& place, Severity, const std::string& what) override {
-    told.push_back(MessageAt(place, what));
-  }
-  Lines told;
-};
 
 Lines FindingsIn(const std::string& bytes) {
   ToldFindings findings;
@@ -76,8 +69,45 @@ TEST_CASE("a text without a format's name, or without cards, is told so") {
 }
 
 TEST_CASE("numbers outside the table are findings, not the end of the check") {
-  CHECK(FindingsIn("STD\n40000.\n*>F\na\n*>B\nb\n\n1.\n*>F\na\n*>B\nb\n").size() == 1);
-  CHECK(FindingsIn("EXT\n1a.q\n=T\n\n1.q\n=T\n").size() == 1);
+  CHECK(FindingsIn("STD\n40000.\n*>F\na\n*>B\nb\n\n1.\n*>F\na\n*>B\nb\n") ==
+        Lines{"file:2: a card's number is due here"});
+  CHECK(FindingsIn("EXT\n1a.q\n=T\n\n1.q\n=T\n") ==
+        Lines{"file:2: its number cannot be read, or is no card's"});
+}
+
+TEST_CASE("the first card of a text is number 1") {
+  for (const char* const text : {"EXT\n2.q\n=T\n", "STD\n2.\n*>F\na\n*>B\nb\n"}) {
+    CHECK(FindingsIn(text) ==
+          Lines{"file:2: card 2: the first card's number is not 1", "file: it holds no cards"});
+  }
+}
+
+TEST_CASE("a card that no empty line finishes is found as that") {
+  CHECK(FindingsIn("EXT\n1.q\n=T\n2.r\n=F\n") ==
+        Lines{"file:4: card 2: no empty line finishes the card before it"});
+}
+
+TEST_CASE("a question without an answer, and cards that a deck has no room for, are found") {
+  CHECK(FindingsIn("EXT\n1.q\nA.x\n\n2.r\n=T\n") == Lines{"file:5: card 1: it has no answer"});
+  std::string questions = "EXT\n";
+  std::string words = "STD\n";
+  for (int card = 1; card <= 201; ++card) {
+    const std::string number = std::to_string(card) + ".";
+    questions += number + "q\n=T\n\n";
+    words += number + "\n*>F\na\n*>B\nb\n\n";
+  }
+  CHECK(FindingsIn(questions) ==
+        Lines{"file:602: card 200: a deck holds 200 cards: what follows is not kept"});
+  CHECK(FindingsIn(words) ==
+        Lines{"file:1202: card 200: a deck holds 200 cards: what follows is not kept"});
+}
+
+TEST_CASE("a text longer than an import reads is found, in both formats") {
+  const std::string text(0x40001, 'x');
+  CHECK(FindingsIn("STD\n1.\n*>F\n" + text + "\n*>B\nb\n") ==
+        Lines{"file:4: card 1: a text is cut: it is longer than an import reads"});
+  CHECK(FindingsIn("EXT\n1." + text + "\n=T\n") ==
+        Lines{"file:2: card 1: a text is cut: it is longer than an import reads"});
 }
 
 TEST_CASE("cards know the lines on which they begin") {

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "companion/cards/findings.h"
+#include "tests/unit/companion/formats/format_desk.h"
+
+namespace tessara::test {
+
+/// Keeps what it is told: "file:line: card N: what".
+class ToldFindings : public Findings {
+ public:
+  void Find(const Place& place, Severity, const std::string& what) override {
+    told.push_back(MessageAt(place, what));
+  }
+  Lines told;
+};
+
+}  // namespace tessara::test
