@@ -1,5 +1,6 @@
 #include <QAbstractButton>
 #include <QCheckBox>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
 #include <doctest/doctest.h>
@@ -25,6 +26,24 @@ TEST_CASE("A disabled button and one behind a disabled window take no click") {
   form.SetEnabled(false);
   QTest::mouseClick(&Desk::Of("Command2"), Qt::LeftButton);
   CHECK(form.log.Take().empty());
+}
+
+TEST_CASE("A click that comes through while a box is up does nothing") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  auto& button = Desk::Of<QAbstractButton>("Command2");
+  auto& mark = Desk::Of<QAbstractButton>("Check1");
+  {
+    QMessageBox box;
+    box.setModal(true);
+    box.show();
+    button.click();
+    mark.click();
+    CHECK(form.log.Take().empty());
+    CHECK_FALSE(mark.isChecked());
+  }
+  button.click();
+  CHECK(form.log.Take() == "delete");
 }
 
 TEST_CASE("A long caption is made to fit its button and keeps its text") {

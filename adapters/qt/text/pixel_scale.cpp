@@ -57,7 +57,7 @@ PixelScale::PixelScale(const QFont& desktopFont, QSize screen)
                                      MostFactor(QFontMetrics(desktopFont), screen)))) {}
 
 PixelScale PixelScale::OfDesktop() {
-  return PixelScale(QApplication::font(), QApplication::primaryScreen()->availableSize());
+  return {QApplication::font(), QApplication::primaryScreen()->availableSize()};
 }
 
 int PixelScale::FromTwips(int twips) const {

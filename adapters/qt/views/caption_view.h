@@ -5,6 +5,7 @@
 
 #include "adapters/qt/look/caption_room.h"
 #include "adapters/qt/text/qt_text.h"
+#include "adapters/qt/views/behind_box.h"
 #include "adapters/qt/views/captioned_widget.h"
 #include "adapters/qt/views/control_view.h"
 
@@ -18,9 +19,7 @@ class CaptionView : public ControlView {
   CaptionView(CaptionedControl& control, QWidget& parent, const ViewContext& context,
               QStyle::SubElement room)
       : ControlView(control, *new CaptionedWidget<ButtonWidget>(&parent), context), room_(room) {
-    QObject::connect(&Shown(), &QAbstractButton::clicked, this, [this] {
-      if (!Detached()) Press();
-    });
+    QObject::connect(&Shown(), &QAbstractButton::clicked, this, [this] { TakeClick(); });
   }
 
  protected:
@@ -49,6 +48,13 @@ class CaptionView : public ControlView {
   }
 
  private:
+  void TakeClick() {
+    if (Detached()) return;
+    if (!BehindBox(Shown())) return Press();
+    // The widget has turned its mark over already.
+    FollowAll();
+  }
+
   QStyle::SubElement room_;
 };
 

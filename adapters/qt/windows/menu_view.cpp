@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "adapters/qt/text/qt_text.h"
+#include "adapters/qt/views/behind_box.h"
 #include "adapters/qt/windows/letter_menu.h"
 
 namespace tessara {
@@ -49,7 +50,7 @@ QAction* MenuView::MakeCommand(MenuEntry& entry) {
 }
 
 void MenuView::Press(MenuEntry& entry) {
-  if (actions_.empty()) return;
+  if (actions_.empty() || BehindBox(Owner())) return;
   // An event that waits for a box outlives a window that goes meanwhile, and these menus with it.
   const QPointer<MenuView> here(this);
   entry.UserChoose();
