@@ -252,7 +252,7 @@ class Program:
     def menu_bar(self):
         return next(node for node in self.windows()[0].children() if node.role == "menu bar")
 
-    def _in_menus(self):
+    def entry_in_menus(self):
         """The entry of the menu bar or of an open menu that the keys have come to."""
         entries = self.menu_bar().below(lambda node: node.showing or node.role == "popup menu")
         return next((entry for entry in reversed(list(entries)) if entry.focused), None)
@@ -260,16 +260,16 @@ class Program:
     def choose(self, menu, entry):
         """Alt into the menu bar, right to the menu, down to the entry."""
         self.press("Alt_L")
-        wait_for("the focus of the menu bar", self._in_menus)
+        wait_for("the focus of the menu bar", self.entry_in_menus)
         for name, step in ((menu, "Right"), (entry, "Down")):
             self._step_to(name, step)
             self.press("Down" if name == menu else "Return")
 
     def _step_to(self, name, step):
         met = set()
-        while (now := wait_for("a menu entry", self._in_menus)).name != name:
+        while (now := wait_for("a menu entry", self.entry_in_menus)).name != name:
             if now in met:
                 raise AssertionError(f'the keys never get to the menu entry "{name}"')
             met.add(now)
             self.press(step)
-            wait_for("the next menu entry", lambda: self._in_menus() not in (None, now))
+            wait_for("the next menu entry", lambda: self.entry_in_menus() not in (None, now))
