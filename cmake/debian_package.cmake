@@ -13,7 +13,7 @@ set(CPACK_DEBIAN_PACKAGE_SECTION education)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # Among them the fonts of the windows and of the printed sheets, and fonts for the scripts that those lack.
 set(CPACK_DEBIAN_UNSPECIFIED_PACKAGE_RECOMMENDS "fonts-dejavu-core, fonts-liberation, libreoffice-calc, qt6-wayland, xdg-utils, \
-shared-mime-info, desktop-file-utils, fonts-freefont-ttf, fonts-noto-cjk, fonts-noto-color-emoji")
+shared-mime-info, desktop-file-utils, fonts-freefont-ttf, fonts-noto-cjk, fonts-noto-color-emoji, fonts-symbola")
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS OFF)
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)

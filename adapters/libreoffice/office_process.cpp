@@ -1,6 +1,7 @@
 #include "adapters/libreoffice/office_process.h"
 
 #include <csignal>
+#include <cstdlib>
 #include <fcntl.h>
 #include <string_view>
 #include <sys/prctl.h>
@@ -69,11 +70,16 @@ std::vector<std::string> Arguments(const std::string& office, const std::filesys
 
 /// The program's own, but for the folder of temporary files and for the printing system, which the
 /// server has no use for and would wait for without a limit: its sheets are exported.
-std::vector<std::string> Environment(const std::string& folder) {
+std::vector<std::string> Environment(const std::string& folder,
+                                     const std::filesystem::path& fonts) {
+  constexpr const char* kFonts = "FONTCONFIG_FILE";
   constexpr std::string_view kTemporary = "TMPDIR=";
   constexpr std::string_view kPrinting = "CUPS_SERVER=";
   std::vector<std::string> environment{std::string(kTemporary) + folder,
                                        std::string(kPrinting) + kNoPrintingSystem};
+  // Whoever has chosen the fonts of programs has chosen the server's too.
+  if (!fonts.empty() && std::getenv(kFonts) == nullptr)
+    environment.push_back(std::string(kFonts) + "=" + fonts.string());
   for (char** variable = environ; *variable != nullptr; ++variable) {
     const std::string_view own(*variable);
     if (!own.starts_with(kTemporary) && !own.starts_with(kPrinting)) environment.emplace_back(own);
@@ -106,7 +112,9 @@ void KeepOpen(int signOfLife) {
 
 OfficeProcess::OfficeProcess(std::string officeProgramFolder)
     : officeProgramFolder_(std::move(officeProgramFolder)) {
-  PrepareProfile(ProfileOf(folder_.Path()), officeProgramFolder_);
+  const std::filesystem::path profile = ProfileOf(folder_.Path());
+  PrepareProfile(profile, officeProgramFolder_);
+  fonts_ = PrepareFonts(profile, officeProgramFolder_);
   Start();
 }
 
@@ -117,7 +125,7 @@ OfficeProcess::~OfficeProcess() {
 
 void OfficeProcess::Start() {
   const Command command(Arguments(officeProgramFolder_, folder_.Path()),
-                        Environment(folder_.Path().string()));
+                        Environment(folder_.Path().string(), fonts_));
   const pid_t parent = getpid();
   const pid_t child = fork();
   if (child < 0) throw RunTimeError(ErrorNumber::kAutomationError);

@@ -31,8 +31,9 @@ class OfficeProcess {
 
   std::string officeProgramFolder_;
   PrivateFolder folder_;
-  std::mutex mutex_;   ///< keeps Kill from a process number that is no longer ours
-  pid_t process_ = 0;  ///< 0 where none runs
+  std::filesystem::path fonts_;  ///< the server's font configuration; empty for the user's
+  std::mutex mutex_;             ///< keeps Kill from a process number that is no longer ours
+  pid_t process_ = 0;            ///< 0 where none runs
 };
 
 }  // namespace tessara

@@ -64,6 +64,18 @@ TEST_CASE("The surface keeps to what the print jobs count on") {
   test::CheckPrintSurfaceContract(desk.surface);
 }
 
+TEST_CASE("What comes from a colour font is drawn as a picture, and nothing else is") {
+  PdfDesk desk;
+  const auto pictures = [&desk](const Text& text) {
+    desk.surface.PrintLine(text);
+    desk.surface.EndDocument();
+    return desk.Written().count("/Subtype /Image");
+  };
+  CHECK(pictures(u"smile \u0416") == 0);
+  desk.surface.SetFontName(u"Noto Color Emoji");
+  CHECK(pictures(u"\xD83D\xDE00") > 0);
+}
+
 TEST_CASE("Lengths are twips and agree with each other") {
   PdfDesk desk;
   CHECK(desk.surface.PageWidth() > 9000);

@@ -12,6 +12,7 @@
 #include "adapters/cups/printing_system.h"
 #include "adapters/posix/system_call.h"
 #include "adapters/posix/write_file.h"
+#include "adapters/qt/print/colour_glyphs.h"
 #include "adapters/qt/text/qt_text.h"
 #include "base/run_time_error.h"
 #include "base/skip_errors.h"
@@ -213,7 +214,9 @@ void QtPrintSurface::Paint(const Page& page, QPainter& painter) {
   for (const Line& line : page.lines) {
     const QFontMetricsF metrics(line.font, painter.device());
     painter.setFont(line.font);
-    painter.drawText(QPointF(0, line.top / twipsPerDot + metrics.ascent()), line.text);
+    const QPointF start(0, line.top / twipsPerDot + metrics.ascent());
+    painter.drawText(start, line.text);
+    DrawColourGlyphs(painter, start, line.text);
   }
   painter.restore();
 }
