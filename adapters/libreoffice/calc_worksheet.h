@@ -3,10 +3,10 @@
 #include <com/sun/star/sheet/XSpreadsheet.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
 #include <com/sun/star/uno/Any.hxx>
-#include <compare>
 #include <memory>
 #include <set>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "adapters/libreoffice/office_session.h"
@@ -39,7 +39,9 @@ class CalcWorksheet : public Worksheet {
   struct CellPlace {
     std::int16_t row;
     std::int16_t column;
-    auto operator<=>(const CellPlace&) const = default;
+    bool operator<(const CellPlace& other) const {
+      return std::tie(row, column) < std::tie(other.row, other.column);
+    }
   };
   void Align(const CellPlace& place);
 

@@ -43,7 +43,7 @@ TEST_CASE("another user can't talk to the server, of whatever group and under an
     MESSAGE("skipped: only root can be another user");
     return;
   }
-  for (const mode_t mask : {0022, 0002, 0000}) {
+  for (const mode_t mask : {0022U, 0002U, 0000U}) {
     CAPTURE(mask);
     const Mask set(mask);
     LoadedSpreadsheet server{FromUtf8(PROGRAM_FOLDER)};
