@@ -1,5 +1,8 @@
 #include "companion/cards/text_form.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "base/characters.h"
 #include "base/utf8.h"
 #include "import/text_traits.h"
@@ -12,6 +15,29 @@ namespace {
 std::size_t BreakLength(TextView text) {
   if (text.starts_with(kLineBreak)) return kLineBreak.size();
   return text.starts_with(kCarriageReturn) || text.starts_with(kLineFeed) ? 1 : 0;
+}
+
+/// Where the bytes of a unit lie.
+struct ByteOrder {
+  std::string_view mark;
+  std::size_t high;
+};
+
+constexpr ByteOrder kByteOrders[] = {{"\xFF\xFE", 1}, {"\xFE\xFF", 0}};
+
+/// The texts of UTF-16 as UTF-8; half a unit at the end goes. Empty for all else.
+std::string FromUtf16(std::string_view file) {
+  const auto* const order = std::ranges::find_if(
+      kByteOrders, [file](const ByteOrder& one) { return file.starts_with(one.mark); });
+  if (order == std::end(kByteOrders)) return {};
+  Text text;
+  text.reserve(file.size() / 2);
+  for (std::size_t at = order->mark.size(); at + 1 < file.size(); at += 2) {
+    const auto high = static_cast<unsigned char>(file[at + order->high]);
+    const auto low = static_cast<unsigned char>(file[at + 1 - order->high]);
+    text += static_cast<char16_t>(high << 8 | low);
+  }
+  return WellFormedUtf8(text);
 }
 
 }  // namespace
@@ -34,7 +60,9 @@ bool HasLoneBreak(TextView text) {
 }
 
 TextDecoder::TextDecoder(std::string_view file, const CodePage& codePage)
-    : contents_(file), codePage_(codePage) {
+    : converted_(FromUtf16(file)),
+      contents_(converted_.empty() ? file : converted_),
+      codePage_(codePage) {
   if (contents_.starts_with(kByteOrderMark)) contents_.remove_prefix(kByteOrderMark.size());
   isUtf8_ = Utf8Length(contents_) == contents_.size();
 }

@@ -19,16 +19,20 @@ namespace tessara {
 /// True where a carriage return or a line feed stands alone.
 [[nodiscard]] bool HasLoneBreak(TextView text);
 
-/// Reads the texts of a file that is UTF-8, with or without its signature, else of the code page.
+/// Reads the texts of a file that is UTF-8, with or without its signature, or UTF-16 with its byte
+/// order mark, else of the code page.
 class TextDecoder {
  public:
   TextDecoder(std::string_view file, const CodePage& codePage);
+  TextDecoder(const TextDecoder&) = delete;
+  TextDecoder& operator=(const TextDecoder&) = delete;
 
-  /// The file behind its signature.
+  /// The file behind its signature; as UTF-8 where it is UTF-16.
   [[nodiscard]] std::string_view Contents() const { return contents_; }
   [[nodiscard]] Text Decode(std::string_view bytes) const;
 
  private:
+  std::string converted_;  ///< of UTF-16
   std::string_view contents_;
   const CodePage& codePage_;
   bool isUtf8_ = false;

@@ -54,9 +54,9 @@ void TellCut(const Text& written, const Text& read, const char* field, const Pla
   if (text == kept) return;
   if (Trimmed(text) == kept) {
     losses.Tell(place, std::string("blanks at the ends of the ") + field + " are not kept");
-  } else if (text.starts_with(kept)) {
+  } else if (Trimmed(text).starts_with(kept)) {
     losses.Tell(place, std::string("the ") + field + " is cut behind " +
-                           std::to_string(kept.size()) + " characters");
+                           std::to_string(CharacterCount(kept)) + " characters");
   } else {
     losses.Tell(place, std::string("the ") + field + " has characters that are not kept");
   }

@@ -280,6 +280,7 @@ class Memory(Command):
             "commas.csv": b"," * size,
             "rows.csv": b"a,b\n" * (size // 4),
             "long.csv": (b"x" * 400 + b",b\n") * (size // 403),
+            "wide.csv": b"\xff\xfe" + ("\u4e2d" * 400 + ",b\n").encode("utf-16-le") * (size // 810),
             "lines.txt": b"STD\n" + b"a\n" * (size // 2 - 2),
             "questions.txt": b"EXT\n" + b"x" * (size - 4),
             "zeros.tsr": b"\0" * size,

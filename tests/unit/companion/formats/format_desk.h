@@ -36,6 +36,8 @@ class StringSink : public ByteSink {
 
 /// Reads and writes files of any format in memory, and keeps what could not be kept.
 struct FormatDesk {
+  explicit FormatDesk(CodePage page = CodePage::Western()) : codePage(std::move(page)) {}
+
   CardSet Read(FileFormat format, std::string bytes) {
     source = {"file", std::move(bytes)};
     return ReadCards(format, source, {codePage, losses});
@@ -48,7 +50,7 @@ struct FormatDesk {
   }
   Lines Told() { return std::exchange(losses.told, {}); }
 
-  CodePage codePage = CodePage::Western();
+  CodePage codePage;
   ToldLosses losses;
   Source source;
 };

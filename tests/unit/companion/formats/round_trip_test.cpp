@@ -1,6 +1,9 @@
 #include <doctest/doctest.h>
+#include <iterator>
 #include <random>
+#include <utility>
 
+#include "adapters/posix/code_page_of_locale.h"
 #include "companion/formats/tables/delimited_reader.h"
 #include "tests/unit/companion/formats/format_desk.h"
 
@@ -11,7 +14,9 @@ namespace {
 /// Texts by chance, the same in every run.
 class Chance {
  public:
-  explicit Chance(TextView alphabet) : alphabet_(alphabet) {}
+  /// In a deck, words of scripts beyond the code page have room for fewer characters.
+  Chance(std::vector<Text> alphabet, std::size_t longest, std::size_t longestChoice)
+      : alphabet_(std::move(alphabet)), longest_(longest), longestChoice_(longestChoice) {}
 
   std::size_t Below(std::size_t bound) {
     return std::uniform_int_distribution<std::size_t>(0, bound - 1)(engine_);
@@ -23,17 +28,27 @@ class Chance {
       text += alphabet_[Below(alphabet_.size())];
     return Text(Trimmed(text));
   }
-  DeckRecord Card() { return TextCard(Words(444), Words(444)); }
+  DeckRecord Card() { return TextCard(Words(longest_), Words(longest_)); }
   DeckRecord QuestionCard() {
     const Text answer(1, TextView(u"TFABCD")[Below(6)]);
-    if (answer == u"T" || answer == u"F") return Question(Words(444), {}, answer);
-    return Question(Words(444), {Words(75), Words(75), Words(75), Words(75)}, answer);
+    if (answer == u"T" || answer == u"F") return Question(Words(longest_), {}, answer);
+    return Question(Words(longest_), {Choice(), Choice(), Choice(), Choice()}, answer);
   }
 
  private:
-  TextView alphabet_;
+  Text Choice() { return Words(longestChoice_); }
+
+  std::vector<Text> alphabet_;
+  std::size_t longest_;
+  std::size_t longestChoice_;
   std::mt19937 engine_{7};
 };
+
+Chance OfCodePage(TextView characters) {
+  std::vector<Text> alphabet;
+  for (const char16_t character : characters) alphabet.emplace_back(1, character);
+  return {alphabet, 444, 75};
+}
 
 CardSet RandomSet(DeckKind kind, std::size_t cards, Chance& chance) {
   std::vector<DeckRecord> records;
@@ -50,22 +65,76 @@ void CheckSame(const CardSet& read, const CardSet& written) {
 }
 
 constexpr TextView kOfCodePage = u"abXYZ07 .,:;=*>&<\"'#()\u00E4\u00C3\u00A9\u20AC\t\u0001";
+/// Latin beyond the code page, Greek, Cyrillic, Hebrew, Arabic, Devanagari, Thai, Georgian, Han,
+/// Kana, Hangul, sounds, pictures; each a character by itself, in form C.
+constexpr TextView kOfAllScripts[] = {u"a",
+                                      u"7",
+                                      u" ",
+                                      u".",
+                                      u",",
+                                      u";",
+                                      u"\"",
+                                      u"#",
+                                      u"<",
+                                      u"&",
+                                      u"\t",
+                                      u"\u00E9",
+                                      u"\u0142",
+                                      u"\u1EBF",
+                                      u"\u03CC",
+                                      u"\u1F41",
+                                      u"\u0416",
+                                      u"\u0451",
+                                      u"\u05E9",
+                                      u"\u0645",
+                                      u"\u064E\u0627",
+                                      u"\u0939",
+                                      u"\u0E19",
+                                      u"\u10E7",
+                                      u"\u4E2D",
+                                      u"\u30AC",
+                                      u"\uFF76",
+                                      u"\uD55C",
+                                      u"\u0283",
+                                      u"\u2028",
+                                      u"\uFEFFx",
+                                      u"\xD83D\xDE00",
+                                      u"\xD842\xDFB7"};
 constexpr TextView kOfXml = u"abXYZ07 .,:;=*>&<\"'#()\u00E4\u00C3\u00A9\u20AC\t";
+
+/// Six bytes at most for one: 73 fit a text, 12 a choice.
+Chance OfAllScripts() {
+  return {{std::begin(kOfAllScripts), std::end(kOfAllScripts)}, 73, 12};
+}
 
 }  // namespace
 
-TEST_CASE("a deck comes back from each format as it was") {
+TEST_CASE("a deck comes back from each format as it was, in all scripts") {
   for (const FileFormat format : {FileFormat::kDeck, FileFormat::kText, FileFormat::kCsv,
                                   FileFormat::kTsv, FileFormat::kKvtml}) {
+    const bool isXml = format == FileFormat::kKvtml;
     for (const DeckKind kind : {kStandardDeck, kExtendedDeck}) {
-      if (format == FileFormat::kKvtml && kind == kExtendedDeck) continue;
-      Chance chance(format == FileFormat::kKvtml ? kOfXml : kOfCodePage);
-      for (const std::size_t cards : {1U, 2U, 200U}) {
-        FormatDesk desk;
-        const CardSet written = RandomSet(kind, cards, chance);
-        CheckSame(desk.Read(format, desk.Written(format, written)), written);
-        CHECK(desk.Told() == Lines());
+      if (isXml && kind == kExtendedDeck) continue;
+      for (Chance chance : {OfCodePage(isXml ? kOfXml : kOfCodePage), OfAllScripts()}) {
+        for (const std::size_t cards : {1U, 2U, 200U}) {
+          FormatDesk desk;
+          const CardSet written = RandomSet(kind, cards, chance);
+          CheckSame(desk.Read(format, desk.Written(format, written)), written);
+          CHECK(desk.Told() == Lines());
+        }
       }
+    }
+  }
+}
+
+TEST_CASE("texts of all scripts come back under each code page") {
+  for (const char* const name : {"WINDOWS-1251", "WINDOWS-1253", "WINDOWS-1250"}) {
+    Chance chance = OfAllScripts();
+    FormatDesk desk(CodePageNamed(name));
+    const CardSet written = RandomSet(kStandardDeck, 50, chance);
+    for (const FileFormat format : {FileFormat::kDeck, FileFormat::kText}) {
+      CheckSame(desk.Read(format, desk.Written(format, written)), written);
+      CHECK(desk.Told() == Lines());
     }
   }
 }

@@ -55,6 +55,18 @@ TEST_CASE("a table of commas or semicolons becomes cards, and what is not kept i
        {"file:2: card 2: a quotation mark is not closed"}},
       {"the code page", "a,\xE9\n", {"E|a|\xC3\xA9"}, {}},
       {"UTF-8 without signature", "a,\xC3\xA9\n", {"E|a|\xC3\xA9"}, {}},
+      {"UTF-16, its low bytes first",
+       std::string("\xFF\xFE"
+                   "a\0;\0\x16\x04\n\0",
+                   10),
+       {"E|a|\xD0\x96"},
+       {}},
+      {"UTF-16, its high bytes first",
+       std::string("\xFE\xFF"
+                   "\0a\0,\x04\x16\0\n\0",
+                   11),
+       {"E|a|\xD0\x96"},
+       {}},
       {"questions",
        "question,a,b,c,d,answer\nq,1,2,3,4,b\nr,,,,,t\ns,,,,,F\n",
        {"M|q|1|2|3|4|B", "T|r|||||T", "T|s|||||F"},
