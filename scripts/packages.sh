@@ -13,7 +13,7 @@ declare -A packages=(
   [wayland]="qt6-wayland"
   [virtual-display]="xvfb openbox xdotool x11-utils python3-pil"
   [test]="doctest-dev fonts-cantarell fonts-inter fonts-noto-core at-spi2-core cups-daemon dbus-daemon gdb gir1.2-atspi-2.0 poppler-utils python3-gi
-    fonts-freefont-ttf fonts-noto-cjk fonts-noto-color-emoji fonts-symbola"
+    fonts-freefont-ttf fonts-noto-cjk fonts-noto-color-emoji fonts-symbola locales"
   [package]="appstream desktop-file-utils dpkg-dev libfile-mimeinfo-perl libglib2.0-bin lintian shared-mime-info xdg-utils"
   [coverage]="gcovr"
   [bare-root]="debootstrap"
