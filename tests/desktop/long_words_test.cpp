@@ -70,6 +70,19 @@ TEST_CASE("A box takes, shows and counts the lines of such a word in about that 
     CHECK(form.Text2.LineCount() > 100);
   });
   CheckInProportion([&](const QString& text) {
+    form.Text2.SetText(FromQString(text));
+    form.Text2.SetText({});
+  });
+  CheckInProportion([&](const QString& text) {
+    form.Text2.SetText(FromQString(text));
+    area.selectAll();
+    QTest::keyClick(&area, Qt::Key_Delete);
+    QTest::keySequence(&area, QKeySequence::Undo);
+    CHECK(form.Text2.TextOf() == FromQString(text));
+    QTest::keySequence(&area, QKeySequence::Redo);
+    CHECK(form.Text2.TextOf().empty());
+  });
+  CheckInProportion([&](const QString& text) {
     area.selectAll();
     QApplication::clipboard()->setText(text);
     QTest::keySequence(&area, QKeySequence::Paste);

@@ -47,6 +47,13 @@ void PlainArea::insertFromMimeData(const QMimeData* source) {
 }
 
 void PlainArea::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Undo) || event->matches(QKeySequence::Redo)) {
+    // What comes back can be a word without end.
+    setWordWrapMode(QTextOption::WrapAnywhere);
+    QPlainTextEdit::keyPressEvent(event);
+    setWordWrapMode(WrapModeOf(toPlainText()));
+    return;
+  }
   QTextCursor cursor = textCursor();
   const int place = cursor.positionInBlock();
   if (IsBackspace(*event) && !isReadOnly() && !cursor.hasSelection() && place > 0) {

@@ -79,8 +79,10 @@ void TextAreaView::ShowText() {
   if (passing_) {
     CorrectTo(wanted);
   } else {
-    Edit().setWordWrapMode(WrapModeOf(wanted));
+    // The quick breaks stand while either text is in the box.
+    Edit().setWordWrapMode(QTextOption::WrapAnywhere);
     Edit().setPlainText(wanted);
+    Edit().setWordWrapMode(WrapModeOf(wanted));
   }
   following_ = false;
 }
