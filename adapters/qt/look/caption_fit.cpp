@@ -28,22 +28,25 @@ Heights HeightsOf(const QString& lines, const QFont& font) {
   const QFontMetricsF metrics(font);
   const QString read = ToQString(PlainCaption(FromQString(lines)));
   const QStringList parts = read.split(u'\n');
+  // Letters stand on whole pixels.
+  const double firstBaseline = std::round(metrics.ascent());
   const double lastBaseline =
-      metrics.ascent() + metrics.lineSpacing() * static_cast<double>(parts.size() - 1);
+      firstBaseline + metrics.lineSpacing() * static_cast<double>(parts.size() - 1);
   return {SizeOf(lines, font).height(),
-          metrics.ascent() + metrics.tightBoundingRect(parts.front()).top(),
+          firstBaseline + metrics.tightBoundingRect(parts.front()).top(),
           lastBaseline + metrics.tightBoundingRect(parts.back()).bottom()};
 }
 
 /// Brings the ink into the room. True where it has room.
-bool FitHeight(FittedCaption& caption, double room, CaptionPlace place) {
+bool FitHeight(FittedCaption& caption, double room, CaptionPlace place, double mostOverhang) {
   const Heights heights = HeightsOf(caption.text, caption.font);
   const double top = place == CaptionPlace::kInMiddle ? (room - heights.block) / 2 : 0;
   const double below = std::max(0.0, top + heights.inkBottom - room);
   // In the middle, the style draws it.
   if (place == CaptionPlace::kInMiddle) return below == 0 && top + heights.inkTop >= 0;
-  caption.rise = std::ceil(below);
-  return heights.inkTop >= caption.rise;
+  caption.rise = std::min(std::ceil(below), std::max(0.0, std::floor(heights.inkTop)));
+  caption.overhang = std::max(0.0, std::ceil(below - caption.rise));
+  return heights.inkTop >= 0 && caption.overhang <= mostOverhang;
 }
 
 bool FitsOnOneLine(const QString& caption, const QFont& font, double width) {
@@ -86,8 +89,8 @@ QFont Narrowed(const QFont& font) {
 /// Makes room for captions, try by try.
 class Fitting {
  public:
-  Fitting(const QString& caption, QSizeF room, CaptionPlace place)
-      : caption_(caption), room_(room), place_(place) {}
+  Fitting(const QString& caption, QSizeF room, CaptionPlace place, double mostOverhang)
+      : caption_(caption), room_(room), place_(place), mostOverhang_(mostOverhang) {}
 
   /// True where the caption fits in the font, on one line or wrapped.
   bool Try(const QFont& font) {
@@ -98,20 +101,22 @@ class Fitting {
  private:
   bool Try(const QString& text, const QFont& font) {
     fitted_ = {text, font};
-    return FitHeight(fitted_, room_.height(), place_) && FitsOnOneLine(text, font, room_.width());
+    return FitHeight(fitted_, room_.height(), place_, mostOverhang_) &&
+           FitsOnOneLine(text, font, room_.width());
   }
 
   const QString& caption_;
   QSizeF room_;
   CaptionPlace place_;
+  double mostOverhang_;
   FittedCaption fitted_;
 };
 
 }  // namespace
 
 FittedCaption FitCaption(const QString& caption, const QFont& font, QSizeF room,
-                         CaptionPlace place) {
-  Fitting fitting(caption, room, place);
+                         CaptionPlace place, double mostOverhang) {
+  Fitting fitting(caption, room, place, mostOverhang);
   if (caption.isEmpty()) return {caption, font};
   for (const double size : kSizes) {
     const QFont own = OfSize(font, size);

@@ -16,11 +16,14 @@ struct FittedCaption {
   /// How far above its place it is to be drawn, in pixels: a font with much room above its letters
   /// and below needs not all of that.
   double rise = 0;
+  /// How far its ink goes on below the room, in pixels.
+  double overhang = 0;
 };
 
 /// `caption` holds "&" marks. `room` is what the control leaves for the text, in pixels. Letters
-/// get narrower only where the width is short, and smaller only where nothing else helps.
+/// get narrower only where the width is short, and smaller only where nothing else helps. One that
+/// stands at the top may go on below the room by `mostOverhang`.
 [[nodiscard]] FittedCaption FitCaption(const QString& caption, const QFont& font, QSizeF room,
-                                       CaptionPlace place);
+                                       CaptionPlace place, double mostOverhang = 0);
 
 }  // namespace tessara

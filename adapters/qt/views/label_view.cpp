@@ -19,10 +19,12 @@ class CaptionLabel : public QLabel {
  public:
   explicit CaptionLabel(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
 
-  /// `width` is how much of the label's is the caption's.
-  void Fit(const QFont& font, int width) {
-    const QSizeF room(width, height());
-    const FittedCaption fitted = FitCaption(text(), font, room, CaptionPlace::kFromTop);
+  /// Makes the caption fit the room, and the label as high as its ink goes on below that, by
+  /// `mostOverhang` pixels at most.
+  void Fit(const QFont& font, QSize room, int mostOverhang) {
+    const FittedCaption fitted =
+        FitCaption(text(), font, room, CaptionPlace::kFromTop, mostOverhang);
+    resize(width(), room.height() + static_cast<int>(fitted.overhang));
     shown_ = fitted.text;
     rise_ = static_cast<int>(fitted.rise);
     if (this->font() != fitted.font) setFont(fitted.font);
@@ -84,8 +86,11 @@ void LabelView::FollowOwn(Aspect aspect) {
 
 void LabelView::FollowFont() {
   const auto& label = As<Label>();
-  static_cast<CaptionLabel&>(Widget()).Fit(Context().scale.ControlFont(label.FontOf()),
-                                           Context().scale.FromTwips(UncoveredWidth(label)));
+  const PixelScale& scale = Context().scale;
+  const QSize room(scale.FromTwips(UncoveredWidth(label)),
+                   scale.FromTwips(label.BoundsOf()).height());
+  static_cast<CaptionLabel&>(Widget()).Fit(scale.ControlFont(label.FontOf()), room,
+                                           scale.FromTwips(FreeHeightBelow(label)));
 }
 
 }  // namespace tessara
