@@ -114,8 +114,8 @@ class Fitting {
 
 }  // namespace
 
-FittedCaption FitCaption(const QString& caption, const QFont& font, QSizeF room,
-                         CaptionPlace place, double mostOverhang) {
+FittedCaption FitCaption(const QString& caption, const QFont& font, QSizeF room, CaptionPlace place,
+                         double mostOverhang) {
   Fitting fitting(caption, room, place, mostOverhang);
   if (caption.isEmpty()) return {caption, font};
   for (const double size : kSizes) {

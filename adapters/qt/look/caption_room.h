@@ -8,8 +8,8 @@ namespace tessara {
 /// at half its height: a caption that goes on would be cut there.
 [[nodiscard]] int UncoveredWidth(const Control& control);
 
-/// How much room is free below the control, in twips, up to 45: the ink of a high font may hang down
-/// there where nothing is in its way.
+/// How much room is free below the control, in twips, up to 45: the ink of a high font may hang
+/// down there where nothing is in its way.
 [[nodiscard]] int FreeHeightBelow(const Control& control);
 
 }  // namespace tessara
