@@ -24,12 +24,13 @@ QSizeF SizeOf(const QString& lines, const QFont& font) {
   return QFontMetricsF(font).size(Qt::TextShowMnemonic, lines);
 }
 
-Heights HeightsOf(const QString& lines, const QFont& font) {
+Heights HeightsOf(const QString& lines, const QFont& font, CaptionPlace place) {
   const QFontMetricsF metrics(font);
   const QString read = ToQString(PlainCaption(FromQString(lines)));
   const QStringList parts = read.split(u'\n');
-  // Letters stand on whole pixels.
-  const double firstBaseline = std::round(metrics.ascent());
+  // Letters that begin at a whole pixel stand on one.
+  const double firstBaseline =
+      place == CaptionPlace::kFromTop ? std::round(metrics.ascent()) : metrics.ascent();
   const double lastBaseline =
       firstBaseline + metrics.lineSpacing() * static_cast<double>(parts.size() - 1);
   return {SizeOf(lines, font).height(),
@@ -39,7 +40,7 @@ Heights HeightsOf(const QString& lines, const QFont& font) {
 
 /// Brings the ink into the room. True where it has room.
 bool FitHeight(FittedCaption& caption, double room, CaptionPlace place, double mostOverhang) {
-  const Heights heights = HeightsOf(caption.text, caption.font);
+  const Heights heights = HeightsOf(caption.text, caption.font, place);
   const double top = place == CaptionPlace::kInMiddle ? (room - heights.block) / 2 : 0;
   const double below = std::max(0.0, top + heights.inkBottom - room);
   // In the middle, the style draws it.

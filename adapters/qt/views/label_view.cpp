@@ -87,8 +87,9 @@ void LabelView::FollowOwn(Aspect aspect) {
 void LabelView::FollowFont() {
   const auto& label = As<Label>();
   const PixelScale& scale = Context().scale;
-  const QSize room(scale.FromTwips(UncoveredWidth(label)),
-                   scale.FromTwips(label.BoundsOf()).height());
+  const QSize whole = scale.FromTwips(label.BoundsOf()).size();
+  const int covered = label.BoundsOf().width - UncoveredWidth(label);
+  const QSize room(whole.width() - scale.FromTwips(covered), whole.height());
   static_cast<CaptionLabel&>(Widget()).Fit(scale.ControlFont(label.FontOf()), room,
                                            scale.FromTwips(FreeHeightBelow(label)));
 }
