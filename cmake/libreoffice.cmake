@@ -19,9 +19,9 @@ if(CPPUMAKER AND QPDF_LIBRARY)
   set(withLibreOffice ON)
   # The interfaces that the sources use; what these use in turn is made with them.
   set(unoInterfaces
-    beans.PropertyValue beans.XPropertySet bridge.UnoUrlResolver connection.NoConnectException
+    beans.PropertyValue beans.XPropertySet bridge.UnoUrlResolver connection.NoConnectException container.XNamed
     document.MacroExecMode document.UpdateDocMode frame.Desktop frame.XComponentLoader frame.XModel
-    frame.XStorable lang.DisposedException lang.XComponent sheet.XCellRangeAddressable sheet.XCellRangeMovement
+    frame.XStorable lang.DisposedException lang.XComponent sheet.XCellRangeAddressable sheet.XCellRangeData sheet.XCellRangeMovement
     sheet.XSpreadsheet sheet.XSpreadsheetDocument
     sheet.XSpreadsheetView table.CellVertJustify2 table.XColumnRowRange text.XText uno.DeploymentException uno.XComponentContext util.XCloseable)
   list(TRANSFORM unoInterfaces PREPEND -Tcom.sun.star.)

@@ -107,6 +107,8 @@ class RandomSpreadsheet : public SpreadsheetServer {
   explicit RandomSpreadsheet(ByteSource& bytes) : bytes_(bytes) {}
 
   void Probe(const Text&) override {}
+  void Prepare(const Text&, std::chrono::milliseconds) override {}
+  void Dismiss() override {}
   std::shared_ptr<Workbook> Bind(const Text&) override {
     MayFail();
     return std::make_shared<Book>(*this);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <memory>
 
@@ -39,6 +40,12 @@ class SpreadsheetServer {
   /// Looks for a server and a readable spreadsheet at the path, without starting the server.
   /// Raises what Bind would raise where either is missing.
   virtual void Probe(const Text& templatePath) = 0;
+  /// A job may come: after a while the server starts in the background, so that Bind has less to
+  /// wait for. Returns at once and raises nothing; what is missing Bind tells.
+  virtual void Prepare(const Text& templatePath, std::chrono::milliseconds after) = 0;
+  /// No job comes: a server that was prepared and has not been bound ends, in the background; one
+  /// that has not been started yet does not start.
+  virtual void Dismiss() = 0;
   /// Opens the template, starting the server where it does not run.
   virtual std::shared_ptr<Workbook> Bind(const Text& templatePath) = 0;
   /// Where the sheets printed from now on go: beside the operations of the sheet.

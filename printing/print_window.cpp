@@ -1,5 +1,7 @@
 #include "printing/print_window.h"
 
+#include <chrono>
+
 #include "machine/message_box.h"
 
 namespace tessara {
@@ -102,9 +104,11 @@ void PrintWindow::OnLoad() {
   flatOnly.SetVisible(!app_.state.printing.canPrintCards);
   if (!app_.state.printing.canPrintCards) FlatPrintOnly();
   Show();
+  ReadyServer();
 }
 
 void PrintWindow::OnUnload(bool& /*cancel*/) {
+  job_.Dismiss();
   deck_->Show();
 }
 
@@ -143,6 +147,14 @@ void PrintWindow::ChooseFlatSheet() {
     flatOnly.SetVisible(false);
     print.SetEnabled(CountChecks() != 0);
   }
+  ReadyServer();
+}
+
+void PrintWindow::ReadyServer() {
+  // Who opens the window by mistake has closed it by then.
+  constexpr std::chrono::milliseconds kBeforeStart{300};
+  const bool wanted = app_.state.printing.canPrintCards && !flatSheet.Ticked();
+  wanted ? job_.Prepare(kBeforeStart) : job_.Dismiss();
 }
 
 void PrintWindow::ShowTurning() {

@@ -85,6 +85,8 @@ class PrintWindow : public Form {
   static constexpr TextView kSelectAll = u"Select All";
 
   void ChooseFlatSheet();
+  /// The server starts while the user still chooses, where cards may be printed on it.
+  void ReadyServer();
   void ShowTurning();
   /// Runs the job, and brings the window up to date where it is to be.
   void Print();

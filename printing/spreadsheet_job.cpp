@@ -14,6 +14,14 @@ bool SpreadsheetJob::TestSpreadsheetServer() const {
   }
 }
 
+void SpreadsheetJob::Prepare(std::chrono::milliseconds after) const {
+  machine_.spreadsheet.Prepare(ProgramFile(machine_, kTemplateName), after);
+}
+
+void SpreadsheetJob::Dismiss() const {
+  machine_.spreadsheet.Dismiss();
+}
+
 void SpreadsheetJob::Open() {
   jobWorkbook_ = machine_.spreadsheet.Bind(ProgramFile(machine_, kTemplateName));
   jobSheet_ = jobWorkbook_->ActiveSheet();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <memory>
 
 #include "machine/machine.h"
@@ -18,6 +19,10 @@ class SpreadsheetJob {
 
   /// True where the server and the template are there. Says nothing where they are not.
   [[nodiscard]] bool TestSpreadsheetServer() const;
+
+  /// A job may come, or comes no more: the server starts ahead of it after a while, or ends.
+  void Prepare(std::chrono::milliseconds after) const;
+  void Dismiss() const;
 
   /// Opens the template, with the server's own questions switched off. Raises 432 and 440; what
   /// the steps before the error have set stays.

@@ -8,6 +8,7 @@
 #include "adapters/libreoffice/calc_workbook.h"
 #include "adapters/libreoffice/file_url.h"
 #include "adapters/libreoffice/uno_text.h"
+#include "base/skip_errors.h"
 
 namespace tessara {
 
@@ -39,13 +40,32 @@ CalcServer::~CalcServer() {
 }
 
 std::shared_ptr<Workbook> CalcServer::Bind(const Text& templatePath) {
+  templatePath_ = templatePath;
+  return Open();
+}
+
+std::shared_ptr<CalcWorkbook> CalcServer::Open() {
   auto session = session_.lock();
   // A job that failed while it opened still holds its workbook, and so a server that has died.
   if (session == nullptr || session->Lost()) {
-    session = std::make_shared<OfficeSession>(officeProgramFolder_, local_);
+    session = TakeSession();
     session_ = session;
   }
-  return std::make_shared<CalcWorkbook>(std::move(session), templatePath, output_);
+  return std::make_shared<CalcWorkbook>(std::move(session), templatePath_, output_);
+}
+
+std::shared_ptr<OfficeSession> CalcServer::TakeSession() {
+  auto session = std::exchange(prepared_, nullptr);
+  const bool usable = session != nullptr && !session->Lost();
+  return usable ? session : std::make_shared<OfficeSession>(officeProgramFolder_, local_);
+}
+
+void CalcServer::Prepare(const Text& templatePath, const std::stop_token& stop) {
+  const auto session = std::make_shared<OfficeSession>(officeProgramFolder_, local_);
+  const std::stop_callback end(stop, [&session] { session->End(); });
+  // What the server loads for its first page is there for the next one.
+  CalcWorkbook(session, templatePath, output_).LayOut()->Export();
+  prepared_ = session;
 }
 
 void CalcServer::SetDestination(const PrintDestination& destination) {
@@ -53,7 +73,19 @@ void CalcServer::SetDestination(const PrintDestination& destination) {
 }
 
 void CalcServer::FinishDestination() {
+  try {
+    Export();
+  } catch (const RunTimeError&) {
+    SkipErrors([this] { output_->Finish(); });
+    throw;
+  }
   output_->Finish();
+}
+
+void CalcServer::Export() {
+  const bool exported = SkipErrors([this] { output_->Export(); });
+  // The server has died with the sheets that it had: another one gets them again.
+  if (!exported) output_->ExportBy(*Open()->LayOut());
 }
 
 }  // namespace tessara

@@ -31,12 +31,16 @@ CalcWorkbook::~CalcWorkbook() {
 }
 
 std::shared_ptr<Worksheet> CalcWorkbook::ActiveSheet() {
+  return std::make_shared<CalcWorksheet>(LayOut(), output_);
+}
+
+std::shared_ptr<SheetLayout> CalcWorkbook::LayOut() {
   if (session_ == nullptr) throw RunTimeError(ErrorNumber::kAutomationError);
   return session_->Ask([this] {
     const uno::Reference<XModel> model(document_, uno::UNO_QUERY_THROW);
     const uno::Reference<XSpreadsheetView> view(model->getCurrentController(),
                                                 uno::UNO_QUERY_THROW);
-    return std::make_shared<CalcWorksheet>(session_, document_, view->getActiveSheet(), output_);
+    return std::make_shared<SheetLayout>(session_, document_, view->getActiveSheet());
   });
 }
 

@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "adapters/libreoffice/office_session.h"
+#include "adapters/libreoffice/sheet_layout.h"
 #include "adapters/libreoffice/sheet_output.h"
 #include "machine/spreadsheet.h"
 
@@ -20,6 +21,8 @@ class CalcWorkbook : public Workbook {
   CalcWorkbook& operator=(const CalcWorkbook&) = delete;
 
   std::shared_ptr<Worksheet> ActiveSheet() override;
+  /// The active sheet as the server lays it out.
+  std::shared_ptr<SheetLayout> LayOut();
   /// A hidden document never asks anything, so there is nothing to switch.
   void SetDisplayAlerts(bool show) override { (void)show; }
   void Close() override;

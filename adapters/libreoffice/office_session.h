@@ -41,6 +41,8 @@ class OfficeSession {
 
   /// True where the server has ended, or is about to: nothing more can be asked of it.
   [[nodiscard]] bool Lost() { return lost_ || !process_.Running(); }
+  /// Ends the server at once, also one that is asked something. May be called by any thread.
+  void End() { process_.Kill(); }
   /// Opens a file as a new, hidden document; starts the server at its first use. Within Ask.
   Component Open(const std::string& path);
   [[nodiscard]] const std::filesystem::path& Folder() const { return process_.Folder().Path(); }

@@ -1,5 +1,6 @@
 #include "adapters/libreoffice/sheet_output.h"
 
+#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <utility>
@@ -27,7 +28,10 @@ constexpr QueueOption kAsTheyStand[] = {{"copies", "1"},
                                         {"landscape"},
                                         {"orientation-requested"}};
 
-std::string ReadAll(const std::string& path) {
+/// Sheets that the server keeps before it exports them: more would take it longer than it is given.
+constexpr std::size_t kMostKept = 100;
+
+std::string ReadAll(const std::filesystem::path& path) {
   std::ifstream file(path, std::ios::binary);
   return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
@@ -35,21 +39,39 @@ std::string ReadAll(const std::string& path) {
 }  // namespace
 
 void SheetOutput::SetDestination(const PrintDestination& destination) {
+  *this = SheetOutput();
   destination_ = destination;
-  pages_.clear();
 }
 
-void SheetOutput::Print(const std::string& pagePath) {
-  if (destination_.printer.empty()) {
-    pages_.push_back(ReadAll(pagePath));
-  } else {
-    PrintOnQueue(ToUtf8(destination_.printer), pagePath, kAsTheyStand);
+void SheetOutput::Print(const std::shared_ptr<SheetLayout>& layout, const SheetContent& content) {
+  if (!destination_.printer.empty()) {
+    PrintOnQueue(ToUtf8(destination_.printer), layout->Export().string(), kAsTheyStand);
+    return;
   }
+  layout->Keep();
+  layout_ = layout;
+  kept_.push_back(content);
+  if (kept_.size() == kMostKept) Export();
+}
+
+void SheetOutput::Export() {
+  if (kept_.empty()) return;
+  pages_.push_back(ReadAll(layout_->Export()));
+  kept_.clear();
+}
+
+void SheetOutput::ExportBy(SheetLayout& other) {
+  for (const SheetContent& sheet : kept_) {
+    other.Show(sheet);
+    other.Keep();
+  }
+  pages_.push_back(ReadAll(other.Export()));
+  kept_.clear();
 }
 
 void SheetOutput::Finish() {
-  const std::vector<std::string> pages = std::exchange(pages_, {});
-  if (!pages.empty()) WriteFile(ToUtf8(destination_.pdfFile), JoinPdf(pages));
+  const SheetOutput job = std::exchange(*this, SheetOutput());
+  if (!job.pages_.empty()) WriteFile(ToUtf8(job.destination_.pdfFile), JoinPdf(job.pages_));
 }
 
 }  // namespace tessara

@@ -42,10 +42,9 @@ void CheckRefused(const std::function<void()>& operation) {
   }
 }
 
-TEST_CASE("a server that was killed raises an error in each operation and closes in silence") {
+TEST_CASE("a server that was killed raises an error when it is asked and closes in silence") {
   OpenBook open;
   SignalServers(SIGKILL);
-  CheckRefused([&] { open.sheet->SetCell(1, 1, u"x"); });
   CheckRefused([&] { open.sheet->PrintOut(); });
   CheckRefused([&] { open.book->ActiveSheet(); });
   open.book->Close();
@@ -104,10 +103,8 @@ TEST_CASE("a job whose server dies before any operation ends as told, and the ne
 struct HungOperations {
   LoadedSpreadsheet server{FromUtf8(PROGRAM_FOLDER)};
   std::shared_ptr<Workbook> asked = Open();
-  std::shared_ptr<Workbook> written = Open();
   std::shared_ptr<Workbook> printed = Open();
   std::shared_ptr<Workbook> closed = Open();
-  std::shared_ptr<Worksheet> writtenSheet = written->ActiveSheet();
   std::shared_ptr<Worksheet> printedSheet = printed->ActiveSheet();
 
   std::shared_ptr<Workbook> Open() { return server.Bind(FromUtf8(PROGRAM_FOLDER "/Notelet.xlt")); }
@@ -120,7 +117,6 @@ TEST_CASE(
     const std::function<void()> operations[] = {
         [&] { CheckRefused([&] { open.Open(); }); },
         [&] { CheckRefused([&] { open.asked->ActiveSheet(); }); },
-        [&] { CheckRefused([&] { open.writtenSheet->SetCell(1, 1, u"x"); }); },
         [&] { CheckRefused([&] { open.printedSheet->PrintOut(); }); },
         [&] { open.closed->Close(); },
     };
@@ -146,13 +142,47 @@ TEST_CASE(
 }
 
 TEST_CASE("the sheets before a server's death stay in the PDF file") {
-  OfficeDesk desk(3);
+  OfficeDesk desk(19);
+  desk.SetCard(19, u"F19\r\nbelow", u"B19");
   desk.fakes.messages.whileShown = [](const test::FakeMessages::Shown& box) {
     if (box.title == u"PRINT BACK") SignalServers(SIGKILL);
   };
-  desk.Print();
-  REQUIRE(desk.Pages().size() == 1);
-  CHECK(desk.Pages().front().Has("F3"));
+  CHECK(desk.Print() == "Cancel Printing");
+  const std::vector<test::PrintedPage> pages = desk.Pages();
+  REQUIRE(pages.size() == 3);
+  CHECK(pages[0].Has("F8"));
+  CHECK(pages[1].Has("F16"));
+  CHECK(pages[2].Has("F19 below"));
+  CHECK_FALSE(pages[2].Has("F9"));
+  CHECK(ServerProcesses().empty());
+}
+
+TEST_CASE("a sheet that the server refuses is not in the PDF file, and those before it are") {
+  OpenBook open;
+  open.sheet->SetCell(1, 1, u"taken");
+  open.sheet->PrintOut();
+  open.sheet->SetCell(1, 1, u"refused");
+  open.sheet->SetFontName(u"no range", u"Arial");
+  CheckRefused([&] { open.sheet->PrintOut(); });
+  open.server.FinishDestination();
+  const auto pages = test::ReadPdf((open.folder / "cards.pdf").string());
+  REQUIRE(pages.size() == 1);
+  CHECK(pages.front().Has("taken"));
+}
+
+TEST_CASE("more sheets than the server keeps at once are in the file, in the order of printing") {
+  constexpr int kSheets = 203;
+  OpenBook open;
+  for (int sheet = 1; sheet <= kSheets; ++sheet) {
+    open.sheet->SetCell(1, 1, u"sheet" + DecimalText(sheet));
+    open.sheet->PrintOut();
+  }
+  open.server.FinishDestination();
+  const auto pages = test::ReadPdf((open.folder / "cards.pdf").string());
+  REQUIRE(pages.size() == kSheets);
+  for (int sheet = 1; sheet <= kSheets; ++sheet) {
+    CHECK(pages[static_cast<std::size_t>(sheet - 1)].Has("sheet" + std::to_string(sheet)));
+  }
 }
 
 /// For its life the system forgets how a child has ended: some starters of programs ask for that

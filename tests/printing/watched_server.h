@@ -70,6 +70,10 @@ class WatchedServer : public SpreadsheetServer {
   Watcher before = [](const std::string&) {};
 
   void Probe(const Text& templatePath) override { server_.Probe(templatePath); }
+  void Prepare(const Text& templatePath, std::chrono::milliseconds after) override {
+    server_.Prepare(templatePath, after);
+  }
+  void Dismiss() override { server_.Dismiss(); }
   std::shared_ptr<Workbook> Bind(const Text& templatePath) override {
     before("bind");
     return std::make_shared<WatchedBook>(server_.Bind(templatePath), before);

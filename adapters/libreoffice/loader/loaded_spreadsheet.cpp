@@ -1,6 +1,7 @@
 #include "adapters/libreoffice/loader/loaded_spreadsheet.h"
 
 #include <dlfcn.h>
+#include <exception>
 #include <filesystem>
 #include <system_error>
 
@@ -13,9 +14,9 @@ namespace tessara {
 namespace {
 
 constexpr const char* kModuleName = "libtessara_libreoffice.so";
-constexpr const char* kMakerName = "tessara_make_spreadsheet_server";
+constexpr const char* kMakerName = "tessara_make_office_module";
 
-using Maker = SpreadsheetServer* (*)(const char* officeProgramFolder);
+using Maker = OfficeModule* (*)(const char* officeProgramFolder);
 
 [[noreturn]] void ThrowNotFound() {
   throw RunTimeError(ErrorNumber::kAutomationClassNotFound);
@@ -50,25 +51,67 @@ void LoadedSpreadsheet::Probe(const Text& templatePath) {
   CheckTemplate(templatePath);
 }
 
+void LoadedSpreadsheet::Prepare(const Text& templatePath, std::chrono::milliseconds after) {
+  // The one before has gone before this one begins.
+  standby_ = std::jthread();
+  startsAhead_ = false;
+  try {
+    standby_ = std::jthread([=, this](const std::stop_token& stop) {  //
+      StandBy(templatePath, after, stop);
+    });
+  } catch (const std::system_error&) {
+    // No thread to be had: the server starts when it is bound.
+  }
+}
+
+void LoadedSpreadsheet::Dismiss() {
+  standby_.request_stop();
+}
+
+void LoadedSpreadsheet::StandBy(const Text& templatePath, std::chrono::milliseconds after,
+                                const std::stop_token& stop) {
+  constexpr auto kUntilTold = [] { return false; };
+  std::unique_lock lock(mutex_);
+  toldToGo_.wait_for(lock, stop, after, kUntilTold);
+  if (stop.stop_requested()) return;
+  startsAhead_ = true;
+  StartAhead(templatePath, stop);
+  toldToGo_.wait(lock, stop, kUntilTold);
+  if (module_ != nullptr) module_->Dismiss();
+}
+
+void LoadedSpreadsheet::StartAhead(const Text& templatePath, const std::stop_token& stop) noexcept {
+  try {
+    Probe(templatePath);
+    Module().Prepare(templatePath, stop);
+  } catch (const std::exception&) {
+    // Told, where it still holds then, when the server is bound.
+  }
+}
+
 std::shared_ptr<Workbook> LoadedSpreadsheet::Bind(const Text& templatePath) {
   Probe(templatePath);
-  return Server().Bind(templatePath);
+  const std::lock_guard lock(mutex_);
+  if (!startsAhead_) standby_.request_stop();
+  return Module().Bind(templatePath);
 }
 
 void LoadedSpreadsheet::SetDestination(const PrintDestination& destination) {
-  Server().SetDestination(destination);
+  const std::lock_guard lock(mutex_);
+  Module().SetDestination(destination);
 }
 
 void LoadedSpreadsheet::FinishDestination() {
-  Server().FinishDestination();
+  const std::lock_guard lock(mutex_);
+  Module().FinishDestination();
 }
 
-SpreadsheetServer& LoadedSpreadsheet::Server() {
-  if (server_ == nullptr) {
+OfficeModule& LoadedSpreadsheet::Module() {
+  if (module_ == nullptr) {
     const std::string office = RequireOffice();
-    server_.reset(LoadMaker(modulePath_)(office.c_str()));
+    module_.reset(LoadMaker(modulePath_)(office.c_str()));
   }
-  return *server_;
+  return *module_;
 }
 
 }  // namespace tessara

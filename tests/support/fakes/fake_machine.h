@@ -140,6 +140,8 @@ class FakeRegistry : public ClassRegistry {
 class NoSpreadsheet : public SpreadsheetServer {
  public:
   void Probe(const Text&) override { throw RunTimeError(ErrorNumber::kAutomationClassNotFound); }
+  void Prepare(const Text&, std::chrono::milliseconds) override {}
+  void Dismiss() override {}
   std::shared_ptr<Workbook> Bind(const Text&) override {
     throw RunTimeError(ErrorNumber::kAutomationClassNotFound);
   }

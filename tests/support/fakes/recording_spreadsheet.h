@@ -21,6 +21,13 @@ class RecordingSpreadsheet : public SpreadsheetServer {
   Cells cells;
   std::vector<Cells> sheets;
 
+  /// What is asked beside the jobs: "after 300 ms", "dismissed".
+  std::vector<std::string> readiness;
+
+  void Prepare(const Text& templatePath, std::chrono::milliseconds after) override {
+    readiness.push_back(ToUtf8(templatePath) + " after " + std::to_string(after.count()) + " ms");
+  }
+  void Dismiss() override { readiness.emplace_back("dismissed"); }
   void Probe(const Text& templatePath) override { record.Add("Probe " + ToUtf8(templatePath)); }
   std::shared_ptr<Workbook> Bind(const Text& templatePath) override {
     record.Add("Bind " + ToUtf8(templatePath));

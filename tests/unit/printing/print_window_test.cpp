@@ -392,5 +392,42 @@ TEST_CASE("a job that can't be opened shows no printer dialog") {
   CHECK(desk.fakes.dialogs.printers.size() == 1);
 }
 
+const std::vector<std::string> kAsked{"/opt/tessara/Notelet.xlt after 300 ms"};
+
+TEST_CASE("while the user chooses the server starts, 300 ms after the window has come up") {
+  PrintDesk desk;
+  desk.Open();
+  CHECK(desk.server.readiness == kAsked);
+  CHECK(desk.server.record.calls.empty());
+}
+
+TEST_CASE("no server starts ahead where cards can't be printed") {
+  PrintDesk desk;
+  desk.state.printing.canPrintCards = false;
+  desk.Open();
+  desk.Open().flatSheet.SetTicked(false);
+  for (const std::string& asked : desk.server.readiness) CHECK(asked == "dismissed");
+}
+
+TEST_CASE("a server that has started ahead goes when the window does, or flat sheets are chosen") {
+  for (const bool closes : {false, true}) {
+    CAPTURE(closes);
+    PrintDesk desk;
+    PrintWindow& window = desk.Open();
+    desk.server.readiness.clear();
+    closes ? window.close.Press() : window.flatSheet.Press();
+    CHECK(desk.server.readiness == std::vector<std::string>{"dismissed"});
+  }
+}
+
+TEST_CASE("back from flat sheets the server starts ahead again") {
+  PrintDesk desk;
+  PrintWindow& window = desk.Open();
+  window.flatSheet.Press();
+  desk.server.readiness.clear();
+  window.flatSheet.Press();
+  CHECK(desk.server.readiness == kAsked);
+}
+
 }  // namespace
 }  // namespace tessara
