@@ -9,6 +9,10 @@ import sys
 import tempfile
 import time
 
+sys.dont_write_bytecode = True
+
+import figures  # noqa: E402
+
 RUNS = int(os.environ.get("BENCH_RUNS", 15))
 COLD_RUNS = min(RUNS, 5)
 STAY_MS = 5000
@@ -50,6 +54,7 @@ def measure(programs, home):
 def start_lines(title, starts):
     yield f"{title:20}{'ms (min/median/max)':24}{'ratio':>6}"
     floor = statistics.median(starts["bare window"])
+    figures.add(title, statistics.median(starts["Tessara"]) / floor)
     for name, times in starts.items():
         middle = statistics.median(times)
         yield f"  {name:18}{f'{min(times):.1f} / {middle:.1f} / {max(times):.1f}':24}{middle / floor:6.2f}"
@@ -57,6 +62,7 @@ def start_lines(title, starts):
 
 def memory_lines(memory):
     yield f"{'resident memory':20}{'kB':24}{'ratio':>6}"
+    figures.add("resident memory", memory["Tessara"] / memory["bare window"])
     for name, kilobytes in memory.items():
         yield f"  {name:18}{kilobytes:<24}{kilobytes / memory['bare window']:6.2f}"
 

@@ -30,6 +30,7 @@ RUN_AS = {
         "build/release/tests/tests_unit -tc='*deck*' | grep 'test cases: *[1-9]'",
     "scripts/format.sh": "scripts/format.sh --check",
     "bench/run": "bench/run once",
+    "bench/run --check": "test -x bench/check_figures.py",
     "scripts/random_user [STEPS [SEED]]": "PRESET=release scripts/random_user 20 1",
     # Each of the two builds all tests anew; what they do with the results of that is run.
     "scripts/coverage.sh": "bash -n scripts/coverage.sh && echo '{{\"files\": []}}' >{scratch}/none.json"
