@@ -24,7 +24,7 @@ constexpr int kOpeningHeight = 640;
 }  // namespace
 
 FrameWindow::FrameWindow(Form& form, const ViewContext& context)
-    : form_(&form), area_(new BackdropArea(form, context)) {
+    : form_(&form), context_(context), area_(new BackdropArea(form, context)) {
   setObjectName(QString::fromStdString(form.Name()));
   setCentralWidget(area_);
   menuBar()->setAccessibleName(QStringLiteral("Menus"));
@@ -56,7 +56,9 @@ void FrameWindow::Follow(FormAspect aspect) {
   }
 }
 
+/// Its windows may have grown. It keeps the size that the user has given it where that is larger.
 void FrameWindow::FollowDesktop() {
+  if (!isMaximized() && !isFullScreen()) resize(size().expandedTo(OpeningSize(context_.scale)));
   area_->viewport()->update();
 }
 

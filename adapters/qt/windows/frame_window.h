@@ -44,6 +44,7 @@ class FrameWindow final : public QMainWindow, public FormWindow {
   void TakeDrag(QDropEvent& event) const;
 
   Form* form_;
+  const ViewContext& context_;
   BackdropArea* area_;
   const MenuView* menus_ = nullptr;
 };

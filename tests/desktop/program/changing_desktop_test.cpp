@@ -24,6 +24,7 @@ TEST_CASE("Windows that are open follow a larger font, and come back with the sm
   };
   const std::vector<QSize> before = sizes();
   const int letters = Desk::Of("Label1").font().pixelSize();
+  Desk::Top("MDIForm1")->resize(400, 300);
   {
     const DesktopFont font(20);
     Desk::Settle();
@@ -31,6 +32,7 @@ TEST_CASE("Windows that are open follow a larger font, and come back with the sm
     CHECK(Desk::Of("Label1").font().pixelSize() == qRound(letters * 1.5));
     CHECK(Desk::Of<QPlainTextEdit>("Text2").toPlainText() == "words");
     CHECK(Desk::Of("Text2").font().pixelSize() == qRound(letters * 1.5));
+    CHECK(Desk::Top("MDIForm1")->width() > 400);
     const std::vector<QSize> larger = sizes();
     for (std::size_t at = 0; at < before.size(); ++at) {
       CHECK(std::abs(larger[at].width() - before[at].width() * 1.5) <= 1);
