@@ -198,7 +198,7 @@ SheetLayout::Properties SheetLayout::RowAt(sal_Int32 row) const {
 
 std::filesystem::path SheetLayout::Export() {
   const auto session = Session();
-  const std::filesystem::path file = session->Folder() / "pages.pdf";
+  std::filesystem::path file = session->Folder() / "pages.pdf";
   session->Ask([&] {
     if (!copies_.empty()) PutBehindCopies();
     StoreAsPdf(file);

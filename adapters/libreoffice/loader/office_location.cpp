@@ -59,8 +59,9 @@ std::string ReadAll(const std::string& path) {
 }  // namespace
 
 std::string OfficeProgramFolder() {
-  for (const auto& folders : {FoldersOnSearchPath(), UsualFolders()}) {
-    for (const fs::path& folder : folders) {
+  // The usual ones are looked at where the search path leads to none.
+  for (const auto& folders : {FoldersOnSearchPath, UsualFolders}) {
+    for (const fs::path& folder : folders()) {
       if (HoldsServer(folder)) return folder.string();
     }
   }

@@ -86,10 +86,7 @@ double QtCanvas::TextHeight(const Text& text, double width, const TextStyle& sty
 }
 
 double QtCanvas::TextWidth(const Text& text, const TextStyle& style) {
-  constexpr double kEndless = 1e6;
-  TextStyle unwrapped = style;
-  unwrapped.wrap = false;
-  return LaidOutText(text, kEndless, unwrapped).Width();
+  return measures_.WidthOf(text, style);
 }
 
 double QtCanvas::LineHeight(const TextStyle& style) {

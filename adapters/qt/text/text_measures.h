@@ -7,16 +7,21 @@
 
 namespace tessara {
 
-/// Heights of wrapped texts, kept while the same card is painted and scrolled: laying out a long
-/// text is what painting a card costs.
+/// Sizes of texts, kept while the same card is painted and scrolled: laying out a long text is what
+/// painting a card costs.
 class TextMeasures {
  public:
   [[nodiscard]] double HeightOf(const Text& text, double width, const TextStyle& style);
+  /// Width of the widest line of a text that is not wrapped.
+  [[nodiscard]] double WidthOf(const Text& text, const TextStyle& style);
   /// Another font is on the desktop.
-  void Forget() { heights_.clear(); }
+  void Forget();
 
  private:
-  QCache<QString, double> heights_{64};
+  using Known = QCache<QString, double>;
+
+  Known heights_{64};
+  Known widths_{64};
 };
 
 }  // namespace tessara
