@@ -137,7 +137,8 @@ TEST_CASE("Characters of every script stay as they are on every way in") {
   CHECK(area.toPlainText() == scripts);
 }
 
-TEST_CASE("Backspace and the arrow keys go by characters as a reader sees them") {
+TEST_CASE(
+    "Backspace, Delete, selection and the arrow keys go by characters as a reader sees them") {
   const Text characters[] = {u"x",
                              u"e\u0301\u0323",
                              u"\xD83D\xDE00",
@@ -160,6 +161,14 @@ TEST_CASE("Backspace and the arrow keys go by characters as a reader sees them")
       CHECK(ToUtf8(box->TextOf()) == "a|");
       Undo(widget);
       CHECK(ToUtf8(box->TextOf()) == ToUtf8(u"a|" + character));
+      QTest::keyClick(&widget, Qt::Key_End);
+      QTest::keyClick(&widget, Qt::Key_Left, Qt::ShiftModifier);
+      QTest::keyClicks(&widget, "+");
+      CHECK(ToUtf8(box->TextOf()) == "a|+");
+      box->SetText(character + u"b");
+      QTest::keyClick(&widget, Qt::Key_Home);
+      QTest::keyClick(&widget, Qt::Key_Delete);
+      CHECK(ToUtf8(box->TextOf()) == "b");
     }
   }
 }
@@ -413,10 +422,24 @@ TEST_CASE("Tab leaves a box of several lines") {
 }
 
 TEST_CASE("Lines are counted as the box on screen wraps them, and without one") {
+  Text text;
+  SUBCASE("words") {
+    text = u"many words that wrap and wrap and wrap again in a narrow box";
+  }
+  SUBCASE("without blanks") {
+    text = Text(60, u'\u6F22');
+  }
+  SUBCASE("from right to left") {
+    for (int word = 0; word < 20; ++word) text += u"\u05E9\u05C1\u05B8\u05DC\u05D5\u05B9\u05DD ";
+  }
+  SUBCASE("with marks") {
+    for (int word = 0; word < 20; ++word) text += u"\u0939\u093F\u0928\u094D\u0926\u0940 ";
+  }
+  SUBCASE("with words that only a dictionary finds") {
+    for (int word = 0; word < 20; ++word) text += u"\u0E20\u0E32\u0E29\u0E32\u0E44\u0E17\u0E22";
+  }
   Desk desk;
-  desk.prepare = [](SampleForm& form) {
-    form.Text2.SetText(u"many words that wrap and wrap and wrap again in a narrow box\r\n\r\nend");
-  };
+  desk.prepare = [&text](SampleForm& form) { form.Text2.SetText(text + u"\r\n\r\nend"); };
   const int unseen = desk.child->Text2.LineCount();
   SampleForm& form = desk.ShowChild();
   auto& area = Desk::Of<QPlainTextEdit>("Text2");

@@ -1,5 +1,6 @@
 #include <doctest/doctest.h>
 
+#include "base/utf8.h"
 #include "forms/controls/image_list.h"
 #include "tests/support/error_of.h"
 #include "tests/unit/forms/test_windows.h"
@@ -94,6 +95,31 @@ TEST_CASE("an accelerator presses what carries it, in either case") {
   CHECK(desk.first->UserAccelerator(u't'));
   CHECK(desk.first->Option1[1].Selected());
   CHECK(clicks == 2);
+}
+
+TEST_CASE("a letter of any script is an accelerator, in either case where it has two") {
+  struct Case {
+    TextView caption;
+    TextView keys;
+  };
+  const Case cases[] = {{u"&\u0436\u0443\u043A", u"\u0436\u0416"},
+                        {u"&\u03C8\u03C9\u03BC\u03AF", u"\u03C8\u03A8"},
+                        {u"&\u00E9t\u00E9", u"\u00E9\u00C9"},
+                        {u"&\u05DE\u05D9\u05DD", u"\u05DE"},
+                        {u"&\u0645\u0627\u0621", u"\u0645"},
+                        {u"&\u6C34", u"\u6C34"},
+                        {u"&\uBB3C", u"\uBB3C"},
+                        {u"&\u0E19\u0E49\u0E33", u"\u0E19"}};
+  for (const Case& one : cases) {
+    CAPTURE(ToUtf8(one.caption));
+    RulesDesk desk;
+    desk.first->Show();
+    std::size_t clicks = 0;
+    desk.first->Command1.SetCaption(Text(one.caption));
+    desk.first->Command1.onClick = [&] { ++clicks; };
+    for (const char16_t key : one.keys) CHECK(desk.first->UserAccelerator(key));
+    CHECK(clicks == one.keys.size());
+  }
 }
 
 TEST_CASE("a letter that several controls share goes from one to the next and presses none") {

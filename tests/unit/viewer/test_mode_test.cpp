@@ -1,6 +1,7 @@
 #include <array>
 #include <doctest/doctest.h>
 #include <random>
+#include <vector>
 
 #include "tests/support/deck_desk.h"
 
@@ -207,6 +208,26 @@ TEST_CASE("choices with a gap show a gap, and their ampersands mark accelerators
   CHECK_FALSE(desk.deck->choices[1].Visible());
   CHECK(desk.deck->choices[2].Visible());
   CHECK_FALSE(desk.deck->choices[3].Visible());
+}
+
+TEST_CASE("choices in any script are judged, by the mouse and by their letters") {
+  const std::vector<Text> choices = {u"&\u0436\u0443\u043A", u"&\u05DE\u05D9\u05DD", u"&\u6C34",
+                                     u"\xD83D\xDE00"};
+  const TextView letters = u"\u0416\u05DE\u6C34";
+  for (int right = 0; right < 4; ++right) {
+    const auto place = static_cast<std::size_t>(right);
+    DeckDesk desk;
+    desk.AddChoice(u"\u4EC0\u4E48?", choices, Text(1, TextView(u"ABCD")[place]));
+    desk.Open(kExtendedDeck);
+    desk.deck->test.Press();
+    CHECK(desk.deck->choices[right].Caption() == choices[place]);
+    if (place < letters.size()) {
+      CHECK(desk.deck->UserAccelerator(letters[place]));
+    } else {
+      desk.deck->choices[right].Press();
+    }
+    CHECK(desk.deck->card.CardBanner() == u"CORRECT");
+  }
 }
 
 TEST_CASE("choices mean nothing outside a test, arrows nothing inside one") {
