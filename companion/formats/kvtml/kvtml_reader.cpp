@@ -5,6 +5,7 @@
 #include <string>
 #include <utility>
 
+#include "base/characters.h"
 #include "base/line_breaks.h"
 #include "base/utf8.h"
 #include "companion/cards/refused.h"
@@ -25,13 +26,6 @@ std::ptrdiff_t CountOfTags(const std::string& bytes) {
          std::count(bytes.begin(), bytes.end(), '=') / kAttributesOfTag;
 }
 
-/// In one of its nodes or over several.
-Text TextIn(const pugi::xml_node& element) {
-  std::string bytes;
-  for (const pugi::xml_node& child : element.children()) bytes += child.value();
-  return WithLineBreaks(FromUtf8(bytes));
-}
-
 /// The ids of the languages that make the sides; empty where there is no second one.
 struct SideLanguages {
   std::string front;
@@ -45,8 +39,11 @@ std::size_t LineOfOffset(std::string_view bytes, std::ptrdiff_t offset) {
 
 class KvtmlReader {
  public:
-  KvtmlReader(Source& source, Losses& losses)
-      : source_(source), losses_(losses), lines_(source.bytes, "<entry") {}
+  KvtmlReader(Source& source, const Conversion& conversion)
+      : source_(source),
+        losses_(conversion.losses),
+        codePage_(conversion.codePage),
+        lines_(source.bytes, "<entry") {}
 
   CardSet Read() {
     Parse();
@@ -73,6 +70,15 @@ class KvtmlReader {
       throw Refused({&source_.name, LineOfOffset(bytes, parsed.offset)},
                     std::string("it is no XML: ") + parsed.description());
     }
+  }
+
+  /// In one of its nodes or over several. Files are about that have texts of the code page among
+  /// those of UTF-8.
+  [[nodiscard]] Text TextIn(const pugi::xml_node& element) const {
+    std::string bytes;
+    for (const pugi::xml_node& child : element.children()) bytes += child.value();
+    const bool isUtf8 = Utf8Length(bytes) == bytes.size();
+    return WithLineBreaks(isUtf8 ? FromUtf8(bytes) : codePage_.Decode(bytes));
   }
 
   void TakeLanguages(const pugi::xml_node& identifiers) {
@@ -114,6 +120,7 @@ class KvtmlReader {
 
   Source& source_;
   Losses& losses_;
+  const CodePage& codePage_;
   TagLines lines_;
   pugi::xml_document document_;
   SideLanguages languages_;
@@ -123,7 +130,7 @@ class KvtmlReader {
 }  // namespace
 
 CardSet ReadKvtml(Source& source, const Conversion& conversion) {
-  return KvtmlReader(source, conversion.losses).Read();
+  return KvtmlReader(source, conversion).Read();
 }
 
 }  // namespace tessara

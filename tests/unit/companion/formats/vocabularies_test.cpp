@@ -30,6 +30,16 @@ TEST_CASE("the two languages of a vocabulary are the sides of the cards") {
   CHECK(desk.Told().empty());
 }
 
+TEST_CASE("a text of a vocabulary that is no UTF-8 is one of the code page") {
+  FormatDesk desk;
+  CHECK(CardsOf(
+            desk.Read(FileFormat::kKvtml,
+                      Vocabulary(kTwoLanguages,
+                                 "<entry><translation id=\"0\"><text>bj\xF6rn</text></translation>"
+                                 "<translation id=\"1\"><text>\xC3\xB6</text></translation>"
+                                 "</entry>"))) == Lines{"E|bj\xC3\xB6rn|\xC3\xB6"});
+}
+
 TEST_CASE("one language, or more than two, is told") {
   FormatDesk desk;
   const std::string entry =
