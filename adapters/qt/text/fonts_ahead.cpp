@@ -4,7 +4,25 @@
 
 namespace tessara {
 
-FontsAhead::FontsAhead() : reader_([] { FcInit(); }) {}
+namespace {
+
+/// Behind all fonts that the user's configuration names, before the order in which the others lie.
+constexpr const char* kColourEmojiFirst = R"(
+<fontconfig>
+  <match target="pattern">
+    <edit name="family" mode="append_last"><string>Noto Color Emoji</string></edit>
+  </match>
+</fontconfig>)";
+
+void ReadConfiguration() {
+  FcInit();
+  FcConfigParseAndLoadFromMemory(FcConfigGetCurrent(),
+                                 reinterpret_cast<const FcChar8*>(kColourEmojiFirst), FcFalse);
+}
+
+}  // namespace
+
+FontsAhead::FontsAhead() : reader_(ReadConfiguration) {}
 
 void FontsAhead::Wait() {
   reader_.join();
