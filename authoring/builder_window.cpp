@@ -21,6 +21,7 @@ BuilderWindow::BuilderWindow(AppContext& app, std::string name, Window<DeckWindo
   heading.SetFont({u"MS Sans Serif", 9.75});
   heading.SetForeColor(kBlue);
   arrows.Wire(&Button::onClick, [this](int arrow) { Page(arrow); });
+  SetPageButtons(arrows[kPreviousCard], arrows[kNextCard]);
 }
 
 void BuilderWindow::OnUnload(bool& /*cancel*/) {

@@ -35,8 +35,8 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication application(argc, argv);
   PrintModuleSource printing(FromUtf8(PROGRAM_FOLDER));
-  LazyPrintSurface surface(printing);
-  test::OfficeDesk desk(kCards, {nullptr, &surface});
+  LazyPrintSurface printer(printing);
+  test::OfficeDesk desk(kCards, {nullptr, &printer});
   for (int row = 1; row <= kCards; ++row) {
     desk.SetCard(row, u"Front " + DecimalText(row), u"Back " + DecimalText(row));
   }

@@ -10,7 +10,7 @@ endforeach()
 
 install(DIRECTORY data/pictures/generated/ DESTINATION ${programFolder}/pictures)
 install(DIRECTORY data/icons DESTINATION ${programFolder})
-install(FILES data/Notelet.ico DESTINATION ${programFolder})
+install(FILES data/Notelet.ico packaging/tessara.desktop packaging/tessara.xml DESTINATION ${programFolder})
 install(FILES ${CMAKE_BINARY_DIR}/Notelet.xlt ${CMAKE_BINARY_DIR}/TessaraHelp.chm
         DESTINATION ${programFolder} OPTIONAL)
 install(DIRECTORY ${CMAKE_BINARY_DIR}/samples DESTINATION ${programFolder})

@@ -11,6 +11,7 @@
 
 namespace tessara {
 
+class Button;
 class FormSlot;
 class WindowSystem;
 enum class FormAspect;
@@ -32,6 +33,8 @@ enum class WindowKey {
   kSpace,
   kKeep,  ///< Ctrl+Return: what was written is to be kept
 };
+
+enum class PageKey { kUp, kDown };
 
 enum class Modality { kModeless, kModal };
 
@@ -117,6 +120,10 @@ class Form {
   /// Return and Escape press the default and the cancel button. False where there is none.
   bool UserReturn();
   bool UserEscape();
+  /// Page Up and Page Down press the buttons that page. False where the window has none.
+  bool UserPage(PageKey key);
+  /// The key for help chooses the entry that offers it. False where the window's menus have none.
+  bool UserHelp();
   /// True where the window has taken the key; else it is the control's that has the focus.
   bool UserKey(WindowKey key);
   /// A file was dropped on the window.
@@ -156,6 +163,9 @@ class Form {
   /// The window's controls, in tab order and from back to front. Once, in the constructor.
   void AddControls(std::initializer_list<ControlSpec> specs);
   void AddMenus(std::initializer_list<MenuSpec> specs);
+  /// The buttons that page back and forward.
+  void SetPageButtons(Button& back, Button& forward);
+  void SetHelpEntry(MenuEntry& entry) { helpEntry_ = &entry; }
 
   virtual void OnLoad() {}
   /// May set `cancel` to keep the window.
@@ -198,6 +208,9 @@ class Form {
   bool shownBefore_ = false;
   std::vector<Control*> controls_;
   std::vector<MenuEntry*> menus_;
+  Button* pageBack_ = nullptr;
+  Button* pageForward_ = nullptr;
+  MenuEntry* helpEntry_ = nullptr;
   Control* focused_ = nullptr;
   std::vector<PaintedPicture> painted_;
 };

@@ -42,6 +42,11 @@ void Form::AddMenus(std::initializer_list<MenuSpec> specs) {
   }
 }
 
+void Form::SetPageButtons(Button& back, Button& forward) {
+  pageBack_ = &back;
+  pageForward_ = &forward;
+}
+
 Control* Form::FindControl(const std::string& name) const {
   const auto found = std::find_if(controls_.begin(), controls_.end(),
                                   [&name](const Control* c) { return c->Name() == name; });

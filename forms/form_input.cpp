@@ -115,6 +115,15 @@ bool Form::UserEscape() {
   return PressIfThere(FindButton(controls_, &Button::IsCancel));
 }
 
+bool Form::UserPage(PageKey key) {
+  return PressIfThere(key == PageKey::kUp ? pageBack_ : pageForward_);
+}
+
+bool Form::UserHelp() {
+  if (helpEntry_ != nullptr) helpEntry_->UserChoose();
+  return helpEntry_ != nullptr;
+}
+
 bool Form::UserKey(WindowKey key) {
   bool taken = false;
   if (TakesInput()) system_.Run([&] { taken = OnKey(key); });

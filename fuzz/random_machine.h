@@ -150,12 +150,13 @@ class RandomSpreadsheet : public SpreadsheetServer {
 struct RandomMachine {
   RandomMessages messages;
   RandomDialogs dialogs;
-  RandomSurface printer;
+  RandomSurface surface;
+  test::FakePrinter printer{surface};
   RandomSpreadsheet spreadsheet;
   test::FakeMachine fakes;
 
   explicit RandomMachine(ByteSource& bytes)
-      : messages(bytes), dialogs(bytes), printer(bytes), spreadsheet(bytes) {
+      : messages(bytes), dialogs(bytes), surface(bytes), spreadsheet(bytes) {
     fakes.files.folders.insert(u"/d");
     fakes.settings.values = {{u"ShowSplash", u"0"}, {u"FirstLoad", u"False"}};
   }

@@ -6,9 +6,6 @@ namespace tessara {
 
 enum class MousePointer { kDefault, kHourglass };
 
-/// State in which an opened program's window is to come up.
-enum class ShowState : int { kNormal = 1, kMaximised = 3 };
-
 /// Result codes of opening: failures are 32 and below.
 inline constexpr int kOpenFileNotFound = 2;
 inline constexpr int kOpenSucceeded = 33;
@@ -20,7 +17,7 @@ class Desktop {
   /// True where another instance runs in this session; otherwise this one now is the instance.
   virtual bool PreviousInstance() = 0;
   /// Opens a file or a link with its registered program and returns the result code.
-  virtual int Open(const Text& target, const Text& folder, ShowState state) = 0;
+  virtual int Open(const Text& target) = 0;
   /// Shows a compiled help file with its table of contents; a missing one is silent.
   virtual void ShowHelp(const Text& path) = 0;
   /// Tells the user something without a window: nothing waits for an answer.

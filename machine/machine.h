@@ -4,14 +4,14 @@
 
 namespace tessara {
 
-class ClassRegistry;
 class Clock;
 class CodePage;
 class Desktop;
 class Dialogs;
+class DocumentTypes;
 class FileSystem;
 class MessageBoxes;
-class PrintSurface;
+class Printer;
 class SafetyCopies;
 class SettingsStore;
 class SpreadsheetServer;
@@ -25,9 +25,9 @@ struct Machine {
   SafetyCopies& copies;
   Clock& clock;
   Desktop& desktop;
-  ClassRegistry& classes;
+  DocumentTypes& documentTypes;
   SpreadsheetServer& spreadsheet;
-  PrintSurface& printer;
+  Printer& printer;
   const CodePage& codePage;
   /// Folder of the executable, without a separator at its end.
   Text programFolder;

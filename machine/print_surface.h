@@ -38,4 +38,13 @@ class PrintSurface {
   virtual void DropDocument() = 0;
 };
 
+/// The printer's surface comes into being when something is first asked of it: few starts of the
+/// program print.
+class Printer {
+ public:
+  virtual ~Printer() = default;
+  /// Raises error 482 where there is nothing to print with.
+  [[nodiscard]] virtual PrintSurface& Surface() = 0;
+};
+
 }  // namespace tessara

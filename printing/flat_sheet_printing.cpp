@@ -1,5 +1,6 @@
 #include "base/conversion.h"
 #include "base/run_time_error.h"
+#include "base/skip_errors.h"
 #include "machine/print_surface.h"
 #include "printing/card_sheet.h"
 #include "printing/print_copies.h"
@@ -14,14 +15,15 @@ void PrintWindow::PrintFlatSheetDialog() {
     const PrinterChoice choice = ChoosePrinter(machine);
     PrintCopies(machine, choice.copies, [this] { PrnFlatSheet(); });
   } catch (const RunTimeError&) {
-    machine.printer.DropDocument();
+    // Without anything to print with, no document has begun.
+    SkipErrors([&machine] { machine.printer.Surface().DropDocument(); });
     TellCancelled(machine);
     app_.state.printing.cancelled = true;
   }
 }
 
 void PrintWindow::PrnFlatSheet() {
-  PrintSurface& surface = app_.machine.printer;
+  PrintSurface& surface = app_.machine.printer.Surface();
   PrintFlatHeader();
   for (int item = 1; item <= cards.Count(); ++item) {
     if (cards.Item(item).checked) PrintFlatCard(item);
@@ -33,7 +35,7 @@ void PrintWindow::PrnFlatSheet() {
 
 void PrintWindow::PrintFlatHeader() {
   const ProgramState& state = app_.state;
-  PrintSurface& surface = app_.machine.printer;
+  PrintSurface& surface = app_.machine.printer.Surface();
   surface.SetCopies(1);
   surface.SetFontName(u"Arial");
   surface.SetFontSize(9);
@@ -49,7 +51,7 @@ void PrintWindow::PrintFlatHeader() {
 /// The texts come from the row behind the card that the heading names.
 void PrintWindow::PrintFlatCard(int item) {
   ProgramState& state = app_.state;
-  PrintSurface& surface = app_.machine.printer;
+  PrintSurface& surface = app_.machine.printer.Surface();
   const auto row = static_cast<std::int16_t>(IntegerOf(cards.Item(item).text) + 1);
   surface.SetFontName(u"Arial");
   surface.SetFontSize(10);
@@ -67,7 +69,7 @@ void PrintWindow::PrintFlatCard(int item) {
 
 /// A wrapped text and, below it, the line that its empty result makes.
 void PrintWindow::PrintBlock(const Text& text) {
-  PrintSurface& surface = app_.machine.printer;
+  PrintSurface& surface = app_.machine.printer.Surface();
   surface.PrintLine(PrintWrapped(text, surface, app_.state.printing.flatLastY));
 }
 

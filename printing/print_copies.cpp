@@ -17,8 +17,9 @@ bool WantsCopy(Machine& machine, int copy, int copies) {
 
 PrinterChoice ChoosePrinter(Machine& machine) {
   PrinterChoice choice = machine.dialogs.AskPrinter();
-  machine.printer.SetDestination(choice.destination);
-  machine.printer.SetCopies(1);
+  PrintSurface& surface = machine.printer.Surface();
+  surface.SetDestination(choice.destination);
+  surface.SetCopies(1);
   return choice;
 }
 

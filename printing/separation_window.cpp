@@ -41,6 +41,7 @@ SeparationWindow::SeparationWindow(WindowSystem& windows)
   text.SetBackColor({.role = Color::Role::kWindow});
   back.onClick = [this] { GoOn(-1); };
   forward.onClick = [this] { GoOn(1); };
+  SetPageButtons(back, forward);
   close.onClick = [this] { Unload(); };
 }
 

@@ -63,8 +63,7 @@ void AboutBox::PointToLink() {
 }
 
 void AboutBox::WriteMail() {
-  SendMailTo(*this, u"mailto:tessara@example.org?SUBJECT=Re: Tessara 1.0", ShowState::kNormal,
-             app_.machine);
+  SendMailTo(u"mailto:tessara@example.org?SUBJECT=Re: Tessara 1.0", app_.machine);
   Unload();
 }
 

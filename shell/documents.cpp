@@ -1,12 +1,13 @@
 #include "shell/documents.h"
 
+#include "machine/desktop.h"
 #include "machine/message_box.h"
 #include "machine/program_file.h"
 
 namespace tessara {
 
 int OpenWithShell(const Text& path, const Machine& machine) {
-  const int result = machine.desktop.Open(path, u"C:\\", ShowState::kMaximised);
+  const int result = machine.desktop.Open(path);
   if (result == kOpenFileNotFound) {
     machine.messages.Show(path + u" was not found in the Tessara program directory.", kOkOnly,
                           u"File Not Found");
@@ -22,9 +23,8 @@ int OpenQuickStart(const Machine& machine) {
   return OpenWithShell(ProgramFile(machine, u"QuickStartDocument.wri"), machine);
 }
 
-void SendMailTo(const Form& /*form*/, const Text& address, ShowState showCommand,
-                const Machine& machine) {
-  machine.desktop.Open(address, u"", showCommand);
+void SendMailTo(const Text& address, const Machine& machine) {
+  machine.desktop.Open(address);
 }
 
 }  // namespace tessara

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "forms/form.h"
-#include "machine/desktop.h"
 #include "machine/machine.h"
 
 namespace tessara {
@@ -14,8 +12,7 @@ int OpenWithShell(const Text& path, const Machine& machine);
 int OpenTearingSheet(const Machine& machine);
 int OpenQuickStart(const Machine& machine);
 
-/// Opens an address of mail on behalf of the window.
-void SendMailTo(const Form& form, const Text& address, ShowState showCommand,
-                const Machine& machine);
+/// Opens an address of mail.
+void SendMailTo(const Text& address, const Machine& machine);
 
 }  // namespace tessara

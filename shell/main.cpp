@@ -2,14 +2,14 @@
 
 #include <QIcon>
 #include <filesystem>
+#include <glib.h>
 #include <optional>
 #include <string>
 #include <system_error>
 
-#include "adapters/freedesktop/document_registry.h"
 #include "adapters/freedesktop/notifications.h"
 #include "adapters/freedesktop/update_tools.h"
-#include "adapters/freedesktop/user_folders.h"
+#include "adapters/freedesktop/user_document_types.h"
 #include "adapters/libreoffice/loader/loaded_spreadsheet.h"
 #include "adapters/posix/code_page_of_locale.h"
 #include "adapters/posix/copies/posix_safety_copies.h"
@@ -58,12 +58,6 @@ void NameApplication(const fs::path& folder) {
       QIcon(QString::fromStdString((folder / "icons/hicolor/48x48/apps/tessara.png").string())));
 }
 
-/// The user's folder for safety copies; empty where there is no home.
-fs::path CopiesFolder() {
-  const fs::path state = UserStateFolder();
-  return state.empty() ? state : state / "Tessara" / "copies";
-}
-
 int RunTessara(int argc, char** argv) {
   FontsAhead fonts;
   GuardedApplication application(argc, argv);
@@ -74,20 +68,20 @@ int RunTessara(int argc, char** argv) {
   const Text folderText = FromUtf8(folder.string());
   const CodePage codePage = CodePageOfLocale();
   PosixFileSystem files;
-  PosixSafetyCopies copies(CopiesFolder());
+  PosixSafetyCopies copies(fs::path(g_get_user_state_dir()) / "Tessara" / "copies");
   PosixClock clock;
   PrintModuleSource printing(folderText);
   LazyPrintSurface printer(printing);
   QtMessageBoxes messages;
   QtDialogs dialogs(printing);
-  QtSettingsStore settings;
+  QtSettingsStore settings(fs::path(g_get_user_config_dir()) / "Tessara.conf");
   QtDesktop desktop(
       [&folderText](const Text& path) { ShowHelpWithModule(folderText, path); },
       [&folder](const Text& title, const Text& text) { NotifyUser(folder, title, text); });
-  DocumentRegistry classes({UserDataFolder(), folder, "tessara"}, StartUpdateTools);
+  UserDocumentTypes documentTypes(g_get_user_data_dir(), StartUpdateTools);
   LoadedSpreadsheet spreadsheet(folderText);
-  Machine machine{messages, dialogs, settings,    files,   copies,   clock,
-                  desktop,  classes, spreadsheet, printer, codePage, folderText};
+  Machine machine{messages, dialogs,       settings,    files,   copies,   clock,
+                  desktop,  documentTypes, spreadsheet, printer, codePage, folderText};
   Program program(machine);
   application.SetWindows(program.Windows());
   messages.SetWindows(program.Windows());

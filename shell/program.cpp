@@ -49,7 +49,7 @@ Program::Program(Machine& machine)
 
 Machine Program::WithKeeping(Machine& given) {
   return {messages_,         dialogs_,      given.settings, given.files,
-          given.copies,      given.clock,   given.desktop,  given.classes,
+          given.copies,      given.clock,   given.desktop,  given.documentTypes,
           given.spreadsheet, given.printer, given.codePage, given.programFolder};
 }
 

@@ -45,6 +45,7 @@ void ProgramFrame::PlaceMenuEntries() {
       {&about, &helpMenu, u"&About"},
       {&separatingCards, &helpMenu, u"Separating the cards"},
   });
+  SetHelpEntry(helpTopics);
   // By its keys it is the frame's close box.
   exit.LetKeysWorkAlways();
 }

@@ -93,6 +93,7 @@ void DeckWindow::PlaceMenuEntries() {
       {&about, &helpMenu, u"&About"},
       {&separatingCards, &helpMenu, u"Separating the cards"},
   });
+  SetHelpEntry(helpTopics);
   saveDeck.SetEnabled(false);
   card.SetHint(u"No cards yet: " + PlainCaption(fileMenu.Caption()) + u" > " +
                PlainCaption(createOrEditCard.Caption()) + u" writes the first one.");
@@ -100,6 +101,7 @@ void DeckWindow::PlaceMenuEntries() {
 
 void DeckWindow::WireControls() {
   arrows.Wire(&Button::onClick, [this](int arrow) { Page(arrow); });
+  SetPageButtons(arrows[kPreviousCard], arrows[kNextCard]);
   nextOrScore.onClick = [this] { NextQuestionOrScore(); };
   flip.onClick = [this] { FlipCard(); };
   closeDeck.onClick = [this] { Unload(); };

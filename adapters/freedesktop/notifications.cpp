@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <string>
 
-#include "adapters/freedesktop/detached_process.h"
+#include "adapters/posix/process/start_process.h"
 #include "base/utf8.h"
 
 namespace tessara {

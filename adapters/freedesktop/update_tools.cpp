@@ -1,26 +1,24 @@
 #include "adapters/freedesktop/update_tools.h"
 
-#include <string>
-
-#include "adapters/freedesktop/detached_process.h"
-#include "adapters/freedesktop/document_files.h"
+#include "adapters/posix/process/start_process.h"
 
 namespace tessara {
 
 namespace {
 
-std::string Script() {
-  return std::string(R"(update-mime-database "$1/mime"
+/// Its arguments are the folder, the entry and the types.
+constexpr const char* kScript = R"(update-mime-database "$1/mime"
 update-desktop-database "$1/applications"
 gtk-update-icon-cache -q -t -f "$1/icons/hicolor"
-xdg-mime default )") +
-         kDesktopEntryName + " " + kDeckMimeType + "\n";
-}
+IFS=';'
+xdg-mime default "$2" $3
+)";
 
 }  // namespace
 
-void StartUpdateTools(const std::filesystem::path& userData) {
-  StartDetached({"/bin/sh", "-c", Script(), "sh", userData.string()});
+void StartUpdateTools(const UserDocumentTypes::Declared& declared) {
+  StartDetached({"/bin/sh", "-c", kScript, "sh", declared.userData.string(), declared.entry,
+                 declared.documentTypes});
 }
 
 }  // namespace tessara

@@ -1,11 +1,11 @@
 #pragma once
 
-#include <filesystem>
+#include "adapters/freedesktop/user_document_types.h"
 
 namespace tessara {
 
 /// Starts the desktop's own tools that make new types, entries and icons known, and makes the
-/// program the default one for decks. Returns at once; a missing tool is silent.
-void StartUpdateTools(const std::filesystem::path& userData);
+/// entry's program the default one for its documents. Returns at once; a missing tool is silent.
+void StartUpdateTools(const UserDocumentTypes::Declared& declared);
 
 }  // namespace tessara

@@ -1,14 +1,14 @@
 #include "adapters/libreoffice/cleaner.h"
 
 #include <array>
-#include <fcntl.h>
 #include <poll.h>
-#include <spawn.h>
 #include <string>
 #include <sys/socket.h>
 #include <sys/wait.h>
+#include <system_error>
 #include <unistd.h>
 
+#include "adapters/posix/process/start_process.h"
 #include "adapters/posix/system_call.h"
 #include "base/run_time_error.h"
 
@@ -24,49 +24,12 @@ constexpr const char* kScript =
     "rm -f -- \"$@\"\n"
     "rm -rf -- \"$0\"\n";
 
-constexpr int kFirstOwnFile = 3;
-
-/// What the process has open, and that it is of no group: a signal to the program's is not for it.
-class Surroundings {
- public:
-  explicit Surroundings(int input) {
-    posix_spawn_file_actions_init(&files_);
-    posix_spawn_file_actions_adddup2(&files_, input, STDIN_FILENO);
-    posix_spawn_file_actions_addopen(&files_, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
-    posix_spawn_file_actions_addopen(&files_, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-    posix_spawn_file_actions_addclosefrom_np(&files_, kFirstOwnFile);
-    posix_spawnattr_init(&attributes_);
-    posix_spawnattr_setflags(&attributes_, POSIX_SPAWN_SETSID);
-  }
-  Surroundings(const Surroundings&) = delete;
-  Surroundings& operator=(const Surroundings&) = delete;
-  ~Surroundings() {
-    posix_spawn_file_actions_destroy(&files_);
-    posix_spawnattr_destroy(&attributes_);
-  }
-
-  /// The process's number, or 0.
-  pid_t Start(const char* program, char* const* arguments) const {
-    pid_t process = 0;
-    const int error = posix_spawn(&process, program, &files_, &attributes_, arguments, environ);
-    return error == 0 ? process : 0;
-  }
-
- private:
-  posix_spawn_file_actions_t files_{};
-  posix_spawnattr_t attributes_{};
-};
-
-pid_t StartShell(int input, const std::filesystem::path& folder,
-                 const std::vector<std::filesystem::path>& files) {
-  std::vector<std::string> command{"sh", "-c", kScript, folder.string()};
-  command.reserve(command.size() + files.size());
-  for (const std::filesystem::path& file : files) command.push_back(file.string());
-  std::vector<char*> arguments;
-  arguments.reserve(command.size() + 1);
-  for (std::string& argument : command) arguments.push_back(argument.data());
-  arguments.push_back(nullptr);
-  return Surroundings(input).Start("/bin/sh", arguments.data());
+Launch Shell(int input, const std::filesystem::path& folder,
+             const std::vector<std::filesystem::path>& files) {
+  Launch launch{{"/bin/sh", "-c", kScript, folder.string()}};
+  for (const std::filesystem::path& file : files) launch.command.push_back(file.string());
+  launch.input = input;
+  return launch;
 }
 
 /// Waits until the other end is closed, but no longer than that. False where it is not.
@@ -85,12 +48,14 @@ Cleaner::Cleaner(const std::filesystem::path& folder,
   if (socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0, ends.data()) != 0) {
     throw RunTimeError(ErrorNumber::kAutomationError);
   }
-  process_ = StartShell(ends[1], folder, files);
-  close(ends[1]);
-  input_ = ends[0];
-  if (process_ != 0) return;
-  close(input_);
-  throw RunTimeError(ErrorNumber::kAutomationError);
+  Descriptor ownEnd(ends[0]);
+  const Descriptor otherEnd(ends[1]);
+  try {
+    process_ = StartProcess(Shell(otherEnd.Get(), folder, files));
+  } catch (const std::system_error&) {
+    throw RunTimeError(ErrorNumber::kAutomationError);
+  }
+  input_ = ownEnd.Release();
 }
 
 Cleaner::~Cleaner() {

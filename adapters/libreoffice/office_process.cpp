@@ -2,11 +2,9 @@
 
 #include <csignal>
 #include <cstdlib>
-#include <fcntl.h>
 #include <string_view>
-#include <sys/prctl.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
+#include <system_error>
 #include <unistd.h>
 #include <utility>
 #include <vector>
@@ -15,6 +13,7 @@
 #include "adapters/libreoffice/file_url.h"
 #include "adapters/libreoffice/office_profile.h"
 #include "adapters/libreoffice/server_sockets.h"
+#include "adapters/posix/process/start_process.h"
 #include "base/run_time_error.h"
 
 namespace tessara {
@@ -25,38 +24,20 @@ namespace {
 constexpr int kRestartAfterCrash = 79;
 constexpr int kRestart = 81;
 
-/// The first one behind standard input, output and error: it tells the cleaner that the server
-/// lives.
-constexpr int kSignOfLife = 3;
+/// What the server makes is nobody else's, and it dies with the program, also with one that died
+/// before the server was told so. Behind the program's number stands the server's command.
+constexpr const char* kScript =
+    "umask 077\n"
+    "exec setpriv --pdeathsig KILL"
+    " /bin/sh -c '[ \"$PPID\" = \"$0\" ] && exec \"$@\"' \"$@\"";
 
-/// What the server makes is nobody else's.
-constexpr mode_t kMask = S_IRWXG | S_IRWXO;
-
-/// A command with its environment as the system wants them: made before the fork, because behind
-/// it nothing may be allocated.
-class Command {
- public:
-  Command(std::vector<std::string> arguments, std::vector<std::string> environment)
-      : arguments_(std::move(arguments)), environment_(std::move(environment)) {
-    for (std::string& argument : arguments_) argv_.push_back(argument.data());
-    for (std::string& variable : environment_) envp_.push_back(variable.data());
-    argv_.push_back(nullptr);
-    envp_.push_back(nullptr);
-  }
-  Command(const Command&) = delete;
-  Command& operator=(const Command&) = delete;
-
-  void Execute() const { execve(argv_.front(), argv_.data(), envp_.data()); }
-
- private:
-  std::vector<std::string> arguments_;
-  std::vector<std::string> environment_;
-  std::vector<char*> argv_;
-  std::vector<char*> envp_;
-};
-
-std::vector<std::string> Arguments(const std::string& office, const std::filesystem::path& folder) {
-  return {office + "/soffice.bin",
+std::vector<std::string> Command(const std::string& office, const std::filesystem::path& folder) {
+  return {"/bin/sh",
+          "-c",
+          kScript,
+          "sh",
+          std::to_string(getpid()),
+          office + "/soffice.bin",
           "--headless",
           "--invisible",
           "--norestore",
@@ -87,27 +68,6 @@ std::vector<std::string> Environment(const std::string& folder,
   return environment;
 }
 
-void KeepOpen(int signOfLife) {
-  const bool there = signOfLife == kSignOfLife;
-  there ? fcntl(signOfLife, F_SETFD, 0) : dup2(signOfLife, kSignOfLife);
-}
-
-/// Between fork and execution: only what is safe there.
-[[noreturn]] void BecomeServer(const Command& command, pid_t parent, int signOfLife) {
-  prctl(PR_SET_PDEATHSIG, SIGKILL);
-  if (getppid() != parent) _exit(1);  // died before the line above
-  umask(kMask);
-  KeepOpen(signOfLife);
-  const int nothing = open("/dev/null", O_RDWR);
-  dup2(nothing, STDIN_FILENO);
-  dup2(nothing, STDOUT_FILENO);
-  dup2(nothing, STDERR_FILENO);
-  close_range(kSignOfLife + 1, ~0U, 0);
-  signal(SIGPIPE, SIG_DFL);
-  command.Execute();
-  _exit(1);
-}
-
 }  // namespace
 
 OfficeProcess::OfficeProcess(std::string officeProgramFolder)
@@ -124,13 +84,15 @@ OfficeProcess::~OfficeProcess() {
 }
 
 void OfficeProcess::Start() {
-  const Command command(Arguments(officeProgramFolder_, folder_.Path()),
-                        Environment(folder_.Path().string(), fonts_));
-  const pid_t parent = getpid();
-  const pid_t child = fork();
-  if (child < 0) throw RunTimeError(ErrorNumber::kAutomationError);
-  if (child == 0) BecomeServer(command, parent, folder_.SignOfLife());
-  process_ = child;
+  Launch launch{Command(officeProgramFolder_, folder_.Path())};
+  launch.environment = Environment(folder_.Path().string(), fonts_);
+  // It tells the cleaner that the server lives.
+  launch.opened = folder_.SignOfLife();
+  try {
+    process_ = StartProcess(launch);
+  } catch (const std::system_error&) {
+    throw RunTimeError(ErrorNumber::kAutomationError);
+  }
 }
 
 bool OfficeProcess::Running() {

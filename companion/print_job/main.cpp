@@ -6,11 +6,12 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <glib.h>
 #include <qlogging.h>
 #include <string>
 #include <vector>
 
-#include "adapters/freedesktop/document_registry.h"
+#include "adapters/freedesktop/user_document_types.h"
 #include "adapters/libreoffice/loader/loaded_spreadsheet.h"
 #include "adapters/posix/code_page_of_locale.h"
 #include "adapters/posix/copies/posix_safety_copies.h"
@@ -99,12 +100,12 @@ int RunPrint(int argc, char** argv) {
   LazyPrintSurface printer(printing);
   AnsweredBoxes messages;
   AnsweredDialogs dialogs(request.pdfFile);
-  QtSettingsStore settings;
+  QtSettingsStore settings(fs::path(g_get_user_config_dir()) / "Tessara.conf");
   QtDesktop desktop([](const Text&) {}, [](const Text&, const Text&) {});
-  DocumentRegistry classes({fs::path(), folder, "tessara"}, [](const auto&...) {});
+  UserDocumentTypes documentTypes(fs::path(), [](const auto&) {});
   LoadedSpreadsheet spreadsheet(folderText);
-  Machine machine{messages, dialogs, settings,    files,   copies,   clock,
-                  desktop,  classes, spreadsheet, printer, codePage, folderText};
+  Machine machine{messages, dialogs,       settings,    files,   copies,   clock,
+                  desktop,  documentTypes, spreadsheet, printer, codePage, folderText};
   return Print(machine, messages, request) ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 

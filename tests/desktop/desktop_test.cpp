@@ -110,7 +110,7 @@ TEST_CASE("Where no lock can be made nothing is in the way") {
 
 TEST_CASE("Opening a file that is not there is told as such") {
   QtDesktop desktop(nullptr);
-  CHECK(desktop.Open(u"/no such file.bmp", u"C:\\", ShowState::kMaximised) == kOpenFileNotFound);
+  CHECK(desktop.Open(u"/no such file.bmp") == kOpenFileNotFound);
 }
 
 TEST_CASE("Help is shown where its file is, and else silently not") {

@@ -21,17 +21,17 @@ using namespace tessara::test;
 
 TEST_CASE("The settings keep to what the program counts on") {
   const ConfigFolder config;
-  QtSettingsStore store;
+  QtSettingsStore store(config.File());
   CheckSettingsContract(store);
 }
 
 TEST_CASE("A missing key gives the default, an empty value is a value") {
   const ConfigFolder config;
-  QtSettingsStore store;
+  QtSettingsStore store(config.File());
   CHECK(store.Read(u"ShowSplash", u"1") == u"1");
   store.Write(u"ShowSplash", u"");
   CHECK(store.Read(u"ShowSplash", u"1").empty());
-  CHECK(QtSettingsStore().Read(u"ShowSplash", u"1").empty());
+  CHECK(QtSettingsStore(config.File()).Read(u"ShowSplash", u"1").empty());
 }
 
 TEST_CASE("Texts come back as they were stored") {
@@ -39,14 +39,14 @@ TEST_CASE("Texts come back as they were stored") {
   for (const Text& text : {Text(u"<NONE>"), Text(u"a, b,c"), Text(u" blanks "), Text(u"@Size(1 2)"),
                            Text(u"\"quoted\"; %x \\ é\u20AC"), Text(u"False"), Text(u"1.0"),
                            Text(u"\r\n\\n"), Text(u"\""), Text(u"[x]=y"), Text(u"# x")}) {
-    QtSettingsStore().Write(u"BackDrop", text);
-    CHECK(QtSettingsStore().Read(u"BackDrop", u"") == text);
+    QtSettingsStore(config.File()).Write(u"BackDrop", text);
+    CHECK(QtSettingsStore(config.File()).Read(u"BackDrop", u"") == text);
   }
 }
 
 TEST_CASE("Settings stand in the user's file, in the section Settings") {
   const ConfigFolder config;
-  QtSettingsStore().Write(u"BackDrop", u"DESERT");
+  QtSettingsStore(config.File()).Write(u"BackDrop", u"DESERT");
   QFile file(config.Path());
   REQUIRE(file.open(QIODevice::ReadOnly));
   CHECK(file.readAll() == "[Settings]\nBackDrop=DESERT\n");
@@ -54,17 +54,16 @@ TEST_CASE("Settings stand in the user's file, in the section Settings") {
 
 TEST_CASE("The first write of a new user makes the configuration folder") {
   const QTemporaryDir home;
-  const QString folder = home.filePath("new/.config");
-  const EnvironmentVariable variable("XDG_CONFIG_HOME", folder.toStdString());
-  QtSettingsStore().Write(u"FirstLoad", u"False");
-  CHECK(QtSettingsStore().Read(u"FirstLoad", u"True") == u"False");
-  CHECK(QFileInfo::exists(folder + "/Tessara.conf"));
+  const QString file = home.filePath("new/.config/Tessara.conf");
+  QtSettingsStore(file.toStdString()).Write(u"FirstLoad", u"False");
+  CHECK(QtSettingsStore(file.toStdString()).Read(u"FirstLoad", u"True") == u"False");
+  CHECK(QFileInfo::exists(file));
 }
 
 TEST_CASE("Values that somebody wrote by hand are read as texts") {
   const ConfigFolder config;
   config.Write("# mine\n[Settings]\r\nBackDrop = a,b\n\nFirstLoad=true\nShowSplash=0");
-  const QtSettingsStore store;
+  const QtSettingsStore store(config.File());
   CHECK(store.Read(u"BackDrop", u"") == u"a,b");
   CHECK(store.Read(u"FirstLoad", u"") == u"true");
   CHECK(store.Read(u"ShowSplash", u"") == u"0");
@@ -73,7 +72,7 @@ TEST_CASE("Values that somebody wrote by hand are read as texts") {
 TEST_CASE("What else somebody wrote by hand stays when a setting is written") {
   const ConfigFolder config;
   config.Write("# mine\n\n[Settings]\nBackDrop=DESERT\n# blue\nMine=1\n\n[Other]\nBackDrop=x;y\n");
-  QtSettingsStore().Write(u"BackDrop", u"GRANITE");
+  QtSettingsStore(config.File()).Write(u"BackDrop", u"GRANITE");
   CHECK(config.Read() ==
         "# mine\n\n[Settings]\nBackDrop=GRANITE\n# blue\nMine=1\n\n[Other]\nBackDrop=x;y\n");
 }
@@ -84,9 +83,9 @@ TEST_CASE("Settings that are no key file give the defaults, and are set aside by
     CAPTURE(broken);
     const ConfigFolder config;
     config.Write(broken);
-    CHECK(QtSettingsStore().Read(u"BackDrop", u"DEFAULT") == u"DEFAULT");
+    CHECK(QtSettingsStore(config.File()).Read(u"BackDrop", u"DEFAULT") == u"DEFAULT");
     CHECK(config.Read() == broken);
-    QtSettingsStore().Write(u"BackDrop", u"GRANITE");
+    QtSettingsStore(config.File()).Write(u"BackDrop", u"GRANITE");
     CHECK(config.Read() == "[Settings]\nBackDrop=GRANITE\n");
     CHECK(config.Names() == QStringList({"Tessara.conf", "Tessara.conf.unreadable"}));
     CHECK(config.Read("Tessara.conf.unreadable") == broken);
@@ -98,7 +97,7 @@ TEST_CASE("Nothing in a value is interpreted, and one that is no text gives the 
   config.Write(
       "[Settings]\nBackDrop=\xFF\nShowSplash=\\x\nFirstLoad=@Variant(\\0\\0)\nMine=1\n"
       "Mixed=\\s\\x\n");
-  const QtSettingsStore store;
+  const QtSettingsStore store(config.File());
   CHECK(store.Read(u"BackDrop", u"DEFAULT") == u"DEFAULT");
   CHECK(store.Read(u"ShowSplash", u"1") == u"\\x");
   CHECK(store.Read(u"FirstLoad", u"True") == u"@Variant(\\0\\0)");
@@ -107,8 +106,7 @@ TEST_CASE("Nothing in a value is interpreted, and one that is no text gives the 
 }
 
 TEST_CASE("A store that can't be written stays as it is, silently") {
-  const EnvironmentVariable config("XDG_CONFIG_HOME", "/proc/no such folder");
-  QtSettingsStore().Write(u"BackDrop", u"DESERT");
+  QtSettingsStore("/proc/no such folder/Tessara.conf").Write(u"BackDrop", u"DESERT");
   CHECK_FALSE(QFile::exists("/proc/no such folder"));
 }
 
@@ -117,9 +115,12 @@ TEST_CASE("A store whose writer is killed has the old value or the new one, and 
   const ConfigFolder config(kInMemory);
   for (int stop = 1, ended = 0; ended == 0; ++stop) {
     CAPTURE(stop);
-    QtSettingsStore().Write(u"BackDrop", u"DESERT");
-    ended = test::KilledAt(stop, [] { QtSettingsStore().Write(u"BackDrop", u"GRANITE"); }) ? 0 : 1;
-    const Text kept = QtSettingsStore().Read(u"BackDrop", u"");
+    QtSettingsStore(config.File()).Write(u"BackDrop", u"DESERT");
+    ended =
+        test::KilledAt(stop, [&] { QtSettingsStore(config.File()).Write(u"BackDrop", u"GRANITE"); })
+            ? 0
+            : 1;
+    const Text kept = QtSettingsStore(config.File()).Read(u"BackDrop", u"");
     CHECK((kept == u"DESERT" || kept == u"GRANITE"));
     // The next start has removed what was left.
     CHECK(config.Names() == QStringList("Tessara.conf"));
@@ -128,21 +129,21 @@ TEST_CASE("A store whose writer is killed has the old value or the new one, and 
 
 TEST_CASE("Files beside the settings that no killed writer has left stay") {
   const ConfigFolder config;
-  QtSettingsStore().Write(u"BackDrop", u"DESERT");
+  QtSettingsStore(config.File()).Write(u"BackDrop", u"DESERT");
   const QStringList mine{"Tessara.conf.backup", "Tessara.conf.old", "Tessara.confirm"};
   for (const QString& name : mine)
     REQUIRE(QFile::copy(config.Path(), config.folder.filePath(name)));
-  const QtSettingsStore next;
+  const QtSettingsStore next(config.File());
   CHECK(config.Names() == QStringList("Tessara.conf") + mine);
 }
 
 TEST_CASE("A writer that is alive keeps its lock and what it writes") {
   const ConfigFolder config;
-  QtSettingsStore().Write(u"BackDrop", u"DESERT");
+  QtSettingsStore(config.File()).Write(u"BackDrop", u"DESERT");
   QLockFile lock(config.Path() + ".lock");
   REQUIRE(lock.lock());
   REQUIRE(QFile::copy(config.Path(), config.Path() + ".aBcDeF"));
-  const QtSettingsStore next;
+  const QtSettingsStore next(config.File());
   CHECK(config.Names() ==
         QStringList({"Tessara.conf", "Tessara.conf.aBcDeF", "Tessara.conf.lock"}));
 }
@@ -151,8 +152,8 @@ TEST_CASE("Whichever call of a write is refused, every setting has its old value
   const ConfigFolder config(kInMemory);
   // Written anew, so that the store has to read it anew.
   const auto prepare = [&] { config.Write("[Settings]\nBackDrop=DESERT\nShowSplash=0\n"); };
-  const auto write = [] {
-    QtSettingsStore().Write(u"BackDrop", u"GRANITE");
+  const auto write = [&] {
+    QtSettingsStore(config.File()).Write(u"BackDrop", u"GRANITE");
     return 0;
   };
   const int calls = RefuseEachInTurn(prepare, write, [&](int result) {
@@ -164,7 +165,7 @@ TEST_CASE("Whichever call of a write is refused, every setting has its old value
   CHECK(calls > 20);
   prepare();
   write();
-  CHECK(QtSettingsStore().Read(u"BackDrop", u"") == u"GRANITE");
+  CHECK(QtSettingsStore(config.File()).Read(u"BackDrop", u"") == u"GRANITE");
   CHECK(config.Names() == QStringList("Tessara.conf"));
 }
 
@@ -175,8 +176,8 @@ TEST_CASE("Whichever call of a write is refused, what was broken by hand is not 
     config.Write("nonsense");
     QFile::remove(config.folder.filePath(kAside));
   };
-  const auto write = [] {
-    QtSettingsStore().Write(u"BackDrop", u"GRANITE");
+  const auto write = [&] {
+    QtSettingsStore(config.File()).Write(u"BackDrop", u"GRANITE");
     return 0;
   };
   RefuseEachInTurn(prepare, write, [&](int) {
@@ -186,13 +187,13 @@ TEST_CASE("Whichever call of a write is refused, what was broken by hand is not 
 
 TEST_CASE("Whichever call of a read is refused, the store gives its value or the default") {
   const ConfigFolder config(kInMemory);
-  QtSettingsStore().Write(u"BackDrop", u"GRANITE");
-  const auto read = [] {
-    const Text kept = QtSettingsStore().Read(u"BackDrop", u"DEFAULT");
+  QtSettingsStore(config.File()).Write(u"BackDrop", u"GRANITE");
+  const auto read = [&] {
+    const Text kept = QtSettingsStore(config.File()).Read(u"BackDrop", u"DEFAULT");
     return kept == u"GRANITE" || kept == u"DEFAULT" ? 0 : 1;
   };
   CHECK(RefuseEachInTurn([] {}, read, [](int result) { CHECK(result == 0); }) > 1);
-  CHECK(QtSettingsStore().Read(u"BackDrop", u"DEFAULT") == u"GRANITE");
+  CHECK(QtSettingsStore(config.File()).Read(u"BackDrop", u"DEFAULT") == u"GRANITE");
 }
 
 TEST_CASE("A lock that a killed writer has left empty does not hold up the next one") {
@@ -202,10 +203,10 @@ TEST_CASE("A lock that a killed writer has left empty does not hold up the next 
   lock.close();
   QElapsedTimer timer;
   timer.start();
-  QtSettingsStore().Write(u"BackDrop", u"DESERT");
+  QtSettingsStore(config.File()).Write(u"BackDrop", u"DESERT");
   constexpr int kFarBelowTheHalfMinute = 10000;
   CHECK(timer.elapsed() < kFarBelowTheHalfMinute);
-  CHECK(QtSettingsStore().Read(u"BackDrop", u"") == u"DESERT");
+  CHECK(QtSettingsStore(config.File()).Read(u"BackDrop", u"") == u"DESERT");
   CHECK_FALSE(lock.exists());
 }
 
@@ -213,8 +214,8 @@ TEST_CASE("A lock that a killed writer has left empty does not hold up the next 
 void CheckDefaultsAtOnce(const ConfigFolder& config) {
   QElapsedTimer watch;
   watch.start();
-  CHECK(QtSettingsStore().Read(u"BackDrop", u"DEFAULT") == u"DEFAULT");
-  QtSettingsStore().Write(u"BackDrop", u"GRANITE");
+  CHECK(QtSettingsStore(config.File()).Read(u"BackDrop", u"DEFAULT") == u"DEFAULT");
+  QtSettingsStore(config.File()).Write(u"BackDrop", u"GRANITE");
   CHECK(watch.elapsed() < 5000);
   CHECK(QFileInfo::exists(config.Path()));
 }
@@ -246,28 +247,19 @@ TEST_CASE("A folder in the place of the lock keeps no setting from being written
   REQUIRE(QDir().mkpath(config.Path() + ".lock/inside"));
   QElapsedTimer watch;
   watch.start();
-  QtSettingsStore().Write(u"BackDrop", u"GRANITE");
+  QtSettingsStore(config.File()).Write(u"BackDrop", u"GRANITE");
   CHECK(watch.elapsed() < 5000);
-  CHECK(QtSettingsStore().Read(u"BackDrop", u"") == u"GRANITE");
+  CHECK(QtSettingsStore(config.File()).Read(u"BackDrop", u"") == u"GRANITE");
 }
 
 TEST_CASE("A writer that never ends is not waited for, and the settings stay") {
   const ConfigFolder config;
-  QtSettingsStore().Write(u"BackDrop", u"DESERT");
+  QtSettingsStore(config.File()).Write(u"BackDrop", u"DESERT");
   QLockFile other(config.Path() + ".lock");
   REQUIRE(other.lock());
   QElapsedTimer watch;
   watch.start();
-  QtSettingsStore().Write(u"BackDrop", u"GRANITE");
+  QtSettingsStore(config.File()).Write(u"BackDrop", u"GRANITE");
   CHECK(watch.elapsed() < 10000);
-  CHECK(QtSettingsStore().Read(u"BackDrop", u"") == u"DESERT");
-}
-
-TEST_CASE("A configuration folder by a relative path counts as missing") {
-  const QTemporaryDir home;
-  const EnvironmentVariable homeFolder("HOME", home.path().toStdString());
-  const EnvironmentVariable config("XDG_CONFIG_HOME", "relative");
-  QtSettingsStore().Write(u"BackDrop", u"GRANITE");
-  CHECK_FALSE(QFileInfo::exists("relative"));
-  CHECK(QFileInfo::exists(home.filePath(".config/Tessara.conf")));
+  CHECK(QtSettingsStore(config.File()).Read(u"BackDrop", u"") == u"DESERT");
 }

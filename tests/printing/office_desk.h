@@ -23,7 +23,7 @@ namespace tessara::test {
 /// What a desk uses in place of a dialog that is answered beforehand and a recording surface.
 struct Devices {
   Dialogs* dialogs = nullptr;
-  PrintSurface* printer = nullptr;
+  Printer* printer = nullptr;
 };
 
 /// A print window on the real spreadsheet server. Card 1 reads "F1" and "B1", and so on.
@@ -34,6 +34,7 @@ class OfficeDesk {
   WatchedServer server{office};
   FakeMachine fakes;
   RecordingPrintSurface surface;
+  FakePrinter printer{surface};
   Machine machine;
   WindowSystem windows{fakes.messages};
   HeadlessRenderer renderer;
@@ -89,7 +90,7 @@ class OfficeDesk {
  private:
   Machine WithServer(const Devices& devices) {
     fakes.spreadsheet = &server;
-    fakes.printer = &surface;
+    fakes.printer = &printer;
     if (devices.printer != nullptr) fakes.printer = devices.printer;
     if (devices.dialogs != nullptr) fakes.chooser = devices.dialogs;
     return fakes.Get();

@@ -32,11 +32,11 @@ using Mode = OfficeDesk::Mode;
 struct PaperDesk {
   PrintModuleSource printing{FromUtf8(PROGRAM_FOLDER)};
   QtDialogs dialogs{printing};
-  LazyPrintSurface surface{printing};
+  LazyPrintSurface printer{printing};
   OfficeDesk office;
   PrintServer& queues = PrintServer::Instance();
 
-  explicit PaperDesk(int cards) : office(cards, {&dialogs, &surface}) {}
+  explicit PaperDesk(int cards) : office(cards, {&dialogs, &printer}) {}
 
   /// Chooses the queue and the copies in the dialog, and prints all cards.
   std::string Print(const char* queue, Mode mode, int copies = 1) {

@@ -35,8 +35,8 @@ class FullDisk {
 /// Cards and listings, each to the answered path.
 struct PdfDesk {
   PrintModuleSource printing{FromUtf8(PROGRAM_FOLDER)};
-  LazyPrintSurface surface{printing};
-  OfficeDesk office{1, {nullptr, &surface}};
+  LazyPrintSurface printer{printing};
+  OfficeDesk office{1, {nullptr, &printer}};
 
   void CheckCancelled(Mode mode, const std::string& path) {
     CAPTURE(path);

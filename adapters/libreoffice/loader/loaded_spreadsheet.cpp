@@ -1,19 +1,15 @@
 #include "adapters/libreoffice/loader/loaded_spreadsheet.h"
 
-#include <dlfcn.h>
 #include <exception>
-#include <filesystem>
 #include <system_error>
 
 #include "adapters/libreoffice/loader/office_location.h"
 #include "base/run_time_error.h"
-#include "base/utf8.h"
 
 namespace tessara {
 
 namespace {
 
-constexpr const char* kModuleName = "libtessara_libreoffice.so";
 constexpr const char* kMakerName = "tessara_make_office_module";
 
 using Maker = OfficeModule* (*)(const char* officeProgramFolder);
@@ -28,25 +24,15 @@ std::string RequireOffice() {
   return folder;
 }
 
-/// The module stays loaded: threads of its libraries may still be ending when the server is gone.
-Maker LoadMaker(const std::string& modulePath) {
-  void* module = dlopen(modulePath.c_str(), RTLD_NOW | RTLD_LOCAL);
-  if (module == nullptr) ThrowNotFound();
-  void* maker = dlsym(module, kMakerName);
-  if (maker == nullptr) ThrowNotFound();
-  return reinterpret_cast<Maker>(maker);
-}
-
 }  // namespace
 
 LoadedSpreadsheet::LoadedSpreadsheet(const Text& programFolder)
-    : modulePath_(ToUtf8(programFolder) + "/" + kModuleName) {}
+    : file_(programFolder, "libtessara_libreoffice.so") {}
 
 LoadedSpreadsheet::~LoadedSpreadsheet() = default;
 
 void LoadedSpreadsheet::Probe(const Text& templatePath) {
-  std::error_code none;
-  if (!std::filesystem::exists(modulePath_, none)) ThrowNotFound();
+  if (!file_.Exists()) ThrowNotFound();
   RequireOffice();
   CheckTemplate(templatePath);
 }
@@ -109,7 +95,9 @@ void LoadedSpreadsheet::FinishDestination() {
 OfficeModule& LoadedSpreadsheet::Module() {
   if (module_ == nullptr) {
     const std::string office = RequireOffice();
-    module_.reset(LoadMaker(modulePath_)(office.c_str()));
+    const auto make = file_.Find<Maker>(kMakerName);
+    if (make == nullptr) ThrowNotFound();
+    module_.reset(make(office.c_str()));
   }
   return *module_;
 }

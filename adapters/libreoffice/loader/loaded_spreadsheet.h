@@ -5,10 +5,10 @@
 #include <memory>
 #include <mutex>
 #include <stop_token>
-#include <string>
 #include <thread>
 
 #include "adapters/libreoffice/loader/office_module.h"
+#include "adapters/posix/process/lazy_module.h"
 #include "machine/spreadsheet.h"
 
 namespace tessara {
@@ -39,7 +39,7 @@ class LoadedSpreadsheet : public SpreadsheetServer {
                const std::stop_token& stop);
   void StartAhead(const Text& templatePath, const std::stop_token& stop) noexcept;
 
-  std::string modulePath_;
+  LazyModule file_;
   std::mutex mutex_;  ///< held while the module is asked
   std::unique_ptr<OfficeModule> module_;
   bool startsAhead_ = false;  ///< the server's start ahead of its use has begun

@@ -1,14 +1,12 @@
 #include "adapters/qt/devices/help_loader.h"
 
-#include <QLibrary>
-
+#include "adapters/posix/process/lazy_module.h"
 #include "adapters/qt/text/qt_text.h"
 
 namespace tessara {
 
 void ShowHelpWithModule(const Text& folder, const Text& path) {
-  const QString module = ToQString(folder) + QLatin1String("/libtessara_help.so");
-  const auto show = reinterpret_cast<ShowHelpFile>(QLibrary::resolve(module, kShowHelpFile));
+  const auto show = LazyModule(folder, "libtessara_help.so").Find<ShowHelpFile>(kShowHelpFile);
   if (show != nullptr) show(ToQString(path));
 }
 

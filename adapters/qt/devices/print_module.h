@@ -1,9 +1,9 @@
 #pragma once
 
-#include <QLibrary>
 #include <memory>
 #include <optional>
 
+#include "adapters/posix/process/lazy_module.h"
 #include "machine/dialogs.h"
 #include "machine/print_surface.h"
 
@@ -32,11 +32,9 @@ class PrintModuleSource {
   explicit PrintModuleSource(const Text& folder);
   /// Raises error 482 where there is no module in the folder.
   [[nodiscard]] PrintModule& Module();
-  /// Null before the first use, and where there is none.
-  [[nodiscard]] PrintModule* LoadedModule() const { return module_.get(); }
 
  private:
-  QLibrary library_;
+  LazyModule file_;
   std::unique_ptr<PrintModule> module_;
 };
 

@@ -40,9 +40,7 @@ bool QtDesktop::PreviousInstance() {
   return !lock_.Acquire();
 }
 
-int QtDesktop::Open(const Text& target, const Text& folder, ShowState state) {
-  (void)folder;
-  (void)state;
+int QtDesktop::Open(const Text& target) {
   const QString name = ToQString(target);
   const bool link = IsLink(name);
   if (!link && !QFileInfo::exists(name)) return kOpenFileNotFound;

@@ -16,8 +16,7 @@ class QtDesktop : public Desktop {
   explicit QtDesktop(HelpViewer showHelp, Notifier notify = {});
 
   bool PreviousInstance() override;
-  /// The folder and the window's state are the opening program's own business here.
-  int Open(const Text& target, const Text& folder, ShowState state) override;
+  int Open(const Text& target) override;
   void ShowHelp(const Text& path) override;
   void Notify(const Text& title, const Text& text) override;
   [[nodiscard]] Text DocumentsFolder() const override;

@@ -43,14 +43,6 @@ void RemoveLeftovers(const QString& settingsFile) {
   QFile::remove(lock);
 }
 
-/// Tessara.conf in the user's configuration folder. A relative path to that counts as missing.
-QString UserFile() {
-  const QString chosen = QFile::decodeName(qgetenv("XDG_CONFIG_HOME"));
-  const QString folder =
-      QDir::isAbsolutePath(chosen) ? chosen : QDir::homePath() + QLatin1String("/.config");
-  return folder + QLatin1String("/Tessara.conf");
-}
-
 bool IsRegularFile(int file) {
   struct stat status {};
   return fstat(file, &status) == 0 && S_ISREG(status.st_mode);
@@ -109,7 +101,8 @@ void Replace(const QString& path, const QByteArray& bytes) {
 
 }  // namespace
 
-QtSettingsStore::QtSettingsStore() : path_(UserFile()) {
+QtSettingsStore::QtSettingsStore(const std::filesystem::path& file)
+    : path_(QFile::decodeName(file.c_str())) {
   RemoveLeftovers(path_);
   std::optional<SettingsFile> stored = SettingsFile::Parse(BytesOf(path_).value_or(QByteArray()));
   if (stored) known_ = std::move(*stored);

@@ -8,11 +8,9 @@
 #include <QPushButton>
 #include <optional>
 #include <utility>
-#include <vector>
 
 #include "adapters/qt/windows/form_window.h"
 #include "adapters/qt/windows/frame_window.h"
-#include "forms/controls/controls.h"
 
 namespace tessara {
 
@@ -30,22 +28,10 @@ bool IsTextBox(const QWidget& widget) {
          qobject_cast<const QPlainTextEdit*>(&widget) != nullptr;
 }
 
-Button* ButtonWithCaption(const Form& form, TextView caption) {
-  for (Control* control : form.Controls()) {
-    if (control->Kind() != ControlKind::kButton) continue;
-    auto* button = static_cast<Button*>(control);
-    if (button->Caption() == caption) return button;
-  }
-  return nullptr;
-}
-
-/// Page Up and Page Down are the buttons "<<" and ">>", where the window has them. Inside a text
-/// box they need Ctrl, for the box has a use for them.
-bool TakePage(const QKeyEvent& key, const QWidget& receiver, const Form& form) {
+/// Inside a text box Page Up and Page Down need Ctrl, for the box has a use for them.
+bool TakePage(const QKeyEvent& key, const QWidget& receiver, Form& form) {
   if (IsTextBox(receiver) && !key.modifiers().testFlag(Qt::ControlModifier)) return false;
-  Button* button = ButtonWithCaption(form, key.key() == Qt::Key_PageUp ? u"<<" : u">>");
-  if (button != nullptr) button->Press();
-  return button != nullptr;
+  return form.UserPage(key.key() == Qt::Key_PageUp ? PageKey::kUp : PageKey::kDown);
 }
 
 /// Ctrl+Return is the window's; plain Return is what has the focus first of all.
@@ -64,14 +50,6 @@ std::optional<WindowKey> WindowKeyIn(const QKeyEvent& key) {
     default:
       return std::nullopt;
   }
-}
-
-MenuEntry* EntryWithKeys(const std::vector<MenuEntry*>& entries, TextView keys) {
-  for (MenuEntry* entry : entries) {
-    if (entry->Keys() == keys) return entry;
-    if (MenuEntry* below = EntryWithKeys(entry->Entries(), keys)) return below;
-  }
-  return nullptr;
 }
 
 }  // namespace
@@ -166,10 +144,8 @@ bool Keyboard::TakeClose(Form& form) {
 
 /// For the windows beside the frame too, where the menu's own keys do not reach.
 bool Keyboard::TakeHelp() {
-  const Form* form = windows_.MenuBarForm();
-  MenuEntry* entry = form == nullptr ? nullptr : EntryWithKeys(form->Menus(), u"F1");
-  if (entry != nullptr) entry->UserChoose();
-  return entry != nullptr;
+  Form* form = windows_.MenuBarForm();
+  return form != nullptr && form->UserHelp();
 }
 
 }  // namespace tessara

@@ -133,7 +133,7 @@ const std::string kQuestion = "Set-Up changes have been made, do you want to sav
 TEST_CASE("The start-up picture is on screen during the pause and gone with it") {
   const ConfigFolder config;
   config.Write("[Settings]\nFirstLoad=False\nShowSplash=1\n");
-  QtSettingsStore settings;
+  QtSettingsStore settings(config.File());
   ProgramOnScreen desk(settings);
   int pictures = 0;
   desk.WhilePausing([&pictures] {
@@ -156,7 +156,7 @@ TEST_CASE(
   const ConfigFolder config;
   config.Write(kPlainStart);
   {
-    QtSettingsStore settings;
+    QtSettingsStore settings(config.File());
     ProgramOnScreen desk(settings);
     desk.Start();
     CHECK(BackdropIs("backdrops/DEFAULT.jpg"));
@@ -181,7 +181,7 @@ TEST_CASE(
     CHECK_FALSE(IsOpen(kSetUp));
     CHECK(desk.TakeAsked().empty());
   }
-  QtSettingsStore settings;
+  QtSettingsStore settings(config.File());
   ProgramOnScreen again(settings);
   again.Start();
   CHECK(BackdropIs("backdrops/GRANITE.gif"));
@@ -260,7 +260,7 @@ TEST_CASE("Closing the set-up window with changes asks, and only Yes stores them
     CAPTURE(answer);
     const ConfigFolder config;
     config.Write(kPlainStart);
-    QtSettingsStore settings;
+    QtSettingsStore settings(config.File());
     ProgramOnScreen desk(settings);
     desk.Start();
     OpenSetUp();

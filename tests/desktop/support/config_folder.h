@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
+#include <filesystem>
 #include <stdexcept>
 
 #include "tests/support/environment_variable.h"
@@ -17,6 +18,7 @@ struct ConfigFolder {
       : folder(parent + "/tessara-XXXXXX"),
         variable("XDG_CONFIG_HOME", folder.path().toStdString()) {}
   [[nodiscard]] QString Path() const { return folder.filePath("Tessara.conf"); }
+  [[nodiscard]] std::filesystem::path File() const { return Path().toStdString(); }
   [[nodiscard]] QStringList Names() const {
     return QDir(folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name);
   }

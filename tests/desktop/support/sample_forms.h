@@ -88,6 +88,8 @@ class SampleForm : public Form {
               {&mnuMode, nullptr, u"&Mode"},
               {&mnuStudy, &mnuMode, u"&Study", u"Ctrl+Shift+S"},
               {&mnuHelpTopic, &mnuMode, u"&Help", u"F1"}});
+    SetPageButtons(Command1[0], Command1[1]);
+    SetHelpEntry(mnuHelpTopic);
     Text2.SetMultiLine(true);
     Text2.SetVerticalScrollBar(true);
     Picture1.SetPicture({"print/nonflip.png", 117, 37});

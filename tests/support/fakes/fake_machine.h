@@ -3,15 +3,14 @@
 #include <functional>
 #include <map>
 #include <optional>
-#include <tuple>
 #include <utility>
 #include <vector>
 
 #include "base/code_page.h"
 #include "base/run_time_error.h"
-#include "machine/class_registry.h"
 #include "machine/clock.h"
 #include "machine/desktop.h"
+#include "machine/document_types.h"
 #include "machine/machine.h"
 #include "machine/print_surface.h"
 #include "machine/safety_copies.h"
@@ -96,14 +95,14 @@ class FakeDesktop : public Desktop {
   int screenHeight = 768;
   int yields = 0;
   std::function<void()> whileYielding;  ///< runs in each yield
-  std::vector<std::tuple<Text, Text, ShowState>> opened;
+  std::vector<Text> opened;
   std::vector<Text> helpShown;
   std::vector<std::pair<Text, Text>> notices;  ///< title and text
   std::vector<MousePointer> pointers;
 
   bool PreviousInstance() override { return previousInstance; }
-  int Open(const Text& target, const Text& folder, ShowState state) override {
-    opened.emplace_back(target, folder, state);
+  int Open(const Text& target) override {
+    opened.push_back(target);
     return openResult;
   }
   [[nodiscard]] Text DocumentsFolder() const override { return documentsFolder; }
@@ -118,22 +117,11 @@ class FakeDesktop : public Desktop {
   [[nodiscard]] int ScreenHeight() const override { return screenHeight; }
 };
 
-class FakeRegistry : public ClassRegistry {
+class FakeDocumentTypes : public DocumentTypes {
  public:
-  std::vector<Text> created;
-  std::vector<std::tuple<Text, Text, Text>> strings;
-  int result = 0;
-  int published = 0;
+  std::vector<DocumentType> declared;
 
-  int CreateClassKey(const Text& key) override {
-    created.push_back(key);
-    return result;
-  }
-  int SetClassValue(const Text& key, const Text& valueName, const Text& value) override {
-    strings.emplace_back(key, valueName, value);
-    return result;
-  }
-  void Publish() override { ++published; }
+  void Declare(const DocumentType& type) override { declared.push_back(type); }
 };
 
 /// A machine without a spreadsheet server.
@@ -150,7 +138,7 @@ class NoSpreadsheet : public SpreadsheetServer {
 };
 
 /// A machine without a printer.
-class NoPrinter : public PrintSurface {
+class NoPrintSurface : public PrintSurface {
  public:
   void SetDestination(const PrintDestination&) override {}
   void SetCopies(int) override { Fail(); }
@@ -173,6 +161,16 @@ class NoPrinter : public PrintSurface {
   static void Fail() { throw RunTimeError(ErrorNumber::kPrinterError); }
 };
 
+/// The printer whose surface is there from the start.
+class FakePrinter : public Printer {
+ public:
+  explicit FakePrinter(PrintSurface& surface) : surface_(surface) {}
+  PrintSurface& Surface() override { return surface_; }
+
+ private:
+  PrintSurface& surface_;
+};
+
 /// A whole machine of fakes. A test replaces what it is about, for example the spreadsheet
 /// server, by making a Machine of its own from these parts.
 struct FakeMachine {
@@ -183,14 +181,15 @@ struct FakeMachine {
   FakeCopies copies{files};
   FakeClock clock;
   FakeDesktop desktop;
-  FakeRegistry classes;
+  FakeDocumentTypes classes;
   NoSpreadsheet noSpreadsheet;
-  NoPrinter noPrinter;
+  NoPrintSurface noSurface;
   FileSystem* fileSystem = &files;
   SafetyCopies* safetyCopies = &copies;
   Dialogs* chooser = &dialogs;
   SpreadsheetServer* spreadsheet = &noSpreadsheet;
-  PrintSurface* printer = &noPrinter;
+  FakePrinter noPrinter{noSurface};
+  Printer* printer = &noPrinter;
 
   [[nodiscard]] Machine Get() {
     return {messages, *chooser, settings,     *fileSystem, *safetyCopies,       clock,

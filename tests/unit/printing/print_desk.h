@@ -23,6 +23,7 @@ class PrintDesk {
   FakeMachine fakes;
   RecordingSpreadsheet server;
   RecordingPrintSurface surface;
+  FakePrinter printer{surface};
   Machine machine = WithRecorders();
   WindowSystem windows{fakes.messages};
   HeadlessRenderer renderer;
@@ -68,7 +69,7 @@ class PrintDesk {
  private:
   Machine WithRecorders() {
     fakes.spreadsheet = &server;
-    fakes.printer = &surface;
+    fakes.printer = &printer;
     return fakes.Get();
   }
   void FillDeck(int cards) {

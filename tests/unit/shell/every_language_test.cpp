@@ -81,9 +81,10 @@ struct LanguageDesk {
   FakeMachine fakes;
   RecordingSpreadsheet server;
   RecordingPrintSurface surface;
+  FakePrinter printer{surface};
   Machine machine{fakes.messages, fakes.dialogs, fakes.settings, fakes.files,
                   fakes.copies,   fakes.clock,   fakes.desktop,  fakes.classes,
-                  server,         surface,       codePage,       u"/opt/tessara"};
+                  server,         printer,       codePage,       u"/opt/tessara"};
   HeadlessRenderer renderer;
   Program program{machine};
   ProgramState& state = program.State();

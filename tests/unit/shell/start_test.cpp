@@ -168,33 +168,23 @@ TEST_CASE("the splash is shown for 5000 yields where its setting is numerically 
   }
 }
 
-TEST_CASE("the first load declares the document type once, in its order") {
+TEST_CASE("the first load declares the document type once, as the package describes it") {
   ProgramDesk desk;
   desk.fakes.settings.values.erase(u"FirstLoad");
   desk.Start();
-  const auto& classes = desk.fakes.classes;
-  CHECK(classes.created == std::vector<Text>{u".tsr", u"Tessara.Document\\shell\\open\\command",
-                                             u"Tessara.Document\\DefaultIcon"});
-  CHECK(classes.strings ==
-        std::vector<std::tuple<Text, Text, Text>>{
-            {u".tsr", u"", u"Tessara.Document"},
-            {u"Tessara.Document\\DefaultIcon", u"", u"/opt/tessara/Notelet.ico"},
-            {u"Tessara.Document\\shell\\open\\command", u"", u"/opt/tessara/Tessara.EXE %1"},
-            {u"Tessara.Document", u"", u"Tessara File"}});
-  CHECK(classes.published == 1);
+  REQUIRE(desk.fakes.classes.declared.size() == 1);
+  const DocumentType& type = desk.fakes.classes.declared.front();
+  CHECK(type.description == u"/opt/tessara/tessara.xml");
+  CHECK(type.entry == u"/opt/tessara/tessara.desktop");
+  CHECK(type.icons == u"/opt/tessara/icons");
+  CHECK(type.program == u"/opt/tessara/tessara");
   CHECK(desk.fakes.settings.values[u"FirstLoad"] == u"False");
 }
 
-TEST_CASE("a failed registration is silent and not tried again") {
+TEST_CASE("a registration is not tried again") {
   ProgramDesk desk;
-  desk.fakes.settings.values.erase(u"FirstLoad");
-  desk.fakes.classes.result = 5;
   desk.Start();
-  CHECK(desk.fakes.messages.shown.empty());
-  CHECK(desk.fakes.settings.values[u"FirstLoad"] == u"False");
-  ProgramDesk second;
-  second.Start();
-  CHECK(second.fakes.classes.created.empty());
+  CHECK(desk.fakes.classes.declared.empty());
 }
 
 }  // namespace tessara::test

@@ -37,7 +37,7 @@ struct WatchedDesk : ProgramDesk {
     CHECK(fakes.desktop.opened.empty());
     CHECK(fakes.desktop.helpShown.empty());
     CHECK(fakes.settings.writes.empty());
-    CHECK(fakes.classes.created.empty());
+    CHECK(fakes.classes.declared.empty());
     CHECK_FALSE(program.Windows().ExitStatus());
   }
 };

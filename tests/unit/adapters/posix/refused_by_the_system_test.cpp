@@ -3,10 +3,11 @@
 
 #include <doctest/doctest.h>
 
-#include "adapters/freedesktop/document_registry.h"
+#include "adapters/freedesktop/user_document_types.h"
 #include "tests/support/disk_desk.h"
 #include "tests/support/limited_process.h"
 #include "tests/support/open_files.h"
+#include "tests/support/packaged_type.h"
 #include "tests/support/program_desk.h"
 
 namespace tessara::test {
@@ -16,10 +17,7 @@ namespace {
 constexpr int kCards = 3;
 
 void DeclareDocuments(const ScratchFolder& folder) {
-  DocumentRegistry registry({folder / "data", folder / "program", "tessara"},
-                            [](const std::filesystem::path&) {});
-  registry.CreateClassKey(u"Tessara.Document");
-  registry.Publish();
+  UserDocumentTypes(folder / "data", [](const auto&) {}).Declare(PackagedType(folder / "program"));
 }
 
 ScratchFolder& WithProgramIcons(ScratchFolder& folder) {

@@ -7,8 +7,9 @@
 #include <map>
 #include <set>
 
-#include "adapters/freedesktop/document_registry.h"
+#include "adapters/freedesktop/user_document_types.h"
 #include "tests/support/disk_desk.h"
+#include "tests/support/packaged_type.h"
 #include "tests/support/program_desk.h"
 #include "tests/support/refused_call.h"
 #include "tests/unit/import/text_file.h"
@@ -197,10 +198,9 @@ TEST_CASE("whichever call of an association is refused, what is declared is whol
   }
   const auto declare = [&] {
     bool told = false;
-    DocumentRegistry registry({folder / "data", folder / "program", "tessara"},
-                              [&](const std::filesystem::path&) { told = true; });
-    registry.CreateClassKey(u"Tessara.Document");
-    registry.Publish();
+    UserDocumentTypes(folder / "data", [&](const auto&) {
+      told = true;
+    }).Declare(PackagedType(folder / "program"));
     return told ? kWhole : kWrong;
   };
   declare();

@@ -1,0 +1,65 @@
+#include "adapters/freedesktop/user_document_types.h"
+
+#include <system_error>
+
+#include "adapters/freedesktop/desktop_entry.h"
+#include "base/folder_entries.h"
+#include "base/utf8.h"
+
+namespace tessara {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+fs::path PathOf(const Text& path) {
+  return ToUtf8(path);
+}
+
+void MakeFolderOf(const fs::path& file) {
+  std::error_code ignored;
+  fs::create_directories(file.parent_path(), ignored);
+}
+
+/// A file that was begun and can't be written whole is gone.
+void CopyFile(const fs::path& from, const fs::path& to) {
+  MakeFolderOf(to);
+  std::error_code error;
+  fs::copy_file(from, to, fs::copy_options::overwrite_existing, error);
+  std::error_code ignored;
+  if (error && fs::is_regular_file(to, ignored)) fs::remove(to, ignored);
+}
+
+/// Each file by itself: one that fails does not keep the others away.
+void CopyFiles(const fs::path& from, const fs::path& to) {
+  std::error_code unread;
+  for (const fs::directory_entry& entry : EntriesBelow(from, unread)) {
+    if (!entry.is_regular_file(unread)) continue;
+    CopyFile(entry.path(), to / entry.path().lexically_relative(from));
+  }
+}
+
+}  // namespace
+
+/// What could not be written stays undeclared: the association is a convenience, never a reason to
+/// bother the user.
+UserDocumentTypes::Declared UserDocumentTypes::WriteFiles(const DocumentType& type) const {
+  const fs::path description = PathOf(type.description);
+  CopyFile(description, userData_ / "mime" / "packages" / description.filename());
+  const fs::path packagedEntry = PathOf(type.entry);
+  DesktopEntry entry(packagedEntry);
+  if (!entry.Empty()) {
+    entry.SetProgram(ToUtf8(type.program));
+    const fs::path file = userData_ / "applications" / packagedEntry.filename();
+    MakeFolderOf(file);
+    (void)entry.Save(file);
+  }
+  CopyFiles(PathOf(type.icons), userData_ / "icons");
+  return {userData_, packagedEntry.filename().string(), entry.DocumentTypes()};
+}
+
+void UserDocumentTypes::Declare(const DocumentType& type) {
+  if (!userData_.empty()) tools_(WriteFiles(type));
+}
+
+}  // namespace tessara
