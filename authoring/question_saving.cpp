@@ -33,9 +33,9 @@ void QuestionBuilder::SelChoice(Text& result) const {
 }
 
 void QuestionBuilder::SelTF(Text& result) const {
-  result = trueFalseMarks[kTrueMark].Selected()    ? u"T"
-           : trueFalseMarks[kFalseMark].Selected() ? u"F"
-                                                   : u"";
+  result = trueFalseMarks[kTrueMark].Selected()    ? kTrueKey
+           : trueFalseMarks[kFalseMark].Selected() ? kFalseKey
+                                                   : TextView();
 }
 
 Text QuestionBuilder::ChosenType() const {
@@ -83,7 +83,7 @@ void QuestionBuilder::MarkQuestType(const Text& cardType) {
 
 void QuestionBuilder::MarkCorrAns(const Text& key) {
   const int index = AnswerIndex(key);
-  if (key == u"T" || key == u"F") {
+  if (IsTrueFalseKey(key)) {
     trueFalseMarks[index].SetSelected(true);
   } else {
     marks[index].SetSelected(true);

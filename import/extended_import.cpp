@@ -1,6 +1,7 @@
 #include "import/extended_import.h"
 
 #include "base/conversion.h"
+#include "deck/answer_key.h"
 #include "deck/card_type.h"
 #include "import/line_kinds.h"
 
@@ -121,20 +122,14 @@ bool ResumesAtCard(ProgramState& state) {
 }
 
 Column ColumnOfChoice(TextView letter) {
-  const Text upper = UpperCase(letter);
-  if (upper == u"A") return kChoiceA;
-  if (upper == u"B") return kChoiceB;
-  if (upper == u"C") return kChoiceC;
-  if (upper == u"D") return kChoiceD;
-  return kStray;
+  const Text key = UpperCase(letter);
+  return IsChoiceKey(key) ? static_cast<Column>(kChoiceA + AnswerIndex(key)) : kStray;
 }
 
 /// The card type that an answer tells; empty where it is none.
 TextView TypeOfAnswer(TextView answer) {
-  if (answer == u"T" || answer == u"F") return LetterOf(CardType::kTrueFalse);
-  if (answer == u"A" || answer == u"B" || answer == u"C" || answer == u"D")
-    return LetterOf(CardType::kMultipleChoice);
-  return {};
+  if (IsTrueFalseKey(answer)) return LetterOf(CardType::kTrueFalse);
+  return IsChoiceKey(answer) ? LetterOf(CardType::kMultipleChoice) : TextView();
 }
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/utf8.h"
+#include "viewer/card_skins.h"
 
 namespace tessara {
 
@@ -39,13 +40,14 @@ ImageList MakeBackdropTiles() {
 }
 
 ImageList MakeCardPictures() {
-  return ImageList({{u"White Flat", {"skins/white_flat.png", 323, 90}},
-                    {u"White 3D", {"skins/white_3d.png", 327, 93}},
-                    {u"Yellow Flat", {"skins/yellow_flat.png", 323, 90}},
-                    {u"Yellow 3D", {"skins/yellow_3d.png", 327, 93}},
-                    {u"Flip", {"print/flip.png", 117, 37}},
-                    {u"NonFlip", {"print/nonflip.png", 117, 37}},
-                    {u"FlipDisabled", {"print/flip_disabled.png", 117, 37}}});
+  std::vector<ImageList::Image> images;
+  for (const CardSkin& skin : kCardSkins) {
+    images.push_back({Text(skin.key), {skin.picture, skin.width, skin.height}});
+  }
+  images.push_back({u"Flip", {"print/flip.png", 117, 37}});
+  images.push_back({u"NonFlip", {"print/nonflip.png", 117, 37}});
+  images.push_back({u"FlipDisabled", {"print/flip_disabled.png", 117, 37}});
+  return ImageList(std::move(images));
 }
 
 }  // namespace tessara

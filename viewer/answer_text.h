@@ -1,5 +1,6 @@
 #pragma once
 
+#include "deck/answer_key.h"
 #include "deck/program_state.h"
 
 namespace tessara {
@@ -8,9 +9,6 @@ namespace tessara {
 /// "T" and "F", nothing for any other key. Exact and case-sensitive. Raises error 9 for a row
 /// outside the table.
 [[nodiscard]] Text AnswerText(TextView key, int row, const ProgramState& state);
-
-/// The place of an answer key among the choices, 0 to 3; 0 for a key that is none.
-[[nodiscard]] int AnswerIndex(TextView key);
 
 /// The answer key that a choice, 0 to 3, of a card of that type stands for. Empty for the first
 /// two choices of a card that is no question.

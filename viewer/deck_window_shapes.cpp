@@ -1,25 +1,8 @@
 // The shapes that the deck window takes for a deck type and a mode.
 
-#include "base/conversion.h"
-#include "viewer/card_picture.h"
 #include "viewer/deck_window.h"
 
 namespace tessara {
-
-void DeckWindow::SetUpDeck() {
-  const ProgramState& state = State();
-  cardShadow.SetVisible(NumberOf(state.settings.largeCard3D) == 1);
-  card.SetCardColor(NumberOf(state.settings.largeCardColor) == 1 ? u"A" : u"Q");
-  const auto show = [&](TextView relief, TextView flat) {
-    const TextView key = NumberOf(state.settings.smallCard3D) == 1 ? relief : flat;
-    answerCard.SetPicture(CardPicture(key, kWallPaperList, App().frame));
-  };
-  if (state.settings.smallCardColor == u"0") {
-    show(u"White 3D", u"White Flat");
-  } else if (state.settings.smallCardColor == u"1") {
-    show(u"Yellow 3D", u"Yellow Flat");
-  }
-}
 
 void DeckWindow::HideAllFrames() {
   creditPanel.SetVisible(false);

@@ -12,14 +12,6 @@ bool HasChoices(const DeckRecord& record) {
                      [](const Text& choice) { return !choice.empty(); });
 }
 
-bool IsTrueOrFalse(TextView answer) {
-  return answer == u"T" || answer == u"F";
-}
-
-bool IsChoiceLetter(TextView answer) {
-  return answer.size() == 1 && answer.front() >= u'A' && answer.front() <= u'D';
-}
-
 void AddCard(CardSet& set, SourceCard card) {
   if (set.cards.size() == kMostSetCards)
     throw Refused(card.place, "more than " + std::to_string(kMostSetCards) + " cards");

@@ -46,11 +46,6 @@ inline constexpr std::array<const char*, 4> kChoiceNames = {"choice A", "choice 
                                                             "choice D"};
 
 [[nodiscard]] bool HasChoices(const DeckRecord& record);
-/// True for "T" and "F".
-[[nodiscard]] bool IsTrueOrFalse(TextView answer);
-/// True for "A" to "D".
-[[nodiscard]] bool IsChoiceLetter(TextView answer);
-
 /// The most cards that are taken together, and the most bytes of all inputs and of a field: what
 /// keeps the memory in bounds.
 inline constexpr std::size_t kMostSetCards = 50'000;

@@ -6,6 +6,7 @@
 
 #include "companion/cards/card_set.h"
 #include "companion/formats/source_file.h"
+#include "deck/answer_key.h"
 #include "deck/file/deck_file.h"
 #include "deck/file/deck_record.h"
 #include "deck/file/stored_text.h"
@@ -88,14 +89,14 @@ class DeckCheck {
     const bool trueFalse = IsType(record.cardType, CardType::kTrueFalse);
     if (record.answer.empty()) {
       Find(card, Severity::kRemark, "it has no answer");
-    } else if (!(trueFalse ? IsTrueOrFalse(record.answer) : IsAnswerOf(record))) {
+    } else if (!(trueFalse ? IsTrueFalseKey(record.answer) : IsAnswerOf(record))) {
       Find(card, Severity::kRemark, "its answer is none of its choices");
     }
   }
 
   static bool IsAnswerOf(const DeckRecord& record) {
-    if (!IsChoiceLetter(record.answer)) return false;
-    return !record.shortFields[static_cast<std::size_t>(record.answer.front() - u'A')].empty();
+    if (!IsChoiceKey(record.answer)) return false;
+    return !record.shortFields[static_cast<std::size_t>(AnswerIndex(record.answer))].empty();
   }
 
   void CheckFilled(const DeckRecord& record, std::size_t card,

@@ -18,7 +18,7 @@ class DeckInfoWindow;
 /// on the deck's state, and the commands from new to close. What it looks like and how cards are
 /// taken is told by the window that derives from it.
 ///
-/// The commands are told in open_deck.cpp, save_deck.cpp and close_deck.cpp.
+/// The commands are told in open_deck.cpp, save_deck.cpp, save_question.cpp and close_deck.cpp.
 class DeckLife : public Form {
  public:
   DeckLife(AppContext& app, FileNumber& fileNumber, Window<DeckInfoWindow> info);

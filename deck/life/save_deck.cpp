@@ -11,12 +11,6 @@
 
 namespace tessara {
 
-namespace {
-
-constexpr TextView kNotSaved = u"File Not Saved";
-
-}  // namespace
-
 void DeckLife::SaveDeck() {
   ProgramState& state = State();
   if (Caption().starts_with(u"New") && state.deck.saveOffered) {
@@ -39,29 +33,11 @@ void DeckLife::SaveDeckAs() {
 bool DeckLife::ChooseFile() {
   const Text path = AskDeckFile(FileDialogMode::kSave);
   if (NoAnswer(path)) {
-    App().machine.messages.Show(u"This file was not saved.", kInformationIcon, Text(kNotSaved));
+    App().machine.messages.Show(u"This file was not saved.", kInformationIcon, u"File Not Saved");
     return false;
   }
   State().deck.filePath = path;
   return true;
-}
-
-void DeckLife::ChkSave() {
-  ProgramState& state = State();
-  MessageBoxes& messages = App().machine.messages;
-  if (!state.deck.changed || !state.deck.HasCards()) return;
-  const MessageAnswer reply =
-      messages.Show(u"There have been changes to this Tessara.Do you want to save them?",
-                    kQuestionIcon + kYesNo, u"Unsaved Changes: ");
-  if (reply != MessageAnswer::kYes) return App().unsaved.GivenUp();
-  const bool asks = state.deck.filePath.empty();
-  if (asks) state.deck.filePath = AskDeckFile(FileDialogMode::kSave);
-  if (asks && NoAnswer(state.deck.filePath)) {
-    messages.Show(u"This file was not saved", kInformationIcon, Text(kNotSaved));
-  } else {
-    SaveTessaraToFile(state.deck.filePath);
-  }
-  state.deck.changed = false;
 }
 
 bool DeckLife::MakeWay(const Text& fileName) {

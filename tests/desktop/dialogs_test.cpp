@@ -2,6 +2,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -13,6 +14,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QUrl>
+#include <deque>
 #include <doctest/doctest.h>
 #include <functional>
 
@@ -24,6 +26,7 @@
 #include "machine/hourglass.h"
 #include "tests/desktop/support/config_folder.h"
 #include "tests/desktop/support/event_loops.h"
+#include "tests/support/contracts/dialogs_contract.h"
 #include "tests/support/environment_variable.h"
 
 using namespace tessara;
@@ -63,12 +66,68 @@ FileDialogRequest SaveIn(const QTemporaryDir& folder) {
   return request;
 }
 
+/// Answers the dialogs that come on screen with what was told beforehand.
+class ScreenUser : public QObject {
+ public:
+  ScreenUser() {
+    StartAnew();
+    Look();
+  }
+
+  std::deque<Text> files;
+  std::deque<std::optional<Text>> texts;
+
+ private:
+  /// Before it acts it sees to the next look: a refusal comes up while it acts.
+  void Look() {
+    QTimer::singleShot(1, this, [this] { Look(); });
+    QWidget* const modal = QApplication::activeModalWidget();
+    if (auto* box = qobject_cast<QMessageBox*>(modal)) Press(*box, QMessageBox::Ok);
+    if (auto* dialog = qobject_cast<QFileDialog*>(modal); dialog != nullptr && !files.empty()) {
+      AnswerFile(*dialog, ToQString(Next(files)));
+    }
+    if (auto* dialog = qobject_cast<QInputDialog*>(modal); dialog != nullptr && !texts.empty()) {
+      AnswerText(*dialog, Next(texts));
+    }
+  }
+  static void AnswerFile(QFileDialog& dialog, const QString& path) {
+    if (path.isEmpty()) return dialog.reject();
+    AnswerWith(dialog, QFileInfo(path).fileName().toUtf8());
+  }
+  static void AnswerText(QInputDialog& dialog, const std::optional<Text>& text) {
+    if (!text) return dialog.reject();
+    auto* line = dialog.findChild<QLineEdit*>();
+    line->selectAll();
+    QTest::keyClick(line, Qt::Key_Delete);
+    QTest::keyClicks(line, ToQString(*text));
+    QTest::keyClick(line, Qt::Key_Return);
+  }
+  template <class T>
+  static T Next(std::deque<T>& answers) {
+    T answer = answers.front();
+    answers.pop_front();
+    return answer;
+  }
+};
+
 struct NoPrinting {
   PrintModuleSource printing{u"/nowhere"};
   QtDialogs dialogs{printing};
 };
 
 }  // namespace
+
+TEST_CASE("The dialogs keep to what the program counts on") {
+  NoPrinting desk;
+  const QTemporaryDir folder;
+  QFile verbs(folder.filePath("verbs.tsr"));
+  REQUIRE(verbs.open(QIODevice::WriteOnly));
+  ScreenUser onScreen;
+  const DialogUser user{[&](const Text& path) { onScreen.files.push_back(path); },
+                        [&](const auto& text) { onScreen.texts.push_back(text); }};
+  CheckFileDialogContract(desk.dialogs, user, FromQString(folder.path()));
+  CheckTextDialogContract(desk.dialogs, user);
+}
 
 TEST_CASE("A message box has its text, title, icon and buttons, all as they stand") {
   struct Case {

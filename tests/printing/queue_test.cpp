@@ -13,11 +13,14 @@
 
 #include "adapters/qt/devices/lazy_print_surface.h"
 #include "adapters/qt/devices/qt_dialogs.h"
+#include "adapters/qt/text/qt_text.h"
 #include "base/utf8.h"
 #include "tests/printing/office_desk.h"
 #include "tests/printing/print_server.h"
 #include "tests/printing/server_processes.h"
 #include "tests/printing/sheet_checks.h"
+#include "tests/support/contracts/dialogs_contract.h"
+#include "tests/support/contracts/print_queue_contract.h"
 
 namespace tessara {
 namespace {
@@ -38,20 +41,29 @@ struct PaperDesk {
 
   explicit PaperDesk(int cards) : office(cards, {&dialogs, &printer}) {}
 
+  /// What the next printer dialog is answered: a queue or a file.
+  static void Choose(const PrinterChoice& choice) {
+    Answer([=](QPrintDialog& dialog) {
+      auto* printers = dialog.findChild<QComboBox*>("printers");
+      if (choice.destination.printer.empty()) {
+        printers->setCurrentIndex(printers->count() - 1);
+        dialog.findChild<QLineEdit*>("filename")->setText(ToQString(choice.destination.pdfFile));
+      } else {
+        printers->setCurrentText(ToQString(choice.destination.printer));
+        dialog.findChild<QSpinBox*>("copies")->setValue(choice.copies);
+      }
+    });
+  }
+  static void Cancel() {
+    QTimer::singleShot(0, [] { qobject_cast<QDialog*>(QApplication::activeModalWidget())->reject(); });
+  }
   /// Chooses the queue and the copies in the dialog, and prints all cards.
   std::string Print(const char* queue, Mode mode, int copies = 1) {
-    Answer([=](QPrintDialog& dialog) {
-      dialog.findChild<QComboBox*>("printers")->setCurrentText(queue);
-      dialog.findChild<QSpinBox*>("copies")->setValue(copies);
-    });
+    Choose({{FromUtf8(queue), u""}, copies});
     return office.PressPrint(mode, copies);
   }
   std::string PrintToFile(const std::string& path, Mode mode) {
-    Answer([=](QPrintDialog& dialog) {
-      auto* printers = dialog.findChild<QComboBox*>("printers");
-      printers->setCurrentIndex(printers->count() - 1);
-      dialog.findChild<QLineEdit*>("filename")->setText(QString::fromStdString(path));
-    });
+    Choose({{u"", FromUtf8(path)}, 1});
     return office.PressPrint(mode);
   }
 
@@ -71,6 +83,29 @@ std::vector<PrintedPage> PagesOf(const std::vector<PrintedJob>& jobs) {
   std::vector<PrintedPage> pages;
   for (const PrintedJob& job : jobs) pages.insert(pages.end(), job.pages.begin(), job.pages.end());
   return pages;
+}
+
+TEST_CASE("what is printed on goes to a queue as the program counts on") {
+  PaperDesk desk(1);
+  const auto printed = [&](int count) {
+    std::vector<int> pages;
+    for (const PrintedJob& job :
+         desk.queues.TakeJobs(PrintServer::kQueue, static_cast<std::size_t>(count))) {
+      pages.push_back(static_cast<int>(job.pages.size()));
+    }
+    return pages;
+  };
+  test::CheckPrintQueueContract(desk.printer.Surface(), FromUtf8(PrintServer::kQueue), printed);
+}
+
+TEST_CASE("the printer dialog keeps to what the program counts on") {
+  PaperDesk desk(1);
+  const test::ScratchFolder folder;
+  const auto answer = [](const std::optional<PrinterChoice>& choice) {
+    choice ? PaperDesk::Choose(*choice) : PaperDesk::Cancel();
+  };
+  test::CheckPrinterDialogContract(desk.dialogs, answer, FromUtf8(PrintServer::kQueue),
+                                   folder.TextPath(u"cards.pdf"));
 }
 
 TEST_CASE("card sheets go to the queue chosen in the dialog, in the order of their printing") {

@@ -6,6 +6,10 @@
 
 namespace tessara {
 
+/// What the card's colour is by its property.
+inline constexpr TextView kWhiteCard = u"Q";
+inline constexpr TextView kYellowCard = u"A";
+
 /// The large card: a ruled index card that shows a text, a banner line, its number and the total.
 /// Long texts shrink to a smallest readable size and beyond that scroll. Its colours are those of
 /// paper and ink, whatever the desktop's palette.
@@ -50,11 +54,11 @@ class CardControl : public PaintedControl, public CardDisplay {
   [[nodiscard]] bool Hints() const;
   [[nodiscard]] Text ShownText() const { return Hints() ? hint_ : DisplayedText(); }
   [[nodiscard]] BodyLayout LayoutOfBody(Canvas& canvas, const Rect& body) const;
-  [[nodiscard]] bool Yellow() const { return cardColor_ == u"A"; }
+  [[nodiscard]] bool Yellow() const { return cardColor_ == kYellowCard; }
   [[nodiscard]] Text NumberLine() const;
 
   Text cardBanner_;
-  Text cardColor_ = u"Q";
+  Text cardColor_{kWhiteCard};
   bool frontRule_ = true;
   bool frontLines_ = true;
   Text cardText_;

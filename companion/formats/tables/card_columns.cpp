@@ -7,6 +7,7 @@
 
 #include "base/line_breaks.h"
 #include "companion/cards/text_form.h"
+#include "deck/answer_key.h"
 
 namespace tessara {
 
@@ -76,8 +77,8 @@ Text& CellOf(DeckRecord& record, CardColumn column) {
 /// Takes the answer's case, and the type that it and the choices make.
 void TakeAnswer(DeckRecord& record, const Place& place, Losses& losses) {
   record.answer = UpperCase(Trimmed(record.answer));
-  const bool trueFalse = IsTrueOrFalse(record.answer) && !HasChoices(record);
-  if (!trueFalse && !record.answer.empty() && !IsChoiceLetter(record.answer)) {
+  const bool trueFalse = IsTrueFalseKey(record.answer) && !HasChoices(record);
+  if (!trueFalse && !record.answer.empty() && !IsChoiceKey(record.answer)) {
     losses.Tell(place, "its answer is none of its choices");
     record.answer.clear();
   }
@@ -96,7 +97,7 @@ std::vector<Text> QuestionFields(const SourceCard& card, Losses& losses) {
     kept.shortFields = {};
   }
   const bool fits =
-      trueFalse ? IsTrueOrFalse(kept.answer) : kept.answer.empty() || IsChoiceLetter(kept.answer);
+      trueFalse ? IsTrueFalseKey(kept.answer) : kept.answer.empty() || IsChoiceKey(kept.answer);
   if (!fits) {
     losses.Tell(card.place, kept.answer.empty()
                                 ? "without an answer it is not kept as a true/false question"

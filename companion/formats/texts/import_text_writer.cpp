@@ -3,6 +3,7 @@
 #include <optional>
 
 #include "companion/cards/text_form.h"
+#include "deck/answer_key.h"
 #include "import/import_common.h"
 #include "import/line_kinds.h"
 #include "import/standard_import.h"
@@ -74,9 +75,9 @@ class TextLines {
       return;
     }
     const bool trueFalse = IsType(record.cardType, CardType::kTrueFalse);
-    const bool kept = trueFalse ? IsTrueOrFalse(record.answer) : IsChoiceLetter(record.answer);
+    const bool kept = trueFalse ? IsTrueFalseKey(record.answer) : IsChoiceKey(record.answer);
     if (!kept) losses_.Tell(place, "its answer and its type do not fit together");
-    if (kept || IsTrueOrFalse(record.answer) || IsChoiceLetter(record.answer))
+    if (kept || IsTrueFalseKey(record.answer) || IsChoiceKey(record.answer))
       Add(u"=" + record.answer);
   }
 

@@ -18,8 +18,8 @@ Text NameOf(const Text& path) {
 
 class MemoryFile : public File {
  public:
-  MemoryFile(MemoryFiles& owner, Text path, std::shared_ptr<std::string> bytes)
-      : owner_(owner), path_(std::move(path)), bytes_(std::move(bytes)) {}
+  MemoryFile(MemoryFiles& owner, Text path, OpenMode mode, std::shared_ptr<std::string> bytes)
+      : owner_(owner), path_(std::move(path)), mode_(mode), bytes_(std::move(bytes)) {}
 
   std::size_t ReadAt(std::uint64_t offset, std::span<char> buffer) override {
     owner_.MayFail(MemoryFiles::Operation::kRead, path_);
@@ -29,6 +29,7 @@ class MemoryFile : public File {
 
   void WriteAt(std::uint64_t offset, std::span<const char> bytes) override {
     owner_.MayFail(MemoryFiles::Operation::kWrite, path_);
+    if (mode_ == OpenMode::kRead) throw RunTimeError(ErrorNumber::kDeviceIo);
     const auto start = static_cast<std::size_t>(offset);
     if (bytes_->size() < start + bytes.size()) bytes_->resize(start + bytes.size());
     bytes_->replace(start, bytes.size(), bytes.data(), bytes.size());
@@ -37,6 +38,7 @@ class MemoryFile : public File {
  private:
   MemoryFiles& owner_;
   Text path_;
+  OpenMode mode_;
   std::shared_ptr<std::string> bytes_;
 };
 
@@ -77,7 +79,7 @@ std::unique_ptr<File> MemoryFiles::Open(const Text& path, OpenMode mode) {
     if (mode == OpenMode::kRead) throw RunTimeError(ErrorNumber::kFileNotFound);
     Put(path, "");
   }
-  return std::make_unique<MemoryFile>(*this, path, files.at(path));
+  return std::make_unique<MemoryFile>(*this, path, mode, files.at(path));
 }
 
 void MemoryFiles::Delete(const Text& path) {

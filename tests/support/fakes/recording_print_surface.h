@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <set>
 #include <sstream>
 #include <string>
 #include <vector>
@@ -22,9 +23,12 @@ class RecordingPrintSurface : public PrintSurface {
   double pageWidth = 4000;
   double pageHeight = 15000;
   double y = 0;
+  std::vector<int> jobs;    ///< pages of each document that has ended
+  std::set<Text> noQueues;  ///< names of queues that there are not
 
   void SetDestination(const PrintDestination& destination) override {
     record.Add("Destination " + DestinationName(destination));
+    queue_ = destination.printer;
   }
   void SetCopies(int copies) override { record.Add("Copies " + Number(copies)); }
   void SetFontName(const Text& name) override { record.Add("Font " + ToUtf8(name)); }
@@ -33,8 +37,10 @@ class RecordingPrintSurface : public PrintSurface {
   void SetItalic(bool italic) override { record.Add(italic ? "Italic on" : "Italic off"); }
   void PrintLine(const Text& text) override {
     record.Add("Line " + ToUtf8(text));
+    if (noQueues.contains(queue_)) throw RunTimeError(ErrorNumber::kPrinterError);
     for (std::size_t line = 0; line < Lines(text).size(); ++line) {
-      y = y + kLineHeight > pageHeight ? kLineHeight : y + kLineHeight;
+      if (y + kLineHeight > pageHeight) TurnPage();
+      y += kLineHeight;
     }
   }
   void DrawLine(double x1, double y1, double x2, double y2) override {
@@ -53,18 +59,27 @@ class RecordingPrintSurface : public PrintSurface {
   }
   void NewPage() override {
     record.Add("New page");
-    y = 0;
+    TurnPage();
   }
   void EndDocument() override {
     record.Add("End");
-    y = 0;
+    jobs.push_back(page_);
+    StartAnew();
   }
   void DropDocument() override {
     record.Add("Drop");
-    y = 0;
+    StartAnew();
   }
 
  private:
+  void TurnPage() {
+    ++page_;
+    y = 0;
+  }
+  void StartAnew() {
+    page_ = 1;
+    y = 0;
+  }
   static std::string Number(double value) {
     std::ostringstream stream;
     stream << value;
@@ -83,6 +98,9 @@ class RecordingPrintSurface : public PrintSurface {
     }
     return lines;
   }
+
+  Text queue_;
+  int page_ = 1;
 };
 
 }  // namespace tessara::test

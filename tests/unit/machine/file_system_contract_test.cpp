@@ -101,6 +101,41 @@ TEST_CASE_TEMPLATE("writing changes its own bytes and lengthens the file where n
   CHECK(disk.Bytes(u"a").size() == 11);
 }
 
+TEST_CASE_TEMPLATE("what one writes another one reads at once, and finds behind the closing", Disk,
+                   RealDisk, MemoryDisk) {
+  Disk disk;
+  disk.Put(u"a", "abc");
+  const auto writer = disk.files.Open(disk.Path(u"a"), OpenMode::kReadAndWrite);
+  const auto reader = disk.files.Open(disk.Path(u"a"), OpenMode::kRead);
+  writer->WriteAt(1, std::array{'X'});
+  CHECK(Read(*reader, 0, 3) == "aXc");
+  CHECK(ErrorOf([&] { writer->Close(); }) == 0);
+  CHECK(disk.Bytes(u"a") == "aXc");
+  CHECK(Read(*reader, 0, 3) == "aXc");
+}
+
+TEST_CASE_TEMPLATE("an open file that is deleted can be read and written to its closing", Disk,
+                   RealDisk, MemoryDisk) {
+  Disk disk;
+  disk.Put(u"a", "abc");
+  const auto open = disk.files.Open(disk.Path(u"a"), OpenMode::kReadAndWrite);
+  disk.files.Delete(disk.Path(u"a"));
+  open->WriteAt(3, std::array{'d'});
+  CHECK(Read(*open, 0, 9) == "abcd");
+  CHECK_FALSE(disk.files.EntryName(disk.Path(u"a")).has_value());
+  (void)disk.files.Open(disk.Path(u"a"), OpenMode::kReadAndWrite);
+  CHECK(disk.Bytes(u"a").empty());
+}
+
+TEST_CASE_TEMPLATE("a file that was opened to be read takes no bytes", Disk, RealDisk,
+                   MemoryDisk) {
+  Disk disk;
+  disk.Put(u"a", "abc");
+  const auto open = disk.files.Open(disk.Path(u"a"), OpenMode::kRead);
+  CHECK(ErrorOf([&] { open->WriteAt(0, std::array{'X'}); }) == 57);
+  CHECK(disk.Bytes(u"a") == "abc");
+}
+
 TEST_CASE_TEMPLATE("a deleted file is gone; only files can be deleted", Disk, RealDisk,
                    MemoryDisk) {
   Disk disk;

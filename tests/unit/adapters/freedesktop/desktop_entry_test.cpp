@@ -35,7 +35,7 @@ TEST_CASE("an entry starts its program with one file, and vanishes with it, what
         {"/a\"b`c/t", R"("/a\\"b\\`c/t")", "/a\"b`c/t"},
         {"/a\\b/t", R"("/a\\\\b/t")", R"(/a\\b/t)"},
         {"/a\nTerminal=true\rb/t", R"("/a\nTerminal=true\rb/t")", R"(/a\nTerminal=true\rb/t)"},
-        {"/a\tb/t", R"("/a\tb/t")", R"(/a\tb/t)"}}) {
+        {"/a\tb/t", "\"/a\tb/t\"", "/a\tb/t"}}) {
     CHECK(SavedFor(c.path) == "[Desktop Entry]\nName=Tessara\nExec=" + c.exec +
                                   " %f\nMimeType=a/b;\nTryExec=" + c.tryExec + "\n");
   }
