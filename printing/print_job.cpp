@@ -1,7 +1,7 @@
 // A job from the press of the print button to the box at its end.
 
 #include "base/run_time_error.h"
-#include "deck/life/deck_name.h"
+#include "deck/file/deck_path.h"
 #include "machine/hourglass.h"
 #include "machine/message_box.h"
 #include "printing/print_copies.h"

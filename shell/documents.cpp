@@ -1,10 +1,20 @@
 #include "shell/documents.h"
 
 #include "machine/desktop.h"
+#include "machine/document_types.h"
 #include "machine/message_box.h"
 #include "machine/program_file.h"
+#include "machine/settings_store.h"
+#include "shell/settings.h"
 
 namespace tessara {
+
+void RegisterDocumentType(const Machine& machine) {
+  machine.documentTypes.Declare({ProgramFile(machine, u"tessara.xml"),
+                                 ProgramFile(machine, u"tessara.desktop"),
+                                 ProgramFile(machine, u"icons"), ProgramFile(machine, u"tessara")});
+  machine.settings.Write(Text(kFirstLoadKey), u"False");
+}
 
 int OpenWithShell(const Text& path, const Machine& machine) {
   const int result = machine.desktop.Open(path);

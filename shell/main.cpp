@@ -8,7 +8,6 @@
 #include <system_error>
 
 #include "adapters/freedesktop/notifications.h"
-#include "adapters/freedesktop/update_tools.h"
 #include "adapters/freedesktop/user_document_types.h"
 #include "adapters/libreoffice/loader/loaded_spreadsheet.h"
 #include "adapters/posix/code_page_of_locale.h"

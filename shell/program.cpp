@@ -6,7 +6,7 @@
 #include "machine/message_box.h"
 #include "machine/settings_store.h"
 #include "printing/spreadsheet_job.h"
-#include "shell/document_association.h"
+#include "shell/documents.h"
 #include "shell/picture_lists.h"
 #include "shell/settings.h"
 

@@ -2,7 +2,7 @@
 
 #include "deck/file/deck_file_name.h"
 #include "deck/life/ask_file_name.h"
-#include "deck/life/dialog_folder.h"
+#include "deck/life/dialog_places.h"
 #include "forms/place_in_frame.h"
 #include "import/import_text_file.h"
 #include "machine/desktop.h"

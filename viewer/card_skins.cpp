@@ -24,8 +24,7 @@ const CardSkin* AnswerCardSkin(const Settings& settings) {
 void DeckWindow::SetUpDeck() {
   const Settings& settings = State().settings;
   cardShadow.SetVisible(NumberOf(settings.largeCard3D) == 1);
-  card.SetCardColor(
-      Text(NumberOf(settings.largeCardColor) == 1 ? kYellowCard : kWhiteCard));
+  card.SetCardColor(Text(NumberOf(settings.largeCardColor) == 1 ? kYellowCard : kWhiteCard));
   if (const CardSkin* skin = AnswerCardSkin(settings)) {
     answerCard.SetPicture(CardPicture(skin->key, kWallPaperList, App().frame));
   }

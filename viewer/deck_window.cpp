@@ -4,7 +4,7 @@
 
 #include "deck/deck_info_window.h"
 #include "deck/double_amps.h"
-#include "deck/file/long_path_of.h"
+#include "deck/file/deck_path.h"
 #include "forms/place_in_frame.h"
 #include "viewer/answer_text.h"
 

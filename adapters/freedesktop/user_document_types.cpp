@@ -3,6 +3,7 @@
 #include <system_error>
 
 #include "adapters/freedesktop/desktop_entry.h"
+#include "adapters/posix/process/start_process.h"
 #include "base/folder_entries.h"
 #include "base/utf8.h"
 
@@ -11,6 +12,14 @@ namespace tessara {
 namespace fs = std::filesystem;
 
 namespace {
+
+/// Its arguments are the folder, the entry and the types.
+constexpr const char* kScript = R"(update-mime-database "$1/mime"
+update-desktop-database "$1/applications"
+gtk-update-icon-cache -q -t -f "$1/icons/hicolor"
+IFS=';'
+xdg-mime default "$2" $3
+)";
 
 fs::path PathOf(const Text& path) {
   return ToUtf8(path);
@@ -60,6 +69,11 @@ UserDocumentTypes::Declared UserDocumentTypes::WriteFiles(const DocumentType& ty
 
 void UserDocumentTypes::Declare(const DocumentType& type) {
   if (!userData_.empty()) tools_(WriteFiles(type));
+}
+
+void StartUpdateTools(const UserDocumentTypes::Declared& declared) {
+  StartDetached({"/bin/sh", "-c", kScript, "sh", declared.userData.string(), declared.entry,
+                 declared.documentTypes});
 }
 
 }  // namespace tessara

@@ -35,4 +35,8 @@ class UserDocumentTypes : public DocumentTypes {
   Tools tools_;
 };
 
+/// Starts the desktop's own tools that make new types, entries and icons known, and makes the
+/// entry's program the default one for its documents. Returns at once; a missing tool is silent.
+void StartUpdateTools(const UserDocumentTypes::Declared& declared);
+
 }  // namespace tessara

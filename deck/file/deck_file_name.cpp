@@ -1,6 +1,6 @@
 #include "deck/file/deck_file_name.h"
 
-#include "deck/life/deck_name.h"
+#include "deck/file/deck_path.h"
 
 namespace tessara {
 

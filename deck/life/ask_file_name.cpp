@@ -1,8 +1,7 @@
 #include "deck/life/ask_file_name.h"
 
-#include "deck/life/dialog_folder.h"
+#include "deck/life/dialog_places.h"
 #include "deck/life/file_dialog_holder.h"
-#include "deck/life/save_place.h"
 #include "forms/window.h"
 #include "machine/desktop.h"
 

@@ -1,7 +1,7 @@
 #include "deck/life/deck_life.h"
 
+#include "deck/file/deck_path.h"
 #include "deck/life/ask_file_name.h"
-#include "deck/life/deck_name.h"
 
 namespace tessara {
 

@@ -2,7 +2,7 @@
 
 #include <exception>
 
-#include "deck/life/deck_name.h"
+#include "deck/file/deck_path.h"
 #include "machine/desktop.h"
 #include "machine/safety_copies.h"
 
@@ -10,17 +10,10 @@ namespace tessara {
 
 namespace {
 
-constexpr TextView kDeckEnding = u".tsr";
-
 /// What the deck's file is called; a deck without one has the name that its window has.
-Text FileNameOf(const Text& path) {
-  const Text name = path.substr(path.find_last_of(u"/\\") + 1);
+Text FileNameOfDeck(const Text& path) {
+  const Text name = FileNameOf(path);
   return name.empty() ? Text(kNewDeckName) : name;
-}
-
-Text WithoutEnding(const Text& fileName) {
-  const bool ends = fileName.ends_with(kDeckEnding);
-  return fileName.substr(0, fileName.size() - (ends ? kDeckEnding.size() : 0));
 }
 
 }  // namespace
@@ -55,7 +48,7 @@ void UnsavedDeck::KeepIfChanged() {
   if (!unsaved_) return;
   seen_ = changes;
   if (image_.HasCards()) {
-    copies_.KeepUnsaved(FileNameOf(state_.deck.filePath), image_.Bytes());
+    copies_.KeepUnsaved(FileNameOfDeck(state_.deck.filePath), image_.Bytes());
   } else {
     // The user has deleted the last one.
     copies_.DropUnsaved();
@@ -70,14 +63,14 @@ void UnsavedDeck::Saved() {
 }
 
 void UnsavedDeck::NotSaved(const Text& path) {
-  const Text fileName = FileNameOf(path);
+  const Text fileName = FileNameOfDeck(path);
   const Text kept = copies_.KeepNotSaved(fileName, image_.Bytes());
   if (kept.empty()) return;
   unsaved_ = false;
   seen_ = image_.Changes();
-  desktop_.Notify(u"A deck may not have been saved", u"Saving the deck " + WithoutEnding(fileName) +
-                                                         u" met an error. The deck is kept as " +
-                                                         kept + u" and can be opened there.");
+  desktop_.Notify(u"A deck may not have been saved",
+                  u"Saving the deck " + WithoutDeckEnding(fileName) +
+                      u" met an error. The deck is kept as " + kept + u" and can be opened there.");
 }
 
 void UnsavedDeck::GivenUp() {

@@ -55,7 +55,8 @@ struct PaperDesk {
     });
   }
   static void Cancel() {
-    QTimer::singleShot(0, [] { qobject_cast<QDialog*>(QApplication::activeModalWidget())->reject(); });
+    QTimer::singleShot(0,
+                       [] { qobject_cast<QDialog*>(QApplication::activeModalWidget())->reject(); });
   }
   /// Chooses the queue and the copies in the dialog, and prints all cards.
   std::string Print(const char* queue, Mode mode, int copies = 1) {

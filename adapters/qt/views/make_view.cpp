@@ -1,13 +1,13 @@
 #include "adapters/qt/views/make_view.h"
 
-#include "adapters/qt/views/boxes/box_view.h"
 #include "adapters/qt/views/boxes/combo_view.h"
+#include "adapters/qt/views/boxes/list_items_view.h"
 #include "adapters/qt/views/boxes/text_area_view.h"
 #include "adapters/qt/views/boxes/text_line_view.h"
 #include "adapters/qt/views/button_view.h"
 #include "adapters/qt/views/check_view.h"
+#include "adapters/qt/views/group_view.h"
 #include "adapters/qt/views/label_view.h"
-#include "adapters/qt/views/list_items_view.h"
 #include "adapters/qt/views/option_view.h"
 #include "adapters/qt/views/painted_view.h"
 #include "adapters/qt/views/picture_view.h"
@@ -38,7 +38,7 @@ ControlView* MakeByKind(Control& control, QWidget& parent, const ViewContext& co
     case ControlKind::kCheckBox:
       return Make<CheckView, CheckBox>(control, parent, context);
     case ControlKind::kFrame:
-      return Make<BoxView, Frame>(control, parent, context);
+      return Make<GroupView, Frame>(control, parent, context);
     case ControlKind::kPictureBox:
       return Make<PictureBoxView, PictureBox>(control, parent, context);
     case ControlKind::kImage:

@@ -13,7 +13,7 @@ namespace tessara::test {
 
 /// How a user answers the dialogs that come next, each told before it comes.
 struct DialogUser {
-  std::function<void(const Text& path)> answerFile;  ///< an empty path is a cancel
+  std::function<void(const Text& path)> answerFile;                 ///< an empty path is a cancel
   std::function<void(const std::optional<Text>& text)> answerText;  ///< nothing is a cancel
 };
 

@@ -127,8 +127,7 @@ TEST_CASE_TEMPLATE("an open file that is deleted can be read and written to its 
   CHECK(disk.Bytes(u"a").empty());
 }
 
-TEST_CASE_TEMPLATE("a file that was opened to be read takes no bytes", Disk, RealDisk,
-                   MemoryDisk) {
+TEST_CASE_TEMPLATE("a file that was opened to be read takes no bytes", Disk, RealDisk, MemoryDisk) {
   Disk disk;
   disk.Put(u"a", "abc");
   const auto open = disk.files.Open(disk.Path(u"a"), OpenMode::kRead);

@@ -2,7 +2,7 @@
 
 #include <doctest/doctest.h>
 
-#include "deck/life/save_place.h"
+#include "deck/life/dialog_places.h"
 #include "tests/support/test_desk.h"
 
 namespace tessara::test {

@@ -1,7 +1,6 @@
-#include "deck/life/save_place.h"
-
 #include <doctest/doctest.h>
 
+#include "deck/life/dialog_places.h"
 #include "tests/support/fakes/memory_files.h"
 
 namespace tessara::test {

@@ -1,4 +1,4 @@
-#include "adapters/qt/views/boxes/box_view.h"
+#include "adapters/qt/views/group_view.h"
 
 #include <QGroupBox>
 
@@ -6,10 +6,10 @@
 
 namespace tessara {
 
-BoxView::BoxView(Frame& frame, QWidget& parent, const ViewContext& context)
+GroupView::GroupView(Frame& frame, QWidget& parent, const ViewContext& context)
     : ControlView(frame, *new QGroupBox(&parent), context) {}
 
-void BoxView::FollowOwn(Aspect aspect) {
+void GroupView::FollowOwn(Aspect aspect) {
   if (aspect != Aspect::kCaption) return;
   static_cast<QGroupBox&>(Widget()).setTitle(ToQString(As<Frame>().Caption()));
 }

@@ -1,6 +1,10 @@
-#include "deck/life/save_place.h"
+#include "deck/life/dialog_places.h"
 
 #include "base/run_time_error.h"
+#include "deck/file/deck_path.h"
+#include "machine/desktop.h"
+#include "machine/file_system.h"
+#include "machine/program_file.h"
 
 namespace tessara {
 
@@ -32,6 +36,19 @@ Text SaveRefusal(const Text& path, FileSystem& files) {
     return u"The deck can't be saved: " + Text(Reason(error.Number())) +
            u" Choose another place or name." + Text(kLineBreak) + Text(kLineBreak) + path;
   }
+}
+
+Text DialogFolder(const Machine& machine, const ProgramState& state) {
+  const Text likeADeck = ProgramFile(machine, u"deck" + Text(kDeckEnding));
+  if (SaveRefusal(likeADeck, machine.files).empty()) return machine.programFolder;
+  const Text& last = state.dialogs.folderUsedLast;
+  const bool stillThere = !last.empty() && machine.files.EntryName(last).has_value();
+  return stillThere ? last : machine.desktop.DocumentsFolder();
+}
+
+void NoteFolderOf(const Text& path, ProgramState& state) {
+  const Text folder = FolderOf(path);
+  if (!folder.empty()) state.dialogs.folderUsedLast = folder;
 }
 
 }  // namespace tessara

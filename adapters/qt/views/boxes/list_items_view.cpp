@@ -1,4 +1,4 @@
-#include "adapters/qt/views/list_items_view.h"
+#include "adapters/qt/views/boxes/list_items_view.h"
 
 #include <QHeaderView>
 #include <QMouseEvent>

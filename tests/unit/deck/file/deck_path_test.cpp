@@ -1,4 +1,4 @@
-#include "deck/file/long_path_of.h"
+#include "deck/file/deck_path.h"
 
 #include <doctest/doctest.h>
 #include <vector>
@@ -56,6 +56,46 @@ TEST_CASE("a path with a part that is missing has no long form at all") {
   CHECK(LongPathOf(u"/home/.hidden", files) == u"/home/.hidden");
   CHECK(LongPathOf(u"/home/.hidden/other.tsr", files).empty());
   CHECK(LongPathOf(u"/nowhere/deck.tsr", files).empty());
+}
+
+TEST_CASE("a deck's name stands behind the last separator and before the first point") {
+  struct Case {
+    TextView path;
+    TextView name;
+  };
+  const Case cases[] = {
+      {u"/home/me/Capitals.tsr", u"Capitals"},
+      {u"C:\\Decks\\Capitals.tsr", u"Capitals"},
+      {u"C:\\Decks/Capitals.tsr", u"Capitals"},
+      {u"/decks/my.old.tsr", u"my"},
+      {u"/decks/two words.tsr", u"two words"},
+      {u"/my.folder/Capitals", u""},
+      {u"/decks/.tsr", u""},
+      {u"Capitals.tsr", u""},
+      {u"/decks/", u""},
+      {u"", u""},
+  };
+  for (const Case& c : cases) CHECK(DeckNameOf(Text(c.path)) == c.name);
+}
+
+TEST_CASE("a path's folder and file name part at its last separator, and the root stays one") {
+  struct Case {
+    Text path;
+    Text folder;
+    Text fileName;
+  };
+  for (const Case& c : {Case{u"/home/me/a.tsr", u"/home/me", u"a.tsr"},
+                        {u"C:\\decks\\a.tsr", u"C:\\decks", u"a.tsr"},
+                        {u"C:\\decks/a", u"C:\\decks", u"a"},
+                        {u"/a.tsr", u"/", u"a.tsr"},
+                        {u"/decks/", u"/decks", u""},
+                        {u"a.tsr", u"", u"a.tsr"},
+                        {u"", u"", u""}}) {
+    CHECK(FolderOf(c.path) == c.folder);
+    CHECK(FileNameOf(c.path) == c.fileName);
+  }
+  CHECK(WithoutDeckEnding(u"a.tsr") == u"a");
+  CHECK(WithoutDeckEnding(u"a.TSR.x") == u"a.TSR.x");
 }
 
 }  // namespace tessara::test

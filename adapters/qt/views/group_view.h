@@ -6,9 +6,9 @@
 namespace tessara {
 
 /// Shows a group box. What it holds stands inside its widget.
-class BoxView : public ControlView {
+class GroupView : public ControlView {
  public:
-  BoxView(Frame& frame, QWidget& parent, const ViewContext& context);
+  GroupView(Frame& frame, QWidget& parent, const ViewContext& context);
 
  protected:
   void FollowOwn(Aspect aspect) override;

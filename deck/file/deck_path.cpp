@@ -1,4 +1,4 @@
-#include "deck/file/long_path_of.h"
+#include "deck/file/deck_path.h"
 
 #include <algorithm>
 
@@ -15,6 +15,27 @@ Text DriveOf(const Text& path) {
 }
 
 }  // namespace
+
+Text FileNameOf(const Text& path) {
+  return path.substr(path.find_last_of(kSeparators) + 1);
+}
+
+Text FolderOf(const Text& path) {
+  const std::size_t separator = path.find_last_of(kSeparators);
+  return separator == Text::npos ? Text() : path.substr(0, std::max<std::size_t>(separator, 1));
+}
+
+Text WithoutDeckEnding(const Text& fileName) {
+  const bool ends = fileName.ends_with(kDeckEnding);
+  return fileName.substr(0, fileName.size() - (ends ? kDeckEnding.size() : 0));
+}
+
+Text DeckNameOf(const Text& path) {
+  if (path.find_first_of(kSeparators) == Text::npos) return {};
+  const Text fileName = FileNameOf(path);
+  const std::size_t point = fileName.find(u'.');
+  return point == Text::npos ? Text() : fileName.substr(0, point);
+}
 
 Text LongPathOf(const Text& path, FileSystem& files) {
   Text longPath = DriveOf(path);

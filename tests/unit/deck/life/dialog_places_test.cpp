@@ -1,4 +1,4 @@
-#include "deck/life/dialog_folder.h"
+#include "deck/life/dialog_places.h"
 
 #include <doctest/doctest.h>
 
