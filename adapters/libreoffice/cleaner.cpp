@@ -18,7 +18,7 @@ namespace {
 
 /// Its first argument is the folder, the others are the files. It waits for a line or for the end
 /// of its input.
-constexpr const char* kScript =
+constexpr const char* kCleaningScript =
     "trap '' HUP INT TERM\n"
     "read -r line\n"
     "rm -f -- \"$@\"\n"
@@ -26,7 +26,7 @@ constexpr const char* kScript =
 
 Launch Shell(int input, const std::filesystem::path& folder,
              const std::vector<std::filesystem::path>& files) {
-  Launch launch{{"/bin/sh", "-c", kScript, folder.string()}};
+  Launch launch{{"/bin/sh", "-c", kCleaningScript, folder.string()}};
   for (const std::filesystem::path& file : files) launch.command.push_back(file.string());
   launch.input = input;
   return launch;

@@ -26,7 +26,7 @@ constexpr int kRestart = 81;
 
 /// What the server makes is nobody else's, and it dies with the program, also with one that died
 /// before the server was told so. Behind the program's number stands the server's command.
-constexpr const char* kScript =
+constexpr const char* kServerScript =
     "umask 077\n"
     "exec setpriv --pdeathsig KILL"
     " /bin/sh -c '[ \"$PPID\" = \"$0\" ] && exec \"$@\"' \"$@\"";
@@ -34,7 +34,7 @@ constexpr const char* kScript =
 std::vector<std::string> Command(const std::string& office, const std::filesystem::path& folder) {
   return {"/bin/sh",
           "-c",
-          kScript,
+          kServerScript,
           "sh",
           std::to_string(getpid()),
           office + "/soffice.bin",
