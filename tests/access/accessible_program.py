@@ -99,6 +99,10 @@ class Node:
         """What stands in a box, read anew each time."""
         return Atspi.Text.get_text(self._accessible, 0, -1)
 
+    def write(self, text):
+        """Puts a text into a box at once, as an input method does."""
+        Atspi.EditableText.set_text_contents(self._accessible, text)
+
     def children(self):
         for index in range(self._accessible.get_child_count()):
             child = self._accessible.get_child_at_index(index)

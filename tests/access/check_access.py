@@ -129,6 +129,14 @@ class Windows(unittest.TestCase):
                 with self.showing(scene):
                     self.stands(scene)
 
+    def test_a_text_that_a_save_would_cut_is_told(self):
+        scene = next(scene for scene in SCENES if scene.name == "builder-text-new")
+        with self.showing(scene):
+            for length, told in ((444, ""), (450, "6 characters too long: a save cuts them off."), (3, "")):
+                self.program.find(scene.title, "Front").write("x" * length)
+                wait_for(f"{length} letters to be told", lambda told=told: self.program.find(
+                    scene.title, "Front").description == told)
+
 
 def main():
     global tessara, samples
