@@ -51,7 +51,7 @@ class KvtmlWriter {
     declaration.append_attribute("version") = "1.0";
     declaration.append_attribute("encoding") = "UTF-8";
     document_.append_child(pugi::node_doctype)
-        .set_value("kvtml PUBLIC \"kvtml2.dtd\" \"http://edu.kde.org/kvtml/kvtml2.dtd\"");
+        .set_value(R"(kvtml PUBLIC "kvtml2.dtd" "http://edu.kde.org/kvtml/kvtml2.dtd")");
     kvtml_ = document_.append_child("kvtml");
     kvtml_.append_attribute("version") = "2.0";
     AddInformation(deck);

@@ -13,6 +13,7 @@ namespace {
 
 std::vector<Text> Decoded(const std::vector<std::string>& names, const TextDecoder& decoder) {
   std::vector<Text> texts;
+  texts.reserve(names.size());
   for (const std::string& name : names) texts.push_back(decoder.Decode(name));
   return texts;
 }

@@ -83,7 +83,7 @@ class TextLines {
 
   /// The readers put nothing between the lines of a text.
   Text OneLine(const Text& text, const char* name, const Place& place) {
-    const Text line = WithoutBreaks(text);
+    Text line = WithoutBreaks(text);
     if (line.size() != text.size() || line != text)
       losses_.Tell(place, std::string("the line breaks of the ") + name + " become blanks");
     if (!IsWellFormed(line)) losses_.Tell(place, "halves of characters are not kept");
