@@ -38,7 +38,7 @@ int FreeHeightBelow(const Control& control) {
   return std::max(0, free);
 }
 
-int UncoveredWidth(const Control& control) {
+int CoveredWidth(const Control& control) {
   const auto& all = control.Owner().Controls();
   const Bounds& own = control.BoundsOf();
   int end = own.left + own.width;
@@ -48,7 +48,7 @@ int UncoveredWidth(const Control& control) {
     const bool beside = (*at)->Container() == control.Container();
     if (beside && Covers(other, own.left, end, own.top + own.height / 2)) end = other.left;
   }
-  return end - own.left;
+  return own.left + own.width - end;
 }
 
 }  // namespace tessara

@@ -43,8 +43,7 @@ class CaptionView : public ControlView {
     option.initFrom(&Shown());
     const QSize whole = Shown().style()->subElementRect(room_, &option, &Shown()).size();
     const auto& control = As<CaptionedControl>();
-    const int covered = control.BoundsOf().width - UncoveredWidth(control);
-    return whole - QSize(Context().scale.FromTwips(covered), 0);
+    return whole - QSize(Context().scale.FromTwips(CoveredWidth(control)), 0);
   }
 
  private:

@@ -88,8 +88,7 @@ void LabelView::FollowFont() {
   const auto& label = As<Label>();
   const PixelScale& scale = Context().scale;
   const QSize whole = scale.FromTwips(label.BoundsOf()).size();
-  const int covered = label.BoundsOf().width - UncoveredWidth(label);
-  const QSize room(whole.width() - scale.FromTwips(covered), whole.height());
+  const QSize room = whole - QSize(scale.FromTwips(CoveredWidth(label)), 0);
   static_cast<CaptionLabel&>(Widget()).Fit(scale.ControlFont(label.FontOf()), room,
                                            scale.FromTwips(FreeHeightBelow(label)));
 }

@@ -11,6 +11,7 @@
 
 #include "adapters/qt/text/dropped_file.h"
 #include "adapters/qt/text/qt_text.h"
+#include "adapters/qt/views/behind_box.h"
 #include "forms/window_system.h"
 
 namespace tessara {
@@ -121,8 +122,8 @@ void FrameWindow::closeEvent(QCloseEvent* event) {
 void FrameWindow::TakeDrag(QDropEvent& event) const {
   event.ignore();
   const auto path = OneFileIn(*event.mimeData());
-  const bool boxOpen = QApplication::activeModalWidget() != nullptr;
-  if (!path || boxOpen || form_ == nullptr || !form_->TakesInput() || !form_->TakesFile(*path)) {
+  if (!path || BehindBox(*this) || form_ == nullptr || !form_->TakesInput() ||
+      !form_->TakesFile(*path)) {
     return;
   }
   event.setDropAction(Qt::CopyAction);
@@ -138,8 +139,7 @@ void FrameWindow::dropEvent(QDropEvent* event) {
   TakeDrag(*event);
   if (!event->isAccepted()) return;
   const auto take = [this, path = *OneFileIn(*event->mimeData())] {
-    const bool boxOpen = QApplication::activeModalWidget() != nullptr;
-    if (form_ != nullptr && !boxOpen) form_->UserDropFile(path);
+    if (form_ != nullptr && !BehindBox(*this)) form_->UserDropFile(path);
   };
   QMetaObject::invokeMethod(this, take, Qt::QueuedConnection);
 }
