@@ -34,9 +34,9 @@ set(TESSARA_PICTURES_URL "" CACHE STRING "Address of the folder with the picture
 set(SCREENSHOTS "")
 if(TESSARA_PICTURES_URL)
   set(SCREENSHOTS "<screenshots>")
-  foreach(picture standard-front extended-front test-graded builder-standard-new print-window sheet-front)
+  foreach(picture extended-back standard-front test-graded builder-standard-new print-window sheet-front)
     set(kind "")
-    if(picture STREQUAL standard-front)
+    if(picture STREQUAL extended-back)
       set(kind " type=\"default\"")
     endif()
     string(APPEND SCREENSHOTS

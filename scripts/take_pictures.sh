@@ -1,16 +1,25 @@
 #!/usr/bin/env bash
-# Takes the pictures of docs/pictures from the running program, with the sample decks.
-# usage: scripts/with_display.sh scripts/take_pictures.sh [FOLDER]     after ./run; FOLDER for a look before they change
+# Takes the pictures of docs/pictures from the running program, with the sample decks, at twice the size for sharp screens.
+# It brings a display that is no larger than the windows need: so little of each picture is backdrop.
+# usage: scripts/take_pictures.sh [FOLDER]     after ./run; FOLDER for a look before they change
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+readonly screen=1328x1112 scale=2
+if [ "${SCREEN:-}" != $screen ]; then
+  SCREEN=$screen exec "$root/scripts/with_display.sh" "${BASH_SOURCE[0]}" "$@"
+fi
 build=$root/build/release
 pictures=${1:-$root/docs/pictures}
 mkdir -p "$pictures"
 
-# A home of its own: the pictures show the program as it comes.
+# A home of its own: the pictures show the program as it comes, and everywhere in the same letters.
 HOME=$(mktemp -d)
-export HOME LC_ALL=C.UTF-8
+export HOME LC_ALL=C.UTF-8 QT_SCALE_FACTOR=$scale
 unset XDG_CONFIG_HOME XDG_DATA_HOME XDG_STATE_HOME XDG_CACHE_HOME
+mkdir -p "$HOME/.config/fontconfig"
+cat >"$HOME/.config/fontconfig/fonts.conf" <<'END'
+<fontconfig><alias><family>sans-serif</family><prefer><family>Noto Sans</family></prefer></alias></fontconfig>
+END
 program=
 window=
 readonly endedBySigterm=143
@@ -27,7 +36,6 @@ trap '[ -z "$program" ] || kill "$program" 2>/dev/null; rm -rf "$HOME"' EXIT
 
 # settings MAIN_COLOR MAIN_3D SMALL_COLOR SMALL_3D
 settings() {
-  mkdir -p "$HOME/.config"
   printf '[Settings]\nShowSplash=0\nFirstLoad=False\nLargeCardColor=%s\nLargeCard3D=%s\nSmallCardColor=%s\nSmallCard3D=%s\n' \
     "$@" >"$HOME/.config/Tessara.conf"
 }
@@ -54,13 +62,18 @@ press() {
   sleep 0.3
 }
 
+# at LEFT TOP [ACTION...]: moves the pointer to that place of the window, in unscaled pixels, and does the rest there.
+at() {
+  xdotool mousemove --window "$window" $(($1 * scale)) $(($2 * scale)) "${@:3}"
+}
+
 # menu LEFT KEY...: clicks the menu at that place of the bar and chooses with the keys.
 menu() {
-  xdotool mousemove --window "$window" "$1" 9 click 1
+  at "$1" 9 click 1
   sleep 0.4
   press "${@:2}"
   # Away from the buttons, which would show that the pointer is on them.
-  xdotool mousemove --window "$window" 30 560
+  at 20 480
 }
 readonly file=15 mode=60 utility=105 help=150
 
@@ -88,7 +101,7 @@ science=$build/samples/science.tsr
 settings 0 1 0 1
 open
 press alt+c
-xdotool mousemove --window "$window" $file 9 click 1
+at $file 9 click 1
 take frame
 press Escape
 end_program
@@ -224,10 +237,10 @@ answer() {
 open "$capitals"
 menu $file Up Up Return
 # The button that selects all cards has no letter, the one beside it has.
-xdotool mousemove --window "$window" 452 503 click 1
+at 346 437 click 1
 sleep 0.5
 # A click on a card shows its back.
-xdotool mousemove --window "$window" 330 230 click 1
+at 224 164 click 1
 take print-window
 press alt+p
 answer Print
@@ -236,7 +249,7 @@ answer 'PRINT BACK'
 answer PRINT
 end_program
 for side in front:1 back:26; do
-  pdftoppm -r 60 -f "${side#*:}" -singlefile -png "$HOME/print.pdf" "$pictures/sheet-${side%:*}"
+  pdftoppm -r 120 -f "${side#*:}" -singlefile -png "$HOME/print.pdf" "$pictures/sheet-${side%:*}"
 done
 
 open "$capitals"

@@ -1,9 +1,12 @@
 #!/usr/bin/python3
 """Looks whether every picture is there, has its size, and, for a backdrop, repeats without a seam.
 
+A picture that README.md shows must be sharp at twice the size in which it stands there.
+
 Prints what is wrong and ends with status 1, or ends silently with 0. Needs the Debian package python3-pil.
 """
 
+import re
 import sys
 from pathlib import Path
 
@@ -18,6 +21,7 @@ from sources.icons import DECK, ICO_SIZES, PROGRAM, SIZES  # noqa: E402
 
 GENERATED = HERE / "generated"
 DATA = HERE.parent
+ROOT = DATA.parent
 
 # Name in the generated folder, width, height; each has a picture of twice the size beside it.
 PICTURES = [
@@ -125,13 +129,28 @@ def icon_faults():
     return faults + ([] if found == set(ICO_SIZES) else [f"Notelet.ico: sizes {sorted(found)}"])
 
 
+def shown_faults():
+    """What README.md shows, by name and width."""
+    shown = re.findall(r'<img src="([^"]+)" width="(\d+)"', (ROOT / "README.md").read_text(encoding="utf-8"))
+    faults = [] if shown else ["README.md: shows no picture"]
+    for name, width in shown:
+        path = ROOT / name
+        if not path.is_file():
+            faults.append(f"README.md: {name} is missing")
+            continue
+        with Image.open(path) as image:
+            if image.width < 2 * int(width):
+                faults.append(f"README.md: {name}: {image.width} pixels for twice {width}")
+    return faults
+
+
 def weight_faults():
     total = sum(path.stat().st_size for path in GENERATED.rglob("*") if path.is_file())
     return [f"{GENERATED}: {total} bytes, at most {TOTAL_BYTES}"] if total > TOTAL_BYTES else []
 
 
 def main():
-    faults = backdrop_faults() + picture_faults() + step_faults() + icon_faults() + weight_faults()
+    faults = backdrop_faults() + picture_faults() + step_faults() + icon_faults() + shown_faults() + weight_faults()
     for fault in faults:
         print(fault, file=sys.stderr)
     return 1 if faults else 0

@@ -42,8 +42,7 @@ RUN_AS = {
     "scripts/with_display.sh dbus-run-session -- tests/access/take_windows.py build/release /tmp/windows dark":
         "scripts/with_display.sh dbus-run-session -- tests/access/take_windows.py build/release {scratch} dark about"
         " && test -s {scratch}/about.png",
-    "scripts/with_display.sh scripts/take_pictures.sh":
-        "scripts/with_display.sh scripts/take_pictures.sh {scratch}/pictures",
+    "scripts/take_pictures.sh": "scripts/take_pictures.sh {scratch}/pictures",
     # The debug build compiles what the sanitizer build compiles: made ready here, not made.
     "cmake --preset debug": "cmake --preset debug -B {scratch}/debug",
     "cmake --build --preset debug": "cmake --preset debug -B {scratch}/debug && cmake --build {scratch}/debug -- -n",

@@ -63,6 +63,14 @@ TEST_CASE("the help comes up with its contents and its first page") {
   CHECK(help.page->toPlainText().contains(QStringLiteral("Tessara is a flash-card program")));
 }
 
+TEST_CASE("the help comes up no larger than the screen") {
+  const Shown help;
+  const QSize room = help.window->screen()->availableSize();
+  REQUIRE(room.width() < 960);
+  CHECK(help.window->width() <= room.width());
+  CHECK(help.window->height() <= room.height());
+}
+
 TEST_CASE("every page has the spaces of the help's style sheet") {
   const Shown help;
   for (const SiteMapEntry& entry : ReadHelpBook(*BuiltHelp()).contents) {

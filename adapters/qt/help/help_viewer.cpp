@@ -18,6 +18,7 @@
 #include "adapters/qt/help/chm_file.h"
 #include "adapters/qt/help/help_book.h"
 #include "adapters/qt/help/help_page.h"
+#include "adapters/qt/look/room_on_screen.h"
 
 namespace tessara {
 
@@ -89,7 +90,7 @@ void HelpViewer::LayOut() {
   splitter->setStretchFactor(1, 1);
   splitter->setSizes({kContentsWidth, kWindowSize.width() - kContentsWidth});
   setCentralWidget(splitter);
-  resize(kWindowSize);
+  resize(kWindowSize.boundedTo(RoomOnScreen()));
   contents_->setFocus();
 }
 

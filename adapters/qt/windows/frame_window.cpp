@@ -7,8 +7,8 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
-#include <QScreen>
 
+#include "adapters/qt/look/room_on_screen.h"
 #include "adapters/qt/text/dropped_file.h"
 #include "adapters/qt/text/qt_text.h"
 #include "adapters/qt/views/behind_box.h"
@@ -35,10 +35,7 @@ FrameWindow::FrameWindow(Form& form, const ViewContext& context)
 }
 
 QSize FrameWindow::OpeningSize(const PixelScale& scale) {
-  const QSize wanted = scale.FromPixels(kOpeningWidth, kOpeningHeight);
-  // The border and the title of the window stand outside of this size.
-  constexpr QSize kBorder(16, 48);
-  return wanted.boundedTo(QApplication::primaryScreen()->availableSize() - kBorder);
+  return scale.FromPixels(kOpeningWidth, kOpeningHeight).boundedTo(RoomOnScreen());
 }
 
 void FrameWindow::Follow(FormAspect aspect) {
