@@ -20,17 +20,18 @@ import screen_picture  # from scripts/, where accessible_program has looked too
 BREEZE = {"Window": "49,54,59", "View": "35,38,41", "Button": "49,54,59", "Tooltip": "49,54,59",
           "Selection": "61,174,233"}
 BLACK = dict.fromkeys(["Window", "View", "Button", "Tooltip"], "0,0,0")
-# Name: grounds, text, dimmed text, focus.
-SCHEMES = {"dark": (BREEZE, "239,240,241", "161,169,177", "61,174,233"),
-           "yellow-on-black": (BLACK | {"Selection": "0,128,0"}, "255,255,0", "200,200,0", "0,255,0"),
-           "white-on-black": (BLACK | {"Selection": "26,235,255"}, "255,255,255", "200,200,200", "26,235,255")}
+# Name: grounds, text, dimmed text, focus, selected text.
+SCHEMES = {"dark": (BREEZE, "239,240,241", "161,169,177", "61,174,233", "239,240,241"),
+           "yellow-on-black": (BLACK | {"Selection": "0,128,0"}, "255,255,0", "200,200,0", "0,255,0", "255,255,255"),
+           "white-on-black": (BLACK | {"Selection": "26,235,255"}, "255,255,255", "200,200,200", "26,235,255", "0,0,0")}
 
 
 def scheme_of(name):
-    grounds, text, dim_text, focus = SCHEMES[name]
+    grounds, text, dim_text, focus, selected_text = SCHEMES[name]
     for part, ground in grounds.items():
         yield f"[Colors:{part}]\nBackgroundNormal={ground}\nBackgroundAlternate={ground}\n"
-        yield f"ForegroundNormal={text}\nForegroundInactive={dim_text}\nForegroundLink={focus}\n"
+        yield f"ForegroundNormal={selected_text if part == 'Selection' else text}\n"
+        yield f"ForegroundInactive={dim_text}\nForegroundLink={focus}\n"
         yield f"DecorationFocus={focus}\nDecorationHover={focus}\n"
 
 

@@ -54,6 +54,22 @@ TEST_CASE("A long caption is made to fit its button and keeps its text") {
   CHECK(button.size() == QSize(97, 33));
 }
 
+TEST_CASE("A caption stays away from the sides of its button, however long it is") {
+  Desk desk;
+  SampleForm& form = desk.ShowChild();
+  const auto sides = [&form](std::size_t letters) {
+    form.Command2.SetCaption(Text(letters, u'i'));
+    const QImage picture = Desk::Of("Command2").grab().toImage();
+    return std::pair(picture.copy(2, 0, 1, picture.height()),
+                     picture.copy(picture.width() - 3, 0, 1, picture.height()));
+  };
+  const auto empty = sides(0);
+  for (std::size_t letters = 15; letters < 35; ++letters) {
+    CAPTURE(letters);
+    CHECK(sides(letters) == empty);
+  }
+}
+
 TEST_CASE("A caption's accelerator is underlined, and its mark is not seen") {
   Desk desk;
   SampleForm& form = desk.ShowChild();

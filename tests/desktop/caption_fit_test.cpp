@@ -2,7 +2,10 @@
 
 #include <QFontInfo>
 #include <QFontMetricsF>
+#include <QImage>
 #include <QLabel>
+#include <QPainter>
+#include <algorithm>
 #include <doctest/doctest.h>
 
 #include "adapters/qt/text/pixel_scale.h"
@@ -29,6 +32,27 @@ QSizeF SizeOf(const QString& caption, const QFont& font) {
 
 bool IsNarrowed(const QFont& font) {
   return font.stretch() != QFont::AnyStretch && font.stretch() < kOwnWidth;
+}
+
+/// The lowest pixel that is drawn of a caption in its room, on a screen of twice the density; in
+/// pixels of the program, from the top of the room.
+double InkBottom(const FittedCaption& fitted) {
+  constexpr int kDensity = 2;
+  QImage screen(QSize(400, 200) * kDensity, QImage::Format_Grayscale8);
+  screen.setDevicePixelRatio(kDensity);
+  screen.fill(Qt::white);
+  QPainter painter(&screen);
+  painter.setFont(fitted.font);
+  const int flags = Qt::AlignLeft | Qt::AlignTop | Qt::TextShowMnemonic;
+  painter.drawText(QRect(0, -static_cast<int>(fitted.rise), 400, 200), flags, fitted.text);
+  painter.end();
+  const auto drawn = [&](int row) {
+    const uchar* line = screen.constScanLine(row);
+    return std::any_of(line, line + screen.width(), [](uchar grey) { return grey < 128; });
+  };
+  int row = screen.height();
+  while (row > 0 && !drawn(row - 1)) --row;
+  return static_cast<double>(row) / kDensity;
 }
 
 /// The label stands at its full size on one line.
@@ -82,6 +106,20 @@ TEST_CASE("A line that is a little too high for its room is drawn higher, its in
       CHECK(fitted.font == font);
       CHECK(metrics.ascent() + ink.top() - fitted.rise >= 0);
       CHECK(metrics.ascent() + ink.bottom() - fitted.rise <= room);
+    }
+  }
+}
+
+TEST_CASE("The last of several lines has its ink in the room on a sharp screen too") {
+  for (const char* family : Faces()) {
+    QFont font = FontOf(family, 12);
+    font.setHintingPreference(QFont::PreferNoHinting);  // as on such a screen
+    for (const double room : {47.0, 49.0, 51.0}) {
+      CAPTURE(family);
+      CAPTURE(room);
+      const FittedCaption fitted =
+          FitCaption("Typing\nforty\ngypsy", font, {200, room}, CaptionPlace::kFromTop);
+      CHECK(InkBottom(fitted) <= room);
     }
   }
 }

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "adapters/qt/look/caption_fit.h"
+#include "adapters/qt/text/pixel_scale.h"
 #include "adapters/qt/windows/qt_renderer.h"
 #include "shell/program.h"
 #include "tests/desktop/support/desktop_font.h"
@@ -36,10 +37,15 @@ QSizeF RoomOf(const QWidget& widget, QStyle::SubElement element) {
   return widget.style()->subElementRect(element, &option, &widget).size();
 }
 
+/// What a button keeps free at either side of its caption.
+int ButtonSide() {
+  return PixelScale::OfDesktop().FromTwips(45);
+}
+
 /// The room of a caption; none for what has no caption.
 QSizeF CaptionRoomOf(const QWidget& widget) {
   if (qobject_cast<const QPushButton*>(&widget))
-    return RoomOf(widget, QStyle::SE_PushButtonContents);
+    return RoomOf(widget, QStyle::SE_PushButtonContents) - QSizeF(2 * ButtonSide(), 0);
   if (qobject_cast<const QCheckBox*>(&widget)) return RoomOf(widget, QStyle::SE_CheckBoxContents);
   if (qobject_cast<const QRadioButton*>(&widget))
     return RoomOf(widget, QStyle::SE_RadioButtonContents);
@@ -84,8 +90,8 @@ std::string FaultOf(const QWidget& widget) {
   const QStringList lines = fitted.text.split(u'\n');
   const double top = (isLabel ? 0 : (room.height() - size.height()) / 2) - fitted.rise;
   const double firstBaseline = top + metrics.ascent();
-  const double lastBaseline =
-      firstBaseline + metrics.lineSpacing() * static_cast<double>(lines.size() - 1);
+  const double oneLine = metrics.size(Qt::TextShowMnemonic, lines.back()).height();
+  const double lastBaseline = firstBaseline + size.height() - oneLine;
   if (firstBaseline + metrics.tightBoundingRect(lines.front()).top() < 0) return "cut above";
   const double bottom = metrics.tightBoundingRect(lines.back()).bottom();
   return lastBaseline + bottom > room.height() + 0.5 ? "cut below" : "";

@@ -31,10 +31,10 @@ Heights HeightsOf(const QString& lines, const QFont& font, CaptionPlace place) {
   // Letters that begin at a whole pixel stand on one.
   const double firstBaseline =
       place == CaptionPlace::kFromTop ? std::round(metrics.ascent()) : metrics.ascent();
-  const double lastBaseline =
-      firstBaseline + metrics.lineSpacing() * static_cast<double>(parts.size() - 1);
-  return {SizeOf(lines, font).height(),
-          firstBaseline + metrics.tightBoundingRect(parts.front()).top(),
+  // Painted lines begin at whole pixels, and are further apart than the font's spacing says.
+  const double block = SizeOf(lines, font).height();
+  const double lastBaseline = firstBaseline + block - SizeOf(parts.back(), font).height();
+  return {block, firstBaseline + metrics.tightBoundingRect(parts.front()).top(),
           lastBaseline + metrics.tightBoundingRect(parts.back()).bottom()};
 }
 

@@ -2,8 +2,15 @@
 
 namespace tessara {
 
+namespace {
+
+/// What stays free at either side of the caption, in twips.
+constexpr int kFreeSide = 45;
+
+}  // namespace
+
 ButtonView::ButtonView(tessara::Button& button, QWidget& parent, const ViewContext& context)
-    : CaptionView(button, parent, context, QStyle::SE_PushButtonContents) {}
+    : CaptionView(button, parent, context, QStyle::SE_PushButtonContents, kFreeSide) {}
 
 void ButtonView::FollowOwn(Aspect aspect) {
   CaptionView::FollowOwn(aspect);

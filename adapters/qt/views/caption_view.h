@@ -15,10 +15,13 @@ namespace tessara {
 template <class ButtonWidget>
 class CaptionView : public ControlView {
  public:
-  /// `room` is the part of the widget that the caption has.
+  /// `room` is the part of the widget that the caption has, but for `freeSide` twips at either
+  /// side.
   CaptionView(CaptionedControl& control, QWidget& parent, const ViewContext& context,
-              QStyle::SubElement room)
-      : ControlView(control, *new CaptionedWidget<ButtonWidget>(&parent), context), room_(room) {
+              QStyle::SubElement room, int freeSide = 0)
+      : ControlView(control, *new CaptionedWidget<ButtonWidget>(&parent), context),
+        room_(room),
+        freeSide_(freeSide) {
     QObject::connect(&Shown(), &QAbstractButton::clicked, this, [this] { TakeClick(); });
   }
 
@@ -42,8 +45,9 @@ class CaptionView : public ControlView {
     QStyleOptionButton option;
     option.initFrom(&Shown());
     const QSize whole = Shown().style()->subElementRect(room_, &option, &Shown()).size();
-    const auto& control = As<CaptionedControl>();
-    return whole - QSize(Context().scale.FromTwips(CoveredWidth(control)), 0);
+    const PixelScale& scale = Context().scale;
+    const int covered = scale.FromTwips(CoveredWidth(As<CaptionedControl>()));
+    return whole - QSize(covered + 2 * scale.FromTwips(freeSide_), 0);
   }
 
  private:
@@ -55,6 +59,7 @@ class CaptionView : public ControlView {
   }
 
   QStyle::SubElement room_;
+  int freeSide_;
 };
 
 }  // namespace tessara
