@@ -181,6 +181,27 @@ TEST_CASE("Titles of windows in the frame are read in every scheme, in front and
   }
 }
 
+TEST_CASE("Close boxes and edges of windows are seen in every scheme, in front and behind") {
+  for (const Scheme& scheme : kSchemes) {
+    CAPTURE(scheme.name);
+    const DesktopOfScheme desktop(scheme);
+    Desk desk;
+    desk.ShowChild();
+    desk.other->Show();
+    Desk::Settle();
+    for (const char* name : {"frmChild", "frmOther"}) {
+      CAPTURE(name);
+      const QImage window = Desk::Top(name)->grab().toImage();
+      const int middle = Desk::Top(name)->contentsMargins().top() / 2 + 1;
+      const QColor ground = window.pixelColor(window.width() / 2, 4);
+      const QImage cross = window.copy(window.width() - 19, middle - 4, 8, 8);
+      CHECK(MostContrast(cross, ground) >= kVisibleContrast);
+      const QImage edge = window.copy(0, window.height() / 2, 2, 1);
+      CHECK(MostContrast(edge, scheme.ground) >= kVisibleContrast);
+    }
+  }
+}
+
 TEST_CASE("Marks that are set, edges of boxes and the frames of groups are seen in every scheme") {
   for (const Scheme& scheme : kSchemes) {
     CAPTURE(scheme.name);

@@ -68,6 +68,31 @@ QPalette TitlePalette(const QPalette& palette) {
   return title;
 }
 
+/// Whether the ground is so dark that what the style draws on it in black is not seen.
+bool HidesBlack(const QColor& ground) {
+  return ContrastOf(ground, Qt::black) < kVisibleContrast;
+}
+
+/// The title of a window that is not in front, on a dark ground: drawn as one in front, whose close
+/// box has a white cross and not a black one, but in the window's colour.
+void DrawDarkTitleInWhite(QStyleOptionTitleBar& title) {
+  if (title.titleBarState & QStyle::State_Active) return;
+  const QColor ground = title.palette.color(QPalette::Window);
+  if (!HidesBlack(ground)) return;
+  title.titleBarState |= QStyle::State_Active;
+  title.palette.setColor(QPalette::Highlight, ground);
+}
+
+/// The style's edge of a window is darker than the window: it is lost on a dark one.
+void DrawDarkWindowEdge(const QStyleOption& option, QPainter& painter) {
+  const QColor ground = option.palette.color(QPalette::Window);
+  if (!HidesBlack(ground)) return;
+  painter.save();
+  painter.setPen(ReadableOn(ground, ground, kVisibleContrast));
+  painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
+  painter.restore();
+}
+
 /// Where the style draws the frame of a group: below its title.
 QRectF GroupFrameOf(const QStyleOption& option, const QWidget* widget, const QStyle& style) {
   constexpr int kTopMargin = 3;
@@ -146,6 +171,7 @@ class OutlineStyle : public QProxyStyle {
         darkening != 0 && (DrawOutlined<QStyleOptionButton>(*option, darkening, palettes_, draw) ||
                            DrawOutlined<QStyleOptionFrame>(*option, darkening, palettes_, draw));
     if (!outlined) draw(*option);
+    if (element == PE_FrameWindow) DrawDarkWindowEdge(*option, *painter);
   }
 
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
@@ -155,7 +181,8 @@ class OutlineStyle : public QProxyStyle {
       return QProxyStyle::drawComplexControl(control, option, painter, widget);
     }
     QStyleOptionTitleBar readable(*title);
-    readable.palette = TitlePalette(title->palette);
+    DrawDarkTitleInWhite(readable);
+    readable.palette = TitlePalette(readable.palette);
     QProxyStyle::drawComplexControl(control, &readable, painter, widget);
   }
 
