@@ -17,10 +17,8 @@ elseif(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
   target_compile_options(tessara_warnings INTERFACE
     -Wreserved-identifier -Wsuggest-override -Wzero-as-null-pointer-constant -Wrange-loop-analysis)
 endif()
-if(CMAKE_UNITY_BUILD)
-  # A local name may be a constant's in another source; the release build sees each source alone.
-  target_compile_options(tessara_warnings INTERFACE -Wno-shadow)
-endif()
+# A local name may be a constant's in another source of the bundle.
+target_compile_options(tessara_warnings INTERFACE $<$<BOOL:$<TARGET_PROPERTY:UNITY_BUILD>>:-Wno-shadow>)
 
 add_library(tessara_sanitizers INTERFACE)
 if(TESSARA_SANITIZE)

@@ -1,10 +1,12 @@
 #!/usr/bin/python3
 """Counts the test cases of a ctest run from its JUnit file.
 
-usage: count_tests.py RESULTS     prints "PASSED FAILED"; the output of failed tests goes to stderr
+usage: count_tests.py RESULTS     prints "PASSED FAILED"; the output of failed tests goes to stderr, and after all of
+                                  it their names
 
 A doctest program counts with its own cases, any other test as one.
 """
+import itertools
 import re
 import sys
 import xml.etree.ElementTree
@@ -23,14 +25,30 @@ def count(test):
     return passed, failed if succeeded or failed else 1
 
 
+def output(test):
+    """What the test has written; a line that comes again and again, once."""
+    lines = (test.findtext("system-out") or "").splitlines()
+    return "\n".join(line for line, _ in itertools.groupby(lines))
+
+
+def failed_cases(test):
+    """The names of the doctest cases that failed, as far as the output tells them."""
+    cases = re.findall(r"^TEST CASE:\s+(.+)$", output(test), re.MULTILINE)
+    return list(dict.fromkeys(cases))
+
+
 def main():
     passed = failed = 0
+    names = []
     for test in xml.etree.ElementTree.parse(sys.argv[1]).iter("testcase"):
         good, bad = count(test)
         passed += good
         failed += bad
         if bad:
-            print(f"   FAILED: {test.get('name')}\n{test.findtext('system-out')}", file=sys.stderr)
+            print(f"   FAILED: {test.get('name')}\n{output(test)}", file=sys.stderr)
+            names += [f"{test.get('name')}: {', '.join(failed_cases(test)) or 'see its output'}"]
+    for name in names:
+        print(f"   FAILED: {name}", file=sys.stderr)
     print(passed, failed)
 
 

@@ -31,8 +31,8 @@ CACHE = ROOT / "build" / "tidy-cache"
 TIDY = "clang-tidy-14"
 OWN_FILES = f"{re.escape(str(ROOT))}/.*\\.(h|cpp)$"
 OWN_RULES = [f"--config-file={ROOT / '.clang-tidy'}"]
-# The sources of a bundle are included; without this the analyser leaves out what is.
-ANALYSE_INCLUDED = ["--extra-arg=-Xclang", "--extra-arg=-analyzer-opt-analyze-headers"]
+# The analyser leaves out what is included, but for the sources that a file of this name includes.
+BUNDLE_NAME = "UnifiedSource.cpp"
 # More of them save little and leave one processor waiting at the end.
 SOURCES_IN_A_BUNDLE = 16
 
@@ -116,14 +116,14 @@ def run_tidy(build, files, *options):
 def tidy_as_one(bundle):
     """The complaints about sources that are compiled as one, or None."""
     with tempfile.TemporaryDirectory() as folder:
-        one = pathlib.Path(folder) / "bundle.cpp"
+        one = pathlib.Path(folder) / BUNDLE_NAME
         lines = (f'#include "{command["file"]}"  // NOLINT' for command in bundle)
         one.write_text("\n".join(lines), encoding="utf-8")
         words = shlex.split(bundle[0]["command"])
         words[words.index("-c") + 1] = str(one)
         database = [{**bundle[0], "file": str(one), "command": shlex.join(words)}]
         (pathlib.Path(folder) / "compile_commands.json").write_text(json.dumps(database), encoding="utf-8")
-        return run_tidy(folder, [str(one)], *OWN_RULES, *ANALYSE_INCLUDED, f"--header-filter={OWN_FILES}")
+        return run_tidy(folder, [str(one)], *OWN_RULES, f"--header-filter={OWN_FILES}")
 
 
 def complaints_about(build, bundle):

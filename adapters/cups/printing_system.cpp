@@ -6,7 +6,7 @@ namespace tessara {
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
+using SteadyClock = std::chrono::steady_clock;
 using std::chrono::milliseconds;
 
 /// Called when an answer is late: there is no more waiting for it.
@@ -40,10 +40,10 @@ PrintConnection ConnectToPrintingSystem(milliseconds patience) {
   // So long the library first waits for the leave to send its question.
   constexpr milliseconds kWaitsBefore{1000};
   constexpr milliseconds kShortest{100};
-  const auto start = Clock::now();
+  const auto start = SteadyClock::now();
   PrintConnection system = Connect(patience);
   if (system == nullptr) return nullptr;
-  const auto taken = std::chrono::duration_cast<milliseconds>(Clock::now() - start);
+  const auto taken = std::chrono::duration_cast<milliseconds>(SteadyClock::now() - start);
   SetPatience(system.get(), std::max(patience - taken - kWaitsBefore, kShortest));
   if (!Answers(system.get())) return nullptr;
   SetPatience(system.get(), patience);

@@ -3,6 +3,7 @@
 
 #include "adapters/qt/look/visible_outlines.h"
 #include "adapters/qt/windows/guarded_application.h"
+#include "tests/support/leak_check.h"
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -10,5 +11,7 @@ int main(int argc, char** argv) {
   qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
   tessara::GuardedApplication application(argc, argv);
   tessara::ShowOutlines();
-  return doctest::Context(argc, argv).run();
+  const int failed = doctest::Context(argc, argv).run();
+  tessara::test::LookForLeaks();
+  return failed;
 }

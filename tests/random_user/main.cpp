@@ -4,6 +4,7 @@
 
 #include "adapters/qt/look/visible_outlines.h"
 #include "tests/random_user/session.h"
+#include "tests/support/leak_check.h"
 
 namespace tessara::test {
 namespace {
@@ -44,6 +45,8 @@ int main(int argc, char** argv) {
   options.addOption({QStringLiteral("steps"), QStringLiteral("How many."), QStringLiteral("M"),
                      QStringLiteral("250")});
   options.process(application);
-  return tessara::test::RunRandomUser(options.value(QStringLiteral("seed")).toUInt(),
-                                      options.value(QStringLiteral("steps")).toInt());
+  const int failed = tessara::test::RunRandomUser(options.value(QStringLiteral("seed")).toUInt(),
+                                                  options.value(QStringLiteral("steps")).toInt());
+  tessara::test::LookForLeaks();
+  return failed;
 }
