@@ -202,7 +202,7 @@ TEST_CASE("Close boxes and edges of windows are seen in every scheme, in front a
   }
 }
 
-TEST_CASE("Marks that are set, edges of boxes and the frames of groups are seen in every scheme") {
+TEST_CASE("Set marks, edges of boxes, frames of groups and lines are seen in every scheme") {
   for (const Scheme& scheme : kSchemes) {
     CAPTURE(scheme.name);
     const DesktopOfScheme desktop(scheme);
@@ -219,7 +219,7 @@ TEST_CASE("Marks that are set, edges of boxes and the frames of groups are seen 
       const QColor inside = picture.pixelColor(3, picture.height() / 2);
       CHECK(MostContrast(picture.copy(mark), inside) >= kVisibleContrast);
     }
-    for (const char* name : {"Text1", "Text2", "List1", "Combo1", "Frame1"}) {
+    for (const char* name : {"Text1", "Text2", "List1", "Combo1", "Frame1", "Line1"}) {
       CAPTURE(name);
       CHECK(ContrastOfEdge(name, scheme.ground) >= kVisibleContrast);
     }

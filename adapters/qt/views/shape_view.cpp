@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <algorithm>
 
+#include "adapters/qt/look/contrast.h"
 #include "adapters/qt/look/qt_colors.h"
 
 namespace tessara {
@@ -28,9 +29,15 @@ class FilledWidget : public QWidget {
   QColor color_;
 };
 
-void Fill(QWidget& widget, const Color& color) {
-  const QPalette& palette = widget.palette();
-  static_cast<FilledWidget&>(widget).Fill(ColorIn(palette, color, palette.color(QPalette::Mid)));
+/// `own` is the colour where the control has none.
+void Fill(QWidget& widget, const Color& color, const QColor& own) {
+  static_cast<FilledWidget&>(widget).Fill(ColorIn(widget.palette(), color, own));
+}
+
+/// A line tells what belongs together: it is seen on every ground.
+QColor LineColor(const QPalette& palette) {
+  return ReadableOn(palette.color(QPalette::Window), palette.color(QPalette::Mid),
+                    kVisibleContrast);
 }
 
 }  // namespace
@@ -39,14 +46,17 @@ ShapeView::ShapeView(Shape& shape, QWidget& parent, const ViewContext& context)
     : ControlView(shape, *new FilledWidget(&parent), context) {}
 
 void ShapeView::FollowOwn(Aspect aspect) {
-  if (aspect == Aspect::kColor) Fill(Widget(), As<Shape>().BackColor());
+  if (aspect != Aspect::kColor) return;
+  Fill(Widget(), As<Shape>().BackColor(), Widget().palette().color(QPalette::Mid));
 }
 
 LineView::LineView(Line& line, QWidget& parent, const ViewContext& context)
     : ControlView(line, *new FilledWidget(&parent), context) {}
 
 void LineView::FollowOwn(Aspect aspect) {
-  if (aspect == Aspect::kColor) Fill(Widget(), As<Line>().ForeColor());
+  if (aspect == Aspect::kColor) {
+    Fill(Widget(), As<Line>().ForeColor(), LineColor(Widget().palette()));
+  }
   if (aspect != Aspect::kBounds) return;
   // A line without a thickness of its own still shows.
   const QRect place = Widget().geometry();
