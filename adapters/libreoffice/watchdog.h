@@ -14,7 +14,7 @@ namespace tessara {
 class Watchdog {
  public:
   /// Most that one operation may take, the start of the server included.
-  static constexpr std::chrono::seconds kPatience{15};
+  static constexpr std::chrono::seconds kPatience{20};
 
   explicit Watchdog(OfficeProcess& process);
 
