@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "deck/app_context.h"
-#include "deck/move_buttons.h"
+#include "deck/card_display.h"
 #include "forms/controls/controls.h"
 #include "forms/form.h"
 #include "forms/window.h"

@@ -2,8 +2,8 @@
 
 #include "authoring/save_edited_card.h"
 #include "base/skip_errors.h"
-#include "deck/double_amps.h"
-#include "deck/file/deck_record.h"
+#include "deck/card_display.h"
+#include "deck/file/field_widths.h"
 #include "deck/file/stored_text.h"
 #include "viewer/answer_text.h"
 

@@ -1,9 +1,9 @@
 #include "authoring/text_card_builder.h"
 
 #include "base/skip_errors.h"
+#include "deck/card_display.h"
 #include "deck/card_type.h"
-#include "deck/double_amps.h"
-#include "deck/file/deck_record.h"
+#include "deck/file/field_widths.h"
 #include "deck/file/stored_text.h"
 #include "machine/message_box.h"
 

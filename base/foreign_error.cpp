@@ -1,10 +1,10 @@
 #include "base/foreign_error.h"
 
+#include <cerrno>
 #include <new>
+#include <optional>
 #include <stdexcept>
 #include <system_error>
-
-#include "base/path_error.h"
 
 namespace tessara {
 
@@ -13,6 +13,37 @@ namespace {
 template <class E>
 bool Is(const std::exception& foreign) {
   return dynamic_cast<const E*>(&foreign) != nullptr;
+}
+
+/// What a code means wherever it happens; none where that hangs on what was tried.
+std::optional<ErrorNumber> CommonError(int systemError) {
+  switch (systemError) {
+    case EACCES:
+    case EPERM:
+    case EROFS:
+    case EBUSY:
+    case ETXTBSY:
+      return ErrorNumber::kPermissionDenied;
+    case ENOSPC:
+    case EDQUOT:
+    case EFBIG:
+      return ErrorNumber::kDiskFull;
+    case EIO:
+      return ErrorNumber::kDeviceIo;
+    case ENOMEDIUM:
+    case ENODEV:
+    case ESTALE:
+    case ETIMEDOUT:
+    case EHOSTDOWN:
+    case EHOSTUNREACH:
+    case ENOTCONN:
+      return ErrorNumber::kDiskNotReady;
+    case EMFILE:
+    case ENFILE:
+      return ErrorNumber::kTooManyFiles;
+    default:
+      return std::nullopt;
+  }
 }
 
 ErrorNumber NumberOf(const std::error_code& code) {
@@ -34,6 +65,21 @@ ErrorNumber NumberOf(const std::exception& foreign) {
 }
 
 }  // namespace
+
+ErrorNumber PathError(int systemError) {
+  switch (systemError) {
+    case ENOENT:
+      return ErrorNumber::kFileNotFound;
+    case ENOTDIR:
+      return ErrorNumber::kPathNotFound;
+    default:
+      return CommonError(systemError).value_or(ErrorNumber::kPathFileAccess);
+  }
+}
+
+ErrorNumber TransferError(int systemError) {
+  return CommonError(systemError).value_or(ErrorNumber::kDeviceIo);
+}
 
 RunTimeError RunTimeErrorOf(const std::exception& foreign) {
   return RunTimeError(NumberOf(foreign));

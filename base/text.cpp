@@ -57,4 +57,20 @@ Text DecimalText(long value) {
   return {digits.begin(), digits.end()};
 }
 
+Text WithLineBreaks(TextView text) {
+  Text result;
+  result.reserve(text.size());
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const char16_t character = text[at];
+    if (character != kCarriageReturn && character != kLineFeed) {
+      result += character;
+      continue;
+    }
+    result += kLineBreak;
+    const bool pair = character == kCarriageReturn && text.substr(at + 1, 1) == u"\n";
+    if (pair) ++at;
+  }
+  return result;
+}
+
 }  // namespace tessara

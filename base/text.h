@@ -22,4 +22,7 @@ inline constexpr TextView kLineBreak = u"\r\n";
 /// The decimal digits of a whole number, with a minus sign where it is negative.
 [[nodiscard]] Text DecimalText(long value);
 
+/// The text with every line break, lone carriage returns and line feeds included, as CR LF.
+[[nodiscard]] Text WithLineBreaks(TextView text);
+
 }  // namespace tessara

@@ -10,7 +10,7 @@
 #include <cstdlib>
 #include <ctime>
 
-#include "bench/resident_memory.h"
+#include "tests/support/memory_use.h"
 
 namespace {
 
@@ -46,7 +46,7 @@ class FirstPaintProbe : public QObject {
     const long long nanoseconds = MonotonicNanoseconds() - NumberFromEnvironment("BENCH_START");
     std::printf("first_paint_ms %.2f\n", static_cast<double>(nanoseconds) / 1e6);
     QTimer::singleShot(static_cast<int>(NumberFromEnvironment("BENCH_STAY")), this, [] {
-      std::printf("resident_kb %lld\n", ResidentKilobytes());
+      std::printf("resident_kb %ld\n", tessara::test::ResidentBytes() / 1024);
       std::fflush(stdout);
       std::_Exit(0);
     });

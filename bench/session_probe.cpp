@@ -25,7 +25,7 @@
 #include <vector>
 
 #include "bench/plain_window.h"
-#include "bench/resident_memory.h"
+#include "tests/support/memory_use.h"
 
 namespace {
 
@@ -151,7 +151,7 @@ class SessionProbe : public QObject {
   void RunMoves() {
     QWidget& card = Named("NoteletCtl1");
     PlainCard plain(card.grab(), &Named("MDIForm1"));
-    const long long before = ResidentKilobytes();
+    const long long before = tessara::test::ResidentBytes() / 1024;
     const double first = Move(0);
     Times times;
     Times floor;
@@ -160,7 +160,7 @@ class SessionProbe : public QObject {
       // A key that the program has no use for.
       floor.push_back(TimedKey("plain", plain, Qt::Key_Insert));
     }
-    growth_ = ResidentKilobytes() - before;
+    growth_ = tessara::test::ResidentBytes() / 1024 - before;
     Print("card-move", first, times, floor);
   }
 

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "base/text.h"
+#include "deck/program_state.h"
+#include "forms/controls/buttons.h"
+#include "forms/controls/control_array.h"
 
 namespace tessara {
 
@@ -22,5 +25,15 @@ class CardDisplay {
   virtual void SetCardNumber(const Text& number) = 0;
   virtual void SetCardTotal(const Text& total) = 0;
 };
+
+/// The two arrow buttons of a window that shows cards, by where they lead.
+enum Arrow : int { kPreviousCard = 0, kNextCard = 1 };
+using MoveButtons = ControlArray<Button, 2>;
+
+/// Brings the arrows of a builder in line with the place in the deck; with no cards both are off.
+void SetMoveButtons(MoveButtons& owner, const ProgramState& state);
+
+/// The text with every "&" doubled, as captions and the card show one.
+[[nodiscard]] Text DoubleAmps(TextView text);
 
 }  // namespace tessara

@@ -2,7 +2,7 @@
 
 #include "deck/card_type.h"
 #include "deck/date_text.h"
-#include "deck/file/deck_record.h"
+#include "deck/file/field_widths.h"
 #include "deck/file/stored_text.h"
 #include "machine/clock.h"
 #include "machine/message_box.h"

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "deck/card_display.h"
-#include "deck/move_buttons.h"
 #include "deck/program_state.h"
 #include "machine/message_box.h"
 

@@ -45,7 +45,7 @@ class WindowSystem {
   /// The window in front of the frame: the one whose menu bar shows; null where none is.
   [[nodiscard]] Form* ActiveChild() const;
   [[nodiscard]] Form* ModalForm() const { return modals_.empty() ? nullptr : modals_.back(); }
-  /// Loaded windows in the order of their loading.
+  /// Loaded windows in the order of their loading. Only tests and fuzzers ask.
   [[nodiscard]] const std::vector<Form*>& LoadedForms() const { return loaded_; }
   [[nodiscard]] Form* FrameForm() const;
   /// True while no window that occupies the frame is on screen.

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "companion/cards/refused.h"
+#include "companion/cards/complaints.h"
 #include "companion/formats/file_format.h"
 #include "fuzz/require.h"
 

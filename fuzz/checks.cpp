@@ -1,8 +1,8 @@
 // Any bytes as a deck or an import text that is checked, by the first of them; and the text as one
 // that is read.
 
-#include "companion/formats/deck_check.h"
-#include "companion/formats/texts/import_text_check.h"
+#include "companion/formats/deck_format.h"
+#include "companion/formats/texts/import_text_format.h"
 #include "fuzz/cards_run.h"
 
 namespace tessara::fuzz {

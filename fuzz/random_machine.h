@@ -163,7 +163,7 @@ struct RandomMachine {
 
   [[nodiscard]] Machine Get() {
     return {messages,     dialogs,     fakes.settings,      fakes.files,
-            fakes.copies, fakes.clock, fakes.desktop,       fakes.classes,
+            fakes.copies, fakes.clock, fakes.desktop,       fakes.documentTypes,
             spreadsheet,  printer,     CodePage::Western(), u"/opt/tessara"};
   }
 };

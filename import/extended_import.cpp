@@ -143,7 +143,7 @@ void ImportExtended(const Text& fileName, const ImportContext& context) {
     context.state.import.previousCard = 0;
     MarkAsImported(u"Extended", context);
   } catch (const RunTimeError& error) {
-    ImportErrorBox(error, context);
+    AbandonImport(error, context);
   }
 }
 

@@ -2,7 +2,7 @@
 
 #include "deck/card_type.h"
 #include "deck/date_text.h"
-#include "import/import_boxes.h"
+#include "import/import_error_boxes.h"
 
 namespace tessara {
 
@@ -11,7 +11,7 @@ namespace {
 bool ReadCards(const Text& fileName, const ImportContext& context, CardsReader readCards) {
   context.fileNumber.OpenInput(fileName);
   LineReader lines(context.fileNumber, context.codePage);
-  ImportBoxes boxes(context);
+  ImportErrorBoxes boxes(context);
   CardsReading reading(lines, context.state, boxes);
   const bool good = readCards(reading);
   // An error that the reader does not foresee leaves the file open.
@@ -24,8 +24,7 @@ bool ReadCards(const Text& fileName, const ImportContext& context, CardsReader r
 bool ReadImportFile(const Text& fileName, const ImportContext& context, CardsReader readCards) {
   const bool good = ReadCards(fileName, context, readCards);
   if (context.state.deck.cardCount == 0) {
-    context.messages.Show(u"No cards were found in this file, recheck the format of the file.",
-                          kStopIcon, u"Import Canceled");
+    ShowNoCards(context.messages);
     AbandonImport(context.state);
   }
   if (!good) AbandonImport(context.state);
@@ -78,15 +77,9 @@ void AbandonImport(ProgramState& state) {
   state.import.previousCard = 0;
 }
 
-void ImportErrorBox(const RunTimeError& error, const ImportContext& context) {
-  context.messages.Show(u"An unspecified error has occurred while importing this file [" +
-                            error.Description() + u"], import has been cancelled.",
-                        kStopIcon, u"Import Error");
+void AbandonImport(const RunTimeError& error, const ImportContext& context) {
+  ShowImportError(error, context.messages);
   AbandonImport(context.state);
-}
-
-void ShowErrorInFile(const Text& text, MessageBoxes& messages) {
-  messages.Show(text, kStopIcon, u"Error In Import File");
 }
 
 }  // namespace tessara

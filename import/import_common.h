@@ -49,11 +49,7 @@ void SetImportedDeckInfo(const Text& kind, const Date& today, ProgramState& stat
 
 /// The clean-up of a failed import. The card count and the standard reader's numbers stay.
 void AbandonImport(ProgramState& state);
-
-/// Tells an error that the reader did not foresee, and abandons the import.
-void ImportErrorBox(const RunTimeError& error, const ImportContext& context);
-
-/// Tells an error in the file.
-void ShowErrorInFile(const Text& text, MessageBoxes& messages);
+/// The same for an error that the reader did not foresee, which is told first.
+void AbandonImport(const RunTimeError& error, const ImportContext& context);
 
 }  // namespace tessara

@@ -3,6 +3,7 @@
 #include "deck/life/ask_file_name.h"
 #include "import/extended_import.h"
 #include "import/import_common.h"
+#include "import/import_error_boxes.h"
 #include "import/line_kinds.h"
 #include "import/line_reader.h"
 #include "import/standard_import.h"
@@ -50,10 +51,7 @@ void ImportTextFile(const Text& path, AppContext& app, FileNumber& fileNumber,
   const Text format = FirstLine(path, fileNumber, app.machine.codePage);
   const bool extended = IsWord(format, kExtendedWord);
   if (!extended && !IsWord(format, kStandardWord)) {
-    ShowErrorInFile(
-        u"EXT or STD was not indicated as a file type at the top of the import file. Import has "
-        u"been aborted.",
-        app.machine.messages);
+    ShowFormatMissing(app.machine.messages);
     return;
   }
   const auto importDeck = extended ? ImportExtended : ImportStandard;

@@ -2,6 +2,7 @@
 
 #include "base/conversion.h"
 #include "deck/card_type.h"
+#include "import/import_error_boxes.h"
 #include "import/line_kinds.h"
 
 namespace tessara {
@@ -185,8 +186,8 @@ void ImportStandard(const Text& fileName, const ImportContext& context) {
     // The word never reaches a file: a save takes the type from the information window.
     MarkAsImported(u"Santdard", context);
   } catch (const RunTimeError& error) {
-    ImportErrorBox(error, context);
-    context.messages.Show(context.state.import.line, kOkOnly, u"Line Containing Error:");
+    AbandonImport(error, context);
+    ShowLineWithError(context.state.import.line, context.messages);
   }
 }
 

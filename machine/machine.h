@@ -33,4 +33,7 @@ struct Machine {
   Text programFolder;
 };
 
+/// The path of a side file: the program's folder, a separator, the name.
+[[nodiscard]] Text ProgramFile(const Machine& machine, TextView name);
+
 }  // namespace tessara

@@ -5,6 +5,10 @@
 
 namespace tessara {
 
+inline constexpr char16_t kTab = u'\t';
+/// What a tab is in print, which has no stops for it.
+inline constexpr TextView kTabOnPaper = u"    ";
+
 /// A page to write on, line by line. All lengths are twips unless told otherwise.
 /// A document begins with the first thing written or asked about its page, and ends with
 /// EndDocument, which sends it and raises the errors of writing a file too; setting destination and

@@ -1,7 +1,7 @@
 #include "printing/spreadsheet_job.h"
 
 #include "base/run_time_error.h"
-#include "machine/program_file.h"
+#include "machine/machine.h"
 
 namespace tessara {
 

@@ -30,7 +30,7 @@ class SpreadsheetJob {
   /// Closes the template without saving. Raises 440 and leaves the workbook as it is.
   void Close();
 
-  /// Null where no job is open, except after a job that failed.
+  /// Null where no job is open, except after a job that failed. Only tests ask.
   [[nodiscard]] const std::shared_ptr<Workbook>& JobWorkbook() const { return jobWorkbook_; }
   /// The sheet of this job or, between jobs, of the last one.
   [[nodiscard]] const std::shared_ptr<Worksheet>& JobSheet() const { return jobSheet_; }

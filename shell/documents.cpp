@@ -2,8 +2,8 @@
 
 #include "machine/desktop.h"
 #include "machine/document_types.h"
+#include "machine/machine.h"
 #include "machine/message_box.h"
-#include "machine/program_file.h"
 #include "machine/settings_store.h"
 #include "shell/settings.h"
 

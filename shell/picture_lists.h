@@ -4,9 +4,10 @@
 
 namespace tessara {
 
-/// The backdrop's tiles, in the order in which the set-up window lists them.
+/// The backdrop's tiles, in the order in which the set-up window lists them; the setting holds the
+/// key of one.
 [[nodiscard]] ImageList MakeBackdropTiles();
-/// The card skins and the pictures of the print window.
+/// The card skins by their keys, and the pictures of the print window.
 [[nodiscard]] ImageList MakeCardPictures();
 
 }  // namespace tessara

@@ -6,7 +6,7 @@
 #include "forms/place_in_frame.h"
 #include "import/import_text_file.h"
 #include "machine/desktop.h"
-#include "machine/program_file.h"
+#include "machine/machine.h"
 #include "printing/separation_window.h"
 #include "viewer/deck_window.h"
 

@@ -5,7 +5,7 @@
 #include "machine/message_box.h"
 #include "machine/settings_store.h"
 #include "shell/settings.h"
-#include "viewer/card_picture.h"
+#include "viewer/card_skins.h"
 
 namespace tessara {
 

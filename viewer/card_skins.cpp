@@ -3,12 +3,13 @@
 #include "viewer/card_skins.h"
 
 #include "base/conversion.h"
-#include "viewer/card_picture.h"
 #include "viewer/deck_window.h"
 
 namespace tessara {
 
 namespace {
+
+constexpr int kBeyondTheList = 12;
 
 /// A relief that is none is looked at for a known colour only. Null for an unknown colour.
 const CardSkin* AnswerCardSkin(const Settings& settings) {
@@ -20,6 +21,11 @@ const CardSkin* AnswerCardSkin(const Settings& settings) {
 }
 
 }  // namespace
+
+const Picture& CardPicture(TextView key, int list, const AppFrame& frame) {
+  if (key == u"<NONE>") return frame.CardPictures().At(kBeyondTheList).picture;
+  return (list == kBackdropList ? frame.BackdropTiles() : frame.CardPictures()).At(key).picture;
+}
 
 void DeckWindow::SetUpDeck() {
   const Settings& settings = State().settings;

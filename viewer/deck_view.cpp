@@ -1,6 +1,6 @@
 // How a deck comes up in the window, and how the window is brought up to date.
 
-#include "deck/double_amps.h"
+#include "deck/card_display.h"
 #include "forms/place_in_frame.h"
 #include "viewer/answer_text.h"
 #include "viewer/deck_window.h"

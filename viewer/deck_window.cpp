@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "deck/card_display.h"
 #include "deck/deck_info_window.h"
-#include "deck/double_amps.h"
 #include "deck/file/deck_path.h"
 #include "forms/place_in_frame.h"
 #include "viewer/answer_text.h"

@@ -6,7 +6,6 @@
 #include <utility>
 
 #include "adapters/libreoffice/calc_workbook.h"
-#include "adapters/libreoffice/file_url.h"
 #include "adapters/libreoffice/uno_text.h"
 #include "base/skip_errors.h"
 

@@ -10,9 +10,9 @@
 #include <vector>
 
 #include "adapters/cups/printing_system.h"
-#include "adapters/libreoffice/file_url.h"
 #include "adapters/libreoffice/office_profile.h"
 #include "adapters/libreoffice/server_sockets.h"
+#include "adapters/libreoffice/uno_text.h"
 #include "adapters/posix/process/start_process.h"
 #include "base/run_time_error.h"
 

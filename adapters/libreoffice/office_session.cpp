@@ -11,7 +11,6 @@
 #include <thread>
 #include <utility>
 
-#include "adapters/libreoffice/file_url.h"
 #include "adapters/libreoffice/server_sockets.h"
 #include "adapters/libreoffice/uno_text.h"
 

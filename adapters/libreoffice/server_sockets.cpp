@@ -7,7 +7,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "adapters/libreoffice/file_url.h"
+#include "adapters/libreoffice/uno_text.h"
 
 namespace tessara {
 

@@ -9,9 +9,8 @@
 #include <com/sun/star/table/XColumnRowRange.hpp>
 #include <limits>
 
-#include "adapters/libreoffice/file_url.h"
 #include "adapters/libreoffice/uno_text.h"
-#include "machine/tab_on_paper.h"
+#include "machine/print_surface.h"
 
 namespace tessara {
 

@@ -3,7 +3,7 @@
 #include <cerrno>
 #include <unistd.h>
 
-#include "adapters/posix/system_error.h"
+#include "base/foreign_error.h"
 #include "base/run_time_error.h"
 
 namespace tessara {

@@ -12,7 +12,7 @@
 #include "adapters/posix/posix_file.h"
 #include "adapters/posix/read_ahead.h"
 #include "adapters/posix/system_call.h"
-#include "base/path_error.h"
+#include "base/foreign_error.h"
 #include "base/run_time_error.h"
 #include "base/utf8.h"
 

@@ -6,8 +6,7 @@
 #include <system_error>
 
 #include "adapters/posix/system_call.h"
-#include "adapters/posix/system_error.h"
-#include "base/path_error.h"
+#include "base/foreign_error.h"
 #include "base/run_time_error.h"
 
 namespace tessara {

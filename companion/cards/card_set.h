@@ -2,10 +2,12 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <span>
+#include <string_view>
 #include <vector>
 
-#include "companion/cards/place.h"
+#include "companion/cards/complaints.h"
 #include "deck/card_type.h"
 #include "deck/file/deck_record.h"
 
@@ -54,5 +56,9 @@ inline constexpr std::size_t kLargestField = std::size_t{1} << 20U;
 
 /// Adds a card. Raises Refused beyond kMostSetCards.
 void AddCard(CardSet& set, SourceCard card);
+
+/// The numbers that ranges like "1-20,25" name, from 1 up to `count`, in their order and each once.
+/// Nothing where the text names no numbers or one that is not there.
+[[nodiscard]] std::optional<std::vector<int>> CardNumbersIn(std::string_view ranges, int count);
 
 }  // namespace tessara

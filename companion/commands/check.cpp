@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cstdio>
 
-#include "companion/cards/refused.h"
+#include "companion/cards/complaints.h"
 #include "companion/commands/input.h"
 #include "companion/commands/reporter.h"
-#include "companion/formats/deck_check.h"
-#include "companion/formats/texts/import_text_check.h"
+#include "companion/formats/deck_format.h"
+#include "companion/formats/texts/import_text_format.h"
 
 namespace tessara {
 

@@ -10,7 +10,7 @@
 
 #include "adapters/posix/code_page_of_locale.h"
 #include "adapters/posix/posix_clock.h"
-#include "companion/cards/refused.h"
+#include "companion/cards/complaints.h"
 #include "companion/commands/check.h"
 #include "companion/commands/convert.h"
 #include "companion/commands/print.h"

@@ -7,9 +7,9 @@
 #include <utility>
 
 #include "adapters/command_line/output_file.h"
-#include "base/line_breaks.h"
+#include "base/text.h"
 #include "base/utf8.h"
-#include "companion/cards/refused.h"
+#include "companion/cards/complaints.h"
 #include "companion/cards/text_form.h"
 #include "companion/commands/input.h"
 #include "companion/commands/outputs.h"

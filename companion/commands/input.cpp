@@ -8,7 +8,7 @@
 #include "adapters/posix/posix_file_system.h"
 #include "base/run_time_error.h"
 #include "base/utf8.h"
-#include "companion/cards/refused.h"
+#include "companion/cards/complaints.h"
 #include "companion/cards/visible_text.h"
 
 namespace tessara {

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "adapters/command_line/output_file.h"
-#include "companion/cards/refused.h"
+#include "companion/cards/complaints.h"
 #include "companion/commands/input.h"
 
 namespace tessara {

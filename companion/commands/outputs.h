@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "companion/formats/byte_sink.h"
+#include "companion/formats/source_and_sink.h"
 
 namespace tessara {
 

@@ -3,14 +3,12 @@
 #include <cstdio>
 #include <string>
 
-#include "companion/cards/findings.h"
-#include "companion/cards/losses.h"
+#include "companion/cards/complaints.h"
 
 namespace tessara {
 
-/// Exit statuses of the commands; those of `check` mean other things.
+/// Exit statuses of the commands; those of `check` are its own.
 enum ExitStatus : int { kDone = 0, kRefused = 1, kNotAllKept = 2 };
-enum CheckStatus : int { kClean = 0, kHasFindings = 1, kUnreadable = 2 };
 
 /// Writes what could not be kept to standard error, and remembers that there was something.
 class Reporter : public Losses {

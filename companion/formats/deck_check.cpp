@@ -1,10 +1,9 @@
-#include "companion/formats/deck_check.h"
-
 #include <array>
 #include <optional>
 #include <set>
 
 #include "companion/cards/card_set.h"
+#include "companion/formats/deck_format.h"
 #include "companion/formats/source_file.h"
 #include "deck/answer_key.h"
 #include "deck/file/deck_file.h"

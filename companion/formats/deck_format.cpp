@@ -4,7 +4,7 @@
 
 #include "base/characters.h"
 #include "base/run_time_error.h"
-#include "companion/cards/refused.h"
+#include "companion/cards/complaints.h"
 #include "companion/formats/source_file.h"
 #include "deck/file/deck_file.h"
 #include "deck/file/deck_image.h"

@@ -3,12 +3,10 @@
 #include <array>
 
 #include "companion/formats/deck_format.h"
-#include "companion/formats/kvtml/kvtml_reader.h"
-#include "companion/formats/kvtml/kvtml_writer.h"
+#include "companion/formats/kvtml/kvtml_format.h"
 #include "companion/formats/lower_case.h"
 #include "companion/formats/tables/csv_format.h"
-#include "companion/formats/texts/import_text_reader.h"
-#include "companion/formats/texts/import_text_writer.h"
+#include "companion/formats/texts/import_text_format.h"
 
 namespace tessara {
 

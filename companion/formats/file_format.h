@@ -5,8 +5,7 @@
 #include <string_view>
 
 #include "companion/cards/card_set.h"
-#include "companion/formats/byte_sink.h"
-#include "companion/formats/source.h"
+#include "companion/formats/source_and_sink.h"
 #include "companion/formats/tables/tsv_format.h"
 
 namespace tessara {

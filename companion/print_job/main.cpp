@@ -27,7 +27,7 @@
 #include "base/utf8.h"
 #include "companion/print_job/answers.h"
 #include "companion/print_job/silent_renderer.h"
-#include "machine/program_file.h"
+#include "machine/machine.h"
 #include "shell/program.h"
 
 namespace tessara {

@@ -10,22 +10,6 @@ namespace tessara {
 
 namespace {
 
-/// A field of a record: where it begins and its width, in bytes.
-struct Field {
-  std::size_t offset;
-  std::size_t width;
-};
-
-constexpr Field kTypeField = {0, 1};
-constexpr Field kTextField = {1, kTextWidth};
-constexpr Field kNumberField = {445, 2};
-constexpr std::array<Field, 4> kShortFields = {
-    {{447, kShortWidth}, {522, kShortWidth}, {597, kShortWidth}, {672, kShortWidth}}};
-constexpr Field kAnswerField = {747, 1};
-constexpr Field kLongField = {748, kTextWidth};
-static_assert(kLongField.offset + kLongField.width == kRecordSize);
-static_assert(kNumberField.offset + kNumberField.width == kLeastRecord);
-
 using Bytes = std::span<char, kRecordSize>;
 
 /// How many bytes of the field the text has taken.
@@ -37,13 +21,13 @@ std::size_t FillFront(std::span<char> field, TextView text, const CodePage& code
   return stored.size();
 }
 
-void PutText(Bytes bytes, Field field, TextView text, const CodePage& codePage) {
+void PutText(Bytes bytes, RecordField field, TextView text, const CodePage& codePage) {
   const std::span<char> place = bytes.subspan(field.offset, field.width);
   const std::span<char> rest = place.subspan(FillFront(place, text, codePage));
   std::fill(rest.begin(), rest.end(), kBlank);
 }
 
-Text TextAt(RecordView bytes, Field field, const CodePage& codePage) {
+Text TextAt(RecordView bytes, RecordField field, const CodePage& codePage) {
   return ReadText({bytes.data() + field.offset, field.width}, codePage);
 }
 

@@ -8,15 +8,9 @@
 
 #include "base/code_page.h"
 #include "base/text.h"
+#include "deck/file/field_widths.h"
 
 namespace tessara {
-
-/// Bytes of a record of the deck file; docs/deck-format.md has the fields.
-inline constexpr std::size_t kRecordSize = 1192;
-
-/// Bytes of the fields for a card's text and its back, and of a short field.
-inline constexpr std::size_t kTextWidth = 444;
-inline constexpr std::size_t kShortWidth = 75;
 
 /// One row of the table as the file holds it, field by field.
 template <class Characters>
@@ -47,10 +41,6 @@ using DeckRecordView = RecordFields<TextView>;
 
 using RecordBytes = std::array<char, kRecordSize>;
 using RecordView = std::span<const char, kRecordSize>;
-
-/// How many bytes of a record there must be at least: one that is cut off before the end of its
-/// number has no row to go to.
-inline constexpr std::size_t kLeastRecord = 447;
 
 /// Each text is cut or filled up with blanks to its field's width, by the rules of StoreText.
 void EncodeRecord(const DeckRecordView& record, const CodePage& codePage,

@@ -4,7 +4,6 @@
 #include "deck/card_display.h"
 #include "deck/file/file_number.h"
 #include "deck/flip_action.h"
-#include "deck/move_buttons.h"
 #include "forms/controls/controls.h"
 #include "forms/form.h"
 #include "forms/window.h"

@@ -4,7 +4,7 @@
 #include "deck/file/deck_path.h"
 #include "machine/desktop.h"
 #include "machine/file_system.h"
-#include "machine/program_file.h"
+#include "machine/machine.h"
 
 namespace tessara {
 

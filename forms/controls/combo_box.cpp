@@ -10,12 +10,6 @@ void ComboBox::AddItem(const Text& item) {
   Changed(Aspect::kItems);
 }
 
-void ComboBox::Clear() {
-  items_.clear();
-  listIndex_ = -1;
-  Changed(Aspect::kItems);
-}
-
 const Text& ComboBox::Item(int index) const {
   if (index < 0 || index >= Count()) throw RunTimeError(ErrorNumber::kInvalidProcedureCall);
   return items_[static_cast<std::size_t>(index)];

@@ -14,7 +14,6 @@ class ComboBox : public Control {
   [[nodiscard]] ControlKind Kind() const override { return ControlKind::kComboBox; }
   [[nodiscard]] bool TakesFocus() const override { return true; }
   void AddItem(const Text& item);
-  void Clear();
   [[nodiscard]] int Count() const { return static_cast<int>(items_.size()); }
   /// Raises error 5 outside 0 to Count - 1.
   [[nodiscard]] const Text& Item(int index) const;

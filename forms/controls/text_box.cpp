@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "base/characters.h"
-#include "base/line_breaks.h"
+#include "base/text.h"
 #include "forms/assign.h"
 #include "forms/form.h"
 #include "forms/window_system.h"

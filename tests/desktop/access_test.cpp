@@ -30,7 +30,7 @@ TEST_CASE("An option stays a radio button, and no Tab stop is lost, wherever the
   SampleForm& form = desk.ShowChild();
   Desk::Of("Option1(0)").setFocus();
   CHECK(Desk::Of("Option1(1)").focusPolicy() == Qt::StrongFocus);
-  form.Option1[1].SetSelected(true);
+  form.options[1].SetSelected(true);
   CHECK(RoleOf(Desk::Of("Option1(1)")) == QAccessible::RadioButton);
 }
 
@@ -40,7 +40,7 @@ TEST_CASE("Each kind of control shows that it has the focus, before a key was pr
   const auto picture = [](const char* control) { return Desk::Of(control).grab().toImage(); };
   for (const char* name : {"Command2", "Check1", "Option1(0)", "Combo1", "Painting1", "Text1"}) {
     CAPTURE(name);
-    form.List1.SetFocus();
+    form.list.SetFocus();
     const QImage plain = picture(name);
     Desk::Of(name).setFocus(Qt::OtherFocusReason);
     CHECK(picture(name) != plain);
@@ -51,27 +51,27 @@ TEST_CASE("A new card is told with what the program leaves the focus on, or move
   Desk desk;
   SampleForm& form = desk.ShowChild();
   const auto said = [](const char* name) { return Desk::Of(name).accessibleDescription(); };
-  form.Check1.SetFocus();
-  form.Painting1.Write(u"one", 10);
+  form.check.SetFocus();
+  form.painting.Write(u"one", 10);
   CHECK(said("Check1") == "one");
-  form.Painting1.Write(u"two", 10);
-  form.Command2.SetFocus();
+  form.painting.Write(u"two", 10);
+  form.deleteButton.SetFocus();
   CHECK(said("Command2") == "two");
   CHECK(said("Check1").isEmpty());
   QTest::keyClick(&Desk::Of("Command2"), Qt::Key_Tab);
   CHECK(QApplication::focusWidget()->accessibleDescription().isEmpty());
-  form.Painting1.SetFocus();
+  form.painting.SetFocus();
   CHECK(said("Painting1") == "two");
   CHECK(said("Command2").isEmpty());
 }
 
 TEST_CASE("A link is a link, Tab gets to it, it shows the focus, and Return is its click") {
   Desk desk;
-  desk.prepare = [](SampleForm& form) { form.Label1.SetLink(true); };
+  desk.prepare = [](SampleForm& form) { form.label.SetLink(true); };
   SampleForm& form = desk.ShowChild();
   QWidget& link = Desk::Of("Label1");
   CHECK(RoleOf(link) == QAccessible::Link);
-  form.Text1.SetFocus();
+  form.lineBox.SetFocus();
   const QImage plain = link.grab().toImage();
   QTest::keyClick(&Desk::Of("Text1"), Qt::Key_Backtab);
   REQUIRE(link.hasFocus());

@@ -20,9 +20,9 @@ TEST_CASE("A click on a button runs its form's click") {
 TEST_CASE("A disabled button and one behind a disabled window take no click") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
-  form.Command2.SetEnabled(false);
+  form.deleteButton.SetEnabled(false);
   CHECK_FALSE(Desk::Of("Command2").isEnabled());
-  form.Command2.SetEnabled(true);
+  form.deleteButton.SetEnabled(true);
   form.SetEnabled(false);
   QTest::mouseClick(&Desk::Of("Command2"), Qt::LeftButton);
   CHECK(form.log.Take().empty());
@@ -58,7 +58,7 @@ TEST_CASE("A caption stays away from the sides of its button, however long it is
   Desk desk;
   SampleForm& form = desk.ShowChild();
   const auto sides = [&form](std::size_t letters) {
-    form.Command2.SetCaption(Text(letters, u'i'));
+    form.deleteButton.SetCaption(Text(letters, u'i'));
     const QImage picture = Desk::Of("Command2").grab().toImage();
     return std::pair(picture.copy(2, 0, 1, picture.height()),
                      picture.copy(picture.width() - 3, 0, 1, picture.height()));
@@ -73,10 +73,10 @@ TEST_CASE("A caption stays away from the sides of its button, however long it is
 TEST_CASE("A caption's accelerator is underlined, and its mark is not seen") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
-  const std::pair<CaptionedControl*, const char*> captioned[] = {{&form.Command2, "Command2"},
-                                                                 {&form.Check1, "Check1"},
-                                                                 {&form.Option1[0], "Option1(0)"},
-                                                                 {&form.Label1, "Label1"}};
+  const std::pair<CaptionedControl*, const char*> captioned[] = {{&form.deleteButton, "Command2"},
+                                                                 {&form.check, "Check1"},
+                                                                 {&form.options[0], "Option1(0)"},
+                                                                 {&form.label, "Label1"}};
   for (const auto& row : captioned) {
     CaptionedControl* const control = row.first;
     const char* const name = row.second;
@@ -105,11 +105,11 @@ TEST_CASE("A button without a caption that is off is not to be seen, and is ther
     return image != empty;
   };
   CHECK(seen(picture()));
-  form.Command2.SetCaption(u"");
+  form.deleteButton.SetCaption(u"");
   CHECK(seen(picture()));
-  form.Command2.SetEnabled(false);
+  form.deleteButton.SetEnabled(false);
   CHECK_FALSE(seen(picture()));
-  form.Command2.SetCaption(u"Next");
+  form.deleteButton.SetCaption(u"Next");
   CHECK(seen(picture()));
 }
 
@@ -117,9 +117,9 @@ TEST_CASE("An option that a form clears is cleared on screen") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
   auto& one = Desk::Of<QRadioButton>("Option1(0)");
-  form.Option1[0].SetSelected(true);
+  form.options[0].SetSelected(true);
   REQUIRE(one.isChecked());
-  form.Option1[0].SetSelected(false);
+  form.options[0].SetSelected(false);
   CHECK_FALSE(one.isChecked());
 }
 
@@ -150,8 +150,8 @@ TEST_CASE("An option and a check box take a click anywhere in their place") {
 TEST_CASE("An option that has room for its mark only is widened for its caption") {
   Desk desk;
   desk.prepare = [](SampleForm& form) {
-    form.Option1[0].SetCaption(u"A");
-    form.Option1[0].SetWidth(255);
+    form.options[0].SetCaption(u"A");
+    form.options[0].SetWidth(255);
   };
   desk.ShowChild();
   const auto& one = Desk::Of<QRadioButton>("Option1(0)");
@@ -166,16 +166,16 @@ TEST_CASE("The arrow keys select the next option, round the group") {
   SampleForm& form = desk.ShowChild();
   QTest::mouseClick(&Desk::Of("Option1(0)"), Qt::LeftButton, {}, {6, 8});
   QTest::keyClick(&Desk::Of("Option1(0)"), Qt::Key_Down);
-  CHECK(form.Option1[1].Selected());
+  CHECK(form.options[1].Selected());
   CHECK(Desk::Of("Option1(1)").hasFocus());
   QTest::keyClick(&Desk::Of("Option1(1)"), Qt::Key_Down);
-  CHECK(form.Option1[0].Selected());
+  CHECK(form.options[0].Selected());
 }
 
 TEST_CASE("The arrow keys only go from option to option where a choice is an answer") {
   Desk desk;
   desk.prepare = [](SampleForm& form) {
-    for (OptionButton& option : form.Option1) option.SetArrowsSelect(false);
+    for (OptionButton& option : form.options) option.SetArrowsSelect(false);
   };
   SampleForm& form = desk.ShowChild();
   Desk::Of("Option1(0)").setFocus();
@@ -183,18 +183,18 @@ TEST_CASE("The arrow keys only go from option to option where a choice is an ans
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
     CHECK(QApplication::focusWidget()->objectName() == next);
   }
-  CHECK_FALSE(form.Option1[0].Selected());
-  CHECK_FALSE(form.Option1[1].Selected());
+  CHECK_FALSE(form.options[0].Selected());
+  CHECK_FALSE(form.options[1].Selected());
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-  CHECK(form.Option1[1].Selected());
+  CHECK(form.options[1].Selected());
 }
 
 TEST_CASE("A disabled group keeps the user out and does not grey what it holds") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
   const QColor blue(0, 0, 255);
-  form.Option1[1].SetForeColor(FixedColor(0, 0, 255));
-  form.Frame1.SetEnabled(false);
+  form.options[1].SetForeColor(FixedColor(0, 0, 255));
+  form.group.SetEnabled(false);
   auto& one = Desk::Of<QRadioButton>("Option1(0)");
   auto& two = Desk::Of<QRadioButton>("Option1(1)");
   QTest::mouseClick(&one, Qt::LeftButton, {}, {6, 8});
@@ -205,7 +205,7 @@ TEST_CASE("A disabled group keeps the user out and does not grey what it holds")
         desktop.color(QPalette::Active, QPalette::WindowText));
   CHECK(two.palette().color(QPalette::Disabled, QPalette::WindowText) == blue);
 
-  form.Option1[0].SetEnabled(false);
+  form.options[0].SetEnabled(false);
   CHECK(one.palette().color(QPalette::Disabled, QPalette::WindowText) ==
         desktop.color(QPalette::Disabled, QPalette::WindowText));
 }
@@ -213,8 +213,8 @@ TEST_CASE("A disabled group keeps the user out and does not grey what it holds")
 TEST_CASE("A coloured option is painted in its colour in a disabled group") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
-  form.Option1[1].SetForeColor(FixedColor(0, 0, 255));
-  form.Frame1.SetEnabled(false);
+  form.options[1].SetForeColor(FixedColor(0, 0, 255));
+  form.group.SetEnabled(false);
   const QImage picture = Desk::Of("Option1(1)").grab().toImage();
   int blue = 0;
   for (int x = 0; x < picture.width(); ++x) {
@@ -233,16 +233,16 @@ TEST_CASE("A check box shows its value and is turned over by a click") {
   QTest::mouseClick(&check, Qt::LeftButton, {}, {6, 8});
   CHECK(form.log.Take() == "lost focus, check");
   CHECK(check.checkState() == Qt::Checked);
-  form.Check1.SetValue(2);
+  form.check.SetValue(2);
   CHECK(check.checkState() == Qt::PartiallyChecked);
-  form.Check1.SetValue(0);
+  form.check.SetValue(0);
   CHECK(check.checkState() == Qt::Unchecked);
 }
 
 TEST_CASE("A handler that unloads its own window ends well") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
-  form.Command2.onClick = [&form] { form.Unload(); };
+  form.deleteButton.onClick = [&form] { form.Unload(); };
   QTest::mouseClick(&Desk::Of("Command2"), Qt::LeftButton);
   CHECK(Desk::Top("frmChild") == nullptr);
   Desk::Settle();

@@ -122,7 +122,7 @@ TEST_CASE("A control's own colour is read on a dark desktop, and is as told on a
   for (const QColor& ground : {kLight, kDark}) {
     const DesktopOfColor desktop(ground);
     Desk desk;
-    desk.ShowChild().Label1.SetForeColor(FixedColor(0, 0, 255));
+    desk.ShowChild().label.SetForeColor(FixedColor(0, 0, 255));
     CHECK(ContrastOf(TextColorOf("Label1"), ground) >= kReadableContrast);
     CHECK((TextColorOf("Label1") == kBlue) == (ground == kLight));
   }
@@ -208,9 +208,9 @@ TEST_CASE("Set marks, edges of boxes, frames of groups and lines are seen in eve
     const DesktopOfScheme desktop(scheme);
     Desk desk;
     SampleForm& form = desk.ShowChild();
-    form.Check1.SetTicked(true);
-    form.Option1[0].SetSelected(true);
-    form.Check1.SetFocus();  // away from the boxes, whose edge it colours
+    form.check.SetTicked(true);
+    form.options[0].SetSelected(true);
+    form.check.SetFocus();  // away from the boxes, whose edge it colours
     for (const char* name : {"Check1", "Option1(0)"}) {
       CAPTURE(name);
       const QImage picture = Desk::Of(name).grab().toImage();
@@ -236,7 +236,7 @@ TEST_CASE(
     Desk desk;
     SampleForm& form = desk.ShowChild();
     for (const Color& color : colors) {
-      form.Label1.SetForeColor(color);
+      form.label.SetForeColor(color);
       const QColor told(color.red, color.green, color.blue);
       const QColor shown = TextColorOf("Label1");
       CHECK(ContrastOf(shown, scheme.ground) >= kReadableContrast);

@@ -31,7 +31,7 @@ TEST_CASE("An accelerator presses what carries it, whatever the focus") {
 TEST_CASE("The window's accelerators come before the menu bar's") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
-  form.Command2.SetCaption(u"&First");
+  form.deleteButton.SetCaption(u"&First");
   QTest::keyClick(&Focused(), Qt::Key_F, Qt::AltModifier);
   CHECK(form.log.Take() == "delete");
   CHECK(QApplication::activePopupWidget() == nullptr);
@@ -55,7 +55,7 @@ TEST_CASE("Page Up and Page Down press the buttons that turn pages") {
   QTest::keyClick(&Focused(), Qt::Key_PageUp);
   QTest::keyClick(&Focused(), Qt::Key_PageDown);
   CHECK(form.log.Take() == "back, forth");
-  form.Command1[1].SetEnabled(false);
+  form.arrows[1].SetEnabled(false);
   QTest::keyClick(&Focused(), Qt::Key_PageDown);
   CHECK(form.log.Take().empty());
 }
@@ -94,7 +94,7 @@ TEST_CASE("A box has its keys for itself, and the window behind it none") {
 
 TEST_CASE("Return and Escape press a window's default and cancel button") {
   Desk desk;
-  desk.prepare = [](SampleForm& form) { form.Command2.SetDefaultAndCancel(true); };
+  desk.prepare = [](SampleForm& form) { form.deleteButton.SetDefaultAndCancel(true); };
   desk.dialog->Show();
   Desk::Settle();
   desk.dialog->log.Take();
@@ -104,7 +104,7 @@ TEST_CASE("Return and Escape press a window's default and cancel button") {
   QTest::keyClick(&Desk::Of("Command1(0)", "frmDialog"), Qt::Key_Return);
   CHECK(desk.dialog->log.Take() == "back");
   QTest::keyClick(&Desk::Of("Text2", "frmDialog"), Qt::Key_Return);
-  CHECK(desk.dialog->Text2.TextOf() == u"\r\n");
+  CHECK(desk.dialog->areaBox.TextOf() == u"\r\n");
 }
 
 TEST_CASE("Escape leaves a window without a cancel button alone") {
@@ -144,11 +144,11 @@ TEST_CASE("The focus is where the form has it, and its moves are told once") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
   CHECK(Focused().objectName() == "Text1");
-  form.Command2.SetFocus();
+  form.deleteButton.SetFocus();
   CHECK(Focused().objectName() == "Command2");
   CHECK(form.log.Take() == "lost focus");
   Desk::Of("Text1").setFocus();
-  CHECK(form.FocusedControl() == &form.Text1);
+  CHECK(form.FocusedControl() == &form.lineBox);
   CHECK(form.log.Take() == "got focus");
 }
 
@@ -159,17 +159,17 @@ TEST_CASE(
     std::function<void(SampleForm&)> handler;
     std::string next;
   };
-  const auto goOff = [](SampleForm& form) { form.Command1[0].SetEnabled(false); };
+  const auto goOff = [](SampleForm& form) { form.arrows[0].SetEnabled(false); };
   const Case cases[] = {
       {"Command1(0)", goOff, "Command1(1)"},
-      {"Command1(0)", [](SampleForm& form) { form.Command1[0].SetVisible(false); }, "Command1(1)"},
-      {"Command2", [](SampleForm& form) { form.Command2.SetEnabled(false); }, "Text1"},
-      {"Option1(0)", [](SampleForm& form) { form.Frame1.SetVisible(false); }, "Check1"},
+      {"Command1(0)", [](SampleForm& form) { form.arrows[0].SetVisible(false); }, "Command1(1)"},
+      {"Command2", [](SampleForm& form) { form.deleteButton.SetEnabled(false); }, "Text1"},
+      {"Option1(0)", [](SampleForm& form) { form.group.SetVisible(false); }, "Check1"},
       {"Command1(0)",
        [&](SampleForm& form) {
          goOff(form);
-         CHECK(form.FocusedControl() == &form.Command1[0]);
-         form.Text2.SetFocus();
+         CHECK(form.FocusedControl() == &form.arrows[0]);
+         form.areaBox.SetFocus();
        },
        "Text2"}};
   for (const Case& c : cases) {
@@ -190,7 +190,7 @@ TEST_CASE("A focus set while a window loads is the one that it comes up with") {
   desk.prepare = [](SampleForm& form) {
     form.onLoad = [&form] {
       form.Show();
-      form.Command2.SetFocus();
+      form.deleteButton.SetFocus();
     };
   };
   desk.ShowChild();
@@ -210,7 +210,7 @@ TEST_CASE("An entry's keys choose it, where the entry is on, and stand beside it
     QTest::keyClick(&Focused(), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
     CHECK(form.log.Take() == "study");
   }
-  form.mnuMode.SetEnabled(false);
+  form.modeMenu.SetEnabled(false);
   QTest::keyClick(&Focused(), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
   CHECK(form.log.Take().empty());
 }
@@ -231,7 +231,7 @@ TEST_CASE("Of two bars with the same keys, those of the bar on show count") {
 TEST_CASE("Keys that always work do so behind another bar, and in a menu that is off") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
-  desk.frame->mnuFile.SetEnabled(false);
+  desk.frame->fileMenu.SetEnabled(false);
   QTest::keyClick(&Focused(), Qt::Key_Q, Qt::ControlModifier);
   CHECK(desk.frame->log.Take() == "frame exit");
   form.Hide();
@@ -268,20 +268,20 @@ TEST_CASE("Arrows, the blank and Ctrl+Return are the window's where it has a use
     return form.log.Take();
   };
   form.hasUseForKeys = true;
-  form.Text2.SetFocus();
+  form.areaBox.SetFocus();
   CHECK(press() == "left, right, space, keep");
-  CHECK(form.Text2.TextOf().empty());
+  CHECK(form.areaBox.TextOf().empty());
   form.hasUseForKeys = false;
-  form.Text2.SetFocus();
+  form.areaBox.SetFocus();
   CHECK(press() == "change");
-  CHECK(form.Text2.TextOf() == u" ");
+  CHECK(form.areaBox.TextOf() == u" ");
 }
 
 TEST_CASE("A blank held down is no second one") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
   form.hasUseForKeys = true;
-  form.Painting1.SetFocus();
+  form.painting.SetFocus();
   form.log.Take();
   QKeyEvent held(QEvent::KeyPress, Qt::Key_Space, Qt::NoModifier, QStringLiteral(" "), true);
   QApplication::sendEvent(&Focused(), &held);
@@ -292,11 +292,11 @@ TEST_CASE("Tab goes where the window says, and else to the next control") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
   CHECK(Focused().objectName() == "Text1");
-  form.tabTarget = &form.Command2;
+  form.tabTarget = &form.deleteButton;
   QTest::keyClick(&Focused(), Qt::Key_Tab);
   CHECK(Focused().objectName() == "Command2");
-  CHECK(form.FocusedControl() == &form.Command2);
-  form.Text1.SetFocus();
+  CHECK(form.FocusedControl() == &form.deleteButton);
+  form.lineBox.SetFocus();
   form.tabTarget = nullptr;
   QTest::keyClick(&Focused(), Qt::Key_Tab);
   CHECK(Focused().objectName() == "Text2");

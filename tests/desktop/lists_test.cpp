@@ -43,8 +43,8 @@ TEST_CASE("A click on an item selects it and leaves its tick") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
   Click(PlaceOf(2));
-  CHECK(form.List1.SelectedIndex() == 2);
-  CHECK_FALSE(form.List1.Item(2).checked);
+  CHECK(form.list.SelectedIndex() == 2);
+  CHECK_FALSE(form.list.Item(2).checked);
   CHECK(form.log.Take() == "lost focus, list");
 }
 
@@ -52,11 +52,11 @@ TEST_CASE("A click on a check box turns its tick over once and selects the item"
   Desk desk;
   SampleForm& form = desk.ShowChild();
   Click(CheckBoxOf(3));
-  CHECK(form.List1.Item(3).checked);
-  CHECK(form.List1.SelectedIndex() == 3);
+  CHECK(form.list.Item(3).checked);
+  CHECK(form.list.SelectedIndex() == 3);
   CHECK(List().topLevelItem(2)->checkState(0) == Qt::Checked);
   Click(CheckBoxOf(3));
-  CHECK_FALSE(form.List1.Item(3).checked);
+  CHECK_FALSE(form.list.Item(3).checked);
   CHECK(List().topLevelItem(2)->checkState(0) == Qt::Unchecked);
 }
 
@@ -64,7 +64,7 @@ TEST_CASE("A click beside the items keeps the selection and runs the click") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
   Click({50, List().viewport()->height() - 5});
-  CHECK(form.List1.SelectedIndex() == 1);
+  CHECK(form.list.SelectedIndex() == 1);
   CHECK(form.log.Take() == "lost focus, list");
 }
 
@@ -74,20 +74,20 @@ TEST_CASE("Keys move the selection and turn the tick, and end in a key-up") {
   List().setFocus();
   form.log.Take();
   QTest::keyClick(&List(), Qt::Key_Down);
-  CHECK(form.List1.SelectedIndex() == 2);
+  CHECK(form.list.SelectedIndex() == 2);
   QTest::keyClick(&List(), Qt::Key_Space);
-  CHECK(form.List1.Item(2).checked);
+  CHECK(form.list.Item(2).checked);
   CHECK(form.log.Take() == "key up, key up");
 }
 
 TEST_CASE("Ticks and items that the form sets show") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
-  form.List1.SetChecked(1, true);
+  form.list.SetChecked(1, true);
   CHECK(List().topLevelItem(0)->checkState(0) == Qt::Checked);
-  form.List1.AddItem(u"4", {u"Bern"});
+  form.list.AddItem(u"4", {u"Bern"});
   CHECK(List().topLevelItemCount() == 4);
-  form.List1.SetColumnWidth(1, 1500);
+  form.list.SetColumnWidth(1, 1500);
   CHECK(List().columnWidth(0) == 100);
 }
 
@@ -99,11 +99,11 @@ TEST_CASE("A combo box shows its items and passes on what the user chooses") {
   CHECK(combo.currentIndex() == -1);
   CHECK_FALSE(combo.isEditable());
   QTest::keyClick(&combo, Qt::Key_Down);
-  CHECK(form.Combo1.ListIndex() == -1);
+  CHECK(form.combo.ListIndex() == -1);
   CHECK(form.log.Take().empty());
   QTest::keyClick(combo.view(), Qt::Key_Home);
   QTest::keyClick(combo.view(), Qt::Key_Return);
-  CHECK(form.Combo1.TextOf() == u"First");
+  CHECK(form.combo.TextOf() == u"First");
   CHECK(form.log.Take() == "combo");
   // Turned over it, a wheel means what lies around it.
   QWheelEvent wheel(QPointF(5, 5), combo.mapToGlobal(QPointF(5, 5)), {}, {0, -120}, Qt::NoButton,
@@ -111,8 +111,8 @@ TEST_CASE("A combo box shows its items and passes on what the user chooses") {
   QApplication::sendEvent(&combo, &wheel);
   CHECK(form.log.Take().empty());
   CHECK(combo.currentIndex() == 0);
-  form.Combo1.SetListIndex(1);
+  form.combo.SetListIndex(1);
   CHECK(combo.currentText() == "Second");
-  form.Combo1.Clear();
-  CHECK(combo.count() == 0);
+  form.combo.AddItem(u"Third");
+  CHECK(combo.count() == 3);
 }

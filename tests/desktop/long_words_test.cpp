@@ -8,7 +8,6 @@
 #include <functional>
 #include <limits>
 
-#include "adapters/qt/text/line_breaks.h"
 #include "adapters/qt/text/qt_text.h"
 #include "adapters/qt/text/text_layout.h"
 #include "tests/desktop/support/desk.h"
@@ -62,32 +61,32 @@ TEST_CASE("A box takes, shows and counts the lines of such a word in about that 
   SampleForm& form = desk.ShowChild();
   auto& area = dynamic_cast<QPlainTextEdit&>(Desk::Of("Text2"));
   CheckInProportion([&](const QString& text) {
-    form.Text2.SetText({});
-    form.Text2.SetText(FromQString(text));
+    form.areaBox.SetText({});
+    form.areaBox.SetText(FromQString(text));
   });
   CheckInProportion([&](const QString& text) {
-    form.Text2.SetText(FromQString(text));
-    CHECK(form.Text2.LineCount() > 100);
+    form.areaBox.SetText(FromQString(text));
+    CHECK(form.areaBox.LineCount() > 100);
   });
   CheckInProportion([&](const QString& text) {
-    form.Text2.SetText(FromQString(text));
-    form.Text2.SetText({});
+    form.areaBox.SetText(FromQString(text));
+    form.areaBox.SetText({});
   });
   CheckInProportion([&](const QString& text) {
-    form.Text2.SetText(FromQString(text));
+    form.areaBox.SetText(FromQString(text));
     area.selectAll();
     QTest::keyClick(&area, Qt::Key_Delete);
     QTest::keySequence(&area, QKeySequence::Undo);
-    CHECK(form.Text2.TextOf() == FromQString(text));
+    CHECK(form.areaBox.TextOf() == FromQString(text));
     QTest::keySequence(&area, QKeySequence::Redo);
-    CHECK(form.Text2.TextOf().empty());
+    CHECK(form.areaBox.TextOf().empty());
   });
   CheckInProportion([&](const QString& text) {
     area.selectAll();
     QApplication::clipboard()->setText(text);
     QTest::keySequence(&area, QKeySequence::Paste);
     QTest::keyClicks(&area, "x");
-    CHECK(form.Text2.TextOf() == FromQString(text + u'x'));
+    CHECK(form.areaBox.TextOf() == FromQString(text + u'x'));
   });
 }
 

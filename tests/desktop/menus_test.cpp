@@ -98,9 +98,9 @@ TEST_CASE("Entries of one name in two windows run their own window's command") {
 TEST_CASE("A disabled entry and a disabled menu can't be chosen") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
-  form.mnuOpen.SetEnabled(false);
+  form.openEntry.SetEnabled(false);
   CHECK_FALSE(Entry("mnuOpen", "frmChild").isEnabled());
-  form.mnuMode.SetEnabled(false);
+  form.modeMenu.SetEnabled(false);
   CHECK_FALSE(Menu("mnuMode").isEnabled());
 }
 
@@ -108,19 +108,19 @@ TEST_CASE(
     "What is off stays off when its window was disabled meanwhile, and what is on comes back") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
-  form.mnuOpen.SetEnabled(false);
-  form.mnuMode.SetEnabled(false);
+  form.openEntry.SetEnabled(false);
+  form.modeMenu.SetEnabled(false);
   form.SetEnabled(false);
   SUBCASE("as it was") {}
   SUBCASE("switched on and off behind the disabled window") {
-    form.mnuMode.SetEnabled(true);
-    form.mnuMode.SetEnabled(false);
+    form.modeMenu.SetEnabled(true);
+    form.modeMenu.SetEnabled(false);
   }
   form.SetEnabled(true);
   CHECK_FALSE(Menu("mnuMode").isEnabled());
   CHECK_FALSE(Entry("mnuOpen", "frmChild").isEnabled());
   CHECK(Menu("mnuFile").isEnabled());
-  form.mnuMode.SetEnabled(true);
+  form.modeMenu.SetEnabled(true);
   CHECK(Menu("mnuMode").isEnabled());
 }
 
@@ -147,7 +147,7 @@ TEST_CASE("A letter that several entries share goes from one to the next, and Re
 TEST_CASE("A letter passes over entries that are off or hidden, and takes the one that is left") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
-  form.mnuOrder.SetEnabled(false);
+  form.orderEntry.SetEnabled(false);
   SUBCASE("two are left") {
     QMenu& menu = OpenFileMenu();
     for (const char* next : {"mnuOther", "mnuOpen", "mnuOther"}) {
@@ -158,14 +158,14 @@ TEST_CASE("A letter passes over entries that are off or hidden, and takes the on
     CHECK(form.log.Take().empty());
   }
   SUBCASE("one is left") {
-    form.mnuOpen.SetVisible(false);
+    form.openEntry.SetVisible(false);
     QTest::keyClick(&OpenFileMenu(), Qt::Key_O);
     CHECK(form.log.Take() == "other");
     CHECK(QApplication::activePopupWidget() == nullptr);
   }
   SUBCASE("none is left") {
-    form.mnuOther.SetEnabled(false);
-    form.mnuOpen.SetEnabled(false);
+    form.otherEntry.SetEnabled(false);
+    form.openEntry.SetEnabled(false);
     QMenu& menu = OpenFileMenu();
     QTest::keyClick(&menu, Qt::Key_O);
     CHECK(menu.isVisible());
@@ -187,7 +187,7 @@ TEST_CASE("A mark shows what the form says, not how often it was clicked") {
   SampleForm& form = desk.ShowChild();
   QAction& study = Entry("mnuStudy", "frmChild");
   CHECK_FALSE(study.isCheckable());
-  form.mnuStudy.SetChecked(true);
+  form.studyEntry.SetChecked(true);
   CHECK(study.isChecked());
   study.trigger();
   CHECK(study.isChecked());
@@ -197,7 +197,7 @@ TEST_CASE("A mark shows what the form says, not how often it was clicked") {
 TEST_CASE("A command that unloads its own window ends well") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
-  form.mnuOpen.onClick = [&form] { form.Unload(); };
+  form.openEntry.onClick = [&form] { form.Unload(); };
   Entry("mnuOpen", "frmChild").trigger();
   Desk::Settle();
   CHECK(BarTexts() == "&File ");
@@ -206,7 +206,7 @@ TEST_CASE("A command that unloads its own window ends well") {
 TEST_CASE("A command that waits for a box while its window goes ends well") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
-  form.mnuOpen.onClick = [&desk] { desk.messages.Show(u"Wait", kOkOnly, u""); };
+  form.openEntry.onClick = [&desk] { desk.messages.Show(u"Wait", kOkOnly, u""); };
   desk.messages.whileShown = [&desk](const FakeMessages::Shown&) {
     desk.child.Unload();
     // A box's own event loop destroys what waits for it.

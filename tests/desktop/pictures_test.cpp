@@ -30,9 +30,9 @@ TEST_CASE("A label that has no room for its text shows it smaller") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
   const int before = Desk::Of("Label1").font().pixelSize();
-  form.Label1.SetCaption(u"a text that is much too long for a label of two hundred pixels");
+  form.label.SetCaption(u"a text that is much too long for a label of two hundred pixels");
   CHECK(Desk::Of("Label1").font().pixelSize() < before);
-  form.Label1.SetCaption(u"short");
+  form.label.SetCaption(u"short");
   CHECK(Desk::Of("Label1").font().pixelSize() == before);
 }
 
@@ -51,7 +51,7 @@ TEST_CASE("A picture box shows its picture at its top left corner") {
   SampleForm& form = desk.ShowChild();
   const QImage flip(TESSARA_TEST_PICTURES "/print/nonflip.png");
   CHECK(PictureOf("Picture1").pixelColor(30, 18) == flip.pixelColor(30, 18));
-  form.Picture1.SetPicture({});
+  form.pictureBox.SetPicture({});
   CHECK(PictureOf("Picture1").pixelColor(30, 18) == PictureOf("Picture1").pixelColor(0, 0));
 }
 
@@ -59,7 +59,7 @@ TEST_CASE("An image takes its picture's size, a missing file shows nothing") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
   CHECK(Desk::Of("Image1").size() == QSize(32, 32));
-  form.Image1.SetPicture({"no such file.png", 20, 10});
+  form.image.SetPicture({"no such file.png", 20, 10});
   CHECK(Desk::Of("Image1").size() == QSize(20, 10));
   CHECK(PictureOf("Image1").pixelColor(5, 5) == PictureOf("Image1").pixelColor(15, 5));
 }
@@ -67,9 +67,9 @@ TEST_CASE("An image takes its picture's size, a missing file shows nothing") {
 TEST_CASE("A shape is filled with its colour, a line without a height still shows") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
-  form.Shape1.SetBackColor(FixedColor(255, 0, 0));
+  form.shape.SetBackColor(FixedColor(255, 0, 0));
   CHECK(PictureOf("Shape1").pixelColor(20, 20) == kRed);
-  form.Line1.SetForeColor(FixedColor(255, 0, 0));
+  form.line.SetForeColor(FixedColor(255, 0, 0));
   CHECK(PictureOf("Line1").size() == QSize(40, 1));
   CHECK(PictureOf("Line1").pixelColor(20, 0) == kRed);
 }
@@ -83,7 +83,7 @@ TEST_CASE("A painted control paints itself and can be read from outside") {
   CHECK(widget.property("CardText") == "Painting");
   CHECK(widget.property("FrontRule") == true);
   CHECK(widget.accessibleName() == "Card");
-  form.Painting1.Write(u"Other", 10);
+  form.painting.Write(u"Other", 10);
   CHECK(widget.property("CardText") == "Other");
   CHECK(widget.accessibleDescription() == "Other");
 }
@@ -92,7 +92,7 @@ TEST_CASE("A painted text that is too long scrolls by wheel, keys and bar; a new
   Desk desk;
   SampleForm& form = desk.ShowChild();
   CHECK(Desk::Of("Painting1").findChild<QScrollBar*>() == nullptr);
-  form.Painting1.Write(u"long", 150);
+  form.painting.Write(u"long", 150);
   Desk::Settle();
   auto& bar = *Desk::Of("Painting1").findChild<QScrollBar*>();
   CHECK(bar.isVisible());
@@ -105,7 +105,7 @@ TEST_CASE("A painted text that is too long scrolls by wheel, keys and bar; a new
                    Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
   QApplication::sendEvent(&Desk::Of("Painting1"), &turn);
   CHECK(bar.value() > 0);
-  form.Painting1.Write(u"short", 10);
+  form.painting.Write(u"short", 10);
   Desk::Settle();
   CHECK(bar.value() == 0);
   CHECK_FALSE(bar.isVisible());
@@ -114,11 +114,11 @@ TEST_CASE("A painted text that is too long scrolls by wheel, keys and bar; a new
 TEST_CASE("A control that the form hides is hidden, in a hidden container too") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
-  form.Check1.SetVisible(false);
+  form.check.SetVisible(false);
   CHECK_FALSE(Desk::Of("Check1").isVisible());
-  form.Frame1.SetVisible(false);
+  form.group.SetVisible(false);
   CHECK_FALSE(Desk::Of("Option1(0)").isVisible());
-  form.Frame1.SetVisible(true);
+  form.group.SetVisible(true);
   CHECK(Desk::Of("Option1(0)").isVisible());
 }
 
@@ -126,7 +126,7 @@ TEST_CASE("A hidden window comes back with what changed meanwhile") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
   form.Hide();
-  form.Text1.SetText(u"new");
+  form.lineBox.SetText(u"new");
   form.SetWidth(4620);
   form.Show();
   CHECK(Desk::Of("Text1").isVisible());

@@ -59,7 +59,7 @@ TEST_CASE("Typed text reaches the form character by character") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
   QTest::keyClicks(&Desk::Of("Text1"), "Ab");
-  CHECK(form.Text1.TextOf() == u"Ab");
+  CHECK(form.lineBox.TextOf() == u"Ab");
   CHECK(form.log.Take() == "key A, change, key b, change");
 }
 
@@ -70,10 +70,10 @@ TEST_CASE("Return in a box of several lines is CR LF, and deletes as one") {
   QTest::keyClicks(&area, "a");
   QTest::keyClick(&area, Qt::Key_Return);
   QTest::keyClicks(&area, "b");
-  CHECK(form.Text2.TextOf() == u"a\r\nb");
+  CHECK(form.areaBox.TextOf() == u"a\r\nb");
   QTest::keyClick(&area, Qt::Key_Backspace);
   QTest::keyClick(&area, Qt::Key_Backspace);
-  CHECK(form.Text2.TextOf() == u"a");
+  CHECK(form.areaBox.TextOf() == u"a");
 }
 
 TEST_CASE("What the user does not touch stays to the last character") {
@@ -92,19 +92,19 @@ TEST_CASE("What the user does not touch stays to the last character") {
     CAPTURE(ToUtf8(text));
     Desk desk;
     SampleForm& form = desk.ShowChild();
-    form.Text2.SetText(text);
-    form.Text1.SetText(text);
-    CHECK(form.Text2.TextOf() == text);
+    form.areaBox.SetText(text);
+    form.lineBox.SetText(text);
+    CHECK(form.areaBox.TextOf() == text);
     auto& area = Desk::Of<QPlainTextEdit>("Text2");
     PutCursorAtEnd(area);
     QTest::keyClicks(&area, "x");
-    CHECK(form.Text2.TextOf() == text + u"x");
+    CHECK(form.areaBox.TextOf() == text + u"x");
     QTest::keyClick(&area, Qt::Key_Backspace);
-    CHECK(form.Text2.TextOf() == text);
+    CHECK(form.areaBox.TextOf() == text);
     auto& line = Desk::Of<QLineEdit>("Text1");
     line.end(false);
     QTest::keyClicks(&line, "x");
-    CHECK(form.Text1.TextOf() == text + u"x");
+    CHECK(form.lineBox.TextOf() == text + u"x");
   }
 }
 
@@ -131,8 +131,8 @@ TEST_CASE("Characters of every script stay as they are on every way in") {
     Paste(area, scripts);
   }
   const Text expected = scripts.toStdU16String();
-  CHECK(ToUtf8(form.Text1.TextOf()) == ToUtf8(expected));
-  CHECK(ToUtf8(form.Text2.TextOf()) == ToUtf8(expected));
+  CHECK(ToUtf8(form.lineBox.TextOf()) == ToUtf8(expected));
+  CHECK(ToUtf8(form.areaBox.TextOf()) == ToUtf8(expected));
   CHECK(line.text() == scripts);
   CHECK(area.toPlainText() == scripts);
 }
@@ -149,8 +149,8 @@ TEST_CASE(
   SampleForm& form = desk.ShowChild();
   for (const Text& character : characters) {
     CAPTURE(ToUtf8(character));
-    for (TextBox* const box : {&form.Text1, &form.Text2}) {
-      QWidget& widget = Desk::Of(box == &form.Text1 ? "Text1" : "Text2");
+    for (TextBox* const box : {&form.lineBox, &form.areaBox}) {
+      QWidget& widget = Desk::Of(box == &form.lineBox ? "Text1" : "Text2");
       box->SetText(u"a" + character);
       QTest::keyClick(&widget, Qt::Key_End);
       QTest::keyClick(&widget, Qt::Key_Left);
@@ -176,8 +176,8 @@ TEST_CASE(
 TEST_CASE("A box whose text a save would cut is marked, and tells by how many characters") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
-  for (TextBox* const box : {&form.Text1, &form.Text2}) {
-    QWidget& widget = Desk::Of(box == &form.Text1 ? "Text1" : "Text2");
+  for (TextBox* const box : {&form.lineBox, &form.areaBox}) {
+    QWidget& widget = Desk::Of(box == &form.lineBox ? "Text1" : "Text2");
     box->charactersCut = [](const Text& text) {
       return text.size() - std::min<std::size_t>(text.size(), 3);
     };
@@ -208,12 +208,12 @@ TEST_CASE("A corrected paste can be undone") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
   auto& area = Desk::Of<QPlainTextEdit>("Text2");
-  form.Text2.SetMaxLength(2);
+  form.areaBox.SetMaxLength(2);
   QTest::keyClicks(&area, "a");
   Paste(area, QStringLiteral("\u4E2Db"));
-  CHECK(form.Text2.TextOf() == u"a\u4E2D");
+  CHECK(form.areaBox.TextOf() == u"a\u4E2D");
   while (area.document()->isUndoAvailable()) area.undo();
-  CHECK(form.Text2.TextOf().empty());
+  CHECK(form.areaBox.TextOf().empty());
 }
 
 TEST_CASE("Undo takes back typing and a corrected paste, and redo brings them again") {
@@ -223,7 +223,7 @@ TEST_CASE("Undo takes back typing and a corrected paste, and redo brings them ag
     const char* name;
     TextBox& box;
   };
-  for (const Kind& kind : {Kind{"Text1", form.Text1}, Kind{"Text2", form.Text2}}) {
+  for (const Kind& kind : {Kind{"Text1", form.lineBox}, Kind{"Text2", form.areaBox}}) {
     CAPTURE(kind.name);
     QWidget& widget = Desk::Of(kind.name);
     kind.box.SetMaxLength(4);
@@ -241,16 +241,16 @@ TEST_CASE("Undo takes back typing and a corrected paste, and redo brings them ag
 TEST_CASE("What was typed over the limit is not in the way of an undo") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
-  form.Text1.SetMaxLength(3);
+  form.lineBox.SetMaxLength(3);
   auto& line = Desk::Of<QLineEdit>("Text1");
   QTest::keyClicks(&line, "ad");
   QTest::keyClick(&line, Qt::Key_Left);
   QTest::keyClicks(&line, "bcc");
-  CHECK(form.Text1.TextOf() == u"abd");
+  CHECK(form.lineBox.TextOf() == u"abd");
   CHECK(line.cursorPosition() == 2);
   constexpr int kMostSteps = 3;
   for (int step = 0; step < kMostSteps; ++step) Undo(line);
-  CHECK(form.Text1.TextOf().empty());
+  CHECK(form.lineBox.TextOf().empty());
 }
 
 TEST_CASE("Composed text reaches the form when it is committed") {
@@ -259,7 +259,7 @@ TEST_CASE("Composed text reaches the form when it is committed") {
   auto& area = Desk::Of<QPlainTextEdit>("Text2");
   for (const char* name : {"Text1", "Text2"}) {
     CAPTURE(name);
-    TextBox& box = name == std::string("Text1") ? form.Text1 : form.Text2;
+    TextBox& box = name == std::string("Text1") ? form.lineBox : form.areaBox;
     QWidget& widget = Desk::Of(name);
     QTest::keyClicks(&widget, "a");
     form.log.Take();
@@ -272,13 +272,13 @@ TEST_CASE("Composed text reaches the form when it is committed") {
   }
   CHECK(ComposedIn(area).isEmpty());
   // What is put right in the text before it leaves the composed text alone.
-  form.Text2.SetMaxLength(3);
+  form.areaBox.SetMaxLength(3);
   Compose(area, "zi", QStringLiteral("\u4E2D\u6587"));
-  CHECK(form.Text2.TextOf() == u"a\u00E9\u4E2D");
+  CHECK(form.areaBox.TextOf() == u"a\u00E9\u4E2D");
   CHECK(ComposedIn(area) == "zi");
-  form.Text2.SetMaxLength(4);
+  form.areaBox.SetMaxLength(4);
   Compose(area, {}, "z");
-  CHECK(form.Text2.TextOf() == u"a\u00E9\u4E2Dz");
+  CHECK(form.areaBox.TextOf() == u"a\u00E9\u4E2Dz");
   CHECK(area.toPlainText() == QStringLiteral("a\u00E9\u4E2Dz"));
 }
 
@@ -289,7 +289,7 @@ TEST_CASE("Pasted lines keep their breaks, whatever they are made of") {
     SampleForm& form = desk.ShowChild();
     auto& area = Desk::Of<QPlainTextEdit>("Text2");
     Paste(area, lines);
-    CHECK(form.Text2.TextOf() == u"one\r\ntwo\r\n");
+    CHECK(form.areaBox.TextOf() == u"one\r\ntwo\r\n");
     CHECK(area.blockCount() == 3);
   }
 }
@@ -316,7 +316,7 @@ TEST_CASE("A paste of nothing leaves a box as it is") {
       CAPTURE(name);
       Desk desk;
       SampleForm& form = desk.ShowChild();
-      TextBox& box = name == std::string("Text1") ? form.Text1 : form.Text2;
+      TextBox& box = name == std::string("Text1") ? form.lineBox : form.areaBox;
       box.SetText(u"kept");
       QClipboard& clipboard = *QApplication::clipboard();
       clipboard.setMimeData(new QMimeData);
@@ -338,7 +338,7 @@ TEST_CASE("What is pasted is plain text, whatever else it comes as") {
     offered->setText("# plain");
     QApplication::clipboard()->setMimeData(offered);
     QTest::keySequence(&Desk::Of("Text2"), QKeySequence::Paste);
-    CHECK(form.Text2.TextOf() == u"# plain");
+    CHECK(form.areaBox.TextOf() == u"# plain");
   }
 }
 
@@ -346,29 +346,29 @@ TEST_CASE("A lowered limit cuts nothing, and keeps more from coming in") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
   auto& line = Desk::Of<QLineEdit>("Text1");
-  form.Text1.SetText(u"12345");
-  form.Text1.SetMaxLength(3);
+  form.lineBox.SetText(u"12345");
+  form.lineBox.SetMaxLength(3);
   CHECK(line.text() == "12345");
   QTest::keyClicks(&line, "6");
-  CHECK(form.Text1.TextOf() == u"12345");
+  CHECK(form.lineBox.TextOf() == u"12345");
   CHECK(line.text() == "12345");
   line.end(false);
   for (int i = 0; i < 3; ++i) QTest::keyClick(&line, Qt::Key_Backspace);
   QTest::keyClicks(&line, "67");
-  CHECK(form.Text1.TextOf() == u"126");
+  CHECK(form.lineBox.TextOf() == u"126");
 }
 
 TEST_CASE("What goes over the limit is the end of what was pasted") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
   auto& area = Desk::Of<QPlainTextEdit>("Text2");
-  form.Text2.SetMaxLength(4);
-  form.Text2.SetText(u"abc");
+  form.areaBox.SetMaxLength(4);
+  form.areaBox.SetText(u"abc");
   QTextCursor cursor = area.textCursor();
   cursor.setPosition(1);
   area.setTextCursor(cursor);
   Paste(area, "bcX");
-  CHECK(form.Text2.TextOf() == u"abbc");
+  CHECK(form.areaBox.TextOf() == u"abbc");
   CHECK(area.toPlainText() == "abbc");
 }
 
@@ -377,14 +377,14 @@ TEST_CASE("A box of one line takes what stands before a pasted line break") {
   SampleForm& form = desk.ShowChild();
   auto& line = Desk::Of<QLineEdit>("Text1");
   Paste(line, "one\ntwo");
-  CHECK(form.Text1.TextOf() == u"one");
+  CHECK(form.lineBox.TextOf() == u"one");
   CHECK(line.text() == "one");
 }
 
 TEST_CASE("A text that a form assigns shows, and is not an edit of the user") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
-  form.Text2.SetText(u"one\r\ntwo");
+  form.areaBox.SetText(u"one\r\ntwo");
   CHECK(form.log.Take() == "change");
   auto& area = Desk::Of<QPlainTextEdit>("Text2");
   CHECK(area.blockCount() == 2);
@@ -394,7 +394,7 @@ TEST_CASE("A text that a form assigns shows, and is not an edit of the user") {
 TEST_CASE("A handler that rewrites the text has the last word") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
-  form.Text1.onChange = [&form] { form.Text1.SetText(u"fixed"); };
+  form.lineBox.onChange = [&form] { form.lineBox.SetText(u"fixed"); };
   auto& line = Desk::Of<QLineEdit>("Text1");
   QTest::keyClicks(&line, "a");
   CHECK(line.text() == "fixed");
@@ -403,12 +403,12 @@ TEST_CASE("A handler that rewrites the text has the last word") {
 TEST_CASE("A locked box takes no text and can still be read") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
-  form.Text2.SetText(u"text");
-  form.Text2.SetLocked(true);
+  form.areaBox.SetText(u"text");
+  form.areaBox.SetLocked(true);
   auto& area = Desk::Of<QPlainTextEdit>("Text2");
   QTest::keyClicks(&area, "x");
   CHECK(area.isReadOnly());
-  CHECK(form.Text2.TextOf() == u"text");
+  CHECK(form.areaBox.TextOf() == u"text");
   CHECK(area.toPlainText() == "text");
 }
 
@@ -418,7 +418,7 @@ TEST_CASE("Tab leaves a box of several lines") {
   Desk::Of("Text2").setFocus();
   QTest::keyClick(&Desk::Of("Text2"), Qt::Key_Tab);
   CHECK_FALSE(Desk::Of("Text2").hasFocus());
-  CHECK(form.Text2.TextOf().empty());
+  CHECK(form.areaBox.TextOf().empty());
 }
 
 TEST_CASE("Lines are counted as the box on screen wraps them, and without one") {
@@ -439,8 +439,8 @@ TEST_CASE("Lines are counted as the box on screen wraps them, and without one") 
     for (int word = 0; word < 20; ++word) text += u"\u0E20\u0E32\u0E29\u0E32\u0E44\u0E17\u0E22";
   }
   Desk desk;
-  desk.prepare = [&text](SampleForm& form) { form.Text2.SetText(text + u"\r\n\r\nend"); };
-  const int unseen = desk.child->Text2.LineCount();
+  desk.prepare = [&text](SampleForm& form) { form.areaBox.SetText(text + u"\r\n\r\nend"); };
+  const int unseen = desk.child->areaBox.LineCount();
   SampleForm& form = desk.ShowChild();
   auto& area = Desk::Of<QPlainTextEdit>("Text2");
   int lines = 0;
@@ -448,11 +448,11 @@ TEST_CASE("Lines are counted as the box on screen wraps them, and without one") 
     lines += block.layout()->lineCount();
   }
   CHECK(lines > 4);
-  CHECK(form.Text2.LineCount() == lines);
+  CHECK(form.areaBox.LineCount() == lines);
   CHECK(unseen == lines);
   const PixelScale scale = PixelScale::OfDesktop();
   const int margins = 2 * static_cast<int>(area.document()->documentMargin());
-  CHECK(LineWidthOf(form.Text2, scale) == area.viewport()->width() - margins);
+  CHECK(LineWidthOf(form.areaBox, scale) == area.viewport()->width() - margins);
 }
 
 TEST_CASE("Undo and redo work in every box, redo by either of its keys") {
@@ -460,7 +460,7 @@ TEST_CASE("Undo and redo work in every box, redo by either of its keys") {
   desk.ShowChild();
   const std::pair<Qt::Key, Qt::KeyboardModifiers> redoKeys[] = {
       {Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier}, {Qt::Key_Y, Qt::ControlModifier}};
-  for (TextBox* box : {&desk.child->Text1, &desk.child->Text2}) {
+  for (TextBox* box : {&desk.child->lineBox, &desk.child->areaBox}) {
     QWidget& widget = Desk::Of(box->Name().c_str());
     widget.setFocus();
     for (const auto& [key, modifiers] : redoKeys) {

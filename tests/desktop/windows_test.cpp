@@ -163,7 +163,7 @@ TEST_CASE("Clicks and moves beside the controls are the form's, on the backdrop 
 TEST_CASE("A click on a disabled control is nobody's") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
-  form.Command2.SetEnabled(false);
+  form.deleteButton.SetEnabled(false);
   QTest::mouseClick(&Desk::Of("Command2"), Qt::LeftButton);
   CHECK(form.log.Take().empty());
 }
@@ -173,7 +173,7 @@ TEST_CASE("A modal window returns when it is unloaded, and keeps the user out of
   SampleForm& form = desk.ShowChild();
   QTimer::singleShot(0, [&] {
     CHECK(Desk::Top("frmDialog")->isModal());
-    form.Command2.Press();
+    form.deleteButton.Press();
     CHECK(form.log.Take().empty());
     QTest::keyClick(Desk::Top("frmDialog"), Qt::Key_F4, Qt::ControlModifier);
   });
@@ -223,7 +223,7 @@ TEST_CASE("The backdrop shows the pictures painted on the frame") {
 TEST_CASE("An error that a handler lets out is reported and ends the program") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
-  form.Command2.onClick = [&form] { form.Option1[7].SetSelected(true); };
+  form.deleteButton.onClick = [&form] { form.options[7].SetSelected(true); };
   QTest::mouseClick(&Desk::Of("Command2"), Qt::LeftButton);
   REQUIRE(desk.messages.shown.size() == 1);
   CHECK(desk.messages.shown[0].text.starts_with(u"Run-time error '340':"));

@@ -84,7 +84,7 @@ class UserProgram {
                       copies_,
                       fakes_.clock,
                       desktop_,
-                      fakes_.classes,
+                      fakes_.documentTypes,
                       spreadsheet_,
                       printer_,
                       CodePage::Western(),

@@ -24,7 +24,7 @@ class CardControl : public PaintedControl, public CardDisplay {
   void SetCardText(const Text& text) override;
   void SetCardNumber(const Text& number) override;
   void SetCardTotal(const Text& total) override;
-
+  // What was written last. Only tests ask; the program itself asks for the banner alone.
   [[nodiscard]] const Text& CardColor() const { return cardColor_; }
   [[nodiscard]] bool FrontRule() const { return frontRule_; }
   [[nodiscard]] bool FrontLines() const { return frontLines_; }

@@ -2,11 +2,56 @@
 
 #include <clocale>
 #include <csignal>
-
-#include "adapters/posix/process/file_size_signal.h"
-#include "adapters/posix/process/whole_paths.h"
+#include <cstdlib>
+#include <sstream>
+#include <string>
+#include <unistd.h>
 
 namespace tessara {
+
+namespace {
+
+/// The write that caused the signal fails by itself.
+void DoNothing(int /*signal*/) {}
+
+constexpr const char* kVariable = "PATH";
+
+std::string PathOfSystem() {
+  std::string path(confstr(_CS_PATH, nullptr, 0), '\0');
+  confstr(_CS_PATH, path.data(), path.size());
+  path.pop_back();  // the closing 0
+  return path;
+}
+
+std::string WholePathsOf(const std::string& path) {
+  std::string whole;
+  std::istringstream elements(path);
+  for (std::string element; std::getline(elements, element, ':');) {
+    if (element.starts_with('/')) whole += (whole.empty() ? "" : ":") + element;
+  }
+  return whole;
+}
+
+}  // namespace
+
+void SurviveFileSizeLimit() {
+  // Caught, not ignored: a program that is started inherits what is ignored.
+  std::signal(SIGXFSZ, DoNothing);
+}
+
+void KeepWholePathsOnly() {
+  const char* path = std::getenv(kVariable);
+  const std::string whole = WholePathsOf(path == nullptr ? "" : path);
+  setenv(kVariable, (whole.empty() ? PathOfSystem() : whole).c_str(), 1);
+}
+
+void ForgetRelativeFolders() {
+  for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME",
+                               "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"}) {
+    const char* folder = std::getenv(variable);
+    if (folder != nullptr && folder[0] != '/') unsetenv(variable);
+  }
+}
 
 void PrepareProcess() {
   std::setlocale(LC_ALL, "");

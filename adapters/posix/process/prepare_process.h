@@ -7,4 +7,19 @@ namespace tessara {
 /// of the process, and forgets relative paths of the environment.
 void PrepareProcess();
 
+// Its parts.
+
+/// From here on a file that grows past the user's limit is an error of the write, like a full disk,
+/// and not the end of the program. Programs that it starts have the system's default.
+void SurviveFileSizeLimit();
+
+/// Takes out of PATH what depends on where the program was started: its empty and its relative
+/// elements. Where none is left, or there is no PATH, it becomes the system's own. So no program
+/// that is started from here on is one that lies by chance, or by intent, in the current folder.
+void KeepWholePathsOnly();
+
+/// Unsets each variable of the XDG base directories that holds a relative path: it counts as
+/// missing, for the program, its libraries and the desktop's tools that it starts.
+void ForgetRelativeFolders();
+
 }  // namespace tessara

@@ -4,6 +4,8 @@
 #include <QSizeF>
 #include <QString>
 
+#include "forms/controls/control.h"
+
 namespace tessara {
 
 /// Where a caption stands in its room: from the top of it, or in the middle of its height.
@@ -25,5 +27,13 @@ struct FittedCaption {
 /// stands at the top may go on below the room by `mostOverhang`.
 [[nodiscard]] FittedCaption FitCaption(const QString& caption, const QFont& font, QSizeF room,
                                        CaptionPlace place, double mostOverhang = 0);
+
+/// How much of the control's width controls in front of it cover, in twips from its right edge, at
+/// half its height: a caption that goes on would be cut there.
+[[nodiscard]] int CoveredWidth(const Control& control);
+
+/// How much room is free below the control, in twips, up to 45: the ink of a high font may hang
+/// down there where nothing is in its way.
+[[nodiscard]] int FreeHeightBelow(const Control& control);
 
 }  // namespace tessara

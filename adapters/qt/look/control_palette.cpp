@@ -4,7 +4,6 @@
 #include <array>
 
 #include "adapters/qt/look/contrast.h"
-#include "adapters/qt/look/qt_colors.h"
 #include "forms/controls/controls.h"
 #include "forms/form.h"
 
@@ -38,6 +37,23 @@ QColor TextColor(const Control& control, const QPalette& desktop, const QColor& 
 }
 
 }  // namespace
+
+QColor ColorIn(const QPalette& palette, const Color& color, const QColor& own) {
+  switch (color.role) {
+    case Color::Role::kDefault:
+      return own;
+    case Color::Role::kFixed:
+      return {color.red, color.green, color.blue};
+    case Color::Role::kWindow:
+      return palette.color(QPalette::Active, QPalette::Base);
+    case Color::Role::kButtonFace:
+      return palette.color(QPalette::Active, QPalette::Button);
+    case Color::Role::kInactiveTitle:
+    case Color::Role::kWorkspace:
+      return palette.color(QPalette::Active, QPalette::Dark);
+  }
+  return own;
+}
 
 bool IsKeptOut(const Control& control) {
   if (!control.Enabled()) return false;

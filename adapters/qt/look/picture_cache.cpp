@@ -5,6 +5,17 @@
 
 namespace tessara {
 
+namespace {
+
+/// From edge to edge, so that neighbours meet without a gap at any factor.
+QRect PlaceOf(const PaintedPicture& painted, const PixelScale& scale) {
+  return scale.FromTwips(Bounds{painted.x * kTwipsPerPixel, painted.y * kTwipsPerPixel,
+                                painted.picture.width * kTwipsPerPixel,
+                                painted.picture.height * kTwipsPerPixel});
+}
+
+}  // namespace
+
 PictureCache::PictureCache(QString folder, double density)
     : folder_(std::move(folder)), density_(density) {}
 
@@ -29,6 +40,17 @@ QPixmap PictureCache::Read(const QString& file) const {
     if (!pixmap.isNull()) return pixmap;
   }
   return {folder_ + u'/' + file};
+}
+
+void PaintPictures(QPainter& painter, const std::vector<PaintedPicture>& pictures,
+                   const QRegion& region, const PixelScale& scale, PictureCache& cache) {
+  painter.setRenderHint(QPainter::SmoothPixmapTransform);
+  for (const PaintedPicture& painted : pictures) {
+    const QRect place = PlaceOf(painted, scale);
+    if (!region.intersects(place)) continue;
+    const QPixmap& pixmap = cache.PixmapOf(painted.picture);
+    if (!pixmap.isNull()) painter.drawPixmap(place, pixmap, pixmap.rect());
+  }
 }
 
 }  // namespace tessara

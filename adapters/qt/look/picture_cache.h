@@ -1,9 +1,13 @@
 #pragma once
 
 #include <QHash>
+#include <QPainter>
 #include <QPixmap>
+#include <QRegion>
 #include <QString>
+#include <vector>
 
+#include "adapters/qt/text/pixel_scale.h"
 #include "forms/look.h"
 
 namespace tessara {
@@ -27,5 +31,10 @@ class PictureCache {
   double density_;
   QHash<QString, QPixmap> pixmaps_;
 };
+
+/// Paints the pictures that stand in the region. A backdrop is many small pictures; painting the
+/// few that were uncovered needs no bitmap of the screen's size.
+void PaintPictures(QPainter& painter, const std::vector<PaintedPicture>& pictures,
+                   const QRegion& region, const PixelScale& scale, PictureCache& cache);
 
 }  // namespace tessara

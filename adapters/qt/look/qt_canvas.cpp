@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "adapters/qt/look/qt_colors.h"
+#include "adapters/qt/look/control_palette.h"
 #include "adapters/qt/text/text_layout.h"
 
 namespace tessara {

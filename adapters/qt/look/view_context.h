@@ -5,7 +5,7 @@
 
 namespace tessara {
 
-/// What all views share.
+/// What all views share. Both belong to the renderer, which outlives its views.
 struct ViewContext {
   const PixelScale& scale;
   PictureCache& pictures;

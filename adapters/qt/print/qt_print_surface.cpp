@@ -17,7 +17,7 @@
 #include "base/run_time_error.h"
 #include "base/skip_errors.h"
 #include "base/utf8.h"
-#include "machine/tab_on_paper.h"
+#include "machine/print_surface.h"
 
 namespace tessara {
 

@@ -1,15 +1,28 @@
 #include "adapters/qt/text/text_layout.h"
 
 #include <QFontMetricsF>
+#include <QTextBoundaryFinder>
 #include <algorithm>
 
-#include "adapters/qt/text/line_breaks.h"
 #include "adapters/qt/text/pixel_scale.h"
 #include "adapters/qt/text/qt_text.h"
 
 namespace tessara {
 
 namespace {
+
+/// Letters, with the blank or the break behind them. More than a card's field has, so that only a
+/// word that was typed or pasted is longer.
+constexpr qsizetype kLongestWord = 1000;
+
+bool HasLongerWord(const QString& text) {
+  if (text.size() <= kLongestWord) return false;
+  QTextBoundaryFinder breaks(QTextBoundaryFinder::Line, text);
+  for (qsizetype begin = 0, end = 0; (end = breaks.toNextBoundary()) >= 0; begin = end) {
+    if (end - begin > kLongestWord) return true;
+  }
+  return false;
+}
 
 QString WithLineSeparators(const Text& text) {
   QString lines = LinesForQt(text);
@@ -36,6 +49,11 @@ QTextOption OptionOf(const QString& text, const TextStyle& style) {
 }
 
 }  // namespace
+
+QTextOption::WrapMode WrapModeOf(const QString& text) {
+  return HasLongerWord(text) ? QTextOption::WrapAnywhere
+                             : QTextOption::WrapAtWordBoundaryOrAnywhere;
+}
 
 LaidOutText::LaidOutText(const Text& text, double width, const TextStyle& style)
     : layout_(WithLineSeparators(text), PixelScale::CanvasFont(style)),

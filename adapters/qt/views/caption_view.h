@@ -3,7 +3,7 @@
 #include <QAbstractButton>
 #include <QStyle>
 
-#include "adapters/qt/look/caption_room.h"
+#include "adapters/qt/look/caption_fit.h"
 #include "adapters/qt/text/qt_text.h"
 #include "adapters/qt/views/behind_box.h"
 #include "adapters/qt/views/captioned_widget.h"

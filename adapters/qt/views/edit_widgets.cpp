@@ -4,14 +4,22 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QTextBlock>
+#include <QTextBoundaryFinder>
+#include <algorithm>
 
-#include "adapters/qt/text/character_before.h"
 #include "adapters/qt/text/dropped_file.h"
-#include "adapters/qt/text/line_breaks.h"
+#include "adapters/qt/text/text_layout.h"
 
 namespace tessara {
 
 namespace {
+
+/// Where the character begins, as a reader sees one, that ends at the place.
+qsizetype CharacterBefore(const QString& text, qsizetype place) {
+  QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, text);
+  characters.setPosition(place);
+  return std::max<qsizetype>(characters.toPreviousBoundary(), 0);
+}
 
 bool IsBackspace(const QKeyEvent& event) {
   return event.key() == Qt::Key_Backspace && !(event.modifiers() & ~Qt::ShiftModifier);

@@ -2,6 +2,7 @@
 
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QShortcut>
 
 namespace tessara {
 
@@ -30,5 +31,12 @@ class PlainArea : public QPlainTextEdit {
   void insertFromMimeData(const QMimeData* source) override;
   void keyPressEvent(QKeyEvent* event) override;
 };
+
+/// The key for redo that many hands know from elsewhere, beside the desktop's own.
+template <class Edit>
+void AddRedoKeys(Edit& edit) {
+  new QShortcut(
+      Qt::CTRL | Qt::Key_Y, &edit, [&edit] { edit.redo(); }, Qt::WidgetShortcut);
+}
 
 }  // namespace tessara

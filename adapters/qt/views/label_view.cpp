@@ -6,7 +6,6 @@
 
 #include "adapters/qt/look/accessible_role.h"
 #include "adapters/qt/look/caption_fit.h"
-#include "adapters/qt/look/caption_room.h"
 #include "adapters/qt/look/visible_focus.h"
 #include "adapters/qt/text/qt_text.h"
 

@@ -5,7 +5,7 @@
 #include <algorithm>
 
 #include "adapters/qt/look/contrast.h"
-#include "adapters/qt/look/qt_colors.h"
+#include "adapters/qt/look/control_palette.h"
 
 namespace tessara {
 

@@ -2,7 +2,7 @@
 
 #include <QMouseEvent>
 
-#include "adapters/qt/look/painted_pictures.h"
+#include "adapters/qt/look/picture_cache.h"
 
 namespace tessara {
 
@@ -27,7 +27,7 @@ void BackdropArea::paintEvent(QPaintEvent* event) {
   QMdiArea::paintEvent(event);
   if (frame_ == nullptr) return;
   QPainter painter(viewport());
-  PaintPictures(painter, frame_->Painted(), event->region(), context_);
+  PaintPictures(painter, frame_->Painted(), event->region(), context_.scale, context_.pictures);
 }
 
 }  // namespace tessara

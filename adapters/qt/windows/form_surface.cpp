@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "adapters/qt/look/painted_pictures.h"
+#include "adapters/qt/look/picture_cache.h"
 #include "adapters/qt/views/make_view.h"
 #include "adapters/qt/windows/reading.h"
 
@@ -150,7 +150,7 @@ void FormSurface::mouseMoveEvent(QMouseEvent* event) {
 void FormSurface::paintEvent(QPaintEvent* event) {
   if (form_ == nullptr || form_->Painted().empty()) return;
   QPainter painter(this);
-  PaintPictures(painter, form_->Painted(), event->region(), context_);
+  PaintPictures(painter, form_->Painted(), event->region(), context_.scale, context_.pictures);
 }
 
 }  // namespace tessara

@@ -1,10 +1,9 @@
-#include "companion/formats/kvtml/kvtml_date.h"
-
 #include <array>
 #include <cstdio>
 #include <string>
 
 #include "base/utf8.h"
+#include "companion/formats/kvtml/kvtml_format.h"
 #include "deck/date_text.h"
 
 namespace tessara {

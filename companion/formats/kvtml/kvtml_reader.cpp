@@ -1,16 +1,14 @@
-#include "companion/formats/kvtml/kvtml_reader.h"
-
 #include <algorithm>
 #include <pugixml.hpp>
 #include <string>
 #include <utility>
 
 #include "base/characters.h"
-#include "base/line_breaks.h"
+#include "base/text.h"
 #include "base/utf8.h"
-#include "companion/cards/refused.h"
+#include "companion/cards/complaints.h"
 #include "companion/cards/text_form.h"
-#include "companion/formats/kvtml/kvtml_date.h"
+#include "companion/formats/kvtml/kvtml_format.h"
 #include "companion/formats/tables/tag_lines.h"
 
 namespace tessara {

@@ -1,13 +1,11 @@
-#include "companion/formats/kvtml/kvtml_writer.h"
-
 #include <array>
 #include <pugixml.hpp>
 #include <string>
 
-#include "base/line_breaks.h"
-#include "companion/cards/refused.h"
+#include "base/text.h"
+#include "companion/cards/complaints.h"
 #include "companion/cards/text_form.h"
-#include "companion/formats/kvtml/kvtml_date.h"
+#include "companion/formats/kvtml/kvtml_format.h"
 
 namespace tessara {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <utility>
 
-#include "base/line_breaks.h"
+#include "base/text.h"
 #include "companion/cards/text_form.h"
 #include "deck/answer_key.h"
 

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "companion/cards/card_set.h"
-#include "companion/cards/losses.h"
+#include "companion/cards/complaints.h"
 
 namespace tessara {
 

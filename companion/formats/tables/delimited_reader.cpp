@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "companion/cards/card_set.h"
-#include "companion/cards/refused.h"
+#include "companion/cards/complaints.h"
 
 namespace tessara {
 

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "companion/cards/place.h"
+#include "companion/cards/complaints.h"
 
 namespace tessara {
 

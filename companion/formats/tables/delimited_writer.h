@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "base/text.h"
-#include "companion/formats/byte_sink.h"
+#include "companion/formats/source_and_sink.h"
 
 namespace tessara {
 

@@ -6,7 +6,7 @@
 
 #include "companion/cards/card_set.h"
 #include "companion/cards/text_form.h"
-#include "companion/formats/source.h"
+#include "companion/formats/source_and_sink.h"
 #include "companion/formats/tables/card_columns.h"
 #include "companion/formats/tables/delimited_reader.h"
 

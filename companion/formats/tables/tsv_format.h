@@ -1,8 +1,7 @@
 #pragma once
 
 #include "companion/cards/card_set.h"
-#include "companion/formats/byte_sink.h"
-#include "companion/formats/source.h"
+#include "companion/formats/source_and_sink.h"
 
 namespace tessara {
 

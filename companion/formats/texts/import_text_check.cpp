@@ -1,9 +1,8 @@
-#include "companion/formats/texts/import_text_check.h"
 
 #include <memory>
 
 #include "companion/formats/source_file.h"
-#include "companion/formats/texts/import_text_kind.h"
+#include "companion/formats/texts/import_text_format.h"
 #include "import/cards_reading.h"
 
 namespace tessara {

@@ -1,14 +1,14 @@
-#include "companion/formats/texts/import_text_reader.h"
 
 #include <array>
 #include <memory>
 
-#include "companion/cards/refused.h"
+#include "companion/cards/complaints.h"
 #include "companion/formats/source_file.h"
-#include "companion/formats/texts/import_text_check.h"
-#include "companion/formats/texts/import_text_kind.h"
+#include "companion/formats/texts/import_text_format.h"
 #include "deck/file/deck_file.h"
 #include "import/extended_import.h"
+#include "import/line_kinds.h"
+#include "import/standard_import.h"
 
 namespace tessara {
 
@@ -53,6 +53,16 @@ void TakeType(DeckRecord& record) {
 }
 
 }  // namespace
+
+CardsReader ReaderOf(const Source& source, const CodePage& codePage) {
+  OneFile files(source.bytes);
+  FileNumber number(files);
+  number.OpenInput(u"text");
+  LineReader lines(number, codePage);
+  const Text format = lines.AtEnd() ? Text() : lines.ReadLine();
+  if (IsWord(format, kExtendedWord)) return ReadExtendedCards;
+  return IsWord(format, kStandardWord) ? ReadStandardCards : nullptr;
+}
 
 CardSet ReadImportText(const Source& source, const Conversion& conversion) {
   FindingsAsLosses findings(conversion.losses);

@@ -1,8 +1,7 @@
-#include "companion/formats/texts/import_text_writer.h"
-
 #include <optional>
 
 #include "companion/cards/text_form.h"
+#include "companion/formats/texts/import_text_format.h"
 #include "deck/answer_key.h"
 #include "import/import_common.h"
 #include "import/line_kinds.h"

@@ -15,7 +15,7 @@ TEST_CASE("Windows that are open follow a larger font, and come back with the sm
   Desk desk;
   SampleForm& form = desk.ShowChild();
   desk.dialog->Show();
-  form.Text2.UserEdit({0, 0, u"words"});
+  form.areaBox.UserEdit({0, 0, u"words"});
   Desk::Settle();
   const auto sizes = [] {
     return std::vector<QSize>{Desk::Of("Command2").size(), Desk::Of("Text2").size(),
@@ -47,7 +47,7 @@ TEST_CASE("Windows that are open follow a larger font, and come back with the sm
 TEST_CASE("Windows that are open follow the desktop into the dark, with readable colours") {
   Desk desk;
   SampleForm& form = desk.ShowChild();
-  form.Label1.SetForeColor(FixedColor(0, 0, 255));
+  form.label.SetForeColor(FixedColor(0, 0, 255));
   const QPalette before = QApplication::palette();
   const QColor dark(49, 54, 59);
   QPalette palette(dark);

@@ -106,6 +106,6 @@ TEST_CASE("A text box takes a dragged text and no file") {
     CHECK_FALSE(Drop(desk.mime, *box));
     CHECK(Drop(words, *box));
   }
-  CHECK(form.Text1.TextOf() == u"words");
-  CHECK(form.Text2.TextOf() == u"words");
+  CHECK(form.lineBox.TextOf() == u"words");
+  CHECK(form.areaBox.TextOf() == u"words");
 }

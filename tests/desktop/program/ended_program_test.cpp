@@ -46,7 +46,7 @@ TEST_CASE("An error in painting is told once, as one in an event is, and ends th
   };
   for (const Case& each : cases) {
     GuardedDesk desk;
-    desk.ShowChild().Painting1.whenPainted = each.fails;
+    desk.ShowChild().painting.whenPainted = each.fails;
     // Painted again while the box is there.
     desk.messages.whileShown = [](const FakeMessages::Shown&) { Desk::Of("Painting1").repaint(); };
     Desk::Of("Painting1").repaint();
@@ -68,7 +68,7 @@ TEST_CASE("An error in painting ends the program from inside a dialog") {
   GuardedDesk desk;
   bool left = true;
   QTimer::singleShot(0, qApp, [&desk] {
-    desk.dialog->Painting1.whenPainted = [] { throw std::bad_alloc(); };
+    desk.dialog->painting.whenPainted = [] { throw std::bad_alloc(); };
     Desk::Of("Painting1", "frmDialog").repaint();
   });
   desk.windows.Run([&] {

@@ -216,7 +216,7 @@ class ProgramOnScreen {
                       fakes_.copies,
                       fakes_.clock,
                       fakes_.desktop,
-                      fakes_.classes,
+                      fakes_.documentTypes,
                       fakes_.noSpreadsheet,
                       fakes_.noPrinter,
                       CodePage::Western(),

@@ -62,71 +62,71 @@ class SampleForm : public Form {
     SetWidth(6120);
     SetHeight(5640);
     AddControls({
-        {&Shape1, nullptr, u"", {4500, 150, 600, 600}, u""},
-        {&Line1, nullptr, u"", {4500, 900, 600, 0}, u""},
-        {&Label1, nullptr, u"A && B <b>bold</b>", {150, 150, 3000, 300}, u""},
-        {&Text1, nullptr, u"", {150, 600, 2100, 300}, u"Line"},
-        {&Text2, nullptr, u"", {150, 1050, 2100, 900}, u"Area"},
-        {&Frame1, nullptr, u"Group", {150, 2100, 2100, 1200}, u""},
-        {&Option1[0], &Frame1, u"&One", {150, 300, 1500, 255}, u""},
-        {&Option1[1], &Frame1, u"T&wo", {150, 600, 1500, 255}, u""},
-        {&Check1, nullptr, u"C&heck", {150, 3450, 1500, 255}, u""},
-        {&Combo1, nullptr, u"", {2400, 600, 1500, 315}, u"Choice"},
-        {&List1, nullptr, u"", {2400, 1050, 3000, 1500}, u"Cards"},
-        {&Picture1, nullptr, u"", {2400, 2700, 1755, 555}, u"Box"},
-        {&Image1, nullptr, u"", {4500, 2700, 480, 480}, u"Mark"},
-        {&Painting1, nullptr, u"", {2400, 3450, 1500, 1500}, u"Card"},
-        {&Command1[0], nullptr, u"<<", {150, 4500, 600, 375}, u"Back"},
-        {&Command1[1], nullptr, u">>", {900, 4500, 600, 375}, u"Forth"},
-        {&Command2, nullptr, u"&Delete form deck", {4200, 4500, 1455, 495}, u""},
+        {&shape, nullptr, u"", {4500, 150, 600, 600}, u""},
+        {&line, nullptr, u"", {4500, 900, 600, 0}, u""},
+        {&label, nullptr, u"A && B <b>bold</b>", {150, 150, 3000, 300}, u""},
+        {&lineBox, nullptr, u"", {150, 600, 2100, 300}, u"Line"},
+        {&areaBox, nullptr, u"", {150, 1050, 2100, 900}, u"Area"},
+        {&group, nullptr, u"Group", {150, 2100, 2100, 1200}, u""},
+        {&options[0], &group, u"&One", {150, 300, 1500, 255}, u""},
+        {&options[1], &group, u"T&wo", {150, 600, 1500, 255}, u""},
+        {&check, nullptr, u"C&heck", {150, 3450, 1500, 255}, u""},
+        {&combo, nullptr, u"", {2400, 600, 1500, 315}, u"Choice"},
+        {&list, nullptr, u"", {2400, 1050, 3000, 1500}, u"Cards"},
+        {&pictureBox, nullptr, u"", {2400, 2700, 1755, 555}, u"Box"},
+        {&image, nullptr, u"", {4500, 2700, 480, 480}, u"Mark"},
+        {&painting, nullptr, u"", {2400, 3450, 1500, 1500}, u"Card"},
+        {&arrows[0], nullptr, u"<<", {150, 4500, 600, 375}, u"Back"},
+        {&arrows[1], nullptr, u">>", {900, 4500, 600, 375}, u"Forth"},
+        {&deleteButton, nullptr, u"&Delete form deck", {4200, 4500, 1455, 495}, u""},
     });
-    AddMenus({{&mnuFile, nullptr, u"&File"},
-              {&mnuOpen, &mnuFile, u"&Open", u"Ctrl+O"},
-              {&mnu1, &mnuFile, u"-"},
-              {&mnuOrder, &mnuFile, u"&Order"},
-              {&mnuOther, &mnuFile, u"&Other"},
-              {&mnuMode, nullptr, u"&Mode"},
-              {&mnuStudy, &mnuMode, u"&Study", u"Ctrl+Shift+S"},
-              {&mnuHelpTopic, &mnuMode, u"&Help", u"F1"}});
-    SetPageButtons(Command1[0], Command1[1]);
-    SetHelpEntry(mnuHelpTopic);
-    Text2.SetMultiLine(true);
-    Text2.SetVerticalScrollBar(true);
-    Picture1.SetPicture({"print/nonflip.png", 117, 37});
-    Image1.SetPicture({"about_mail.png", 32, 32});
-    Combo1.AddItem(u"First");
-    Combo1.AddItem(u"Second");
-    List1.AddColumn(u"CARD #", 900);
-    List1.AddColumn(u"FRONT TEXT", 1800);
-    List1.AddItem(u"1", {u"Paris"});
-    List1.AddItem(u"2", {u"Rome\r\nand more"});
-    List1.AddItem(u"3", {u"Oslo"});
+    AddMenus({{&fileMenu, nullptr, u"&File"},
+              {&openEntry, &fileMenu, u"&Open", u"Ctrl+O"},
+              {&separator, &fileMenu, u"-"},
+              {&orderEntry, &fileMenu, u"&Order"},
+              {&otherEntry, &fileMenu, u"&Other"},
+              {&modeMenu, nullptr, u"&Mode"},
+              {&studyEntry, &modeMenu, u"&Study", u"Ctrl+Shift+S"},
+              {&helpEntry, &modeMenu, u"&Help", u"F1"}});
+    SetPageButtons(arrows[0], arrows[1]);
+    SetHelpEntry(helpEntry);
+    areaBox.SetMultiLine(true);
+    areaBox.SetVerticalScrollBar(true);
+    pictureBox.SetPicture({"print/nonflip.png", 117, 37});
+    image.SetPicture({"about_mail.png", 32, 32});
+    combo.AddItem(u"First");
+    combo.AddItem(u"Second");
+    list.AddColumn(u"CARD #", 900);
+    list.AddColumn(u"FRONT TEXT", 1800);
+    list.AddItem(u"1", {u"Paris"});
+    list.AddItem(u"2", {u"Rome\r\nand more"});
+    list.AddItem(u"3", {u"Oslo"});
     Wire();
   }
 
-  Shape Shape1{"Shape1"};
-  Line Line1{"Line1"};
-  Label Label1{"Label1"};
-  TextBox Text1{"Text1"};
-  TextBox Text2{"Text2"};
-  Frame Frame1{"Frame1"};
-  ControlArray<OptionButton, 2> Option1{"Option1"};
-  CheckBox Check1{"Check1"};
-  ComboBox Combo1{"Combo1"};
-  ListView List1{"List1"};
-  PictureBox Picture1{"Picture1"};
-  Image Image1{"Image1"};
-  SamplePainting Painting1{"Painting1"};
-  ControlArray<Button, 2> Command1{"Command1"};
-  Button Command2{"Command2"};
-  MenuEntry mnuFile{"mnuFile"};
-  MenuEntry mnuOpen{"mnuOpen"};
-  MenuEntry mnu1{"mnu1"};
-  MenuEntry mnuOrder{"mnuOrder"};
-  MenuEntry mnuOther{"mnuOther"};
-  MenuEntry mnuMode{"mnuMode"};
-  MenuEntry mnuStudy{"mnuStudy"};
-  MenuEntry mnuHelpTopic{"mnuHelpTopic"};
+  Shape shape{"Shape1"};
+  Line line{"Line1"};
+  Label label{"Label1"};
+  TextBox lineBox{"Text1"};
+  TextBox areaBox{"Text2"};
+  Frame group{"Frame1"};
+  ControlArray<OptionButton, 2> options{"Option1"};
+  CheckBox check{"Check1"};
+  ComboBox combo{"Combo1"};
+  ListView list{"List1"};
+  PictureBox pictureBox{"Picture1"};
+  Image image{"Image1"};
+  SamplePainting painting{"Painting1"};
+  ControlArray<Button, 2> arrows{"Command1"};
+  Button deleteButton{"Command2"};
+  MenuEntry fileMenu{"mnuFile"};
+  MenuEntry openEntry{"mnuOpen"};
+  MenuEntry separator{"mnu1"};
+  MenuEntry orderEntry{"mnuOrder"};
+  MenuEntry otherEntry{"mnuOther"};
+  MenuEntry modeMenu{"mnuMode"};
+  MenuEntry studyEntry{"mnuStudy"};
+  MenuEntry helpEntry{"mnuHelpTopic"};
   EventLog log;
   std::function<void()> onLoad;
   bool refusesToGo = false;
@@ -134,7 +134,7 @@ class SampleForm : public Form {
   Control* tabTarget = nullptr;
 
   [[nodiscard]] Control* TabTarget(const Control& from) override {
-    return &from == &Text1 ? tabTarget : nullptr;
+    return &from == &lineBox ? tabTarget : nullptr;
   }
 
  protected:
@@ -153,28 +153,28 @@ class SampleForm : public Form {
  private:
   void Wire() {
     const auto logs = [this](const char* what) { return [this, what] { log.Add(what); }; };
-    Label1.onClick = logs("label");
-    Label1.onMouseMove = logs("over label");
-    Image1.onClick = logs("image");
-    Check1.onClick = logs("check");
-    Combo1.onClick = logs("combo");
-    List1.onClick = logs("list");
-    List1.onKeyUp = logs("key up");
-    Text1.onChange = logs("change");
-    Text2.onChange = logs("change");
-    Text1.onKeyPress = [this](char16_t key) { log.Add("key " + ToUtf8(Text(1, key))); };
-    Text1.onGotFocus = logs("got focus");
-    Text1.onLostFocus = logs("lost focus");
-    Command1[0].onClick = logs("back");
-    Command1[1].onClick = logs("forth");
-    Command2.onClick = logs("delete");
-    Option1.Wire(&OptionButton::onClick,
+    label.onClick = logs("label");
+    label.onMouseMove = logs("over label");
+    image.onClick = logs("image");
+    check.onClick = logs("check");
+    combo.onClick = logs("combo");
+    list.onClick = logs("list");
+    list.onKeyUp = logs("key up");
+    lineBox.onChange = logs("change");
+    areaBox.onChange = logs("change");
+    lineBox.onKeyPress = [this](char16_t key) { log.Add("key " + ToUtf8(Text(1, key))); };
+    lineBox.onGotFocus = logs("got focus");
+    lineBox.onLostFocus = logs("lost focus");
+    arrows[0].onClick = logs("back");
+    arrows[1].onClick = logs("forth");
+    deleteButton.onClick = logs("delete");
+    options.Wire(&OptionButton::onClick,
                  [this](int index) { log.Add("option " + std::to_string(index)); });
-    mnuOpen.onClick = logs("open");
-    mnuOrder.onClick = logs("order");
-    mnuOther.onClick = logs("other");
-    mnuStudy.onClick = logs("study");
-    mnuHelpTopic.onClick = logs("help");
+    openEntry.onClick = logs("open");
+    orderEntry.onClick = logs("order");
+    otherEntry.onClick = logs("other");
+    studyEntry.onClick = logs("study");
+    helpEntry.onClick = logs("help");
   }
 };
 
@@ -183,16 +183,16 @@ class SampleFrame : public Form {
  public:
   explicit SampleFrame(WindowSystem& system)
       : Form(system, "MDIForm1", FormKind::kFrame, u"Tessara 1.0") {
-    AddMenus({{&mnuFile, nullptr, u"&File"},
-              {&mnuOpen, &mnuFile, u"&Open Existing Deck", u"Ctrl+O"},
-              {&mnuExit, &mnuFile, u"&Exit", u"Ctrl+Q"}});
-    mnuExit.LetKeysWorkAlways();
-    mnuOpen.onClick = [this] { log.Add("frame open"); };
-    mnuExit.onClick = [this] { log.Add("frame exit"); };
+    AddMenus({{&fileMenu, nullptr, u"&File"},
+              {&openEntry, &fileMenu, u"&Open Existing Deck", u"Ctrl+O"},
+              {&exitEntry, &fileMenu, u"&Exit", u"Ctrl+Q"}});
+    exitEntry.LetKeysWorkAlways();
+    openEntry.onClick = [this] { log.Add("frame open"); };
+    exitEntry.onClick = [this] { log.Add("frame exit"); };
   }
-  MenuEntry mnuFile{"mnuFile"};
-  MenuEntry mnuOpen{"mnuOpen"};
-  MenuEntry mnuExit{"mnuExit"};
+  MenuEntry fileMenu{"mnuFile"};
+  MenuEntry openEntry{"mnuOpen"};
+  MenuEntry exitEntry{"mnuExit"};
   EventLog log;
   Text taken = u"/decks/birds.tsr";  ///< the path that can be dropped
 

@@ -181,7 +181,7 @@ struct FakeMachine {
   FakeCopies copies{files};
   FakeClock clock;
   FakeDesktop desktop;
-  FakeDocumentTypes classes;
+  FakeDocumentTypes documentTypes;
   NoSpreadsheet noSpreadsheet;
   NoPrintSurface noSurface;
   FileSystem* fileSystem = &files;
@@ -192,8 +192,9 @@ struct FakeMachine {
   Printer* printer = &noPrinter;
 
   [[nodiscard]] Machine Get() {
-    return {messages, *chooser, settings,     *fileSystem, *safetyCopies,       clock,
-            desktop,  classes,  *spreadsheet, *printer,    CodePage::Western(), u"/opt/tessara"};
+    return {
+        messages, *chooser,      settings,     *fileSystem, *safetyCopies,       clock,
+        desktop,  documentTypes, *spreadsheet, *printer,    CodePage::Western(), u"/opt/tessara"};
   }
 };
 

@@ -9,41 +9,41 @@ namespace tessara::test {
 
 TEST_CASE("controls carry their names, array members with their index") {
   RulesDesk desk;
-  CHECK(desk.first->Option1[1].Name() == "Option1(1)");
-  CHECK(desk.first->Text1.Name() == "Text1");
-  CHECK(desk.first->FindControl("Option1(1)") == &desk.first->Option1[1]);
+  CHECK(desk.first->options[1].Name() == "Option1(1)");
+  CHECK(desk.first->textBox.Name() == "Text1");
+  CHECK(desk.first->FindControl("Option1(1)") == &desk.first->options[1]);
   CHECK(desk.first->FindControl("Option1(2)") == nullptr);
-  CHECK(desk.first->FindMenu("mnuOpen") == &desk.first->mnuOpen);
+  CHECK(desk.first->FindMenu("mnuOpen") == &desk.first->openEntry);
 }
 
 TEST_CASE("an index that a control array does not have is error 340") {
   RulesDesk desk;
   for (const int index : {-1, 2, 99}) {
-    CHECK(ErrorOf([&] { static_cast<void>(desk.first->Option1[index]); }) == 340);
+    CHECK(ErrorOf([&] { static_cast<void>(desk.first->options[index]); }) == 340);
   }
 }
 
 TEST_CASE("assigning a different text runs the change before the assignment returns") {
   RulesDesk desk;
   int changes = 0;
-  desk.first->Text1.onChange = [&] { ++changes; };
-  desk.first->Text1.SetText(u"a");
+  desk.first->textBox.onChange = [&] { ++changes; };
+  desk.first->textBox.SetText(u"a");
   CHECK(changes == 1);
-  desk.first->Text1.SetText(u"a");
+  desk.first->textBox.SetText(u"a");
   CHECK(changes == 1);
 }
 
 TEST_CASE("selecting an option clears its group without an event and runs its click") {
   RulesDesk desk;
   std::vector<int> clicks;
-  desk.first->Option1.Wire(&OptionButton::onClick, [&](int index) { clicks.push_back(index); });
-  desk.first->Option2.SetSelected(true);
-  desk.first->Option1[0].SetSelected(true);
-  desk.first->Option1[1].SetSelected(true);
-  CHECK_FALSE(desk.first->Option1[0].Selected());
-  CHECK(desk.first->Option2.Selected());
-  desk.first->Option1[1].SetSelected(true);
-  desk.first->Option1[1].SetSelected(false);
+  desk.first->options.Wire(&OptionButton::onClick, [&](int index) { clicks.push_back(index); });
+  desk.first->loneOption.SetSelected(true);
+  desk.first->options[0].SetSelected(true);
+  desk.first->options[1].SetSelected(true);
+  CHECK_FALSE(desk.first->options[0].Selected());
+  CHECK(desk.first->loneOption.Selected());
+  desk.first->options[1].SetSelected(true);
+  desk.first->options[1].SetSelected(false);
   CHECK(clicks == std::vector{0, 1});
 }
 
@@ -51,36 +51,36 @@ TEST_CASE("the user's click on a selected option runs its click once more") {
   RulesDesk desk;
   desk.first->Show();
   int clicks = 0;
-  desk.first->Option2.onClick = [&] { ++clicks; };
-  desk.first->Option2.Press();
-  desk.first->Option2.Press();
+  desk.first->loneOption.onClick = [&] { ++clicks; };
+  desk.first->loneOption.Press();
+  desk.first->loneOption.Press();
   CHECK(clicks == 2);
 }
 
 TEST_CASE("a check box runs its click for a different value only") {
   RulesDesk desk;
   int clicks = 0;
-  desk.first->Check1.onClick = [&] { ++clicks; };
-  desk.first->Check1.SetValue(1);
-  desk.first->Check1.SetValue(1);
-  desk.first->Check1.SetValue(0);
+  desk.first->check.onClick = [&] { ++clicks; };
+  desk.first->check.SetValue(1);
+  desk.first->check.SetValue(1);
+  desk.first->check.SetValue(0);
   CHECK(clicks == 2);
-  CHECK(ErrorOf([&] { desk.first->Check1.SetValue(3); }) == 380);
+  CHECK(ErrorOf([&] { desk.first->check.SetValue(3); }) == 380);
 }
 
 TEST_CASE("what a disabled or hidden container holds can't be pressed") {
   RulesDesk desk;
   desk.first->Show();
   int clicks = 0;
-  desk.first->Option1[0].onClick = [&] { ++clicks; };
-  desk.first->Frame1.SetEnabled(false);
-  desk.first->Option1[0].Press();
-  desk.first->Frame1.SetEnabled(true);
-  desk.first->Frame1.SetVisible(false);
-  desk.first->Option1[0].Press();
+  desk.first->options[0].onClick = [&] { ++clicks; };
+  desk.first->group.SetEnabled(false);
+  desk.first->options[0].Press();
+  desk.first->group.SetEnabled(true);
+  desk.first->group.SetVisible(false);
+  desk.first->options[0].Press();
   CHECK(clicks == 0);
-  desk.first->Frame1.SetVisible(true);
-  desk.first->Option1[0].Press();
+  desk.first->group.SetVisible(true);
+  desk.first->options[0].Press();
   CHECK(clicks == 1);
 }
 
@@ -88,12 +88,12 @@ TEST_CASE("an accelerator presses what carries it, in either case") {
   RulesDesk desk;
   desk.first->Show();
   int clicks = 0;
-  desk.first->Command1.onClick = [&] { ++clicks; };
+  desk.first->close.onClick = [&] { ++clicks; };
   CHECK(desk.first->UserAccelerator(u'c'));
   CHECK(desk.first->UserAccelerator(u'C'));
   CHECK_FALSE(desk.first->UserAccelerator(u'x'));
   CHECK(desk.first->UserAccelerator(u't'));
-  CHECK(desk.first->Option1[1].Selected());
+  CHECK(desk.first->options[1].Selected());
   CHECK(clicks == 2);
 }
 
@@ -115,8 +115,8 @@ TEST_CASE("a letter of any script is an accelerator, in either case where it has
     RulesDesk desk;
     desk.first->Show();
     std::size_t clicks = 0;
-    desk.first->Command1.SetCaption(Text(one.caption));
-    desk.first->Command1.onClick = [&] { ++clicks; };
+    desk.first->close.SetCaption(Text(one.caption));
+    desk.first->close.onClick = [&] { ++clicks; };
     for (const char16_t key : one.keys) CHECK(desk.first->UserAccelerator(key));
     CHECK(clicks == one.keys.size());
   }
@@ -127,18 +127,18 @@ TEST_CASE("a letter that several controls share goes from one to the next and pr
   desk.first->Show();
   RulesForm& form = *desk.first.operator->();
   int clicks = 0;
-  form.Option2.SetCaption(u"&Choice");
-  form.Check1.SetCaption(u"&Check");
-  form.Option2.onClick = form.Check1.onClick = form.Command1.onClick = [&] { ++clicks; };
-  const Control* const round[] = {&form.Option2, &form.Check1, &form.Command1, &form.Option2};
+  form.loneOption.SetCaption(u"&Choice");
+  form.check.SetCaption(u"&Check");
+  form.loneOption.onClick = form.check.onClick = form.close.onClick = [&] { ++clicks; };
+  const Control* const round[] = {&form.loneOption, &form.check, &form.close, &form.loneOption};
   for (const Control* next : round) {
     CHECK(form.UserAccelerator(u'c'));
     CHECK(form.FocusedControl() == next);
   }
   // From elsewhere it goes on to the next one behind.
-  form.Text1.SetFocus();
+  form.textBox.SetFocus();
   CHECK(form.UserAccelerator(u'c'));
-  CHECK(form.FocusedControl() == &form.Command1);
+  CHECK(form.FocusedControl() == &form.close);
   CHECK(clicks == 0);
 }
 
@@ -147,13 +147,13 @@ TEST_CASE("a control that can't be reached shares no letter") {
   desk.first->Show();
   RulesForm& form = *desk.first.operator->();
   int clicks = 0;
-  form.Command1.onClick = [&] { ++clicks; };
-  form.Option1[0].SetCaption(u"&Choice");
-  form.Option2.SetCaption(u"&Choice");
-  form.Check1.SetCaption(u"&Check");
-  form.Frame1.SetVisible(false);
-  form.Option2.SetEnabled(false);
-  form.Check1.SetVisible(false);
+  form.close.onClick = [&] { ++clicks; };
+  form.options[0].SetCaption(u"&Choice");
+  form.loneOption.SetCaption(u"&Choice");
+  form.check.SetCaption(u"&Check");
+  form.group.SetVisible(false);
+  form.loneOption.SetEnabled(false);
+  form.check.SetVisible(false);
   CHECK(form.UserAccelerator(u'c'));
   CHECK(clicks == 1);
 }
@@ -181,24 +181,24 @@ TEST_CASE("accelerators and plain captions are read from marks") {
 
 TEST_CASE("the focus can't go where the user can't reach: error 5") {
   RulesDesk desk;
-  CHECK(ErrorOf([&] { desk.first->Text1.SetFocus(); }) == 5);
+  CHECK(ErrorOf([&] { desk.first->textBox.SetFocus(); }) == 5);
   desk.first->Show();
-  desk.first->Text1.SetEnabled(false);
-  CHECK(ErrorOf([&] { desk.first->Text1.SetFocus(); }) == 5);
-  desk.first->Text1.SetEnabled(true);
-  desk.first->Text1.SetFocus();
-  CHECK(desk.first->FocusedControl() == &desk.first->Text1);
+  desk.first->textBox.SetEnabled(false);
+  CHECK(ErrorOf([&] { desk.first->textBox.SetFocus(); }) == 5);
+  desk.first->textBox.SetEnabled(true);
+  desk.first->textBox.SetFocus();
+  CHECK(desk.first->FocusedControl() == &desk.first->textBox);
 }
 
 TEST_CASE("the focus leaves one control before it enters the next") {
   RulesDesk desk;
   desk.first->Show();
   Events events;
-  desk.first->Text1.onGotFocus = [&] { events.push_back("text got"); };
-  desk.first->Text1.onLostFocus = [&] { events.push_back("text lost"); };
-  desk.first->Command1.onGotFocus = [&] { events.push_back("button got"); };
-  desk.first->Text1.SetFocus();
-  desk.first->UserFocus(desk.first->Command1);
+  desk.first->textBox.onGotFocus = [&] { events.push_back("text got"); };
+  desk.first->textBox.onLostFocus = [&] { events.push_back("text lost"); };
+  desk.first->close.onGotFocus = [&] { events.push_back("button got"); };
+  desk.first->textBox.SetFocus();
+  desk.first->UserFocus(desk.first->close);
   CHECK(events == Events{"text got", "text lost", "button got"});
 }
 
@@ -215,13 +215,13 @@ TEST_CASE("a menu entry runs only where it and all above it are enabled and visi
   RulesDesk desk;
   desk.first->Show();
   int clicks = 0;
-  desk.first->mnuOpen.onClick = [&] { ++clicks; };
-  desk.first->mnuOpen.Press();
-  desk.first->mnuFile.SetEnabled(false);
-  desk.first->mnuOpen.Press();
-  desk.first->mnuFile.SetEnabled(true);
-  desk.first->mnuOpen.SetVisible(false);
-  desk.first->mnuOpen.Press();
+  desk.first->openEntry.onClick = [&] { ++clicks; };
+  desk.first->openEntry.Press();
+  desk.first->fileMenu.SetEnabled(false);
+  desk.first->openEntry.Press();
+  desk.first->fileMenu.SetEnabled(true);
+  desk.first->openEntry.SetVisible(false);
+  desk.first->openEntry.Press();
   CHECK(clicks == 1);
 }
 

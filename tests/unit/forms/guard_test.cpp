@@ -23,8 +23,8 @@ const FakeMessages::Shown kReport{u"Run-time error '9':\r\n\r\nSubscript out of 
 TEST_CASE("an error that a handler lets out is reported and ends the program") {
   RulesDesk desk;
   desk.first->Show();
-  desk.first->Command1.onClick = RaiseSubscript;
-  desk.first->Command1.Press();
+  desk.first->close.onClick = RaiseSubscript;
+  desk.first->close.Press();
   CHECK(desk.fakes.messages.shown == std::vector{kReport});
   CHECK(desk.windows.ExitStatus() == 1);
   CHECK(desk.renderer.exitStatus == 1);
@@ -86,8 +86,8 @@ TEST_CASE("nothing runs after the program has ended") {
   desk.first->Show();
   desk.windows.EndProgram(1);
   int clicks = 0;
-  desk.first->Command1.onClick = [&] { ++clicks; };
-  desk.first->Command1.Press();
+  desk.first->close.onClick = [&] { ++clicks; };
+  desk.first->close.Press();
   CHECK(clicks == 0);
 }
 

@@ -17,24 +17,24 @@ class RulesForm : public Form {
       : Form(system, std::move(name), FormKind::kChild, u"Rules"), log_(log) {
     SetWidth(3000);
     SetHeight(2000);
-    AddControls({{&Frame1, nullptr, u"", {0, 0, 900, 900}, u""},
-                 {&Option1[0], &Frame1, u"&One", {0, 0, 10, 10}, u""},
-                 {&Option1[1], &Frame1, u"&Two", {0, 0, 10, 10}, u""},
-                 {&Option2, nullptr, u"Other", {0, 0, 10, 10}, u""},
-                 {&Check1, nullptr, u"C&heck", {0, 0, 10, 10}, u""},
-                 {&Text1, nullptr, u"", {0, 0, 900, 10}, u"Text"},
-                 {&Command1, nullptr, u"&Close", {0, 0, 10, 10}, u""}});
-    AddMenus({{&mnuFile, nullptr, u"&File"}, {&mnuOpen, &mnuFile, u"Open"}});
+    AddControls({{&group, nullptr, u"", {0, 0, 900, 900}, u""},
+                 {&options[0], &group, u"&One", {0, 0, 10, 10}, u""},
+                 {&options[1], &group, u"&Two", {0, 0, 10, 10}, u""},
+                 {&loneOption, nullptr, u"Other", {0, 0, 10, 10}, u""},
+                 {&check, nullptr, u"C&heck", {0, 0, 10, 10}, u""},
+                 {&textBox, nullptr, u"", {0, 0, 900, 10}, u"Text"},
+                 {&close, nullptr, u"&Close", {0, 0, 10, 10}, u""}});
+    AddMenus({{&fileMenu, nullptr, u"&File"}, {&openEntry, &fileMenu, u"Open"}});
   }
 
-  Frame Frame1{"Frame1"};
-  ControlArray<OptionButton, 2> Option1{"Option1"};
-  OptionButton Option2{"Option2"};
-  CheckBox Check1{"Check1"};
-  TextBox Text1{"Text1"};
-  Button Command1{"Command1"};
-  MenuEntry mnuFile{"mnuFile"};
-  MenuEntry mnuOpen{"mnuOpen"};
+  Frame group{"Frame1"};
+  ControlArray<OptionButton, 2> options{"Option1"};
+  OptionButton loneOption{"Option2"};
+  CheckBox check{"Check1"};
+  TextBox textBox{"Text1"};
+  Button close{"Command1"};
+  MenuEntry fileMenu{"mnuFile"};
+  MenuEntry openEntry{"mnuOpen"};
   std::function<void()> onLoad;
   std::function<void(bool&)> onUnload;
 

@@ -55,7 +55,7 @@ TEST_CASE("what the user types comes into the text by the box's rules") {
     CAPTURE(c.what);
     RulesDesk desk;
     desk.first->Show();
-    TextBox& box = desk.first->Text1;
+    TextBox& box = desk.first->textBox;
     box.SetMultiLine(c.multiLine);
     box.SetText(c.before);
     box.SetMaxLength(c.limit);
@@ -66,15 +66,15 @@ TEST_CASE("what the user types comes into the text by the box's rules") {
 
 TEST_CASE("a lowered limit does not cut the text that is there") {
   RulesDesk desk;
-  desk.first->Text1.SetText(u"forty-one");
-  desk.first->Text1.SetMaxLength(4);
-  CHECK(desk.first->Text1.TextOf() == u"forty-one");
+  desk.first->textBox.SetText(u"forty-one");
+  desk.first->textBox.SetMaxLength(4);
+  CHECK(desk.first->textBox.TextOf() == u"forty-one");
 }
 
 TEST_CASE("a locked or unreachable box takes no edit") {
   RulesDesk desk;
   desk.first->Show();
-  TextBox& box = desk.first->Text1;
+  TextBox& box = desk.first->textBox;
   box.SetLocked(true);
   box.UserEdit({0, 0, u"x"});
   box.SetLocked(false);
@@ -86,9 +86,9 @@ TEST_CASE("a locked or unreachable box takes no edit") {
 TEST_CASE("the program's own texts are taken as they are") {
   RulesDesk desk;
   const Text raw = {u'\0', u'\r', u'\n', u'\n', u'\u4e2d', u'\u00a0'};
-  desk.first->Text1.SetMaxLength(2);
-  desk.first->Text1.SetText(raw);
-  CHECK(desk.first->Text1.TextOf() == raw);
+  desk.first->textBox.SetMaxLength(2);
+  desk.first->textBox.SetText(raw);
+  CHECK(desk.first->textBox.TextOf() == raw);
 }
 
 TEST_CASE("a paste beyond the memory ends the program with the error for that") {
@@ -100,7 +100,7 @@ TEST_CASE("a paste beyond the memory ends the program with the error for that") 
   const TextEdit paste{0, 0, Text(kHuge, u'x')};
   CHECK(HoldsInProcess([&] {
     LimitMemory(AddressBytes() + kRest);
-    desk.first->Text1.UserEdit(paste);
+    desk.first->textBox.UserEdit(paste);
     const auto& shown = desk.fakes.messages.shown;
     return shown.size() == 1 && shown[0].text == u"Run-time error '7':\r\n\r\nOut of memory" &&
            desk.windows.ExitStatus() == 1;

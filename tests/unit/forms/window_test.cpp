@@ -112,21 +112,21 @@ TEST_CASE("a window may unload itself and run its later lines") {
   desk.first->Show();
   bool laterLines = false;
   RulesForm& form = desk.first.Loaded();
-  form.Command1.onClick = [&] {
+  form.close.onClick = [&] {
     form.Unload();
     CHECK_FALSE(desk.first.IsLoaded());
-    form.Text1.SetText(u"still there");
-    laterLines = form.Text1.TextOf() == u"still there";
+    form.textBox.SetText(u"still there");
+    laterLines = form.textBox.TextOf() == u"still there";
   };
-  form.Command1.Press();
+  form.close.Press();
   CHECK(laterLines);
 }
 
 TEST_CASE("the next use after an unload makes a fresh window") {
   RulesDesk desk;
-  desk.first->Text1.SetText(u"old");
+  desk.first->textBox.SetText(u"old");
   desk.first.Unload();
-  CHECK(desk.first->Text1.TextOf().empty());
+  CHECK(desk.first->textBox.TextOf().empty());
 }
 
 TEST_CASE("a window that goes with its owner runs no event and tells nobody") {
@@ -151,9 +151,9 @@ TEST_CASE("a disabled window takes no input") {
   RulesDesk desk;
   desk.first->Show();
   int clicks = 0;
-  desk.first->Command1.onClick = [&] { ++clicks; };
+  desk.first->close.onClick = [&] { ++clicks; };
   desk.first->SetEnabled(false);
-  desk.first->Command1.Press();
+  desk.first->close.Press();
   desk.first->UserClose();
   CHECK_FALSE(desk.first->UserAccelerator(u'c'));
   CHECK(clicks == 0);

@@ -7,7 +7,7 @@
 #include "adapters/posix/code_page_of_locale.h"
 #include "base/characters.h"
 #include "base/utf8.h"
-#include "deck/double_amps.h"
+#include "deck/card_display.h"
 #include "deck/file/deck_record.h"
 #include "shell/program.h"
 #include "tests/support/fakes/fake_machine.h"
@@ -83,7 +83,7 @@ struct LanguageDesk {
   RecordingPrintSurface surface;
   FakePrinter printer{surface};
   Machine machine{fakes.messages, fakes.dialogs, fakes.settings, fakes.files,
-                  fakes.copies,   fakes.clock,   fakes.desktop,  fakes.classes,
+                  fakes.copies,   fakes.clock,   fakes.desktop,  fakes.documentTypes,
                   server,         printer,       codePage,       u"/opt/tessara"};
   HeadlessRenderer renderer;
   Program program{machine};

@@ -172,8 +172,8 @@ TEST_CASE("the first load declares the document type once, as the package descri
   ProgramDesk desk;
   desk.fakes.settings.values.erase(u"FirstLoad");
   desk.Start();
-  REQUIRE(desk.fakes.classes.declared.size() == 1);
-  const DocumentType& type = desk.fakes.classes.declared.front();
+  REQUIRE(desk.fakes.documentTypes.declared.size() == 1);
+  const DocumentType& type = desk.fakes.documentTypes.declared.front();
   CHECK(type.description == u"/opt/tessara/tessara.xml");
   CHECK(type.entry == u"/opt/tessara/tessara.desktop");
   CHECK(type.icons == u"/opt/tessara/icons");
@@ -184,7 +184,7 @@ TEST_CASE("the first load declares the document type once, as the package descri
 TEST_CASE("a registration is not tried again") {
   ProgramDesk desk;
   desk.Start();
-  CHECK(desk.fakes.classes.declared.empty());
+  CHECK(desk.fakes.documentTypes.declared.empty());
 }
 
 }  // namespace tessara::test

@@ -4,7 +4,7 @@
 #include <set>
 
 #include "base/utf8.h"
-#include "deck/double_amps.h"
+#include "deck/card_display.h"
 #include "tests/support/hostile_texts.h"
 #include "tests/support/program_desk.h"
 #include "tests/support/window_tour.h"
@@ -37,7 +37,7 @@ struct WatchedDesk : ProgramDesk {
     CHECK(fakes.desktop.opened.empty());
     CHECK(fakes.desktop.helpShown.empty());
     CHECK(fakes.settings.writes.empty());
-    CHECK(fakes.classes.declared.empty());
+    CHECK(fakes.documentTypes.declared.empty());
     CHECK_FALSE(program.Windows().ExitStatus());
   }
 };

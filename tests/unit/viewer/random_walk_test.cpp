@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "deck/double_amps.h"
+#include "deck/card_display.h"
 #include "tests/support/deck_desk.h"
 #include "viewer/answer_text.h"
 

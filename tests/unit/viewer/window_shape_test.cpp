@@ -2,7 +2,7 @@
 
 #include "tests/support/deck_desk.h"
 #include "tests/support/error_of.h"
-#include "viewer/card_picture.h"
+#include "viewer/card_skins.h"
 
 namespace tessara::test {
 

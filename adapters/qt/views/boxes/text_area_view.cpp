@@ -5,10 +5,9 @@
 #include <QTextBlock>
 #include <QTextLayout>
 
-#include "adapters/qt/text/line_breaks.h"
+#include "adapters/qt/text/text_layout.h"
 #include "adapters/qt/text/text_mapping.h"
 #include "adapters/qt/views/edit_widgets.h"
-#include "adapters/qt/views/redo_keys.h"
 
 namespace tessara {
 

@@ -5,7 +5,6 @@
 
 #include "adapters/qt/text/text_mapping.h"
 #include "adapters/qt/views/edit_widgets.h"
-#include "adapters/qt/views/redo_keys.h"
 
 namespace tessara {
 

@@ -1,6 +1,6 @@
 #include <doctest/doctest.h>
 
-#include "companion/cards/place.h"
+#include "companion/cards/complaints.h"
 #include "companion/cards/visible_text.h"
 
 namespace tessara::test {

@@ -1,7 +1,6 @@
-#include "companion/formats/deck_check.h"
-
 #include <doctest/doctest.h>
 
+#include "companion/formats/deck_format.h"
 #include "tests/support/deck_bytes.h"
 #include "tests/unit/companion/formats/format_desk.h"
 #include "tests/unit/companion/formats/told_findings.h"

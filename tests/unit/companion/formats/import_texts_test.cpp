@@ -1,7 +1,7 @@
 #include <doctest/doctest.h>
 
-#include "companion/cards/refused.h"
-#include "companion/formats/texts/import_text_check.h"
+#include "companion/cards/complaints.h"
+#include "companion/formats/texts/import_text_format.h"
 #include "tests/unit/companion/formats/format_desk.h"
 #include "tests/unit/companion/formats/told_findings.h"
 

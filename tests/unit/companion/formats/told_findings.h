@@ -1,6 +1,6 @@
 #pragma once
 
-#include "companion/cards/findings.h"
+#include "companion/cards/complaints.h"
 #include "tests/unit/companion/formats/format_desk.h"
 
 namespace tessara::test {

@@ -1,6 +1,6 @@
 #include <doctest/doctest.h>
 
-#include "companion/cards/refused.h"
+#include "companion/cards/complaints.h"
 #include "tests/unit/companion/formats/format_desk.h"
 
 namespace tessara::test {

@@ -1,4 +1,4 @@
-#include "companion/cards/place.h"
+#include "companion/cards/complaints.h"
 
 #include "base/utf8.h"
 #include "companion/cards/visible_text.h"

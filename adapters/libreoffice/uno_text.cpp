@@ -1,4 +1,4 @@
-#include "adapters/libreoffice/file_url.h"
+#include "adapters/libreoffice/uno_text.h"
 
 #include <glib.h>
 

@@ -1,9 +1,10 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "base/code_page.h"
-#include "companion/cards/losses.h"
+#include "companion/cards/complaints.h"
 
 namespace tessara {
 
@@ -17,6 +18,13 @@ struct Source {
 struct Conversion {
   const CodePage& codePage;
   Losses& losses;
+};
+
+/// What a format is written to, piece by piece. Raises what its file raises.
+class ByteSink {
+ public:
+  virtual ~ByteSink() = default;
+  virtual void Write(std::string_view bytes) = 0;
 };
 
 }  // namespace tessara

@@ -1,4 +1,4 @@
-#include "deck/move_buttons.h"
+#include "deck/card_display.h"
 
 #include <doctest/doctest.h>
 
@@ -27,6 +27,14 @@ TEST_CASE("the arrows are on where there is a card to go to") {
     CHECK(arrows[kPreviousCard].Enabled() == c.back);
     CHECK(arrows[kNextCard].Enabled() == c.on);
   }
+}
+
+TEST_CASE("every ampersand is doubled, doubled ones too") {
+  CHECK(DoubleAmps(u"").empty());
+  CHECK(DoubleAmps(u"salt") == u"salt");
+  CHECK(DoubleAmps(u"salt & pepper") == u"salt && pepper");
+  CHECK(DoubleAmps(u"&&") == u"&&&&");
+  CHECK(DoubleAmps(u"&a\r\n&") == u"&&a\r\n&&");
 }
 
 }  // namespace tessara::test

@@ -1,4 +1,4 @@
-#include "machine/program_file.h"
+#include "machine/machine.h"
 
 namespace tessara {
 
