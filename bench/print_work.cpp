@@ -12,7 +12,7 @@
 
 #include "adapters/qt/devices/lazy_print_surface.h"
 #include "base/utf8.h"
-#include "tests/printing/office_desk.h"
+#include "tests/printing/office_fixture.h"
 
 using namespace tessara;
 
@@ -22,10 +22,10 @@ constexpr int kCards = 200;
 constexpr std::chrono::seconds kChoosing{4};
 
 /// True where the job came to its end.
-bool Print(test::OfficeDesk& desk, const std::string& way, const std::string& file) {
-  using Mode = test::OfficeDesk::Mode;
-  desk.fakes.dialogs.printers.emplace_back(PrinterChoice{{u"", FromUtf8(file)}, 1});
-  return desk.PressPrint(way == "listing" ? Mode::kFlat : Mode::kCards) == "PRINT";
+bool Print(test::OfficeFixture& fixture, const std::string& way, const std::string& file) {
+  using Mode = test::OfficeFixture::Mode;
+  fixture.fakes.dialogs.printers.emplace_back(PrinterChoice{{u"", FromUtf8(file)}, 1});
+  return fixture.PressPrint(way == "listing" ? Mode::kFlat : Mode::kCards) == "PRINT";
 }
 
 }  // namespace
@@ -36,14 +36,14 @@ int main(int argc, char** argv) {
   const QApplication application(argc, argv);
   PrintModuleSource printing(FromUtf8(PROGRAM_FOLDER));
   LazyPrintSurface printer(printing);
-  test::OfficeDesk desk(kCards, {nullptr, &printer});
+  test::OfficeFixture fixture(kCards, {nullptr, &printer});
   for (int row = 1; row <= kCards; ++row) {
-    desk.SetCard(row, u"Front " + DecimalText(row), u"Back " + DecimalText(row));
+    fixture.SetCard(row, u"Front " + DecimalText(row), u"Back " + DecimalText(row));
   }
-  desk.window.Loaded();
+  fixture.window.Loaded();
   if (std::string(argv[1]) == "chosen") std::this_thread::sleep_for(kChoosing);
   const auto start = std::chrono::steady_clock::now();
-  if (!Print(desk, argv[1], argv[2])) return 1;
+  if (!Print(fixture, argv[1], argv[2])) return 1;
   const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - start;
   std::printf("%.1f\n", took.count());
 }

@@ -7,7 +7,7 @@
 
 #include "fuzz/byte_source.h"
 #include "fuzz/require.h"
-#include "tests/support/program_desk.h"
+#include "tests/support/program_fixture.h"
 
 namespace tessara::fuzz {
 
@@ -26,22 +26,22 @@ void FillStore(ByteSource& bytes, std::map<Text, Text>& values) {
 }
 
 /// Either the program runs on, or it has ended with one report of an error.
-bool RunsOn(const test::ProgramDesk& desk) {
-  const auto& shown = desk.fakes.messages.shown;
-  const bool ended = desk.renderer.exitStatus != -1;
-  Require(!ended || desk.renderer.exitStatus == 1);
+bool RunsOn(const test::ProgramFixture& fixture) {
+  const auto& shown = fixture.fakes.messages.shown;
+  const bool ended = fixture.renderer.exitStatus != -1;
+  Require(!ended || fixture.renderer.exitStatus == 1);
   Require(shown.size() == (ended ? 1 : 0));
   Require(!ended || shown[0].text.starts_with(u"Run-time error '"));
   return !ended;
 }
 
-void CheckSetUp(test::ProgramDesk& desk) {
-  const auto before = desk.fakes.settings.writes.size();
-  desk.Deck().closeDeck.Press();
-  desk.Frame().setUp.Press();
-  desk.fakes.messages.answers = {MessageAnswer::kNo};
-  if (desk.program.SetUpWindowOf().IsLoaded()) desk.program.SetUpWindowOf()->close.Press();
-  Require(desk.fakes.settings.writes.size() == before);
+void CheckSetUp(test::ProgramFixture& fixture) {
+  const auto before = fixture.fakes.settings.writes.size();
+  fixture.Deck().closeDeck.Press();
+  fixture.Frame().setUp.Press();
+  fixture.fakes.messages.answers = {MessageAnswer::kNo};
+  if (fixture.program.SetUpWindowOf().IsLoaded()) fixture.program.SetUpWindowOf()->close.Press();
+  Require(fixture.fakes.settings.writes.size() == before);
 }
 
 }  // namespace
@@ -51,9 +51,9 @@ void CheckSetUp(test::ProgramDesk& desk) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace tessara;
   fuzz::ByteSource bytes(data, size);
-  test::ProgramDesk desk;
-  fuzz::FillStore(bytes, desk.fakes.settings.values);
-  desk.Start();
-  if (fuzz::RunsOn(desk)) fuzz::CheckSetUp(desk);
+  test::ProgramFixture fixture;
+  fuzz::FillStore(bytes, fixture.fakes.settings.values);
+  fixture.Start();
+  if (fuzz::RunsOn(fixture)) fuzz::CheckSetUp(fixture);
   return 0;
 }

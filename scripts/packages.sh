@@ -20,7 +20,7 @@ declare -A packages=(
   [release]="librsvg2-bin python3-pil"
   [debian-package]="build-essential debhelper lintian"
   [lint]="$([ "$(. /etc/os-release && echo "${VERSION_ID:-}")" != 12 ] || echo clang-format-14 clang-tidy-14)"
-  [sanitizers]="clang libclang-rt-dev"
+  [sanitizers]="clang libclang-rt-dev llvm"
 )
 
 missing_packages() {

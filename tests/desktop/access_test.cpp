@@ -3,7 +3,7 @@
 #include <QAccessible>
 #include <doctest/doctest.h>
 
-#include "tests/desktop/support/desk.h"
+#include "tests/desktop/support/fixture.h"
 
 using namespace tessara;
 using namespace tessara::test;
@@ -17,40 +17,40 @@ QAccessible::Role RoleOf(QWidget& widget) {
 }  // namespace
 
 TEST_CASE("What paints itself is a text, an option a radio button, a dialog a dialog") {
-  Desk desk;
-  desk.ShowChild();
-  desk.dialog->Show();
-  CHECK(RoleOf(Desk::Of("Painting1")) == QAccessible::StaticText);
-  CHECK(RoleOf(Desk::Of("Option1(0)")) == QAccessible::RadioButton);
-  CHECK(RoleOf(*Desk::Top("frmDialog")) == QAccessible::Dialog);
+  Fixture fixture;
+  fixture.ShowChild();
+  fixture.dialog->Show();
+  CHECK(RoleOf(Fixture::Of("Painting1")) == QAccessible::StaticText);
+  CHECK(RoleOf(Fixture::Of("Option1(0)")) == QAccessible::RadioButton);
+  CHECK(RoleOf(*Fixture::Top("frmDialog")) == QAccessible::Dialog);
 }
 
 TEST_CASE("An option stays a radio button, and no Tab stop is lost, wherever the focus goes") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  Desk::Of("Option1(0)").setFocus();
-  CHECK(Desk::Of("Option1(1)").focusPolicy() == Qt::StrongFocus);
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  Fixture::Of("Option1(0)").setFocus();
+  CHECK(Fixture::Of("Option1(1)").focusPolicy() == Qt::StrongFocus);
   form.options[1].SetSelected(true);
-  CHECK(RoleOf(Desk::Of("Option1(1)")) == QAccessible::RadioButton);
+  CHECK(RoleOf(Fixture::Of("Option1(1)")) == QAccessible::RadioButton);
 }
 
 TEST_CASE("Each kind of control shows that it has the focus, before a key was pressed") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  const auto picture = [](const char* control) { return Desk::Of(control).grab().toImage(); };
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  const auto picture = [](const char* control) { return Fixture::Of(control).grab().toImage(); };
   for (const char* name : {"Command2", "Check1", "Option1(0)", "Combo1", "Painting1", "Text1"}) {
     CAPTURE(name);
     form.list.SetFocus();
     const QImage plain = picture(name);
-    Desk::Of(name).setFocus(Qt::OtherFocusReason);
+    Fixture::Of(name).setFocus(Qt::OtherFocusReason);
     CHECK(picture(name) != plain);
   }
 }
 
 TEST_CASE("A new card is told with what the program leaves the focus on, or moves it to") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  const auto said = [](const char* name) { return Desk::Of(name).accessibleDescription(); };
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  const auto said = [](const char* name) { return Fixture::Of(name).accessibleDescription(); };
   form.check.SetFocus();
   form.painting.Write(u"one", 10);
   CHECK(said("Check1") == "one");
@@ -58,7 +58,7 @@ TEST_CASE("A new card is told with what the program leaves the focus on, or move
   form.deleteButton.SetFocus();
   CHECK(said("Command2") == "two");
   CHECK(said("Check1").isEmpty());
-  QTest::keyClick(&Desk::Of("Command2"), Qt::Key_Tab);
+  QTest::keyClick(&Fixture::Of("Command2"), Qt::Key_Tab);
   CHECK(QApplication::focusWidget()->accessibleDescription().isEmpty());
   form.painting.SetFocus();
   CHECK(said("Painting1") == "two");
@@ -66,14 +66,14 @@ TEST_CASE("A new card is told with what the program leaves the focus on, or move
 }
 
 TEST_CASE("A link is a link, Tab gets to it, it shows the focus, and Return is its click") {
-  Desk desk;
-  desk.prepare = [](SampleForm& form) { form.label.SetLink(true); };
-  SampleForm& form = desk.ShowChild();
-  QWidget& link = Desk::Of("Label1");
+  Fixture fixture;
+  fixture.prepare = [](SampleForm& form) { form.label.SetLink(true); };
+  SampleForm& form = fixture.ShowChild();
+  QWidget& link = Fixture::Of("Label1");
   CHECK(RoleOf(link) == QAccessible::Link);
   form.lineBox.SetFocus();
   const QImage plain = link.grab().toImage();
-  QTest::keyClick(&Desk::Of("Text1"), Qt::Key_Backtab);
+  QTest::keyClick(&Fixture::Of("Text1"), Qt::Key_Backtab);
   REQUIRE(link.hasFocus());
   CHECK(link.grab().toImage() != plain);
   form.log.Take();

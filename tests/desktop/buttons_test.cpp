@@ -5,34 +5,34 @@
 #include <QRadioButton>
 #include <doctest/doctest.h>
 
-#include "tests/desktop/support/desk.h"
+#include "tests/desktop/support/fixture.h"
 
 using namespace tessara;
 using namespace tessara::test;
 
 TEST_CASE("A click on a button runs its form's click") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  QTest::mouseClick(&Desk::Of("Command2"), Qt::LeftButton);
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  QTest::mouseClick(&Fixture::Of("Command2"), Qt::LeftButton);
   CHECK(form.log.Take() == "lost focus, delete");
 }
 
 TEST_CASE("A disabled button and one behind a disabled window take no click") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   form.deleteButton.SetEnabled(false);
-  CHECK_FALSE(Desk::Of("Command2").isEnabled());
+  CHECK_FALSE(Fixture::Of("Command2").isEnabled());
   form.deleteButton.SetEnabled(true);
   form.SetEnabled(false);
-  QTest::mouseClick(&Desk::Of("Command2"), Qt::LeftButton);
+  QTest::mouseClick(&Fixture::Of("Command2"), Qt::LeftButton);
   CHECK(form.log.Take().empty());
 }
 
 TEST_CASE("A click that comes through while a box is up does nothing") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  auto& button = Desk::Of<QAbstractButton>("Command2");
-  auto& mark = Desk::Of<QAbstractButton>("Check1");
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  auto& button = Fixture::Of<QAbstractButton>("Command2");
+  auto& mark = Fixture::Of<QAbstractButton>("Check1");
   {
     QMessageBox box;
     box.setModal(true);
@@ -47,19 +47,19 @@ TEST_CASE("A click that comes through while a box is up does nothing") {
 }
 
 TEST_CASE("A long caption is made to fit its button and keeps its text") {
-  Desk desk;
-  desk.ShowChild();
-  auto& button = Desk::Of<QPushButton>("Command2");
+  Fixture fixture;
+  fixture.ShowChild();
+  auto& button = Fixture::Of<QPushButton>("Command2");
   CHECK(button.text() == "&Delete form deck");
   CHECK(button.size() == QSize(97, 33));
 }
 
 TEST_CASE("A caption stays away from the sides of its button, however long it is") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   const auto sides = [&form](std::size_t letters) {
     form.deleteButton.SetCaption(Text(letters, u'i'));
-    const QImage picture = Desk::Of("Command2").grab().toImage();
+    const QImage picture = Fixture::Of("Command2").grab().toImage();
     return std::pair(picture.copy(2, 0, 1, picture.height()),
                      picture.copy(picture.width() - 3, 0, 1, picture.height()));
   };
@@ -71,8 +71,8 @@ TEST_CASE("A caption stays away from the sides of its button, however long it is
 }
 
 TEST_CASE("A caption's accelerator is underlined, and its mark is not seen") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   const std::pair<CaptionedControl*, const char*> captioned[] = {{&form.deleteButton, "Command2"},
                                                                  {&form.check, "Check1"},
                                                                  {&form.options[0], "Option1(0)"},
@@ -83,7 +83,7 @@ TEST_CASE("A caption's accelerator is underlined, and its mark is not seen") {
     CAPTURE(std::string(name));
     const auto picture = [control, name](TextView caption) {
       control->SetCaption(Text(caption));
-      return Desk::Of(name).grab().toImage();
+      return Fixture::Of(name).grab().toImage();
     };
     const QImage plain = picture(u"ill");
     const QImage marked = picture(u"&ill");
@@ -95,10 +95,10 @@ TEST_CASE("A caption's accelerator is underlined, and its mark is not seen") {
 }
 
 TEST_CASE("A button without a caption that is off is not to be seen, and is there again with one") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  const auto picture = [] { return Desk::Of("Command2").grab().toImage(); };
-  const QColor ground = Desk::Of("Command2").palette().color(QPalette::Window);
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  const auto picture = [] { return Fixture::Of("Command2").grab().toImage(); };
+  const QColor ground = Fixture::Of("Command2").palette().color(QPalette::Window);
   const auto seen = [&](const QImage& image) {
     QImage empty(image.size(), image.format());
     empty.fill(ground);
@@ -114,9 +114,9 @@ TEST_CASE("A button without a caption that is off is not to be seen, and is ther
 }
 
 TEST_CASE("An option that a form clears is cleared on screen") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  auto& one = Desk::Of<QRadioButton>("Option1(0)");
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  auto& one = Fixture::Of<QRadioButton>("Option1(0)");
   form.options[0].SetSelected(true);
   REQUIRE(one.isChecked());
   form.options[0].SetSelected(false);
@@ -124,10 +124,10 @@ TEST_CASE("An option that a form clears is cleared on screen") {
 }
 
 TEST_CASE("A click selects one option of a group, and clicks again where it was selected") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  auto& one = Desk::Of<QRadioButton>("Option1(0)");
-  auto& two = Desk::Of<QRadioButton>("Option1(1)");
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  auto& one = Fixture::Of<QRadioButton>("Option1(0)");
+  auto& two = Fixture::Of<QRadioButton>("Option1(1)");
   QTest::mouseClick(&one, Qt::LeftButton, {}, {6, 8});
   QTest::mouseClick(&two, Qt::LeftButton, {}, {6, 8});
   QTest::mouseClick(&two, Qt::LeftButton, {}, {6, 8});
@@ -137,10 +137,10 @@ TEST_CASE("A click selects one option of a group, and clicks again where it was 
 }
 
 TEST_CASE("An option and a check box take a click anywhere in their place") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   for (const char* name : {"Option1(1)", "Check1"}) {
-    QWidget& widget = Desk::Of(name);
+    QWidget& widget = Fixture::Of(name);
     const QPoint atTheEnd(widget.width() - 2, widget.height() / 2);
     QTest::mouseClick(&widget, Qt::LeftButton, Qt::NoModifier, atTheEnd);
   }
@@ -148,37 +148,37 @@ TEST_CASE("An option and a check box take a click anywhere in their place") {
 }
 
 TEST_CASE("An option that has room for its mark only is widened for its caption") {
-  Desk desk;
-  desk.prepare = [](SampleForm& form) {
+  Fixture fixture;
+  fixture.prepare = [](SampleForm& form) {
     form.options[0].SetCaption(u"A");
     form.options[0].SetWidth(255);
   };
-  desk.ShowChild();
-  const auto& one = Desk::Of<QRadioButton>("Option1(0)");
+  fixture.ShowChild();
+  const auto& one = Fixture::Of<QRadioButton>("Option1(0)");
   CHECK(one.height() == 17);
   CHECK(one.width() > 17);
   CHECK(one.width() < 40);
-  CHECK(Desk::Of("Option1(1)").width() == 100);
+  CHECK(Fixture::Of("Option1(1)").width() == 100);
 }
 
 TEST_CASE("The arrow keys select the next option, round the group") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  QTest::mouseClick(&Desk::Of("Option1(0)"), Qt::LeftButton, {}, {6, 8});
-  QTest::keyClick(&Desk::Of("Option1(0)"), Qt::Key_Down);
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  QTest::mouseClick(&Fixture::Of("Option1(0)"), Qt::LeftButton, {}, {6, 8});
+  QTest::keyClick(&Fixture::Of("Option1(0)"), Qt::Key_Down);
   CHECK(form.options[1].Selected());
-  CHECK(Desk::Of("Option1(1)").hasFocus());
-  QTest::keyClick(&Desk::Of("Option1(1)"), Qt::Key_Down);
+  CHECK(Fixture::Of("Option1(1)").hasFocus());
+  QTest::keyClick(&Fixture::Of("Option1(1)"), Qt::Key_Down);
   CHECK(form.options[0].Selected());
 }
 
 TEST_CASE("The arrow keys only go from option to option where a choice is an answer") {
-  Desk desk;
-  desk.prepare = [](SampleForm& form) {
+  Fixture fixture;
+  fixture.prepare = [](SampleForm& form) {
     for (OptionButton& option : form.options) option.SetArrowsSelect(false);
   };
-  SampleForm& form = desk.ShowChild();
-  Desk::Of("Option1(0)").setFocus();
+  SampleForm& form = fixture.ShowChild();
+  Fixture::Of("Option1(0)").setFocus();
   for (const char* next : {"Option1(1)", "Option1(0)", "Option1(1)"}) {
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
     CHECK(QApplication::focusWidget()->objectName() == next);
@@ -190,13 +190,13 @@ TEST_CASE("The arrow keys only go from option to option where a choice is an ans
 }
 
 TEST_CASE("A disabled group keeps the user out and does not grey what it holds") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   const QColor blue(0, 0, 255);
   form.options[1].SetForeColor(FixedColor(0, 0, 255));
   form.group.SetEnabled(false);
-  auto& one = Desk::Of<QRadioButton>("Option1(0)");
-  auto& two = Desk::Of<QRadioButton>("Option1(1)");
+  auto& one = Fixture::Of<QRadioButton>("Option1(0)");
+  auto& two = Fixture::Of<QRadioButton>("Option1(1)");
   QTest::mouseClick(&one, Qt::LeftButton, {}, {6, 8});
   CHECK(form.log.Take().empty());
   CHECK_FALSE(one.isChecked());
@@ -211,11 +211,11 @@ TEST_CASE("A disabled group keeps the user out and does not grey what it holds")
 }
 
 TEST_CASE("A coloured option is painted in its colour in a disabled group") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   form.options[1].SetForeColor(FixedColor(0, 0, 255));
   form.group.SetEnabled(false);
-  const QImage picture = Desk::Of("Option1(1)").grab().toImage();
+  const QImage picture = Fixture::Of("Option1(1)").grab().toImage();
   int blue = 0;
   for (int x = 0; x < picture.width(); ++x) {
     for (int y = 0; y < picture.height(); ++y) {
@@ -227,9 +227,9 @@ TEST_CASE("A coloured option is painted in its colour in a disabled group") {
 }
 
 TEST_CASE("A check box shows its value and is turned over by a click") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  auto& check = Desk::Of<QCheckBox>("Check1");
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  auto& check = Fixture::Of<QCheckBox>("Check1");
   QTest::mouseClick(&check, Qt::LeftButton, {}, {6, 8});
   CHECK(form.log.Take() == "lost focus, check");
   CHECK(check.checkState() == Qt::Checked);
@@ -240,11 +240,11 @@ TEST_CASE("A check box shows its value and is turned over by a click") {
 }
 
 TEST_CASE("A handler that unloads its own window ends well") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   form.deleteButton.onClick = [&form] { form.Unload(); };
-  QTest::mouseClick(&Desk::Of("Command2"), Qt::LeftButton);
-  CHECK(Desk::Top("frmChild") == nullptr);
-  Desk::Settle();
-  CHECK_FALSE(desk.child.IsLoaded());
+  QTest::mouseClick(&Fixture::Of("Command2"), Qt::LeftButton);
+  CHECK(Fixture::Top("frmChild") == nullptr);
+  Fixture::Settle();
+  CHECK_FALSE(fixture.child.IsLoaded());
 }

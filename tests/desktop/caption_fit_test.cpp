@@ -128,14 +128,15 @@ TEST_CASE("The answer card and the title of the About box stand at their full si
   for (const char* family : Faces()) {
     CAPTURE(family);
     const DesktopFont desktopFont(family, 10);
-    ProgramOnScreen desk;
-    desk.folder.Write("one.tsr", InfoBytes({}) +
-                                     QuestionBytes('M', u"question", 1,
-                                                   {u"\u00C9lectron (gypsy)", u"", u"", u""}, 'A') +
-                                     EndBytes());
-    desk.Start(u"one.tsr");
+    ProgramOnScreen fixture;
+    fixture.folder.Write(
+        "one.tsr",
+        InfoBytes({}) +
+            QuestionBytes('M', u"question", 1, {u"\u00C9lectron (gypsy)", u"", u"", u""}, 'A') +
+            EndBytes());
+    fixture.Start(u"one.tsr");
     CheckFullSize(ProgramOnScreen::Of<QLabel>("Label2"), 9.75);
-    desk.program.FrameWindow()->ShowAbout();
+    fixture.program.FrameWindow()->ShowAbout();
     ProgramOnScreen::Settle();
     CheckFullSize(ProgramOnScreen::Of<QLabel>("Label1(0)", "frmAbout"), 15.75);
   }

@@ -27,8 +27,8 @@ Text Prose(const Text& lastWord) {
   return text + u" " + lastWord;
 }
 
-struct CardDesk : ProgramOnScreen {
-  explicit CardDesk(const Text& front) {
+struct CardFixture : ProgramOnScreen {
+  explicit CardFixture(const Text& front) {
     folder.Write("deck.tsr", InfoBytes({}) + CardBytes(1, front, u"back") + EndBytes());
     Start(u"deck.tsr");
   }
@@ -90,13 +90,13 @@ int RowsOfHeadingRule(const QImage& picture) {
 }  // namespace
 
 TEST_CASE("A card of 444 characters of prose is whole at every scaling, without scrolling") {
-  const CardDesk desk(Prose(u"knew."));
+  const CardFixture fixture(Prose(u"knew."));
   REQUIRE(ProgramOnScreen::Card("CardText").size() == kMostCharacters);
-  CHECK(CardDesk::Widget().findChild<QScrollBar*>() == nullptr);
-  const Rect body = LayoutOf(CardDesk::Size()).body;
+  CHECK(CardFixture::Widget().findChild<QScrollBar*>() == nullptr);
+  const Rect body = LayoutOf(CardFixture::Size()).body;
   for (const double scaling : kScalings) {
     CAPTURE(scaling);
-    const QRectF ink = InkIn(CardDesk::Picture(scaling), body);
+    const QRectF ink = InkIn(CardFixture::Picture(scaling), body);
     // Nothing is cut off: the ink ends before the body does, on all four sides.
     CHECK(ink.top() > body.top + 1);
     CHECK(ink.bottom() < body.Bottom() - 1);
@@ -109,8 +109,8 @@ TEST_CASE("A card of 444 characters of prose is whole at every scaling, without 
 TEST_CASE("The last word of 444 characters of prose can be seen at every scaling") {
   std::vector<QImage> pictures;
   for (const Text& word : {Text(u"knew."), Text(u"know.")}) {
-    const CardDesk desk(Prose(word));
-    for (const double scaling : kScalings) pictures.push_back(CardDesk::Picture(scaling));
+    const CardFixture fixture(Prose(word));
+    for (const double scaling : kScalings) pictures.push_back(CardFixture::Picture(scaling));
   }
   for (std::size_t at = 0; at < std::size(kScalings); ++at) {
     CHECK(pictures[at] != pictures[at + std::size(kScalings)]);
@@ -118,11 +118,11 @@ TEST_CASE("The last word of 444 characters of prose can be seen at every scaling
 }
 
 TEST_CASE("A card is drawn for the screen's own pixels, its rules sharp") {
-  const CardDesk desk(u"What is the capital of Norway?");
-  CHECK(IsFinerThanItsHalf(CardDesk::Picture(2)));
+  const CardFixture fixture(u"What is the capital of Norway?");
+  CHECK(IsFinerThanItsHalf(CardFixture::Picture(2)));
   for (const double scaling : kScalings) {
     CAPTURE(scaling);
-    CHECK(RowsOfHeadingRule(CardDesk::Picture(scaling)) >= 2);
+    CHECK(RowsOfHeadingRule(CardFixture::Picture(scaling)) >= 2);
   }
 }
 
@@ -131,13 +131,13 @@ TEST_CASE("A text too long even for the smallest letters is read to its end by s
   while (many.size() < kMostCharacters - 6) many += u"a\r\n";
   std::vector<QImage> pictures;
   for (const Text& lastLine : {Text(u"end"), Text(u"and")}) {
-    const CardDesk desk(many + lastLine);
-    auto* bar = CardDesk::Widget().findChild<QScrollBar*>();
+    const CardFixture fixture(many + lastLine);
+    auto* bar = CardFixture::Widget().findChild<QScrollBar*>();
     REQUIRE(bar != nullptr);
     CHECK(bar->isVisible());
     bar->setValue(bar->maximum());
-    const QImage picture = CardDesk::Picture(1);
-    const Rect body = LayoutOf(CardDesk::Size()).body;
+    const QImage picture = CardFixture::Picture(1);
+    const Rect body = LayoutOf(CardFixture::Size()).body;
     CHECK(InkIn(picture, body).bottom() < body.Bottom());
     pictures.push_back(picture);
   }
@@ -153,12 +153,12 @@ TEST_CASE("The letters of a card stand on a ruled line, at every size and scalin
   for (const int words : {1, 8, 20, 60}) {
     Text text;
     for (int word = 0; word < words; ++word) text += u"MHM ";
-    const CardDesk desk(text);
-    const Rect body = LayoutOf(CardDesk::Size()).body;
+    const CardFixture fixture(text);
+    const Rect body = LayoutOf(CardFixture::Size()).body;
     for (const double scaling : kScalings) {
       CAPTURE(words);
       CAPTURE(scaling);
-      const QImage picture = CardDesk::Picture(scaling);
+      const QImage picture = CardFixture::Picture(scaling);
       const int below = qRound(InkIn(picture, body).bottom() * scaling);
       const int x = qRound(kBesideText * scaling);
       // A row of letters may be too pale to count as ink.

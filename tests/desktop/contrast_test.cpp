@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <doctest/doctest.h>
 
-#include "tests/desktop/support/desk.h"
+#include "tests/desktop/support/fixture.h"
 
 using namespace tessara;
 using namespace tessara::test;
@@ -83,7 +83,7 @@ double MostContrast(const QImage& picture, const QColor& ground) {
 /// ground.
 double ContrastOfEdge(const char* control, const QColor& ground) {
   constexpr int kEdge = 3;
-  const QImage picture = Desk::Of(control).grab().toImage();
+  const QImage picture = Fixture::Of(control).grab().toImage();
   double most = 1;
   for (int x = 0; x < kEdge; ++x) {
     most = std::max(most, ContrastOf(picture.pixelColor(x, picture.height() / 2), ground));
@@ -92,7 +92,7 @@ double ContrastOfEdge(const char* control, const QColor& ground) {
 }
 
 QColor TextColorOf(const char* control) {
-  return Desk::Of(control).palette().color(QPalette::WindowText);
+  return Fixture::Of(control).palette().color(QPalette::WindowText);
 }
 
 }  // namespace
@@ -121,8 +121,8 @@ TEST_CASE("A colour that can be read stays; another keeps its hue and gets light
 TEST_CASE("A control's own colour is read on a dark desktop, and is as told on a light one") {
   for (const QColor& ground : {kLight, kDark}) {
     const DesktopOfColor desktop(ground);
-    Desk desk;
-    desk.ShowChild().label.SetForeColor(FixedColor(0, 0, 255));
+    Fixture fixture;
+    fixture.ShowChild().label.SetForeColor(FixedColor(0, 0, 255));
     CHECK(ContrastOf(TextColorOf("Label1"), ground) >= kReadableContrast);
     CHECK((TextColorOf("Label1") == kBlue) == (ground == kLight));
   }
@@ -132,14 +132,14 @@ TEST_CASE("Unticked marks and the edges of what takes input are seen on every de
   for (const QColor& ground : {kLight, kDark, QColor(Qt::black), QColor(Qt::white)}) {
     CAPTURE(ground.name().toStdString());
     const DesktopOfColor desktop(ground);
-    Desk desk;
-    desk.ShowChild();
+    Fixture fixture;
+    fixture.ShowChild();
     for (const char* name :
          {"Check1", "Option1(0)", "Command2", "Combo1", "Text1", "Text2", "List1"}) {
       CAPTURE(std::string(name));
       for (const bool focused : {false, true}) {
         CAPTURE(focused);
-        if (focused) Desk::Of(name).setFocus(Qt::TabFocusReason);
+        if (focused) Fixture::Of(name).setFocus(Qt::TabFocusReason);
         CHECK(ContrastOfEdge(name, ground) >= kVisibleContrast);
       }
     }
@@ -148,9 +148,9 @@ TEST_CASE("Unticked marks and the edges of what takes input are seen on every de
 
 TEST_CASE("The focus of a card is seen on its paper, whatever the desktop's highlight") {
   const DesktopOfColor desktop(kDark, QColor(61, 174, 233));
-  Desk desk;
-  desk.ShowChild();
-  QWidget& card = Desk::Of("Painting1");
+  Fixture fixture;
+  fixture.ShowChild();
+  QWidget& card = Fixture::Of("Painting1");
   card.setFocus(Qt::TabFocusReason);
   const QImage picture = card.grab().toImage();
   constexpr int kInLine = 4;
@@ -162,14 +162,14 @@ TEST_CASE("Titles of windows in the frame are read in every scheme, in front and
   for (const Scheme& scheme : kSchemes) {
     CAPTURE(scheme.name);
     const DesktopOfScheme desktop(scheme);
-    Desk desk;
-    desk.ShowChild().SetCaption(u"MMMMMMMM");
-    desk.other->Show();
-    desk.other->SetCaption(u"MMMMMMMM");
-    Desk::Settle();
+    Fixture fixture;
+    fixture.ShowChild().SetCaption(u"MMMMMMMM");
+    fixture.other->Show();
+    fixture.other->SetCaption(u"MMMMMMMM");
+    Fixture::Settle();
     for (const char* name : {"frmChild", "frmOther"}) {
       CAPTURE(name);
-      QWidget& window = *Desk::Top(name);
+      QWidget& window = *Fixture::Top(name);
       const int height = window.contentsMargins().top();
       // The middle of the title: its letters, and no button.
       const QImage title =
@@ -185,14 +185,14 @@ TEST_CASE("Close boxes and edges of windows are seen in every scheme, in front a
   for (const Scheme& scheme : kSchemes) {
     CAPTURE(scheme.name);
     const DesktopOfScheme desktop(scheme);
-    Desk desk;
-    desk.ShowChild();
-    desk.other->Show();
-    Desk::Settle();
+    Fixture fixture;
+    fixture.ShowChild();
+    fixture.other->Show();
+    Fixture::Settle();
     for (const char* name : {"frmChild", "frmOther"}) {
       CAPTURE(name);
-      const QImage window = Desk::Top(name)->grab().toImage();
-      const int middle = Desk::Top(name)->contentsMargins().top() / 2 + 1;
+      const QImage window = Fixture::Top(name)->grab().toImage();
+      const int middle = Fixture::Top(name)->contentsMargins().top() / 2 + 1;
       const QColor ground = window.pixelColor(window.width() / 2, 4);
       const QImage cross = window.copy(window.width() - 19, middle - 4, 8, 8);
       CHECK(MostContrast(cross, ground) >= kVisibleContrast);
@@ -206,14 +206,14 @@ TEST_CASE("Set marks, edges of boxes, frames of groups and lines are seen in eve
   for (const Scheme& scheme : kSchemes) {
     CAPTURE(scheme.name);
     const DesktopOfScheme desktop(scheme);
-    Desk desk;
-    SampleForm& form = desk.ShowChild();
+    Fixture fixture;
+    SampleForm& form = fixture.ShowChild();
     form.check.SetTicked(true);
     form.options[0].SetSelected(true);
     form.check.SetFocus();  // away from the boxes, whose edge it colours
     for (const char* name : {"Check1", "Option1(0)"}) {
       CAPTURE(name);
-      const QImage picture = Desk::Of(name).grab().toImage();
+      const QImage picture = Fixture::Of(name).grab().toImage();
       // Inside the outline of the mark.
       const QRect mark(4, picture.height() / 2 - 3, 7, 7);
       const QColor inside = picture.pixelColor(3, picture.height() / 2);
@@ -233,8 +233,8 @@ TEST_CASE(
   for (const Scheme& scheme : kSchemes) {
     CAPTURE(scheme.name);
     const DesktopOfScheme desktop(scheme);
-    Desk desk;
-    SampleForm& form = desk.ShowChild();
+    Fixture fixture;
+    SampleForm& form = fixture.ShowChild();
     for (const Color& color : colors) {
       form.label.SetForeColor(color);
       const QColor told(color.red, color.green, color.blue);

@@ -118,15 +118,15 @@ struct NoPrinting {
 }  // namespace
 
 TEST_CASE("The dialogs keep to what the program counts on") {
-  NoPrinting desk;
+  NoPrinting fixture;
   const QTemporaryDir folder;
   QFile verbs(folder.filePath("verbs.tsr"));
   REQUIRE(verbs.open(QIODevice::WriteOnly));
   ScreenUser onScreen;
   const DialogUser user{[&](const Text& path) { onScreen.files.push_back(path); },
                         [&](const auto& text) { onScreen.texts.push_back(text); }};
-  CheckFileDialogContract(desk.dialogs, user, FromQString(folder.path()));
-  CheckTextDialogContract(desk.dialogs, user);
+  CheckFileDialogContract(fixture.dialogs, user, FromQString(folder.path()));
+  CheckTextDialogContract(fixture.dialogs, user);
 }
 
 TEST_CASE("A message box has its text, title, icon and buttons, all as they stand") {
@@ -214,7 +214,7 @@ TEST_CASE("Escape is Cancel where there is one, and OK where there is nothing el
 }
 
 TEST_CASE("The input box shows prompt and title as they stand and offers the default") {
-  NoPrinting desk;
+  NoPrinting fixture;
   WhenUp<QInputDialog>([](QInputDialog& dialog) {
     CHECK(dialog.windowTitle() == "Go <To>");
     CHECK(dialog.findChild<QLabel*>()->textFormat() == Qt::PlainText);
@@ -223,13 +223,13 @@ TEST_CASE("The input box shows prompt and title as they stand and offers the def
     QTest::keyClicks(dialog.findChild<QLineEdit*>(), "23");
     QTest::keyClick(&dialog, Qt::Key_Return);
   });
-  CHECK(desk.dialogs.AskText(u"<Enter> a & b", u"Go <To>", u"1") == u"23");
+  CHECK(fixture.dialogs.AskText(u"<Enter> a & b", u"Go <To>", u"1") == u"23");
   WhenUp<QInputDialog>([](QInputDialog& dialog) { dialog.reject(); });
-  CHECK(desk.dialogs.AskText(u"", u"", u"1") == std::nullopt);
+  CHECK(fixture.dialogs.AskText(u"", u"", u"1") == std::nullopt);
 }
 
 TEST_CASE("Saving over a file is not asked about by the dialog") {
-  NoPrinting desk;
+  NoPrinting fixture;
   const QTemporaryDir folder;
   const QString path = folder.filePath("deck.tsr");
   QFile file(path);
@@ -242,18 +242,18 @@ TEST_CASE("Saving over a file is not asked about by the dialog") {
     dialog.selectFile(path);
     QTest::keyClick(dialog.findChild<QLineEdit*>(), Qt::Key_Return);
   });
-  CHECK(desk.dialogs.AskFile(SaveIn(folder)) == FromQString(path));
+  CHECK(fixture.dialogs.AskFile(SaveIn(folder)) == FromQString(path));
 }
 
 TEST_CASE("A name typed without an ending stays as it is") {
-  NoPrinting desk;
+  NoPrinting fixture;
   const QTemporaryDir folder;
   WhenUp<QFileDialog>([](QFileDialog& dialog) { AnswerWith(dialog, "verbs"); });
-  CHECK(desk.dialogs.AskFile(SaveIn(folder)) == FromQString(folder.filePath("verbs")));
+  CHECK(fixture.dialogs.AskFile(SaveIn(folder)) == FromQString(folder.filePath("verbs")));
 }
 
 TEST_CASE("A refused answer is told as it stands over the dialog, which then takes another one") {
-  NoPrinting desk;
+  NoPrinting fixture;
   const QTemporaryDir folder;
   FileDialogRequest request = SaveIn(folder);
   request.refusal = [](const Text& path) {
@@ -274,11 +274,11 @@ TEST_CASE("A refused answer is told as it stands over the dialog, which then tak
     }
     AnswerWith(dialog, "good.tsr");
   });
-  CHECK(desk.dialogs.AskFile(request) == FromQString(folder.filePath("good.tsr")));
+  CHECK(fixture.dialogs.AskFile(request) == FromQString(folder.filePath("good.tsr")));
 }
 
 TEST_CASE("A dialog that has refused an answer can be cancelled") {
-  NoPrinting desk;
+  NoPrinting fixture;
   const QTemporaryDir folder;
   FileDialogRequest request = SaveIn(folder);
   request.refusal = [](const Text&) { return Text(u"Nowhere"); };
@@ -287,11 +287,11 @@ TEST_CASE("A dialog that has refused an answer can be cancelled") {
     AnswerWith(dialog, "any.tsr");
     dialog.reject();
   });
-  CHECK(desk.dialogs.AskFile(request).empty());
+  CHECK(fixture.dialogs.AskFile(request).empty());
 }
 
 TEST_CASE("A folder is gone into, whatever is refused") {
-  NoPrinting desk;
+  NoPrinting fixture;
   const QTemporaryDir folder;
   QDir(folder.path()).mkdir("decks");
   FileDialogRequest request = SaveIn(folder);
@@ -303,11 +303,11 @@ TEST_CASE("A folder is gone into, whatever is refused") {
     CHECK(dialog.directory() == QDir(folder.filePath("decks")));
     AnswerWith(dialog, "verbs.tsr");
   });
-  CHECK(desk.dialogs.AskFile(request) == FromQString(folder.filePath("decks/verbs.tsr")));
+  CHECK(fixture.dialogs.AskFile(request) == FromQString(folder.filePath("decks/verbs.tsr")));
 }
 
 TEST_CASE("The places at the side are those of home, documents and desktop that are there") {
-  NoPrinting desk;
+  NoPrinting fixture;
   const QTemporaryDir home;
   const EnvironmentVariable variable("HOME", home.path().toStdString());
   const ConfigFolder noUserFolders;
@@ -320,12 +320,12 @@ TEST_CASE("The places at the side are those of home, documents and desktop that 
                                           QUrl::fromLocalFile(home.filePath("Documents"))});
       dialog.reject();
     });
-    desk.dialogs.AskFile(request);
+    fixture.dialogs.AskFile(request);
   }
 }
 
 TEST_CASE("A file dialog's panes and grips have names for a screen reader") {
-  NoPrinting desk;
+  NoPrinting fixture;
   WhenUp<QFileDialog>([](QFileDialog& dialog) {
     auto& panes = *dialog.findChild<QSplitter*>();
     CHECK(panes.accessibleName() == "Places and files");
@@ -333,11 +333,11 @@ TEST_CASE("A file dialog's panes and grips have names for a screen reader") {
     CHECK(dialog.findChild<QSizeGrip*>()->accessibleName() == "Size of the dialog");
     dialog.reject();
   });
-  desk.dialogs.AskFile({});
+  fixture.dialogs.AskFile({});
 }
 
 TEST_CASE("A cancelled file dialog names no file, and opening wants one that exists") {
-  NoPrinting desk;
+  NoPrinting fixture;
   FileDialogRequest request;
   request.flags = kFileMustExist;
   WhenUp<QFileDialog>([](QFileDialog& dialog) {
@@ -345,27 +345,27 @@ TEST_CASE("A cancelled file dialog names no file, and opening wants one that exi
     CHECK(dialog.fileMode() == QFileDialog::ExistingFile);
     dialog.reject();
   });
-  CHECK(desk.dialogs.AskFile(request).empty());
+  CHECK(fixture.dialogs.AskFile(request).empty());
 }
 
 TEST_CASE("Without the print module the printer is an error") {
-  NoPrinting desk;
-  CHECK_THROWS_AS(desk.dialogs.AskPrinter(), RunTimeError);
+  NoPrinting fixture;
+  CHECK_THROWS_AS(fixture.dialogs.AskPrinter(), RunTimeError);
 }
 
 TEST_CASE(
     "While a dialog is open the pointer is plain, also where the wait pointer is up around it") {
   const QTemporaryDir folder;
-  NoPrinting desk;
+  NoPrinting fixture;
   QtDesktop desktop(nullptr);
   const Hourglass waiting(desktop);
   const auto plain = [] { return QApplication::overrideCursor() == nullptr; };
   int dialogs = 0;
   WhenUp<QFileDialog>([&](QFileDialog& dialog) { dialogs += plain(), dialog.reject(); });
-  desk.dialogs.AskFile(SaveIn(folder));
+  fixture.dialogs.AskFile(SaveIn(folder));
   CHECK_FALSE(plain());
   WhenUp<QInputDialog>([&](QInputDialog& dialog) { dialogs += plain(), dialog.reject(); });
-  desk.dialogs.AskText(u"Number", u"Go to", u"1");
+  fixture.dialogs.AskText(u"Number", u"Go to", u"1");
   CHECK_FALSE(plain());
   WhenUp<QMessageBox>([&](QMessageBox& box) { dialogs += plain(), box.accept(); });
   QtMessageBoxes().Show(u"Text", kOkOnly, u"Title");

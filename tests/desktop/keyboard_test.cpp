@@ -4,7 +4,7 @@
 #include <doctest/doctest.h>
 
 #include "adapters/qt/devices/qt_message_boxes.h"
-#include "tests/desktop/support/desk.h"
+#include "tests/desktop/support/fixture.h"
 
 using namespace tessara;
 using namespace tessara::test;
@@ -18,8 +18,8 @@ QWidget& Focused() {
 }  // namespace
 
 TEST_CASE("An accelerator presses what carries it, whatever the focus") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   QTest::keyClick(&Focused(), Qt::Key_D, Qt::AltModifier);
   CHECK(form.log.Take() == "delete");
   QTest::keyClick(&Focused(), Qt::Key_H, Qt::AltModifier);
@@ -29,8 +29,8 @@ TEST_CASE("An accelerator presses what carries it, whatever the focus") {
 }
 
 TEST_CASE("The window's accelerators come before the menu bar's") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   form.deleteButton.SetCaption(u"&First");
   QTest::keyClick(&Focused(), Qt::Key_F, Qt::AltModifier);
   CHECK(form.log.Take() == "delete");
@@ -38,8 +38,8 @@ TEST_CASE("The window's accelerators come before the menu bar's") {
 }
 
 TEST_CASE("An accelerator that no control has opens the menu, whose keys choose") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   QTest::keyClick(&Focused(), Qt::Key_M, Qt::AltModifier);
   REQUIRE(QApplication::activePopupWidget() != nullptr);
   CHECK(QApplication::activePopupWidget()->objectName() == "mnuMode");
@@ -48,9 +48,9 @@ TEST_CASE("An accelerator that no control has opens the menu, whose keys choose"
 }
 
 TEST_CASE("Page Up and Page Down press the buttons that turn pages") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  Desk::Of("Command2").setFocus();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  Fixture::Of("Command2").setFocus();
   form.log.Take();
   QTest::keyClick(&Focused(), Qt::Key_PageUp);
   QTest::keyClick(&Focused(), Qt::Key_PageDown);
@@ -61,9 +61,9 @@ TEST_CASE("Page Up and Page Down press the buttons that turn pages") {
 }
 
 TEST_CASE("In a text box Page Up and Page Down need Ctrl") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  Desk::Of("Text2").setFocus();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  Fixture::Of("Text2").setFocus();
   form.log.Take();
   QTest::keyClick(&Focused(), Qt::Key_PageDown);
   CHECK(form.log.Take().empty());
@@ -72,8 +72,8 @@ TEST_CASE("In a text box Page Up and Page Down need Ctrl") {
 }
 
 TEST_CASE("A box has its keys for itself, and the window behind it none") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   form.log.Take();
   QTimer::singleShot(0, [] {
     QWidget* const box = QApplication::activeModalWidget();
@@ -93,61 +93,61 @@ TEST_CASE("A box has its keys for itself, and the window behind it none") {
 }
 
 TEST_CASE("Return and Escape press a window's default and cancel button") {
-  Desk desk;
-  desk.prepare = [](SampleForm& form) { form.deleteButton.SetDefaultAndCancel(true); };
-  desk.dialog->Show();
-  Desk::Settle();
-  desk.dialog->log.Take();
-  QTest::keyClick(&Desk::Of("Check1", "frmDialog"), Qt::Key_Return);
-  QTest::keyClick(&Desk::Of("Check1", "frmDialog"), Qt::Key_Escape);
-  CHECK(desk.dialog->log.Take() == "delete, delete");
-  QTest::keyClick(&Desk::Of("Command1(0)", "frmDialog"), Qt::Key_Return);
-  CHECK(desk.dialog->log.Take() == "back");
-  QTest::keyClick(&Desk::Of("Text2", "frmDialog"), Qt::Key_Return);
-  CHECK(desk.dialog->areaBox.TextOf() == u"\r\n");
+  Fixture fixture;
+  fixture.prepare = [](SampleForm& form) { form.deleteButton.SetDefaultAndCancel(true); };
+  fixture.dialog->Show();
+  Fixture::Settle();
+  fixture.dialog->log.Take();
+  QTest::keyClick(&Fixture::Of("Check1", "frmDialog"), Qt::Key_Return);
+  QTest::keyClick(&Fixture::Of("Check1", "frmDialog"), Qt::Key_Escape);
+  CHECK(fixture.dialog->log.Take() == "delete, delete");
+  QTest::keyClick(&Fixture::Of("Command1(0)", "frmDialog"), Qt::Key_Return);
+  CHECK(fixture.dialog->log.Take() == "back");
+  QTest::keyClick(&Fixture::Of("Text2", "frmDialog"), Qt::Key_Return);
+  CHECK(fixture.dialog->areaBox.TextOf() == u"\r\n");
 }
 
 TEST_CASE("Escape leaves a window without a cancel button alone") {
-  Desk desk;
-  desk.dialog->Show();
-  QTest::keyClick(Desk::Top("frmDialog"), Qt::Key_Escape);
-  CHECK(Desk::Top("frmDialog")->isVisible());
+  Fixture fixture;
+  fixture.dialog->Show();
+  QTest::keyClick(Fixture::Top("frmDialog"), Qt::Key_Escape);
+  CHECK(Fixture::Top("frmDialog")->isVisible());
 }
 
 TEST_CASE("The key for help presses the menu's help entry") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   QTest::keyClick(&Focused(), Qt::Key_F1);
   CHECK(form.log.Take() == "help");
 }
 
 TEST_CASE("Ctrl+F4 closes the window in front, and never the frame") {
-  Desk desk;
-  desk.ShowChild();
+  Fixture fixture;
+  fixture.ShowChild();
   QTest::keyClick(&Focused(), Qt::Key_F4, Qt::ControlModifier);
-  CHECK_FALSE(desk.child.IsLoaded());
-  Desk::Settle();
-  QTest::keyClick(Desk::Top("MDIForm1"), Qt::Key_F4, Qt::ControlModifier);
-  CHECK_FALSE(desk.windows.ExitStatus());
+  CHECK_FALSE(fixture.child.IsLoaded());
+  Fixture::Settle();
+  QTest::keyClick(Fixture::Top("MDIForm1"), Qt::Key_F4, Qt::ControlModifier);
+  CHECK_FALSE(fixture.windows.ExitStatus());
 }
 
 TEST_CASE("Space presses the button that has the focus") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  Desk::Of("Command2").setFocus();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  Fixture::Of("Command2").setFocus();
   form.log.Take();
   QTest::keyClick(&Focused(), Qt::Key_Space);
   CHECK(form.log.Take() == "delete");
 }
 
 TEST_CASE("The focus is where the form has it, and its moves are told once") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   CHECK(Focused().objectName() == "Text1");
   form.deleteButton.SetFocus();
   CHECK(Focused().objectName() == "Command2");
   CHECK(form.log.Take() == "lost focus");
-  Desk::Of("Text1").setFocus();
+  Fixture::Of("Text1").setFocus();
   CHECK(form.FocusedControl() == &form.lineBox);
   CHECK(form.log.Take() == "got focus");
 }
@@ -174,38 +174,38 @@ TEST_CASE(
        "Text2"}};
   for (const Case& c : cases) {
     CAPTURE(c.next);
-    Desk desk;
-    SampleForm& form = desk.ShowChild();
-    Desk::Of(c.pressed).setFocus();
+    Fixture fixture;
+    SampleForm& form = fixture.ShowChild();
+    Fixture::Of(c.pressed).setFocus();
     form.log.Take();
-    desk.windows.Run([&] { c.handler(form); });
-    Desk::Settle();
+    fixture.windows.Run([&] { c.handler(form); });
+    Fixture::Settle();
     CHECK(Focused().objectName().toStdString() == c.next);
     CHECK(form.FocusedControl()->Name() == c.next);
   }
 }
 
 TEST_CASE("A focus set while a window loads is the one that it comes up with") {
-  Desk desk;
-  desk.prepare = [](SampleForm& form) {
+  Fixture fixture;
+  fixture.prepare = [](SampleForm& form) {
     form.onLoad = [&form] {
       form.Show();
       form.deleteButton.SetFocus();
     };
   };
-  desk.ShowChild();
+  fixture.ShowChild();
   CHECK(Focused().objectName() == "Command2");
 }
 
 TEST_CASE("An entry's keys choose it, where the entry is on, and stand beside it") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  const auto* entry = Desk::Top("MDIForm1")->findChild<QAction*>("mnuStudy");
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  const auto* entry = Fixture::Top("MDIForm1")->findChild<QAction*>("mnuStudy");
   REQUIRE(entry != nullptr);
   CHECK(entry->shortcut().toString().toStdString() == "Ctrl+Shift+S");
   for (const char* control : {"Command2", "Text1", "Text2"}) {
     CAPTURE(control);
-    Desk::Of(control).setFocus();
+    Fixture::Of(control).setFocus();
     form.log.Take();
     QTest::keyClick(&Focused(), Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
     CHECK(form.log.Take() == "study");
@@ -216,33 +216,33 @@ TEST_CASE("An entry's keys choose it, where the entry is on, and stand beside it
 }
 
 TEST_CASE("Of two bars with the same keys, those of the bar on show count") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   QTest::keyClick(&Focused(), Qt::Key_O, Qt::ControlModifier);
   CHECK(form.log.Take() == "open");
-  CHECK(desk.frame->log.Take().empty());
+  CHECK(fixture.frame->log.Take().empty());
   form.Hide();
-  Desk::Settle();
-  QTest::keyClick(Desk::Top("MDIForm1"), Qt::Key_O, Qt::ControlModifier);
+  Fixture::Settle();
+  QTest::keyClick(Fixture::Top("MDIForm1"), Qt::Key_O, Qt::ControlModifier);
   CHECK(form.log.Take().empty());
-  CHECK(desk.frame->log.Take() == "frame open");
+  CHECK(fixture.frame->log.Take() == "frame open");
 }
 
 TEST_CASE("Keys that always work do so behind another bar, and in a menu that is off") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  desk.frame->fileMenu.SetEnabled(false);
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  fixture.frame->fileMenu.SetEnabled(false);
   QTest::keyClick(&Focused(), Qt::Key_Q, Qt::ControlModifier);
-  CHECK(desk.frame->log.Take() == "frame exit");
+  CHECK(fixture.frame->log.Take() == "frame exit");
   form.Hide();
-  Desk::Settle();
-  QTest::keyClick(Desk::Top("MDIForm1"), Qt::Key_Q, Qt::ControlModifier);
-  CHECK(desk.frame->log.Take() == "frame exit");
+  Fixture::Settle();
+  QTest::keyClick(Fixture::Top("MDIForm1"), Qt::Key_Q, Qt::ControlModifier);
+  CHECK(fixture.frame->log.Take() == "frame exit");
 }
 
 TEST_CASE("No keys of a menu reach it while a box is open") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   QTimer::singleShot(0, [] {
     QWidget* const box = QApplication::activeModalWidget();
     CHECK(QTest::qWaitFor([&] { return QApplication::activeWindow() == box; }));
@@ -253,12 +253,12 @@ TEST_CASE("No keys of a menu reach it while a box is open") {
   });
   QtMessageBoxes().Show(u"!", kOkOnly, u"");
   CHECK(form.log.Take().empty());
-  CHECK(desk.frame->log.Take().empty());
+  CHECK(fixture.frame->log.Take().empty());
 }
 
 TEST_CASE("Arrows, the blank and Ctrl+Return are the window's where it has a use for them") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   const auto press = [&form] {
     form.log.Take();
     for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Space}) {
@@ -278,8 +278,8 @@ TEST_CASE("Arrows, the blank and Ctrl+Return are the window's where it has a use
 }
 
 TEST_CASE("A blank held down is no second one") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   form.hasUseForKeys = true;
   form.painting.SetFocus();
   form.log.Take();
@@ -289,8 +289,8 @@ TEST_CASE("A blank held down is no second one") {
 }
 
 TEST_CASE("Tab goes where the window says, and else to the next control") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   CHECK(Focused().objectName() == "Text1");
   form.tabTarget = &form.deleteButton;
   QTest::keyClick(&Focused(), Qt::Key_Tab);

@@ -18,7 +18,7 @@
 #include "shell/program.h"
 #include "tests/desktop/support/desktop_font.h"
 #include "tests/desktop/support/event_loops.h"
-#include "tests/support/program_desk.h"
+#include "tests/support/program_fixture.h"
 #include "tests/support/window_tour.h"
 
 using namespace tessara;
@@ -120,7 +120,7 @@ int CheckEveryWindow() {
   QtRenderer renderer{program.Windows(), TESSARA_TEST_PICTURES};
   program.Windows().SetRenderer(renderer);
   fakes.settings.values = {{u"ShowSplash", u"0"}, {u"FirstLoad", u"False"}};
-  fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(20));
+  fakes.files.Put(u"/decks/birds.tsr", ProgramFixture::DeckBytes(20));
   program.Main(u"/decks/birds.tsr");
   int captions = CheckCaptions();
   WindowTour tour{program, fakes, [&] {

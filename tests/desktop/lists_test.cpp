@@ -3,7 +3,7 @@
 #include <QTreeWidget>
 #include <doctest/doctest.h>
 
-#include "tests/desktop/support/desk.h"
+#include "tests/desktop/support/fixture.h"
 
 using namespace tessara;
 using namespace tessara::test;
@@ -11,7 +11,7 @@ using namespace tessara::test;
 namespace {
 
 QTreeWidget& List() {
-  return Desk::Of<QTreeWidget>("List1");
+  return Fixture::Of<QTreeWidget>("List1");
 }
 
 QPoint PlaceOf(int index) {
@@ -29,8 +29,8 @@ void Click(QPoint place) {
 }  // namespace
 
 TEST_CASE("A list shows its columns, its items and its first item as the selected one") {
-  Desk desk;
-  desk.ShowChild();
+  Fixture fixture;
+  fixture.ShowChild();
   CHECK(List().headerItem()->text(1) == "FRONT TEXT");
   CHECK(List().columnWidth(0) == 60);
   CHECK(List().topLevelItemCount() == 3);
@@ -40,8 +40,8 @@ TEST_CASE("A list shows its columns, its items and its first item as the selecte
 }
 
 TEST_CASE("A click on an item selects it and leaves its tick") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   Click(PlaceOf(2));
   CHECK(form.list.SelectedIndex() == 2);
   CHECK_FALSE(form.list.Item(2).checked);
@@ -49,8 +49,8 @@ TEST_CASE("A click on an item selects it and leaves its tick") {
 }
 
 TEST_CASE("A click on a check box turns its tick over once and selects the item") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   Click(CheckBoxOf(3));
   CHECK(form.list.Item(3).checked);
   CHECK(form.list.SelectedIndex() == 3);
@@ -61,16 +61,16 @@ TEST_CASE("A click on a check box turns its tick over once and selects the item"
 }
 
 TEST_CASE("A click beside the items keeps the selection and runs the click") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   Click({50, List().viewport()->height() - 5});
   CHECK(form.list.SelectedIndex() == 1);
   CHECK(form.log.Take() == "lost focus, list");
 }
 
 TEST_CASE("Keys move the selection and turn the tick, and end in a key-up") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   List().setFocus();
   form.log.Take();
   QTest::keyClick(&List(), Qt::Key_Down);
@@ -81,8 +81,8 @@ TEST_CASE("Keys move the selection and turn the tick, and end in a key-up") {
 }
 
 TEST_CASE("Ticks and items that the form sets show") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   form.list.SetChecked(1, true);
   CHECK(List().topLevelItem(0)->checkState(0) == Qt::Checked);
   form.list.AddItem(u"4", {u"Bern"});
@@ -92,9 +92,9 @@ TEST_CASE("Ticks and items that the form sets show") {
 }
 
 TEST_CASE("A combo box shows its items and passes on what the user chooses") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  auto& combo = Desk::Of<QComboBox>("Combo1");
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  auto& combo = Fixture::Of<QComboBox>("Combo1");
   CHECK(combo.count() == 2);
   CHECK(combo.currentIndex() == -1);
   CHECK_FALSE(combo.isEditable());

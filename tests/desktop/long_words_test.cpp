@@ -10,7 +10,7 @@
 
 #include "adapters/qt/text/qt_text.h"
 #include "adapters/qt/text/text_layout.h"
-#include "tests/desktop/support/desk.h"
+#include "tests/desktop/support/fixture.h"
 
 using namespace tessara;
 using namespace tessara::test;
@@ -57,9 +57,9 @@ TEST_CASE(
 }
 
 TEST_CASE("A box takes, shows and counts the lines of such a word in about that time as well") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  auto& area = dynamic_cast<QPlainTextEdit&>(Desk::Of("Text2"));
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  auto& area = dynamic_cast<QPlainTextEdit&>(Fixture::Of("Text2"));
   CheckInProportion([&](const QString& text) {
     form.areaBox.SetText({});
     form.areaBox.SetText(FromQString(text));

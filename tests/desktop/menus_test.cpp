@@ -5,7 +5,7 @@
 #include <QMenuBar>
 #include <doctest/doctest.h>
 
-#include "tests/desktop/support/desk.h"
+#include "tests/desktop/support/fixture.h"
 
 using namespace tessara;
 using namespace tessara::test;
@@ -15,18 +15,19 @@ namespace {
 std::string BarTexts() {
   std::string texts;
   for (const QAction* action :
-       qobject_cast<QMainWindow*>(Desk::Top("MDIForm1"))->menuBar()->actions()) {
+       qobject_cast<QMainWindow*>(Fixture::Top("MDIForm1"))->menuBar()->actions()) {
     texts += action->text().toStdString() + " ";
   }
   return texts;
 }
 
 QAction& Entry(const char* name, const char* window) {
-  return *Desk::Top(window)->findChild<QAction*>(QLatin1String(name), Qt::FindDirectChildrenOnly);
+  return *Fixture::Top(window)->findChild<QAction*>(QLatin1String(name),
+                                                    Qt::FindDirectChildrenOnly);
 }
 
 const QAction& Menu(const char* name) {
-  return *Desk::Top("frmChild")->findChild<QMenu*>(QLatin1String(name))->menuAction();
+  return *Fixture::Top("frmChild")->findChild<QMenu*>(QLatin1String(name))->menuAction();
 }
 
 /// Alt and the letter of the file menu; the first entry is the active one then.
@@ -44,60 +45,60 @@ std::string ActiveIn(const QMenu& menu) {
 }  // namespace
 
 TEST_CASE("The bar shows the menus of the window in front, else the frame's own") {
-  Desk desk;
+  Fixture fixture;
   CHECK(BarTexts() == "&File ");
-  desk.ShowChild();
+  fixture.ShowChild();
   CHECK(BarTexts() == "&File &Mode ");
-  desk.child->Hide();
+  fixture.child->Hide();
   CHECK(BarTexts() == "&File ");
-  desk.child->Show();
+  fixture.child->Show();
   CHECK(BarTexts() == "&File &Mode ");
-  desk.child.Unload();
-  Desk::Settle();
+  fixture.child.Unload();
+  Fixture::Settle();
   CHECK(BarTexts() == "&File ");
 }
 
 TEST_CASE("The bar follows when the window behind a dialog goes") {
-  Desk desk;
-  desk.ShowChild();
-  desk.dialog->Show();
+  Fixture fixture;
+  fixture.ShowChild();
+  fixture.dialog->Show();
   CHECK(BarTexts() == "&File &Mode ");
   SUBCASE("unloaded") {
-    desk.child.Unload();
+    fixture.child.Unload();
   }
   SUBCASE("hidden") {
-    desk.child->Hide();
+    fixture.child->Hide();
   }
   CHECK(BarTexts() == "&File ");
-  CHECK(desk.windows.ActiveForm() == &desk.dialog.Loaded());
+  CHECK(fixture.windows.ActiveForm() == &fixture.dialog.Loaded());
 }
 
 TEST_CASE("The bar of a disabled window makes room for the frame's own, and comes back with it") {
-  Desk desk;
-  desk.ShowChild();
-  desk.child->SetEnabled(false);
+  Fixture fixture;
+  fixture.ShowChild();
+  fixture.child->SetEnabled(false);
   CHECK(BarTexts() == "&File ");
-  desk.child->Hide();
-  desk.child->Show();
+  fixture.child->Hide();
+  fixture.child->Show();
   CHECK(BarTexts() == "&File ");
-  desk.child->SetEnabled(true);
+  fixture.child->SetEnabled(true);
   CHECK(BarTexts() == "&File &Mode ");
 }
 
 TEST_CASE("Entries of one name in two windows run their own window's command") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   Entry("mnuOpen", "frmChild").trigger();
   CHECK(form.log.Take() == "open");
-  CHECK(desk.frame->log.Take().empty());
-  desk.child->Hide();
+  CHECK(fixture.frame->log.Take().empty());
+  fixture.child->Hide();
   Entry("mnuOpen", "MDIForm1").trigger();
-  CHECK(desk.frame->log.Take() == "frame open");
+  CHECK(fixture.frame->log.Take() == "frame open");
 }
 
 TEST_CASE("A disabled entry and a disabled menu can't be chosen") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   form.openEntry.SetEnabled(false);
   CHECK_FALSE(Entry("mnuOpen", "frmChild").isEnabled());
   form.modeMenu.SetEnabled(false);
@@ -106,8 +107,8 @@ TEST_CASE("A disabled entry and a disabled menu can't be chosen") {
 
 TEST_CASE(
     "What is off stays off when its window was disabled meanwhile, and what is on comes back") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   form.openEntry.SetEnabled(false);
   form.modeMenu.SetEnabled(false);
   form.SetEnabled(false);
@@ -127,8 +128,8 @@ TEST_CASE(
 TEST_CASE("A letter that several entries share goes from one to the next, and Return takes one") {
   for (const Qt::KeyboardModifier held : {Qt::NoModifier, Qt::ShiftModifier, Qt::AltModifier}) {
     CAPTURE(held);
-    Desk desk;
-    SampleForm& form = desk.ShowChild();
+    Fixture fixture;
+    SampleForm& form = fixture.ShowChild();
     QMenu& menu = OpenFileMenu();
     CHECK(ActiveIn(menu) == "mnuOpen");
     for (const char* next : {"mnuOrder", "mnuOther", "mnuOpen", "mnuOrder"}) {
@@ -145,8 +146,8 @@ TEST_CASE("A letter that several entries share goes from one to the next, and Re
 }
 
 TEST_CASE("A letter passes over entries that are off or hidden, and takes the one that is left") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   form.orderEntry.SetEnabled(false);
   SUBCASE("two are left") {
     QMenu& menu = OpenFileMenu();
@@ -175,16 +176,16 @@ TEST_CASE("A letter passes over entries that are off or hidden, and takes the on
 }
 
 TEST_CASE("An entry with the caption - is a line without text") {
-  Desk desk;
-  desk.ShowChild();
+  Fixture fixture;
+  fixture.ShowChild();
   const QAction& line = Entry("mnu1", "frmChild");
   CHECK(line.isSeparator());
   CHECK(line.text().isEmpty());
 }
 
 TEST_CASE("A mark shows what the form says, not how often it was clicked") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   QAction& study = Entry("mnuStudy", "frmChild");
   CHECK_FALSE(study.isCheckable());
   form.studyEntry.SetChecked(true);
@@ -195,24 +196,24 @@ TEST_CASE("A mark shows what the form says, not how often it was clicked") {
 }
 
 TEST_CASE("A command that unloads its own window ends well") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   form.openEntry.onClick = [&form] { form.Unload(); };
   Entry("mnuOpen", "frmChild").trigger();
-  Desk::Settle();
+  Fixture::Settle();
   CHECK(BarTexts() == "&File ");
 }
 
 TEST_CASE("A command that waits for a box while its window goes ends well") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  form.openEntry.onClick = [&desk] { desk.messages.Show(u"Wait", kOkOnly, u""); };
-  desk.messages.whileShown = [&desk](const FakeMessages::Shown&) {
-    desk.child.Unload();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  form.openEntry.onClick = [&fixture] { fixture.messages.Show(u"Wait", kOkOnly, u""); };
+  fixture.messages.whileShown = [&fixture](const FakeMessages::Shown&) {
+    fixture.child.Unload();
     // A box's own event loop destroys what waits for it.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   };
   Entry("mnuOpen", "frmChild").trigger();
-  CHECK(Desk::Top("frmChild") == nullptr);
+  CHECK(Fixture::Top("frmChild") == nullptr);
   CHECK(BarTexts() == "&File ");
 }

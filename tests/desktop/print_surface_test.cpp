@@ -16,14 +16,14 @@ using namespace tessara;
 namespace {
 
 /// The real surface, writing into a PDF file.
-struct PdfDesk {
+struct PdfFixture {
   QTemporaryDir folder;
   QString file = folder.filePath("sheet.pdf");
   PrintModuleSource printing{FromQString(QStringLiteral(TESSARA_TEST_MODULES))};
   LazyPrintSurface printer{printing};
   PrintSurface& surface = printer.Surface();
 
-  PdfDesk() {
+  PdfFixture() {
     surface.SetDestination({u"", FromQString(file)});
     surface.SetCopies(1);
     surface.SetFontName(u"Arial");
@@ -61,122 +61,123 @@ class FullDisk {
 }  // namespace
 
 TEST_CASE("The surface keeps to what the print jobs count on") {
-  PdfDesk desk;
-  test::CheckPrintSurfaceContract(desk.surface);
+  PdfFixture fixture;
+  test::CheckPrintSurfaceContract(fixture.surface);
 }
 
 TEST_CASE("What comes from a colour font is drawn as a picture, and nothing else is") {
-  PdfDesk desk;
-  const auto pictures = [&desk](const Text& text) {
-    desk.surface.PrintLine(text);
-    desk.surface.EndDocument();
-    return desk.Written().count("/Subtype /Image");
+  PdfFixture fixture;
+  const auto pictures = [&fixture](const Text& text) {
+    fixture.surface.PrintLine(text);
+    fixture.surface.EndDocument();
+    return fixture.Written().count("/Subtype /Image");
   };
   CHECK(pictures(u"smile \u0416") == 0);
-  desk.surface.SetFontName(u"Noto Color Emoji");
+  fixture.surface.SetFontName(u"Noto Color Emoji");
   CHECK(pictures(u"\xD83D\xDE00") > 0);
 }
 
 TEST_CASE("Lengths are twips and agree with each other") {
-  PdfDesk desk;
-  CHECK(desk.surface.PageWidth() > 9000);
-  CHECK(desk.surface.PageHeight() > desk.surface.PageWidth());
-  const double line = desk.surface.TextHeight(u"x");
+  PdfFixture fixture;
+  CHECK(fixture.surface.PageWidth() > 9000);
+  CHECK(fixture.surface.PageHeight() > fixture.surface.PageWidth());
+  const double line = fixture.surface.TextHeight(u"x");
   CHECK(line > 200);
   CHECK(line < 300);
-  CHECK(desk.surface.TextHeight(u"a\r\nb\r\nc") == doctest::Approx(3 * line));
-  CHECK(desk.surface.TextWidth(u"wide\r\nwider one") ==
-        doctest::Approx(desk.surface.TextWidth(u"wider one")));
-  CHECK(desk.surface.CurrentY() == 0);
-  desk.surface.PrintLine(u"a\r\nb");
-  CHECK(desk.surface.CurrentY() == doctest::Approx(2 * line));
+  CHECK(fixture.surface.TextHeight(u"a\r\nb\r\nc") == doctest::Approx(3 * line));
+  CHECK(fixture.surface.TextWidth(u"wide\r\nwider one") ==
+        doctest::Approx(fixture.surface.TextWidth(u"wider one")));
+  CHECK(fixture.surface.CurrentY() == 0);
+  fixture.surface.PrintLine(u"a\r\nb");
+  CHECK(fixture.surface.CurrentY() == doctest::Approx(2 * line));
 }
 
 TEST_CASE("A tab is four blanks on paper") {
-  PdfDesk desk;
-  CHECK(desk.surface.TextWidth(u"a\tb") == doctest::Approx(desk.surface.TextWidth(u"a    b")));
+  PdfFixture fixture;
+  CHECK(fixture.surface.TextWidth(u"a\tb") ==
+        doctest::Approx(fixture.surface.TextWidth(u"a    b")));
 }
 
 TEST_CASE("Bold and size change the measures") {
-  PdfDesk desk;
-  const double plain = desk.surface.TextWidth(u"Tessara");
-  desk.surface.SetBold(true);
-  CHECK(desk.surface.TextWidth(u"Tessara") > plain);
-  desk.surface.SetBold(false);
-  desk.surface.SetFontSize(20);
-  CHECK(desk.surface.TextWidth(u"Tessara") == doctest::Approx(2 * plain).epsilon(0.02));
+  PdfFixture fixture;
+  const double plain = fixture.surface.TextWidth(u"Tessara");
+  fixture.surface.SetBold(true);
+  CHECK(fixture.surface.TextWidth(u"Tessara") > plain);
+  fixture.surface.SetBold(false);
+  fixture.surface.SetFontSize(20);
+  CHECK(fixture.surface.TextWidth(u"Tessara") == doctest::Approx(2 * plain).epsilon(0.02));
 }
 
 TEST_CASE("Past the bottom a new page begins by itself, and a document is one file") {
-  PdfDesk desk;
-  const double line = desk.surface.TextHeight(u"x");
-  const int lines = static_cast<int>(desk.surface.PageHeight() / line);
-  for (int i = 0; i < lines; ++i) desk.surface.PrintLine(u"line");
-  CHECK(desk.surface.CurrentY() > desk.surface.PageHeight() - line);
-  desk.surface.PrintLine(u"one more");
-  CHECK(desk.surface.CurrentY() == doctest::Approx(line));
-  desk.surface.NewPage();
-  CHECK(desk.surface.CurrentY() == 0);
-  CHECK(desk.Written().isEmpty());
-  desk.surface.DrawLine(0, 0, desk.surface.PageWidth(), 0);
-  desk.surface.EndDocument();
-  CHECK(desk.Written().startsWith("%PDF"));
-  CHECK(desk.Pages() == 3);
-  CHECK(desk.surface.CurrentY() == 0);
+  PdfFixture fixture;
+  const double line = fixture.surface.TextHeight(u"x");
+  const int lines = static_cast<int>(fixture.surface.PageHeight() / line);
+  for (int i = 0; i < lines; ++i) fixture.surface.PrintLine(u"line");
+  CHECK(fixture.surface.CurrentY() > fixture.surface.PageHeight() - line);
+  fixture.surface.PrintLine(u"one more");
+  CHECK(fixture.surface.CurrentY() == doctest::Approx(line));
+  fixture.surface.NewPage();
+  CHECK(fixture.surface.CurrentY() == 0);
+  CHECK(fixture.Written().isEmpty());
+  fixture.surface.DrawLine(0, 0, fixture.surface.PageWidth(), 0);
+  fixture.surface.EndDocument();
+  CHECK(fixture.Written().startsWith("%PDF"));
+  CHECK(fixture.Pages() == 3);
+  CHECK(fixture.surface.CurrentY() == 0);
 }
 
 TEST_CASE("Nothing of a dropped document is printed, then or later") {
-  PdfDesk desk;
-  desk.surface.PrintLine(u"dropped");
-  desk.surface.NewPage();
-  desk.surface.DropDocument();
-  CHECK_FALSE(QFile::exists(desk.file));
-  desk.surface.PrintLine(u"kept");
-  desk.surface.EndDocument();
-  CHECK(desk.Pages() == 1);
+  PdfFixture fixture;
+  fixture.surface.PrintLine(u"dropped");
+  fixture.surface.NewPage();
+  fixture.surface.DropDocument();
+  CHECK_FALSE(QFile::exists(fixture.file));
+  fixture.surface.PrintLine(u"kept");
+  fixture.surface.EndDocument();
+  CHECK(fixture.Pages() == 1);
 }
 
 TEST_CASE("A document that was broken off leaves the next one neither bold nor italic") {
-  PdfDesk desk;
-  const double plain = desk.surface.TextWidth(u"Tessara");
-  desk.surface.SetBold(true);
-  desk.surface.SetItalic(true);
-  desk.surface.DropDocument();
-  CHECK(desk.surface.TextWidth(u"Tessara") == plain);
+  PdfFixture fixture;
+  const double plain = fixture.surface.TextWidth(u"Tessara");
+  fixture.surface.SetBold(true);
+  fixture.surface.SetItalic(true);
+  fixture.surface.DropDocument();
+  CHECK(fixture.surface.TextWidth(u"Tessara") == plain);
 }
 
 TEST_CASE("The documents of one job follow each other in its file, and the next job's is new") {
-  PdfDesk desk;
+  PdfFixture fixture;
   for (const int pages : {1, 2}) {
-    desk.surface.PrintLine(u"copy");
-    desk.surface.EndDocument();
-    CHECK(desk.Pages() == pages);
+    fixture.surface.PrintLine(u"copy");
+    fixture.surface.EndDocument();
+    CHECK(fixture.Pages() == pages);
   }
-  desk.surface.PrintLine(u"broken off");
-  desk.surface.NewPage();
-  desk.surface.DropDocument();
-  desk.surface.PrintLine(u"third copy");
-  desk.surface.EndDocument();
-  CHECK(desk.Pages() == 3);
-  desk.surface.SetDestination({u"", FromQString(desk.file)});
-  desk.surface.PrintLine(u"another job");
-  desk.surface.EndDocument();
-  CHECK(desk.Pages() == 1);
+  fixture.surface.PrintLine(u"broken off");
+  fixture.surface.NewPage();
+  fixture.surface.DropDocument();
+  fixture.surface.PrintLine(u"third copy");
+  fixture.surface.EndDocument();
+  CHECK(fixture.Pages() == 3);
+  fixture.surface.SetDestination({u"", FromQString(fixture.file)});
+  fixture.surface.PrintLine(u"another job");
+  fixture.surface.EndDocument();
+  CHECK(fixture.Pages() == 1);
 }
 
 TEST_CASE("A document that finds no room leaves those before it in the file") {
-  PdfDesk desk;
-  desk.surface.PrintLine(u"first copy");
-  desk.surface.EndDocument();
+  PdfFixture fixture;
+  fixture.surface.PrintLine(u"first copy");
+  fixture.surface.EndDocument();
   {
-    const FullDisk disk(desk.Written().size());
-    desk.surface.PrintLine(u"second copy");
-    CHECK_THROWS_AS(desk.surface.EndDocument(), RunTimeError);
+    const FullDisk disk(fixture.Written().size());
+    fixture.surface.PrintLine(u"second copy");
+    CHECK_THROWS_AS(fixture.surface.EndDocument(), RunTimeError);
   }
-  CHECK(desk.Pages() == 1);
-  desk.surface.PrintLine(u"second copy, with room for it");
-  desk.surface.EndDocument();
-  CHECK(desk.Pages() == 2);
+  CHECK(fixture.Pages() == 1);
+  fixture.surface.PrintLine(u"second copy, with room for it");
+  fixture.surface.EndDocument();
+  CHECK(fixture.Pages() == 2);
 }
 
 TEST_CASE("Without the print module there is nothing to print on") {
@@ -186,14 +187,14 @@ TEST_CASE("Without the print module there is nothing to print on") {
 }
 
 TEST_CASE("A printer or a file that can't be written to is an error") {
-  PdfDesk desk;
+  PdfFixture fixture;
   SUBCASE("no such printer") {
-    desk.surface.SetDestination({u"no such printer", u""});
-    CHECK_THROWS_AS(desk.surface.PrintLine(u"x"), RunTimeError);
+    fixture.surface.SetDestination({u"no such printer", u""});
+    CHECK_THROWS_AS(fixture.surface.PrintLine(u"x"), RunTimeError);
   }
   SUBCASE("no such folder") {
-    desk.surface.SetDestination({u"", u"/no such folder/x.pdf"});
-    desk.surface.PrintLine(u"x");
-    CHECK_THROWS_AS(desk.surface.EndDocument(), RunTimeError);
+    fixture.surface.SetDestination({u"", u"/no such folder/x.pdf"});
+    fixture.surface.PrintLine(u"x");
+    CHECK_THROWS_AS(fixture.surface.EndDocument(), RunTimeError);
   }
 }

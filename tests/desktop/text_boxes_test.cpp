@@ -11,7 +11,7 @@
 #include "adapters/qt/views/boxes/text_area_view.h"
 #include "adapters/qt/views/too_long_mark.h"
 #include "base/utf8.h"
-#include "tests/desktop/support/desk.h"
+#include "tests/desktop/support/fixture.h"
 
 using namespace tessara;
 using namespace tessara::test;
@@ -56,17 +56,17 @@ void PutCursorAtEnd(QPlainTextEdit& box) {
 }  // namespace
 
 TEST_CASE("Typed text reaches the form character by character") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  QTest::keyClicks(&Desk::Of("Text1"), "Ab");
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  QTest::keyClicks(&Fixture::Of("Text1"), "Ab");
   CHECK(form.lineBox.TextOf() == u"Ab");
   CHECK(form.log.Take() == "key A, change, key b, change");
 }
 
 TEST_CASE("Return in a box of several lines is CR LF, and deletes as one") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  auto& area = Desk::Of<QPlainTextEdit>("Text2");
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  auto& area = Fixture::Of<QPlainTextEdit>("Text2");
   QTest::keyClicks(&area, "a");
   QTest::keyClick(&area, Qt::Key_Return);
   QTest::keyClicks(&area, "b");
@@ -90,18 +90,18 @@ TEST_CASE("What the user does not touch stays to the last character") {
                       u"rat \xD83D\xDC00"};
   for (const Text& text : odd) {
     CAPTURE(ToUtf8(text));
-    Desk desk;
-    SampleForm& form = desk.ShowChild();
+    Fixture fixture;
+    SampleForm& form = fixture.ShowChild();
     form.areaBox.SetText(text);
     form.lineBox.SetText(text);
     CHECK(form.areaBox.TextOf() == text);
-    auto& area = Desk::Of<QPlainTextEdit>("Text2");
+    auto& area = Fixture::Of<QPlainTextEdit>("Text2");
     PutCursorAtEnd(area);
     QTest::keyClicks(&area, "x");
     CHECK(form.areaBox.TextOf() == text + u"x");
     QTest::keyClick(&area, Qt::Key_Backspace);
     CHECK(form.areaBox.TextOf() == text);
-    auto& line = Desk::Of<QLineEdit>("Text1");
+    auto& line = Fixture::Of<QLineEdit>("Text1");
     line.end(false);
     QTest::keyClicks(&line, "x");
     CHECK(form.lineBox.TextOf() == text + u"x");
@@ -111,10 +111,10 @@ TEST_CASE("What the user does not touch stays to the last character") {
 TEST_CASE("Characters of every script stay as they are on every way in") {
   const QString scripts =
       QStringLiteral("\u0416\u4E2D\u05D0e\u0301\U0001F400\uFEFF\uE001\u0915\u093F");
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  auto& line = Desk::Of<QLineEdit>("Text1");
-  auto& area = Desk::Of<QPlainTextEdit>("Text2");
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  auto& line = Fixture::Of<QLineEdit>("Text1");
+  auto& area = Fixture::Of<QPlainTextEdit>("Text2");
   SUBCASE("typed") {
     for (const char32_t character : scripts.toStdU32String()) {
       const QString typed = QStringView(QChar::fromUcs4(character)).toString();
@@ -145,12 +145,12 @@ TEST_CASE(
                              u"\u0915\u093F",
                              u"\xD83D\xDC68\u200D\xD83D\xDC69",
                              u"\u05E9\u05C1"};
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   for (const Text& character : characters) {
     CAPTURE(ToUtf8(character));
     for (TextBox* const box : {&form.lineBox, &form.areaBox}) {
-      QWidget& widget = Desk::Of(box == &form.lineBox ? "Text1" : "Text2");
+      QWidget& widget = Fixture::Of(box == &form.lineBox ? "Text1" : "Text2");
       box->SetText(u"a" + character);
       QTest::keyClick(&widget, Qt::Key_End);
       QTest::keyClick(&widget, Qt::Key_Left);
@@ -174,10 +174,10 @@ TEST_CASE(
 }
 
 TEST_CASE("A box whose text a save would cut is marked, and tells by how many characters") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   for (TextBox* const box : {&form.lineBox, &form.areaBox}) {
-    QWidget& widget = Desk::Of(box == &form.lineBox ? "Text1" : "Text2");
+    QWidget& widget = Fixture::Of(box == &form.lineBox ? "Text1" : "Text2");
     box->charactersCut = [](const Text& text) {
       return text.size() - std::min<std::size_t>(text.size(), 3);
     };
@@ -205,9 +205,9 @@ TEST_CASE("A box whose text a save would cut is marked, and tells by how many ch
 }
 
 TEST_CASE("A corrected paste can be undone") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  auto& area = Desk::Of<QPlainTextEdit>("Text2");
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  auto& area = Fixture::Of<QPlainTextEdit>("Text2");
   form.areaBox.SetMaxLength(2);
   QTest::keyClicks(&area, "a");
   Paste(area, QStringLiteral("\u4E2Db"));
@@ -217,15 +217,15 @@ TEST_CASE("A corrected paste can be undone") {
 }
 
 TEST_CASE("Undo takes back typing and a corrected paste, and redo brings them again") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   struct Kind {
     const char* name;
     TextBox& box;
   };
   for (const Kind& kind : {Kind{"Text1", form.lineBox}, Kind{"Text2", form.areaBox}}) {
     CAPTURE(kind.name);
-    QWidget& widget = Desk::Of(kind.name);
+    QWidget& widget = Fixture::Of(kind.name);
     kind.box.SetMaxLength(4);
     QTest::keyClicks(&widget, "ac");
     Paste(widget, QStringLiteral("\u4E2Dbd"));
@@ -239,10 +239,10 @@ TEST_CASE("Undo takes back typing and a corrected paste, and redo brings them ag
 }
 
 TEST_CASE("What was typed over the limit is not in the way of an undo") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   form.lineBox.SetMaxLength(3);
-  auto& line = Desk::Of<QLineEdit>("Text1");
+  auto& line = Fixture::Of<QLineEdit>("Text1");
   QTest::keyClicks(&line, "ad");
   QTest::keyClick(&line, Qt::Key_Left);
   QTest::keyClicks(&line, "bcc");
@@ -254,13 +254,13 @@ TEST_CASE("What was typed over the limit is not in the way of an undo") {
 }
 
 TEST_CASE("Composed text reaches the form when it is committed") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  auto& area = Desk::Of<QPlainTextEdit>("Text2");
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  auto& area = Fixture::Of<QPlainTextEdit>("Text2");
   for (const char* name : {"Text1", "Text2"}) {
     CAPTURE(name);
     TextBox& box = name == std::string("Text1") ? form.lineBox : form.areaBox;
-    QWidget& widget = Desk::Of(name);
+    QWidget& widget = Fixture::Of(name);
     QTest::keyClicks(&widget, "a");
     form.log.Take();
     Compose(widget, "e");
@@ -285,9 +285,9 @@ TEST_CASE("Composed text reaches the form when it is committed") {
 TEST_CASE("Pasted lines keep their breaks, whatever they are made of") {
   for (const char* lines : {"one\ntwo\n", "one\r\ntwo\r\n", "one\rtwo\r"}) {
     CAPTURE(lines);
-    Desk desk;
-    SampleForm& form = desk.ShowChild();
-    auto& area = Desk::Of<QPlainTextEdit>("Text2");
+    Fixture fixture;
+    SampleForm& form = fixture.ShowChild();
+    auto& area = Fixture::Of<QPlainTextEdit>("Text2");
     Paste(area, lines);
     CHECK(form.areaBox.TextOf() == u"one\r\ntwo\r\n");
     CHECK(area.blockCount() == 3);
@@ -314,15 +314,15 @@ TEST_CASE("A paste of nothing leaves a box as it is") {
     for (const char* name : {"Text1", "Text2"}) {
       CAPTURE(way.name);
       CAPTURE(name);
-      Desk desk;
-      SampleForm& form = desk.ShowChild();
+      Fixture fixture;
+      SampleForm& form = fixture.ShowChild();
       TextBox& box = name == std::string("Text1") ? form.lineBox : form.areaBox;
       box.SetText(u"kept");
       QClipboard& clipboard = *QApplication::clipboard();
       clipboard.setMimeData(new QMimeData);
       if (clipboard.supportsSelection())
         clipboard.setMimeData(new QMimeData, QClipboard::Selection);
-      way.paste(Desk::Of(name));
+      way.paste(Fixture::Of(name));
       CHECK(box.TextOf() == u"kept");
     }
   }
@@ -331,21 +331,21 @@ TEST_CASE("A paste of nothing leaves a box as it is") {
 TEST_CASE("What is pasted is plain text, whatever else it comes as") {
   for (const char* format : {"text/markdown", "text/html"}) {
     CAPTURE(format);
-    Desk desk;
-    SampleForm& form = desk.ShowChild();
+    Fixture fixture;
+    SampleForm& form = fixture.ShowChild();
     auto* offered = new QMimeData;
     offered->setData(format, "# <b>marked</b>");
     offered->setText("# plain");
     QApplication::clipboard()->setMimeData(offered);
-    QTest::keySequence(&Desk::Of("Text2"), QKeySequence::Paste);
+    QTest::keySequence(&Fixture::Of("Text2"), QKeySequence::Paste);
     CHECK(form.areaBox.TextOf() == u"# plain");
   }
 }
 
 TEST_CASE("A lowered limit cuts nothing, and keeps more from coming in") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  auto& line = Desk::Of<QLineEdit>("Text1");
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  auto& line = Fixture::Of<QLineEdit>("Text1");
   form.lineBox.SetText(u"12345");
   form.lineBox.SetMaxLength(3);
   CHECK(line.text() == "12345");
@@ -359,9 +359,9 @@ TEST_CASE("A lowered limit cuts nothing, and keeps more from coming in") {
 }
 
 TEST_CASE("What goes over the limit is the end of what was pasted") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  auto& area = Desk::Of<QPlainTextEdit>("Text2");
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  auto& area = Fixture::Of<QPlainTextEdit>("Text2");
   form.areaBox.SetMaxLength(4);
   form.areaBox.SetText(u"abc");
   QTextCursor cursor = area.textCursor();
@@ -373,39 +373,39 @@ TEST_CASE("What goes over the limit is the end of what was pasted") {
 }
 
 TEST_CASE("A box of one line takes what stands before a pasted line break") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  auto& line = Desk::Of<QLineEdit>("Text1");
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  auto& line = Fixture::Of<QLineEdit>("Text1");
   Paste(line, "one\ntwo");
   CHECK(form.lineBox.TextOf() == u"one");
   CHECK(line.text() == "one");
 }
 
 TEST_CASE("A text that a form assigns shows, and is not an edit of the user") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   form.areaBox.SetText(u"one\r\ntwo");
   CHECK(form.log.Take() == "change");
-  auto& area = Desk::Of<QPlainTextEdit>("Text2");
+  auto& area = Fixture::Of<QPlainTextEdit>("Text2");
   CHECK(area.blockCount() == 2);
   CHECK(area.toPlainText() == "one\ntwo");
 }
 
 TEST_CASE("A handler that rewrites the text has the last word") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   form.lineBox.onChange = [&form] { form.lineBox.SetText(u"fixed"); };
-  auto& line = Desk::Of<QLineEdit>("Text1");
+  auto& line = Fixture::Of<QLineEdit>("Text1");
   QTest::keyClicks(&line, "a");
   CHECK(line.text() == "fixed");
 }
 
 TEST_CASE("A locked box takes no text and can still be read") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   form.areaBox.SetText(u"text");
   form.areaBox.SetLocked(true);
-  auto& area = Desk::Of<QPlainTextEdit>("Text2");
+  auto& area = Fixture::Of<QPlainTextEdit>("Text2");
   QTest::keyClicks(&area, "x");
   CHECK(area.isReadOnly());
   CHECK(form.areaBox.TextOf() == u"text");
@@ -413,11 +413,11 @@ TEST_CASE("A locked box takes no text and can still be read") {
 }
 
 TEST_CASE("Tab leaves a box of several lines") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  Desk::Of("Text2").setFocus();
-  QTest::keyClick(&Desk::Of("Text2"), Qt::Key_Tab);
-  CHECK_FALSE(Desk::Of("Text2").hasFocus());
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  Fixture::Of("Text2").setFocus();
+  QTest::keyClick(&Fixture::Of("Text2"), Qt::Key_Tab);
+  CHECK_FALSE(Fixture::Of("Text2").hasFocus());
   CHECK(form.areaBox.TextOf().empty());
 }
 
@@ -438,11 +438,11 @@ TEST_CASE("Lines are counted as the box on screen wraps them, and without one") 
   SUBCASE("with words that only a dictionary finds") {
     for (int word = 0; word < 20; ++word) text += u"\u0E20\u0E32\u0E29\u0E32\u0E44\u0E17\u0E22";
   }
-  Desk desk;
-  desk.prepare = [&text](SampleForm& form) { form.areaBox.SetText(text + u"\r\n\r\nend"); };
-  const int unseen = desk.child->areaBox.LineCount();
-  SampleForm& form = desk.ShowChild();
-  auto& area = Desk::Of<QPlainTextEdit>("Text2");
+  Fixture fixture;
+  fixture.prepare = [&text](SampleForm& form) { form.areaBox.SetText(text + u"\r\n\r\nend"); };
+  const int unseen = fixture.child->areaBox.LineCount();
+  SampleForm& form = fixture.ShowChild();
+  auto& area = Fixture::Of<QPlainTextEdit>("Text2");
   int lines = 0;
   for (QTextBlock block = area.document()->begin(); block.isValid(); block = block.next()) {
     lines += block.layout()->lineCount();
@@ -456,12 +456,12 @@ TEST_CASE("Lines are counted as the box on screen wraps them, and without one") 
 }
 
 TEST_CASE("Undo and redo work in every box, redo by either of its keys") {
-  Desk desk;
-  desk.ShowChild();
+  Fixture fixture;
+  fixture.ShowChild();
   const std::pair<Qt::Key, Qt::KeyboardModifiers> redoKeys[] = {
       {Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier}, {Qt::Key_Y, Qt::ControlModifier}};
-  for (TextBox* box : {&desk.child->lineBox, &desk.child->areaBox}) {
-    QWidget& widget = Desk::Of(box->Name().c_str());
+  for (TextBox* box : {&fixture.child->lineBox, &fixture.child->areaBox}) {
+    QWidget& widget = Fixture::Of(box->Name().c_str());
     widget.setFocus();
     for (const auto& [key, modifiers] : redoKeys) {
       QTest::keyClicks(&widget, QStringLiteral("word"));

@@ -5,7 +5,7 @@
 #include <QTimer>
 #include <doctest/doctest.h>
 
-#include "tests/desktop/support/desk.h"
+#include "tests/desktop/support/fixture.h"
 
 using namespace tessara;
 using namespace tessara::test;
@@ -13,7 +13,7 @@ using namespace tessara::test;
 namespace {
 
 QMdiSubWindow& Sub(const char* name) {
-  return *qobject_cast<QMdiSubWindow*>(Desk::Top(name));
+  return *qobject_cast<QMdiSubWindow*>(Fixture::Top(name));
 }
 
 class PaintCount : public QObject {
@@ -30,190 +30,190 @@ class PaintCount : public QObject {
 }  // namespace
 
 TEST_CASE("A window is found by its name, its controls by theirs") {
-  Desk desk;
-  desk.ShowChild();
-  REQUIRE(Desk::Top("frmChild") != nullptr);
+  Fixture fixture;
+  fixture.ShowChild();
+  REQUIRE(Fixture::Top("frmChild") != nullptr);
   for (const char* name : {"Label1", "Text1", "Option1(1)", "Command1(0)", "List1", "Painting1"}) {
-    CHECK(Desk::Of(name).objectName() == name);
+    CHECK(Fixture::Of(name).objectName() == name);
   }
 }
 
 TEST_CASE("Every control that takes the focus has a name for screen readers") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   for (const Control* control : form.Controls()) {
     CAPTURE(control->Name());
-    QWidget& widget = Desk::Of(control->Name().c_str());
+    QWidget& widget = Fixture::Of(control->Name().c_str());
     if (!control->AccessibleName().empty()) {
       CHECK(widget.accessibleName() == ToQString(control->AccessibleName()));
     }
     if (!control->TakesFocus()) continue;
     CHECK_FALSE(QAccessible::queryAccessibleInterface(&widget)->text(QAccessible::Name).isEmpty());
   }
-  CHECK(Desk::Of("Label1").accessibleName() == "A & B <b>bold</b>");
+  CHECK(Fixture::Of("Label1").accessibleName() == "A & B <b>bold</b>");
 }
 
 TEST_CASE("A child's client area has the form's size, whatever the border") {
-  Desk desk;
-  desk.ShowChild();
+  Fixture fixture;
+  fixture.ShowChild();
   CHECK(Sub("frmChild").widget()->size() == QSize(400, 350));
-  desk.child->SetWidth(3120);
+  fixture.child->SetWidth(3120);
   CHECK(Sub("frmChild").widget()->width() == 200);
   CHECK(Sub("frmChild").minimumSize() == Sub("frmChild").maximumSize());
 }
 
 TEST_CASE("A child stands where the form says, and where the user moved it") {
-  Desk desk;
-  desk.ShowChild();
-  desk.child->SetLeft(1500);
-  desk.child->SetTop(1500);
+  Fixture fixture;
+  fixture.ShowChild();
+  fixture.child->SetLeft(1500);
+  fixture.child->SetTop(1500);
   const QPoint client = Sub("frmChild").mapToParent(Sub("frmChild").widget()->pos());
   CHECK(client.x() == 100 + 4);
   Sub("frmChild").move(Sub("frmChild").pos() + QPoint(20, 10));
-  CHECK(desk.child->Left() == 1800);
-  CHECK(desk.child->Top() == 1650);
+  CHECK(fixture.child->Left() == 1800);
+  CHECK(fixture.child->Top() == 1650);
 }
 
 TEST_CASE("A child has neither a minimise nor a maximise button") {
-  Desk desk;
-  desk.ShowChild();
+  Fixture fixture;
+  fixture.ShowChild();
   CHECK_FALSE(Sub("frmChild").windowFlags().testFlag(Qt::WindowMinimizeButtonHint));
   CHECK_FALSE(Sub("frmChild").windowFlags().testFlag(Qt::WindowMaximizeButtonHint));
   CHECK(Sub("frmChild").windowFlags().testFlag(Qt::WindowCloseButtonHint));
 }
 
 TEST_CASE("The close box asks the form, which may refuse") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   form.refusesToGo = true;
   Sub("frmChild").close();
   CHECK(Sub("frmChild").isVisible());
   form.refusesToGo = false;
   Sub("frmChild").close();
-  CHECK(Desk::Top("frmChild") == nullptr);
+  CHECK(Fixture::Top("frmChild") == nullptr);
 }
 
 TEST_CASE("Closing the frame asks the form and ends the program") {
-  Desk desk;
-  desk.ShowChild();
-  Desk::Top("MDIForm1")->close();
-  CHECK(desk.windows.ExitStatus() == 0);
-  CHECK_FALSE(desk.child.IsLoaded());
+  Fixture fixture;
+  fixture.ShowChild();
+  Fixture::Top("MDIForm1")->close();
+  CHECK(fixture.windows.ExitStatus() == 0);
+  CHECK_FALSE(fixture.child.IsLoaded());
 }
 
 TEST_CASE("Titles are shown as they stand") {
-  Desk desk;
-  desk.ShowChild();
-  desk.child->SetCaption(u"deck[*] <b>&x</b>");
+  Fixture fixture;
+  fixture.ShowChild();
+  fixture.child->SetCaption(u"deck[*] <b>&x</b>");
   CHECK(Sub("frmChild").windowTitle() == "deck[*][*] <b>&x</b>");
 }
 
 TEST_CASE("The window that the user clicks becomes the active one") {
-  Desk desk;
-  desk.ShowChild();
-  desk.other->Show();
-  Desk::Settle();
-  QMdiArea& area = *Desk::Top("MDIForm1")->findChild<QMdiArea*>();
+  Fixture fixture;
+  fixture.ShowChild();
+  fixture.other->Show();
+  Fixture::Settle();
+  QMdiArea& area = *Fixture::Top("MDIForm1")->findChild<QMdiArea*>();
   CHECK(area.activeSubWindow() == &Sub("frmOther"));
   area.setActiveSubWindow(&Sub("frmChild"));
-  CHECK(desk.windows.ActiveForm()->Name() == "frmChild");
+  CHECK(fixture.windows.ActiveForm()->Name() == "frmChild");
 }
 
 TEST_CASE("A click on a disabled window leaves the window in front that has disabled it") {
-  Desk desk;
-  desk.ShowChild();
-  desk.other->Show();
-  desk.child->SetEnabled(false);
-  Desk::Settle();
-  QMdiArea& area = *Desk::Top("MDIForm1")->findChild<QMdiArea*>();
+  Fixture fixture;
+  fixture.ShowChild();
+  fixture.other->Show();
+  fixture.child->SetEnabled(false);
+  Fixture::Settle();
+  QMdiArea& area = *Fixture::Top("MDIForm1")->findChild<QMdiArea*>();
   QTest::mouseClick(&Sub("frmChild"), Qt::LeftButton, {}, {60, 8});
   CHECK(area.activeSubWindow() == &Sub("frmOther"));
-  CHECK(desk.windows.ActiveForm()->Name() == "frmOther");
-  desk.child->SetEnabled(true);
+  CHECK(fixture.windows.ActiveForm()->Name() == "frmOther");
+  fixture.child->SetEnabled(true);
   QTest::mouseClick(&Sub("frmChild"), Qt::LeftButton, {}, {60, 8});
-  CHECK(desk.windows.ActiveForm()->Name() == "frmChild");
+  CHECK(fixture.windows.ActiveForm()->Name() == "frmChild");
 }
 
 TEST_CASE("Hiding the active window makes the next one active on screen too") {
-  Desk desk;
-  desk.ShowChild();
-  desk.other->Show();
-  desk.other->Hide();
-  QMdiArea& area = *Desk::Top("MDIForm1")->findChild<QMdiArea*>();
-  CHECK(desk.windows.ActiveForm()->Name() == "frmChild");
+  Fixture fixture;
+  fixture.ShowChild();
+  fixture.other->Show();
+  fixture.other->Hide();
+  QMdiArea& area = *Fixture::Top("MDIForm1")->findChild<QMdiArea*>();
+  CHECK(fixture.windows.ActiveForm()->Name() == "frmChild");
   CHECK(area.activeSubWindow() == &Sub("frmChild"));
-  desk.other->Show();
+  fixture.other->Show();
   CHECK(area.activeSubWindow() == &Sub("frmOther"));
-  CHECK(desk.windows.ActiveForm()->Name() == "frmOther");
+  CHECK(fixture.windows.ActiveForm()->Name() == "frmOther");
 }
 
 TEST_CASE("Clicks and moves beside the controls are the form's, on the backdrop the frame's") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   QWidget& client = *Sub("frmChild").widget();
   QTest::mouseClick(&client, Qt::LeftButton, {}, {390, 340});
   CHECK(form.log.Take() == "form");
   QTest::mouseMove(&client, {380, 330});
   CHECK(form.log.Take() == "move");
-  QWidget& backdrop = *Desk::Top("MDIForm1")->findChild<QMdiArea*>()->viewport();
+  QWidget& backdrop = *Fixture::Top("MDIForm1")->findChild<QMdiArea*>()->viewport();
   QTest::mouseClick(&backdrop, Qt::LeftButton, {}, {700, 550});
-  CHECK(desk.frame->log.Take() == "frame");
+  CHECK(fixture.frame->log.Take() == "frame");
 }
 
 TEST_CASE("A click on a disabled control is nobody's") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   form.deleteButton.SetEnabled(false);
-  QTest::mouseClick(&Desk::Of("Command2"), Qt::LeftButton);
+  QTest::mouseClick(&Fixture::Of("Command2"), Qt::LeftButton);
   CHECK(form.log.Take().empty());
 }
 
 TEST_CASE("A modal window returns when it is unloaded, and keeps the user out of the others") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   QTimer::singleShot(0, [&] {
-    CHECK(Desk::Top("frmDialog")->isModal());
+    CHECK(Fixture::Top("frmDialog")->isModal());
     form.deleteButton.Press();
     CHECK(form.log.Take().empty());
-    QTest::keyClick(Desk::Top("frmDialog"), Qt::Key_F4, Qt::ControlModifier);
+    QTest::keyClick(Fixture::Top("frmDialog"), Qt::Key_F4, Qt::ControlModifier);
   });
-  desk.windows.Run([&desk] { desk.dialog->Show(Modality::kModal); });
-  CHECK_FALSE(desk.dialog.IsLoaded());
+  fixture.windows.Run([&fixture] { fixture.dialog->Show(Modality::kModal); });
+  CHECK_FALSE(fixture.dialog.IsLoaded());
 }
 
 TEST_CASE("A window without modality lets the others work") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
-  desk.dialog->Show();
-  CHECK_FALSE(Desk::Top("frmDialog")->isModal());
-  QTest::mouseClick(&Desk::Of("Command2"), Qt::LeftButton);
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  fixture.dialog->Show();
+  CHECK_FALSE(Fixture::Top("frmDialog")->isModal());
+  QTest::mouseClick(&Fixture::Of("Command2"), Qt::LeftButton);
   CHECK(form.log.Take() == "lost focus, delete");
 }
 
 TEST_CASE("The window behind a dialog becomes the active one when the user turns to it, and back") {
-  Desk desk;
-  desk.ShowChild();
-  desk.dialog->Show();
+  Fixture fixture;
+  fixture.ShowChild();
+  fixture.dialog->Show();
   for (const char* name : {"frmDialog", "MDIForm1", "frmDialog"}) {
     CAPTURE(name);
-    Desk::Top(name)->activateWindow();
-    REQUIRE(QTest::qWaitFor([&] { return QApplication::activeWindow() == Desk::Top(name); }));
-    const std::string active = desk.windows.ActiveForm()->Name();
+    Fixture::Top(name)->activateWindow();
+    REQUIRE(QTest::qWaitFor([&] { return QApplication::activeWindow() == Fixture::Top(name); }));
+    const std::string active = fixture.windows.ActiveForm()->Name();
     CHECK((active == "frmChild") == (name == std::string("MDIForm1")));
   }
 }
 
 TEST_CASE("The frame's client area is told in twips") {
-  Desk desk;
-  const QMdiArea& area = *Desk::Top("MDIForm1")->findChild<QMdiArea*>();
-  CHECK(desk.renderer.FrameScaleWidth() == area.viewport()->width() * 15);
-  CHECK(desk.renderer.FrameScaleHeight() == area.viewport()->height() * 15);
+  Fixture fixture;
+  const QMdiArea& area = *Fixture::Top("MDIForm1")->findChild<QMdiArea*>();
+  CHECK(fixture.renderer.FrameScaleWidth() == area.viewport()->width() * 15);
+  CHECK(fixture.renderer.FrameScaleHeight() == area.viewport()->height() * 15);
 }
 
 TEST_CASE("The backdrop shows the pictures painted on the frame") {
-  Desk desk;
-  desk.frame->SetPicture({{{"backdrops/DEFAULT.jpg", 96, 96}, 96, 0}});
-  const QWidget& backdrop = *Desk::Top("MDIForm1")->findChild<QMdiArea*>()->viewport();
+  Fixture fixture;
+  fixture.frame->SetPicture({{{"backdrops/DEFAULT.jpg", 96, 96}, 96, 0}});
+  const QWidget& backdrop = *Fixture::Top("MDIForm1")->findChild<QMdiArea*>()->viewport();
   const QImage shown = const_cast<QWidget&>(backdrop).grab().toImage();
   const QImage tile(TESSARA_TEST_PICTURES "/backdrops/DEFAULT.jpg");
   CHECK(shown.pixelColor(96 + 40, 40) == tile.pixelColor(40, 40));
@@ -221,23 +221,23 @@ TEST_CASE("The backdrop shows the pictures painted on the frame") {
 }
 
 TEST_CASE("An error that a handler lets out is reported and ends the program") {
-  Desk desk;
-  SampleForm& form = desk.ShowChild();
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
   form.deleteButton.onClick = [&form] { form.options[7].SetSelected(true); };
-  QTest::mouseClick(&Desk::Of("Command2"), Qt::LeftButton);
-  REQUIRE(desk.messages.shown.size() == 1);
-  CHECK(desk.messages.shown[0].text.starts_with(u"Run-time error '340':"));
-  CHECK(desk.windows.ExitStatus() == 1);
+  QTest::mouseClick(&Fixture::Of("Command2"), Qt::LeftButton);
+  REQUIRE(fixture.messages.shown.size() == 1);
+  CHECK(fixture.messages.shown[0].text.starts_with(u"Run-time error '340':"));
+  CHECK(fixture.windows.ExitStatus() == 1);
 }
 
 TEST_CASE("Waiting for a window to be seen lasts until it has been painted") {
-  Desk desk;
-  desk.dialog->Show();
+  Fixture fixture;
+  fixture.dialog->Show();
   PaintCount paints;
-  Desk::Of("Painting1", "frmDialog").installEventFilter(&paints);
+  Fixture::Of("Painting1", "frmDialog").installEventFilter(&paints);
   QElapsedTimer time;
   time.start();
-  desk.renderer.WaitUntilSeen(*desk.dialog.operator->());
+  fixture.renderer.WaitUntilSeen(*fixture.dialog.operator->());
   constexpr int kLongestWait = 200;
   CHECK((paints.count > 0 || time.elapsed() >= kLongestWait));
 }

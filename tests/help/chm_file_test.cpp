@@ -7,7 +7,7 @@
 
 #include "adapters/qt/help/help_book.h"
 #include "adapters/qt/help/show_help_contents.h"
-#include "tests/help/help_desk.h"
+#include "tests/help/help_fixture.h"
 
 namespace tessara::test {
 

@@ -4,7 +4,7 @@
 #include <doctest/doctest.h>
 
 #include "adapters/qt/help/help_book.h"
-#include "tests/help/help_desk.h"
+#include "tests/help/help_fixture.h"
 
 namespace tessara::test {
 

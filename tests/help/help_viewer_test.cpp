@@ -15,7 +15,7 @@
 #include "adapters/qt/help/help_page.h"
 #include "adapters/qt/help/show_help_contents.h"
 #include "base/utf8.h"
-#include "tests/help/help_desk.h"
+#include "tests/help/help_fixture.h"
 
 namespace tessara::test {
 

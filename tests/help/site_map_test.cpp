@@ -2,7 +2,7 @@
 
 #include <doctest/doctest.h>
 
-#include "tests/help/help_desk.h"
+#include "tests/help/help_fixture.h"
 
 namespace tessara::test {
 

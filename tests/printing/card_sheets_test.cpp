@@ -2,7 +2,7 @@
 #include <cmath>
 #include <doctest/doctest.h>
 
-#include "tests/printing/office_desk.h"
+#include "tests/printing/office_fixture.h"
 #include "tests/printing/server_processes.h"
 #include "tests/printing/sheet_checks.h"
 
@@ -11,7 +11,7 @@ namespace {
 
 using test::CheckSheets;
 using test::kTolerance;
-using test::OfficeDesk;
+using test::OfficeFixture;
 using test::PrintedPage;
 using test::PrintedWord;
 
@@ -27,9 +27,9 @@ TEST_CASE("every back lies behind its front when the sheet is turned") {
   for (const Case& c : cases) {
     CAPTURE(c.cards);
     CAPTURE(c.flip);
-    OfficeDesk desk(c.cards);
-    REQUIRE(desk.Print(c.flip) == "PRINT");
-    const std::vector<PrintedPage> pages = desk.Pages();
+    OfficeFixture fixture(c.cards);
+    REQUIRE(fixture.Print(c.flip) == "PRINT");
+    const std::vector<PrintedPage> pages = fixture.Pages();
     CheckSheets(pages, c.cards, c.flip);
     const bool full = c.cards % 8 == 0;
     CHECK(pages[pages.size() / 2 - 1].Has("ALL SELECTED CARDS PRINTED") != full);
@@ -41,15 +41,15 @@ TEST_CASE("every back lies behind its front when the sheet is turned") {
 }
 
 TEST_CASE("a full deck fills 25 sheets") {
-  OfficeDesk desk(200);
-  REQUIRE(desk.Print() == "PRINT");
-  CheckSheets(desk.Pages(), 200, false);
+  OfficeFixture fixture(200);
+  REQUIRE(fixture.Print() == "PRINT");
+  CheckSheets(fixture.Pages(), 200, false);
 }
 
 TEST_CASE("all copies of a job are in one file, in the order of their printing") {
-  OfficeDesk desk(3);
-  REQUIRE(desk.Print(false, 2) == "PRINT");
-  const std::vector<PrintedPage> pages = desk.Pages();
+  OfficeFixture fixture(3);
+  REQUIRE(fixture.Print(false, 2) == "PRINT");
+  const std::vector<PrintedPage> pages = fixture.Pages();
   REQUIRE(pages.size() == 4);
   CHECK(pages[0].Has("F1"));
   CHECK_FALSE(pages[0].Has("B1"));
@@ -84,12 +84,12 @@ TEST_CASE("the cells show the texts as they stand, but for the prefix of a text"
       {u"1e3", "1e3"},
   };
   constexpr int kCases = static_cast<int>(std::size(cases));
-  OfficeDesk desk(kCases);
+  OfficeFixture fixture(kCases);
   for (int row = 1; row <= kCases; ++row) {
-    desk.SetCard(row, cases[row - 1].text, u"B" + DecimalText(row));
+    fixture.SetCard(row, cases[row - 1].text, u"B" + DecimalText(row));
   }
-  REQUIRE(desk.Print() == "PRINT");
-  const std::vector<PrintedPage> pages = desk.Pages();
+  REQUIRE(fixture.Print() == "PRINT");
+  const std::vector<PrintedPage> pages = fixture.Pages();
   for (int row = 0; row < kCases; ++row) {
     const PrintedPage& page = pages[static_cast<std::size_t>(row / 8)];
     INFO(std::string(cases[row].shown), " in ", page.Text());
@@ -98,10 +98,10 @@ TEST_CASE("the cells show the texts as they stand, but for the prefix of a text"
 }
 
 TEST_CASE("a line break in a text is one on the card") {
-  OfficeDesk desk(1);
-  desk.SetCard(1, u"above\r\nbelow\r\n\r\nlast", u"B1");
-  REQUIRE(desk.Print() == "PRINT");
-  const PrintedPage page = desk.Pages().front();
+  OfficeFixture fixture(1);
+  fixture.SetCard(1, u"above\r\nbelow\r\n\r\nlast", u"B1");
+  REQUIRE(fixture.Print() == "PRINT");
+  const PrintedPage page = fixture.Pages().front();
   const double first = page.Word("above").top;
   const double line = page.Word("below").top - first;
   CHECK(line > 3);
@@ -110,10 +110,10 @@ TEST_CASE("a line break in a text is one on the card") {
 }
 
 TEST_CASE("a tab in a text is four blanks on the card") {
-  OfficeDesk desk(1);
-  desk.SetCard(1, u"left\tright\r\nleft2    right2", u"B1");
-  REQUIRE(desk.Print() == "PRINT");
-  const PrintedPage page = desk.Pages().front();
+  OfficeFixture fixture(1);
+  fixture.SetCard(1, u"left\tright\r\nleft2    right2", u"B1");
+  REQUIRE(fixture.Print() == "PRINT");
+  const PrintedPage page = fixture.Pages().front();
   const double tab = page.Word("right").left - page.Word("left").right;
   const double blanks = page.Word("right2").left - page.Word("left2").right;
   CHECK(tab > 3);
@@ -125,10 +125,10 @@ TEST_CASE(
   constexpr double kFirstRowCenter = -103.75;
   Text lines = u"first";
   for (int line = 2; line <= 20; ++line) lines += u"\r\nline" + DecimalText(line);
-  OfficeDesk desk(8);
-  desk.SetCard(1, lines, u"B1");
-  REQUIRE(desk.Print() == "PRINT");
-  const PrintedPage page = desk.Pages().front();
+  OfficeFixture fixture(8);
+  fixture.SetCard(1, lines, u"B1");
+  REQUIRE(fixture.Print() == "PRINT");
+  const PrintedPage page = fixture.Pages().front();
   const double middle = page.height / 2 + kFirstRowCenter;
   const double top = middle - kCardHeight / 2;
   CHECK(page.Word("first").top >= top - kTolerance);
@@ -147,10 +147,10 @@ Text LongestText() {
 }
 
 TEST_CASE("the longest text fits its card on both sides") {
-  OfficeDesk desk(8);
-  for (int row = 1; row <= 8; ++row) desk.SetCard(row, LongestText(), LongestText());
-  REQUIRE(desk.Print() == "PRINT");
-  for (const PrintedPage& page : desk.Pages()) {
+  OfficeFixture fixture(8);
+  for (int row = 1; row <= 8; ++row) fixture.SetCard(row, LongestText(), LongestText());
+  REQUIRE(fixture.Print() == "PRINT");
+  for (const PrintedPage& page : fixture.Pages()) {
     const auto ends = std::count_if(page.words.begin(), page.words.end(),
                                     [](const PrintedWord& w) { return w.text.ends_with('.'); });
     CHECK(ends == 8);
@@ -169,13 +169,13 @@ TEST_CASE("the longest text fits its card on both sides") {
 }
 
 TEST_CASE("nothing is printed nearer to an edge than printers reach, on A4 and on Letter") {
-  OfficeDesk desk(8);
-  for (int row = 1; row <= 8; ++row) desk.SetCard(row, LongestText(), LongestText());
-  REQUIRE(desk.Print() == "PRINT");
+  OfficeFixture fixture(8);
+  for (int row = 1; row <= 8; ++row) fixture.SetCard(row, LongestText(), LongestText());
+  REQUIRE(fixture.Print() == "PRINT");
   constexpr double kLetterWidth = 215.9;
   constexpr double kLetterHeight = 279.4;
   constexpr double kUnprintable = 6;
-  for (const PrintedPage& page : desk.Pages()) {
+  for (const PrintedPage& page : fixture.Pages()) {
     const double across = std::min(page.width, kLetterWidth) / 2 - kUnprintable;
     const double down = std::min(page.height, kLetterHeight) / 2 - kUnprintable;
     for (const PrintedWord& word : page.words) {
@@ -192,15 +192,15 @@ TEST_CASE("a text of any characters that a deck can hold prints") {
   for (char16_t character = 0; character < u' '; ++character) controls += character;
   const Text texts[] = {controls, u"\x7f\x80\x9f\xad\xa0", u"'", u" ", u"\r\n"};
   constexpr int kTexts = static_cast<int>(std::size(texts));
-  OfficeDesk desk(kTexts);
-  for (int row = 1; row <= kTexts; ++row) desk.SetCard(row, texts[row - 1], texts[row - 1]);
-  CHECK(desk.Print() == "PRINT");
-  CHECK(desk.Pages().size() == 2);
+  OfficeFixture fixture(kTexts);
+  for (int row = 1; row <= kTexts; ++row) fixture.SetCard(row, texts[row - 1], texts[row - 1]);
+  CHECK(fixture.Print() == "PRINT");
+  CHECK(fixture.Pages().size() == 2);
 }
 
 TEST_CASE("a job leaves no server and no file behind") {
-  OfficeDesk desk(1);
-  REQUIRE(desk.Print() == "PRINT");
+  OfficeFixture fixture(1);
+  REQUIRE(fixture.Print() == "PRINT");
   CHECK(test::ServerProcesses().empty());
   CHECK(test::FilesLeftBehind().empty());
 }

@@ -7,13 +7,13 @@
 
 #include "base/run_time_error.h"
 #include "base/utf8.h"
-#include "tests/printing/office_desk.h"
+#include "tests/printing/office_fixture.h"
 #include "tests/printing/server_processes.h"
 
 namespace tessara {
 namespace {
 
-using test::OfficeDesk;
+using test::OfficeFixture;
 using test::ServerProcesses;
 
 /// In how short a time the program must be usable again, whatever the server does.
@@ -84,18 +84,18 @@ TEST_CASE("a job whose server dies before any operation ends as told, and the ne
       {"print", "Cancel Printing"},
       {"close", "PRINT"},
   };
-  OfficeDesk desk(1);
+  OfficeFixture fixture(1);
   for (const Case& c : cases) {
     CAPTURE(c.operation);
-    desk.server.before = [&](const std::string& operation) {
+    fixture.server.before = [&](const std::string& operation) {
       if (operation == c.operation) SignalServers(SIGKILL);
     };
-    CHECK(desk.Print() == c.title);
+    CHECK(fixture.Print() == c.title);
     CHECK(ServerProcesses().empty());
   }
-  desk.server.before = [](const std::string&) {};
-  CHECK(desk.Print() == "PRINT");
-  CHECK(desk.Pages().size() == 2);
+  fixture.server.before = [](const std::string&) {};
+  CHECK(fixture.Print() == "PRINT");
+  CHECK(fixture.Pages().size() == 2);
   CHECK(test::FilesLeftBehind().empty());
 }
 
@@ -120,35 +120,35 @@ TEST_CASE(
         [&] { CheckRefused([&] { open.printedSheet->PrintOut(); }); },
         [&] { open.closed->Close(); },
     };
-    OfficeDesk desk(1);
+    OfficeFixture fixture(1);
     // All at once, and a whole job beside them, so that they share the wait.
     std::vector<std::jthread> waiting;
     auto start = std::chrono::steady_clock::now();
-    desk.fakes.messages.whileShown = [&](const test::FakeMessages::Shown& box) {
+    fixture.fakes.messages.whileShown = [&](const test::FakeMessages::Shown& box) {
       if (box.title != u"PRINT BACK") return;
       SignalServers(SIGSTOP);
       start = std::chrono::steady_clock::now();
       for (const auto& operation : operations) waiting.emplace_back(operation);
     };
-    CHECK(desk.Print() == "Cancel Printing");
+    CHECK(fixture.Print() == "Cancel Printing");
     waiting.clear();
     CHECK(std::chrono::steady_clock::now() - start < kLongest);
-    CHECK(desk.fakes.messages.shown.back().text == u"Printing was cancelled");
-    desk.fakes.messages.whileShown = nullptr;
-    CHECK(desk.Print() == "PRINT");
+    CHECK(fixture.fakes.messages.shown.back().text == u"Printing was cancelled");
+    fixture.fakes.messages.whileShown = nullptr;
+    CHECK(fixture.Print() == "PRINT");
   }
   CHECK(ServerProcesses().empty());
   CHECK(test::FilesLeftBehind().empty());
 }
 
 TEST_CASE("the sheets before a server's death stay in the PDF file") {
-  OfficeDesk desk(19);
-  desk.SetCard(19, u"F19\r\nbelow", u"B19");
-  desk.fakes.messages.whileShown = [](const test::FakeMessages::Shown& box) {
+  OfficeFixture fixture(19);
+  fixture.SetCard(19, u"F19\r\nbelow", u"B19");
+  fixture.fakes.messages.whileShown = [](const test::FakeMessages::Shown& box) {
     if (box.title == u"PRINT BACK") SignalServers(SIGKILL);
   };
-  CHECK(desk.Print() == "Cancel Printing");
-  const std::vector<test::PrintedPage> pages = desk.Pages();
+  CHECK(fixture.Print() == "Cancel Printing");
+  const std::vector<test::PrintedPage> pages = fixture.Pages();
   REQUIRE(pages.size() == 3);
   CHECK(pages[0].Has("F8"));
   CHECK(pages[1].Has("F16"));
@@ -204,18 +204,18 @@ TEST_CASE("a server that dies or hangs while it starts fails the job within 30 s
     CAPTURE(c.signal);
     CAPTURE(c.leftToSystem);
     const ChildrenLeftToSystem children(c.leftToSystem);
-    OfficeDesk desk(1);
+    OfficeFixture fixture(1);
     std::chrono::steady_clock::time_point start;
     std::thread hand([&] {
       kill(test::WaitForServer(), c.signal);
       start = std::chrono::steady_clock::now();
     });
-    const std::string title = desk.Print();
+    const std::string title = fixture.Print();
     hand.join();
     CHECK(title == "Error Printing Cards");
-    CHECK(desk.fakes.messages.shown.back().text ==
+    CHECK(fixture.fakes.messages.shown.back().text ==
           u"An unspecified printing error has occured. Ensure that the printer is ready.");
-    CHECK_FALSE(desk.window->print.Enabled());
+    CHECK_FALSE(fixture.window->print.Enabled());
     CHECK(std::chrono::steady_clock::now() - start < kLongest);
     CHECK(ServerProcesses().empty());
     CHECK(test::FilesLeftBehind().empty());

@@ -5,7 +5,7 @@
 #include <unistd.h>
 
 #include "adapters/libreoffice/loader/office_location.h"
-#include "tests/printing/office_desk.h"
+#include "tests/printing/office_fixture.h"
 #include "tests/printing/server_processes.h"
 #include "tests/support/wait_for.h"
 
@@ -58,14 +58,14 @@ class UsersOffice {
 
 TEST_CASE("the user's own LibreOffice and its document stay open, whatever becomes of a job") {
   const UsersOffice users;
-  test::OfficeDesk desk(1);
-  desk.server.before = [](const std::string& operation) {
+  test::OfficeFixture fixture(1);
+  fixture.server.before = [](const std::string& operation) {
     if (operation != "print") return;
     for (const pid_t process : test::ServerProcesses()) kill(process, SIGKILL);
   };
-  CHECK(desk.Print() == "Cancel Printing");
-  desk.server.before = [](const std::string&) {};
-  CHECK(desk.Print() == "PRINT");
+  CHECK(fixture.Print() == "Cancel Printing");
+  fixture.server.before = [](const std::string&) {};
+  CHECK(fixture.Print() == "PRINT");
   CHECK(users.Runs());
   CHECK(users.HasDocument());
 }

@@ -10,7 +10,7 @@
 
 #include "adapters/libreoffice/loader/loaded_spreadsheet.h"
 #include "base/utf8.h"
-#include "tests/printing/office_desk.h"
+#include "tests/printing/office_fixture.h"
 #include "tests/printing/server_processes.h"
 #include "tests/support/wait_for.h"
 
@@ -104,18 +104,18 @@ TEST_CASE("a program that ends takes the server that it has started ahead with i
 }
 
 TEST_CASE("a server that dies before the job costs the job nothing") {
-  test::OfficeDesk desk(1);
-  desk.office.Prepare(desk.machine.programFolder + u"/Notelet.xlt", kAtOnce);
+  test::OfficeFixture fixture(1);
+  fixture.office.Prepare(fixture.machine.programFolder + u"/Notelet.xlt", kAtOnce);
   kill(test::WaitForServer(), SIGKILL);
-  CHECK(desk.Print() == "PRINT");
-  CHECK(desk.Pages().size() == 2);
+  CHECK(fixture.Print() == "PRINT");
+  CHECK(fixture.Pages().size() == 2);
 }
 
 TEST_CASE("the print window starts the server, and closing it ends the server") {
-  test::OfficeDesk desk(1);
-  desk.window.Loaded();
+  test::OfficeFixture fixture(1);
+  fixture.window.Loaded();
   const pid_t ahead = test::WaitForServer();
-  desk.window->close.Press();
+  fixture.window->close.Press();
   WaitUntilGone(ahead);
 }
 

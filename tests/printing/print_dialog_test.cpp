@@ -10,7 +10,7 @@
 #include "base/run_time_error.h"
 #include "base/utf8.h"
 #include "machine/hourglass.h"
-#include "tests/printing/office_desk.h"
+#include "tests/printing/office_fixture.h"
 #include "tests/printing/print_server.h"
 #include "tests/printing/silent_system.h"
 #include "tests/support/environment_variable.h"
@@ -39,7 +39,7 @@ ShownDialog CancelPrinterDialog(QtDialogs& dialogs) {
 }
 
 /// The dialogs of one run of the program.
-struct DialogDesk {
+struct DialogFixture {
   PrintModuleSource printing{FromUtf8(PROGRAM_FOLDER)};
   QtDialogs dialogs{printing};
 };
@@ -50,36 +50,36 @@ bool OffersQueue(const ShownDialog& shown) {
 
 TEST_CASE(
     "where the printing system never answers the dialog comes soon, with the PDF file alone") {
-  DialogDesk desk;
+  DialogFixture fixture;
   {
     const test::ScratchFolder folder;
     const test::SilentSystem silent(folder / "socket");
     const test::EnvironmentVariable server("CUPS_SERVER", folder / "socket");
     const auto start = std::chrono::steady_clock::now();
-    const ShownDialog shown = CancelPrinterDialog(desk.dialogs);
+    const ShownDialog shown = CancelPrinterDialog(fixture.dialogs);
     CHECK(std::chrono::steady_clock::now() - start < std::chrono::seconds(30));
     CHECK(shown.printers.size() == 1);
     CHECK(shown.printers.join(u' ').contains("PDF"));
   }
   // It has come back to life.
-  CHECK(OffersQueue(CancelPrinterDialog(desk.dialogs)));
+  CHECK(OffersQueue(CancelPrinterDialog(fixture.dialogs)));
 }
 
 TEST_CASE("a printing system that never answers keeps no cards from getting into a PDF file") {
   const test::ScratchFolder folder;
   const test::SilentSystem silent(folder / "socket");
   const test::EnvironmentVariable server("CUPS_SERVER", folder / "socket");
-  test::OfficeDesk desk(1);
-  CHECK(desk.Print() == "PRINT");
-  CHECK(desk.Pages().size() == 2);
+  test::OfficeFixture fixture(1);
+  CHECK(fixture.Print() == "PRINT");
+  CHECK(fixture.Pages().size() == 2);
 }
 
 TEST_CASE(
     "while the printer dialog is open the pointer is plain, and then the wait pointer again") {
-  DialogDesk desk;
+  DialogFixture fixture;
   QtDesktop desktop(nullptr);
   const Hourglass waiting(desktop);
-  const ShownDialog shown = CancelPrinterDialog(desk.dialogs);
+  const ShownDialog shown = CancelPrinterDialog(fixture.dialogs);
   CHECK(OffersQueue(shown));
   CHECK(shown.plainPointer);
   REQUIRE(QApplication::overrideCursor() != nullptr);

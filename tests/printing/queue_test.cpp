@@ -15,7 +15,7 @@
 #include "adapters/qt/devices/qt_dialogs.h"
 #include "adapters/qt/text/qt_text.h"
 #include "base/utf8.h"
-#include "tests/printing/office_desk.h"
+#include "tests/printing/office_fixture.h"
 #include "tests/printing/print_server.h"
 #include "tests/printing/server_processes.h"
 #include "tests/printing/sheet_checks.h"
@@ -25,21 +25,21 @@
 namespace tessara {
 namespace {
 
-using test::OfficeDesk;
+using test::OfficeFixture;
 using test::PrintedJob;
 using test::PrintedPage;
 using test::PrintServer;
-using Mode = OfficeDesk::Mode;
+using Mode = OfficeFixture::Mode;
 
 /// The print window with the real dialog, server and surface.
-struct PaperDesk {
+struct PaperFixture {
   PrintModuleSource printing{FromUtf8(PROGRAM_FOLDER)};
   QtDialogs dialogs{printing};
   LazyPrintSurface printer{printing};
-  OfficeDesk office;
+  OfficeFixture office;
   PrintServer& queues = PrintServer::Instance();
 
-  explicit PaperDesk(int cards) : office(cards, {&dialogs, &printer}) {}
+  explicit PaperFixture(int cards) : office(cards, {&dialogs, &printer}) {}
 
   /// What the next printer dialog is answered: a queue or a file.
   static void Choose(const PrinterChoice& choice) {
@@ -87,32 +87,32 @@ std::vector<PrintedPage> PagesOf(const std::vector<PrintedJob>& jobs) {
 }
 
 TEST_CASE("what is printed on goes to a queue as the program counts on") {
-  PaperDesk desk(1);
+  PaperFixture fixture(1);
   const auto printed = [&](int count) {
     std::vector<int> pages;
     for (const PrintedJob& job :
-         desk.queues.TakeJobs(PrintServer::kQueue, static_cast<std::size_t>(count))) {
+         fixture.queues.TakeJobs(PrintServer::kQueue, static_cast<std::size_t>(count))) {
       pages.push_back(static_cast<int>(job.pages.size()));
     }
     return pages;
   };
-  test::CheckPrintQueueContract(desk.printer.Surface(), FromUtf8(PrintServer::kQueue), printed);
+  test::CheckPrintQueueContract(fixture.printer.Surface(), FromUtf8(PrintServer::kQueue), printed);
 }
 
 TEST_CASE("the printer dialog keeps to what the program counts on") {
-  PaperDesk desk(1);
+  PaperFixture fixture(1);
   const test::ScratchFolder folder;
   const auto answer = [](const std::optional<PrinterChoice>& choice) {
-    choice ? PaperDesk::Choose(*choice) : PaperDesk::Cancel();
+    choice ? PaperFixture::Choose(*choice) : PaperFixture::Cancel();
   };
-  test::CheckPrinterDialogContract(desk.dialogs, answer, FromUtf8(PrintServer::kQueue),
+  test::CheckPrinterDialogContract(fixture.dialogs, answer, FromUtf8(PrintServer::kQueue),
                                    folder.TextPath(u"cards.pdf"));
 }
 
 TEST_CASE("card sheets go to the queue chosen in the dialog, in the order of their printing") {
-  PaperDesk desk(17);
-  REQUIRE(desk.Print(PrintServer::kQueue, Mode::kFlip) == "PRINT");
-  const std::vector<PrintedPage> pages = PagesOf(desk.queues.TakeJobs(PrintServer::kQueue, 6));
+  PaperFixture fixture(17);
+  REQUIRE(fixture.Print(PrintServer::kQueue, Mode::kFlip) == "PRINT");
+  const std::vector<PrintedPage> pages = PagesOf(fixture.queues.TakeJobs(PrintServer::kQueue, 6));
   test::CheckSheets(pages, 17, true);
   const char* pageLines[] = {"Page 1 - Front VV", "Page 2 - Front VV", "Page 3 - Front VV",
                              "Page 1 - Back",     "Page 2 - Back",     "Page 3 - Back"};
@@ -122,9 +122,9 @@ TEST_CASE("card sheets go to the queue chosen in the dialog, in the order of the
 }
 
 TEST_CASE("copies of card sheets are printed again, and the queue's own settings move no card") {
-  PaperDesk desk(3);
-  REQUIRE(desk.Print(PrintServer::kOtherQueue, Mode::kCards, 2) == "PRINT");
-  const std::vector<PrintedJob> jobs = desk.queues.TakeJobs(PrintServer::kOtherQueue, 4);
+  PaperFixture fixture(3);
+  REQUIRE(fixture.Print(PrintServer::kOtherQueue, Mode::kCards, 2) == "PRINT");
+  const std::vector<PrintedJob> jobs = fixture.queues.TakeJobs(PrintServer::kOtherQueue, 4);
   for (const PrintedJob& job : jobs) {
     CHECK(job.copies == 1);
     CHECK(job.pages.size() == 1);
@@ -141,10 +141,10 @@ TEST_CASE("copies of card sheets are printed again, and the queue's own settings
 }
 
 TEST_CASE("each copy of a listing is a job on the chosen queue's own paper") {
-  PaperDesk desk(40);
-  desk.office.state.deck.title = u"Numbers";
-  REQUIRE(desk.Print(PrintServer::kOtherQueue, Mode::kFlat, 2) == "PRINT");
-  const std::vector<PrintedJob> jobs = desk.queues.TakeJobs(PrintServer::kOtherQueue, 2);
+  PaperFixture fixture(40);
+  fixture.office.state.deck.title = u"Numbers";
+  REQUIRE(fixture.Print(PrintServer::kOtherQueue, Mode::kFlat, 2) == "PRINT");
+  const std::vector<PrintedJob> jobs = fixture.queues.TakeJobs(PrintServer::kOtherQueue, 2);
   for (const PrintedJob& job : jobs) {
     CHECK(job.copies == 1);
     REQUIRE(job.pages.size() > 1);
@@ -158,48 +158,48 @@ TEST_CASE("each copy of a listing is a job on the chosen queue's own paper") {
 }
 
 TEST_CASE("settings that the user has named are chosen like a queue, and print on theirs") {
-  PaperDesk desk(3);
-  REQUIRE(desk.Print(PrintServer::kNamedSettings, Mode::kFlat) == "PRINT");
-  CHECK(desk.queues.TakeJobs(PrintServer::kQueue, 1).front().Has("number-up=2"));
-  REQUIRE(desk.Print(PrintServer::kNamedSettings, Mode::kCards) == "PRINT");
-  test::CheckSheets(PagesOf(desk.queues.TakeJobs(PrintServer::kQueue, 2)), 3, false);
+  PaperFixture fixture(3);
+  REQUIRE(fixture.Print(PrintServer::kNamedSettings, Mode::kFlat) == "PRINT");
+  CHECK(fixture.queues.TakeJobs(PrintServer::kQueue, 1).front().Has("number-up=2"));
+  REQUIRE(fixture.Print(PrintServer::kNamedSettings, Mode::kCards) == "PRINT");
+  test::CheckSheets(PagesOf(fixture.queues.TakeJobs(PrintServer::kQueue, 2)), 3, false);
 }
 
 TEST_CASE("a listing on its way to a queue makes no temporary file") {
-  PaperDesk desk(3);
+  PaperFixture fixture(3);
   const QByteArray before = qgetenv("TMPDIR");
   qputenv("TMPDIR", "/nowhere");
-  const std::string told = desk.Print(PrintServer::kQueue, Mode::kFlat);
+  const std::string told = fixture.Print(PrintServer::kQueue, Mode::kFlat);
   before.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", before);
   CHECK(told == "PRINT");
-  CHECK(desk.queues.TakeJobs(PrintServer::kQueue, 1).front().pages.size() == 1);
+  CHECK(fixture.queues.TakeJobs(PrintServer::kQueue, 1).front().pages.size() == 1);
 }
 
 TEST_CASE("queue and file can be chosen in turn") {
-  PaperDesk desk(3);
+  PaperFixture fixture(3);
   for (const char* queue : {PrintServer::kQueue, PrintServer::kOtherQueue}) {
     CAPTURE(queue);
-    REQUIRE(desk.PrintToFile(desk.office.PdfPath(), Mode::kFlat) == "PRINT");
-    CHECK(desk.office.Pages().size() == 1);
-    std::filesystem::remove(desk.office.PdfPath());
-    REQUIRE(desk.Print(queue, Mode::kFlat) == "PRINT");
-    CHECK(desk.queues.TakeJobs(queue, 1).front().pages.size() == 1);
-    CHECK_FALSE(std::filesystem::exists(desk.office.PdfPath()));
+    REQUIRE(fixture.PrintToFile(fixture.office.PdfPath(), Mode::kFlat) == "PRINT");
+    CHECK(fixture.office.Pages().size() == 1);
+    std::filesystem::remove(fixture.office.PdfPath());
+    REQUIRE(fixture.Print(queue, Mode::kFlat) == "PRINT");
+    CHECK(fixture.queues.TakeJobs(queue, 1).front().pages.size() == 1);
+    CHECK_FALSE(std::filesystem::exists(fixture.office.PdfPath()));
   }
 }
 
 TEST_CASE("a queue that takes no jobs cancels the job, and the next one prints elsewhere") {
-  PaperDesk desk(3);
+  PaperFixture fixture(3);
   // The listing first: its cancel stays set until a card job has ended, and keeps that one silent.
   for (const Mode mode : {Mode::kFlat, Mode::kCards}) {
     CAPTURE(static_cast<int>(mode));
-    CHECK(desk.Print(PrintServer::kRefusingQueue, mode) == "Cancel Printing");
-    CHECK(desk.office.fakes.messages.shown.back().text == u"Printing was cancelled");
+    CHECK(fixture.Print(PrintServer::kRefusingQueue, mode) == "Cancel Printing");
+    CHECK(fixture.office.fakes.messages.shown.back().text == u"Printing was cancelled");
     CHECK(test::ServerProcesses().empty());
     CHECK(test::FilesLeftBehind().empty());
   }
-  CHECK(desk.Print(PrintServer::kQueue, Mode::kCards) == "PRINT");
-  test::CheckSheets(PagesOf(desk.queues.TakeJobs(PrintServer::kQueue, 2)), 3, false);
+  CHECK(fixture.Print(PrintServer::kQueue, Mode::kCards) == "PRINT");
+  test::CheckSheets(PagesOf(fixture.queues.TakeJobs(PrintServer::kQueue, 2)), 3, false);
 }
 
 }  // namespace

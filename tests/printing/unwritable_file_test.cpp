@@ -4,13 +4,13 @@
 
 #include "adapters/qt/devices/lazy_print_surface.h"
 #include "base/utf8.h"
-#include "tests/printing/office_desk.h"
+#include "tests/printing/office_fixture.h"
 
 namespace tessara {
 namespace {
 
-using test::OfficeDesk;
-using Mode = OfficeDesk::Mode;
+using test::OfficeFixture;
+using Mode = OfficeFixture::Mode;
 
 /// A disk on which nothing finds room, where this system lets one be made.
 class FullDisk {
@@ -33,10 +33,10 @@ class FullDisk {
 };
 
 /// Cards and listings, each to the answered path.
-struct PdfDesk {
+struct PdfFixture {
   PrintModuleSource printing{FromUtf8(PROGRAM_FOLDER)};
   LazyPrintSurface printer{printing};
-  OfficeDesk office{1, {nullptr, &printer}};
+  OfficeFixture office{1, {nullptr, &printer}};
 
   void CheckCancelled(Mode mode, const std::string& path) {
     CAPTURE(path);
@@ -59,17 +59,17 @@ TEST_CASE("a PDF file that can't be written cancels the job, told once, and the 
   const std::string onFullDisk = folder / "full/cards.pdf";
   std::vector<std::string> paths{"/dev/full"};
   if (disk.Made()) paths.push_back(onFullDisk);
-  PdfDesk desk;
+  PdfFixture fixture;
   for (const std::string& path : paths) {
-    for (const Mode mode : {Mode::kCards, Mode::kFlat}) desk.CheckCancelled(mode, path);
+    for (const Mode mode : {Mode::kCards, Mode::kFlat}) fixture.CheckCancelled(mode, path);
   }
   for (const std::string path : {folder.Path(), folder / "none/listing.pdf"}) {
-    desk.CheckCancelled(Mode::kFlat, path);
+    fixture.CheckCancelled(Mode::kFlat, path);
   }
   CHECK_FALSE(std::filesystem::exists(onFullDisk));
   CHECK(std::filesystem::is_character_file("/dev/full"));
-  CHECK(desk.office.Print() == "PRINT BACK");  // the flag of the cancelled listing is still set
-  CHECK(desk.office.Pages().size() == 2);
+  CHECK(fixture.office.Print() == "PRINT BACK");  // the flag of the cancelled listing is still set
+  CHECK(fixture.office.Pages().size() == 2);
 }
 
 }  // namespace

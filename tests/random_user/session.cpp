@@ -46,7 +46,7 @@ void CloseOtherWindows() {
 }  // namespace
 
 Session::Session(Dice& dice, int steps, RandomUser::Tell tell)
-    : dice_(dice), stepsLeft_(steps), tell_(std::move(tell)), user_(dice, desk_.files, tell_) {}
+    : dice_(dice), stepsLeft_(steps), tell_(std::move(tell)), user_(dice, fixture_.files, tell_) {}
 
 void Session::Run() {
   StartAnew();
@@ -59,15 +59,15 @@ void Session::Run() {
   if (!Ended()) QApplication::exec();
   if (fault_.empty()) Check();
   tell_("-- the program has ended with " +
-        std::to_string(desk_.program.Windows().ExitStatus().value_or(-1)));
+        std::to_string(fixture_.program.Windows().ExitStatus().value_or(-1)));
   CloseOtherWindows();
 }
 
 void Session::Start() {
   QStringList decks = UserFiles::GoodDecks();
-  const QString deck = dice_.OneIn(3) ? QString() : desk_.files.PathOf(dice_.OneOf(decks));
+  const QString deck = dice_.OneIn(3) ? QString() : fixture_.files.PathOf(dice_.OneOf(decks));
   tell_("-- start " + deck.section(u'/', -1).toStdString());
-  desk_.program.Main(FromQString(deck));
+  fixture_.program.Main(FromQString(deck));
 }
 
 // It runs in whatever event loop waits: in a dialog's own, the steps before have not come to their
@@ -83,17 +83,17 @@ void Session::TakeStep() {
 
 void Session::Leave() {
   leaving_ = true;
-  desk_.program.Windows().EndProgram(1);
+  fixture_.program.Windows().EndProgram(1);
 }
 
 void Session::Check() {
-  desk_.story.choosesBackDrop |= desk_.program.Windows().ActiveForm() != nullptr &&
-                                 desk_.program.Windows().ActiveForm()->Name() == "FrmSetUp";
-  const std::size_t lost = leaving_ ? 0 : desk_.LostCards();
+  fixture_.story.choosesBackDrop |= fixture_.program.Windows().ActiveForm() != nullptr &&
+                                    fixture_.program.Windows().ActiveForm()->Name() == "FrmSetUp";
+  const std::size_t lost = leaving_ ? 0 : fixture_.LostCards();
   if (lost > 0) fault_ = std::to_string(lost) + " cards are lost";
-  const bool byError = Ended() && !leaving_ && desk_.program.Windows().ExitStatus() != 0;
-  if (byError && !IsRequiredEnd(desk_.story.lastBox, desk_.story)) {
-    fault_ = "the program has ended with \"" + desk_.story.lastBox + "\"";
+  const bool byError = Ended() && !leaving_ && fixture_.program.Windows().ExitStatus() != 0;
+  if (byError && !IsRequiredEnd(fixture_.story.lastBox, fixture_.story)) {
+    fault_ = "the program has ended with \"" + fixture_.story.lastBox + "\"";
   }
 }
 

@@ -24,12 +24,12 @@ class Session {
   void TakeStep();
   void Check();
   void Leave();
-  [[nodiscard]] bool Ended() { return desk_.program.Windows().ExitStatus().has_value(); }
+  [[nodiscard]] bool Ended() { return fixture_.program.Windows().ExitStatus().has_value(); }
 
   Dice& dice_;
   int stepsLeft_;
   RandomUser::Tell tell_;
-  UserProgram desk_;
+  UserProgram fixture_;
   RandomUser user_;
   std::string fault_;
   bool leaving_ = false;

@@ -2,9 +2,9 @@
 
 #include "tests/random_user/card_record.h"
 #include "tests/support/deck_bytes.h"
-#include "tests/support/disk_desk.h"
+#include "tests/support/disk_fixture.h"
 #include "tests/support/hostile_texts.h"
-#include "tests/support/program_desk.h"
+#include "tests/support/program_fixture.h"
 
 namespace tessara::test {
 
@@ -40,13 +40,13 @@ void UserFiles::WriteDecks() const {
   folder_.Write("birds.tsr", DeckBytes(3));
   folder_.Write("one.tsr", DeckBytes(1));
   folder_.Write("full.tsr", DeckBytes(kMostCards));
-  folder_.Write("truths.tsr", ProgramDesk::DeckBytes(4, u"T"));
+  folder_.Write("truths.tsr", ProgramFixture::DeckBytes(4, u"T"));
   folder_.Write("choices.tsr", Choices(5));
   folder_.Write("all choices.tsr", Choices(kMostCards));
   folder_.Write("hostile.tsr", DeckSaying(kHostileTexts[0], u"E"));
   folder_.Write("empty.tsr", "");
   folder_.Write("no cards.tsr", DeckBytes(0));
-  folder_.Write("odd letter.tsr", ProgramDesk::DeckBytes(2, u"Q"));
+  folder_.Write("odd letter.tsr", ProgramFixture::DeckBytes(2, u"Q"));
   folder_.Write("cut.tsr", DeckBytes(3).substr(0, 2 * kRecordSize + kLeastRecord - 1));
   folder_.Write("far row.tsr", InfoBytes({}) + CardBytes(300, u"front", u"back") + EndBytes());
 }

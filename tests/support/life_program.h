@@ -1,12 +1,12 @@
 #pragma once
 
-#include "tests/support/life_desk.h"
-#include "tests/support/program_desk.h"
+#include "tests/support/life_fixture.h"
+#include "tests/support/program_fixture.h"
 
 namespace tessara::test {
 
 /// The whole program for the lives of decks.
-struct LifeProgram : ProgramDesk {
+struct LifeProgram : ProgramFixture {
   Window<DeckWindow> deck = program.DeckWindowOf();
   Window<DeckInfoWindow> info = program.InfoWindow();
 

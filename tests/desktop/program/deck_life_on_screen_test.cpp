@@ -34,31 +34,31 @@ void WriteCard(TextView front, TextView back) {
 }  // namespace
 
 TEST_CASE("A deck is made, described, saved, closed, found again, changed and saved again") {
-  ProgramOnScreen desk;
-  desk.Start();
+  ProgramOnScreen fixture;
+  fixture.Start();
   WriteCard(u"Norway", u"Oslo");
   Describe(u"Capitals");
   InfoTexts info = {.title = u" Capitals",
                     .author = u" Your Name Here",
                     .description = u" Deck Description Here"};
-  CHECK(SaveByKeys(desk, "mnuSave") ==
+  CHECK(SaveByKeys(fixture, "mnuSave") ==
         InfoBytes(info) + CardBytes(1, u"Norway", u"Oslo") + EndBytes());
   CHECK(ProgramOnScreen::TitleOf("frmMain") == "new  [STUDY]");
 
   // The save has brought up the information.
-  REQUIRE(desk.program.InfoWindow().IsLoaded());
+  REQUIRE(fixture.program.InfoWindow().IsLoaded());
   ProgramOnScreen::Alt(kC);
-  REQUIRE_FALSE(desk.program.InfoWindow().IsLoaded());
-  desk.AnswerByKey(Qt::Key_Return);
+  REQUIRE_FALSE(fixture.program.InfoWindow().IsLoaded());
+  fixture.AnswerByKey(Qt::Key_Return);
   ProgramOnScreen::Alt(kC);
-  CHECK(desk.TakeAsked() == Asked{"ARE YOU SURE?"});
-  REQUIRE_FALSE(desk.program.DeckWindowOf().IsLoaded());
+  CHECK(fixture.TakeAsked() == Asked{"ARE YOU SURE?"});
+  REQUIRE_FALSE(fixture.program.DeckWindowOf().IsLoaded());
 
   // The frame's own menu finds it again.
-  TypePathWhenAsked(desk, "new.tsr");
+  TypePathWhenAsked(fixture, "new.tsr");
   ProgramOnScreen::Alt(Qt::Key_F);
   ProgramOnScreen::Key(Qt::Key_O);
-  CHECK(desk.TakeAsked().size() == 1);
+  CHECK(fixture.TakeAsked().size() == 1);
   CHECK(ProgramOnScreen::Card("CardText") == "Norway");
   CHECK(ProgramOnScreen::TitleOf("frmMain") == "new  [STUDY]");
 
@@ -68,38 +68,38 @@ TEST_CASE("A deck is made, described, saved, closed, found again, changed and sa
   ProgramOnScreen::Type(u"\nsince 1814");
   PressChange();
   ProgramOnScreen::Alt(kC);
-  desk.AnswerByKey(Qt::Key_Return);
+  fixture.AnswerByKey(Qt::Key_Return);
   ProgramOnScreen::ChooseByKeys("mnuFile", "mnuSave");
-  CHECK(desk.TakeAsked() ==
-        Asked{"This file has been saved to " + (desk.folder / "new.tsr").string()});
+  CHECK(fixture.TakeAsked() ==
+        Asked{"This file has been saved to " + (fixture.folder / "new.tsr").string()});
   info.date = u" 1/5/2026";
-  CHECK(desk.folder.Read("new.tsr") ==
+  CHECK(fixture.folder.Read("new.tsr") ==
         InfoBytes(info) + CardBytes(1, u"Norway", u"Oslo\r\nsince 1814") + EndBytes());
 }
 
 TEST_CASE("A changed deck asks before it is closed, and No leaves its file as it was") {
-  ProgramOnScreen desk;
-  desk.folder.Write("birds.tsr", DeckBytes(1));
-  desk.Start(u"birds.tsr");
+  ProgramOnScreen fixture;
+  fixture.folder.Write("birds.tsr", DeckBytes(1));
+  fixture.Start(u"birds.tsr");
   OpenBuilder();
   GoTo("Text1(0)");
   ProgramOnScreen::Type(u"changed ");
   PressChange();
   ProgramOnScreen::Alt(kC);
   CHECK(ProgramOnScreen::Card("CardText") == "changed front 1");
-  desk.AnswerByKey(Qt::Key_N);
-  desk.AnswerByKey(Qt::Key_Return);
+  fixture.AnswerByKey(Qt::Key_N);
+  fixture.AnswerByKey(Qt::Key_Return);
   ProgramOnScreen::Alt(kC);
   CHECK(
-      desk.TakeAsked() ==
+      fixture.TakeAsked() ==
       Asked{"There have been changes to this Tessara.Do you want to save them?", "ARE YOU SURE?"});
-  CHECK(desk.folder.Read("birds.tsr") == DeckBytes(1));
+  CHECK(fixture.folder.Read("birds.tsr") == DeckBytes(1));
 }
 
 TEST_CASE(
     "The letter C in a builder drops nothing that was typed, and Return takes what it is on") {
-  ProgramOnScreen desk;
-  desk.Start();
+  ProgramOnScreen fixture;
+  fixture.Start();
   OpenBuilder();
   Write("Text1(0)", u"Norway");
   Write("Text1(1)", u"Oslo");
@@ -107,16 +107,16 @@ TEST_CASE(
     ProgramOnScreen::Alt(kC);
     CHECK(ProgramOnScreen::Focus() == button);
   }
-  desk.AnswerByKey(Qt::Key_Y);
-  desk.AnswerByKey(Qt::Key_Return);
+  fixture.AnswerByKey(Qt::Key_Y);
+  fixture.AnswerByKey(Qt::Key_Return);
   ProgramOnScreen::Key(Qt::Key_Return);
-  CHECK(desk.TakeAsked().back() == "Card is saved");
+  CHECK(fixture.TakeAsked().back() == "Card is saved");
   CHECK(ProgramOnScreen::Card("CardTotal") == "1");
 }
 
 TEST_CASE("On a new deck the letter C goes between two entries of the file menu") {
-  ProgramOnScreen desk;
-  desk.Start();
+  ProgramOnScreen fixture;
+  fixture.Start();
   ProgramOnScreen::Alt(Qt::Key_F);
   const auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
   REQUIRE(menu != nullptr);
@@ -126,21 +126,21 @@ TEST_CASE("On a new deck the letter C goes between two entries of the file menu"
   }
   ProgramOnScreen::Key(Qt::Key_Return);
   CHECK(ProgramOnScreen::Focus() == "Text1(0)");
-  CHECK(desk.TakeAsked().empty());
+  CHECK(fixture.TakeAsked().empty());
 }
 
 TEST_CASE("The focus never falls on Close Deck, so a blank closes no deck") {
-  ProgramOnScreen desk;
+  ProgramOnScreen fixture;
   const auto clear = [] { ProgramOnScreen::ChooseByKeys("mnuFile", "mnuNCD"); };
-  const auto startWith = [&desk](const std::string& cards) {
-    desk.folder.Write("deck.tsr", InfoBytes({}) + cards + EndBytes());
-    desk.Start(u"deck.tsr");
+  const auto startWith = [&fixture](const std::string& cards) {
+    fixture.folder.Write("deck.tsr", InfoBytes({}) + cards + EndBytes());
+    fixture.Start(u"deck.tsr");
   };
   SUBCASE("at a start without a deck") {
-    desk.Start();
+    fixture.Start();
   }
   SUBCASE("behind the builder, with one card") {
-    desk.Start();
+    fixture.Start();
     WriteCard(u"Norway", u"Oslo");
   }
   SUBCASE("behind the builder, at the first of two cards") {
@@ -169,15 +169,15 @@ TEST_CASE("The focus never falls on Close Deck, so a blank closes no deck") {
   }
   SUBCASE("after the only card has been deleted") {
     startWith(CardBytes(1, u"Norway", u"Oslo"));
-    desk.AnswerByKey(Qt::Key_Return);
+    fixture.AnswerByKey(Qt::Key_Return);
     ProgramOnScreen::ChooseByKeys("mnuFile", "mnuDelete");
-    desk.TakeAsked();
+    fixture.TakeAsked();
   }
   const std::string focus = ProgramOnScreen::Focus();
   CAPTURE(focus);
   const bool useful = focus == "NoteletCtl1" || focus == "cmdMove(1)";
   CHECK(useful);
   ProgramOnScreen::Key(Qt::Key_Space);
-  CHECK(desk.TakeAsked().empty());
-  CHECK(desk.program.DeckWindowOf().IsLoaded());
+  CHECK(fixture.TakeAsked().empty());
+  CHECK(fixture.program.DeckWindowOf().IsLoaded());
 }

@@ -6,7 +6,7 @@
 #include <doctest/doctest.h>
 
 #include "adapters/qt/devices/qt_message_boxes.h"
-#include "tests/desktop/support/desk.h"
+#include "tests/desktop/support/fixture.h"
 #include "tests/support/scratch_folder.h"
 
 using namespace tessara;
@@ -34,12 +34,12 @@ bool Drop(const QMimeData& mime, QWidget& widget) {
   return drop.isAccepted();
 }
 
-struct DropDesk : Desk {
+struct DropFixture : Fixture {
   ScratchFolder folder;
   QMimeData mime;
   QWidget& window = *Top("MDIForm1");
 
-  DropDesk() {
+  DropFixture() {
     folder.Write("birds.tsr", "a deck");
     folder.Write("other.tsr", "another");
     frame->taken = folder.TextPath(u"birds.tsr");
@@ -50,60 +50,60 @@ struct DropDesk : Desk {
 }  // namespace
 
 TEST_CASE("A file that the form takes can be dropped on the frame, and is its event later") {
-  DropDesk desk;
-  Offer(desk.mime, {desk.Path("birds.tsr")});
-  CHECK(Drop(desk.mime, desk.window));
+  DropFixture fixture;
+  Offer(fixture.mime, {fixture.Path("birds.tsr")});
+  CHECK(Drop(fixture.mime, fixture.window));
   // The program that it comes from is not to wait for what the event asks.
-  CHECK(desk.frame->log.Take().empty());
-  Desk::Settle();
-  CHECK(desk.frame->log.Take() == "dropped " + desk.Path("birds.tsr"));
+  CHECK(fixture.frame->log.Take().empty());
+  Fixture::Settle();
+  CHECK(fixture.frame->log.Take() == "dropped " + fixture.Path("birds.tsr"));
 }
 
 TEST_CASE("What is no single file that the form takes is not taken") {
-  DropDesk desk;
-  std::filesystem::create_directory(desk.folder / "folder");
+  DropFixture fixture;
+  std::filesystem::create_directory(fixture.folder / "folder");
   const std::vector<std::vector<std::string>> offers = {
       {}, {"birds.tsr", "other.tsr"}, {"other.tsr"}, {"missing.tsr"}, {"folder"}};
   for (const auto& names : offers) {
     QMimeData mime;
     std::vector<std::string> paths;
-    for (const std::string& name : names) paths.push_back(desk.Path(name.c_str()));
+    for (const std::string& name : names) paths.push_back(fixture.Path(name.c_str()));
     Offer(mime, paths);
-    desk.frame->taken = paths.empty() ? Text() : FromQString(QString::fromStdString(paths[0]));
-    if (names == std::vector<std::string>{"other.tsr"}) desk.frame->taken = u"";
-    CHECK_FALSE(Drop(mime, desk.window));
+    fixture.frame->taken = paths.empty() ? Text() : FromQString(QString::fromStdString(paths[0]));
+    if (names == std::vector<std::string>{"other.tsr"}) fixture.frame->taken = u"";
+    CHECK_FALSE(Drop(mime, fixture.window));
   }
   QMimeData text;
   text.setText(QStringLiteral("file:///decks/birds.tsr"));
-  CHECK_FALSE(Drop(text, desk.window));
+  CHECK_FALSE(Drop(text, fixture.window));
   QMimeData page;
   page.setUrls({QUrl(QStringLiteral("https://example.org/birds.tsr"))});
-  CHECK_FALSE(Drop(page, desk.window));
-  Desk::Settle();
-  CHECK(desk.frame->log.Take().empty());
+  CHECK_FALSE(Drop(page, fixture.window));
+  Fixture::Settle();
+  CHECK(fixture.frame->log.Take().empty());
 }
 
 TEST_CASE("While a box is open no file is taken") {
-  DropDesk desk;
-  Offer(desk.mime, {desk.Path("birds.tsr")});
-  QTimer::singleShot(0, [&desk] {
-    CHECK_FALSE(Drop(desk.mime, desk.window));
+  DropFixture fixture;
+  Offer(fixture.mime, {fixture.Path("birds.tsr")});
+  QTimer::singleShot(0, [&fixture] {
+    CHECK_FALSE(Drop(fixture.mime, fixture.window));
     QApplication::activeModalWidget()->close();
   });
   QtMessageBoxes().Show(u"!", kOkOnly, u"");
-  Desk::Settle();
-  CHECK(desk.frame->log.Take().empty());
+  Fixture::Settle();
+  CHECK(fixture.frame->log.Take().empty());
 }
 
 TEST_CASE("A text box takes a dragged text and no file") {
-  DropDesk desk;
-  SampleForm& form = desk.ShowChild();
-  Offer(desk.mime, {desk.Path("other.tsr")});
+  DropFixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  Offer(fixture.mime, {fixture.Path("other.tsr")});
   QMimeData words;
   words.setText(QStringLiteral("words"));
-  auto& area = Desk::Of<QPlainTextEdit>("Text2");
-  for (QWidget* box : {static_cast<QWidget*>(&Desk::Of("Text1")), area.viewport()}) {
-    CHECK_FALSE(Drop(desk.mime, *box));
+  auto& area = Fixture::Of<QPlainTextEdit>("Text2");
+  for (QWidget* box : {static_cast<QWidget*>(&Fixture::Of("Text1")), area.viewport()}) {
+    CHECK_FALSE(Drop(fixture.mime, *box));
     CHECK(Drop(words, *box));
   }
   CHECK(form.lineBox.TextOf() == u"words");

@@ -6,7 +6,7 @@
 
 #include "adapters/qt/windows/guarded_application.h"
 #include "base/run_time_error.h"
-#include "tests/desktop/support/desk.h"
+#include "tests/desktop/support/fixture.h"
 #include "tests/desktop/support/program_on_screen.h"
 #include "tests/support/deck_bytes.h"
 
@@ -15,9 +15,9 @@ using namespace tessara::test;
 
 namespace {
 
-/// A desk under the guard of the application.
-struct GuardedDesk : Desk {
-  GuardedDesk() { static_cast<GuardedApplication&>(*qApp).SetWindows(windows); }
+/// A fixture under the guard of the application.
+struct GuardedFixture : Fixture {
+  GuardedFixture() { static_cast<GuardedApplication&>(*qApp).SetWindows(windows); }
 
   [[nodiscard]] bool Ends() {
     return QTest::qWaitFor([this] { return windows.ExitStatus().has_value(); });
@@ -45,49 +45,51 @@ TEST_CASE("An error in painting is told once, as one in an event is, and ends th
        "Run-time error '61':\r\n\r\nDisk full"},
   };
   for (const Case& each : cases) {
-    GuardedDesk desk;
-    desk.ShowChild().painting.whenPainted = each.fails;
+    GuardedFixture fixture;
+    fixture.ShowChild().painting.whenPainted = each.fails;
     // Painted again while the box is there.
-    desk.messages.whileShown = [](const FakeMessages::Shown&) { Desk::Of("Painting1").repaint(); };
-    Desk::Of("Painting1").repaint();
-    CHECK(desk.Told().empty());
-    CHECK(desk.Ends());
-    CHECK(desk.Told() == std::vector<std::string>{each.told});
-    CHECK(desk.windows.ExitStatus() == 1);
+    fixture.messages.whileShown = [](const FakeMessages::Shown&) {
+      Fixture::Of("Painting1").repaint();
+    };
+    Fixture::Of("Painting1").repaint();
+    CHECK(fixture.Told().empty());
+    CHECK(fixture.Ends());
+    CHECK(fixture.Told() == std::vector<std::string>{each.told});
+    CHECK(fixture.windows.ExitStatus() == 1);
   }
 }
 
 TEST_CASE("An error in a timer's work ends the program too") {
-  GuardedDesk desk;
+  GuardedFixture fixture;
   QTimer::singleShot(0, qApp, [] { throw std::bad_alloc(); });
-  CHECK(desk.Ends());
-  CHECK(desk.Told() == kOutOfMemory);
+  CHECK(fixture.Ends());
+  CHECK(fixture.Told() == kOutOfMemory);
 }
 
 TEST_CASE("An error in painting ends the program from inside a dialog") {
-  GuardedDesk desk;
+  GuardedFixture fixture;
   bool left = true;
-  QTimer::singleShot(0, qApp, [&desk] {
-    desk.dialog->painting.whenPainted = [] { throw std::bad_alloc(); };
-    Desk::Of("Painting1", "frmDialog").repaint();
+  QTimer::singleShot(0, qApp, [&fixture] {
+    fixture.dialog->painting.whenPainted = [] { throw std::bad_alloc(); };
+    Fixture::Of("Painting1", "frmDialog").repaint();
   });
-  desk.windows.Run([&] {
-    desk.dialog->Show(Modality::kModal);
+  fixture.windows.Run([&] {
+    fixture.dialog->Show(Modality::kModal);
     left = false;
   });
-  CHECK(desk.Told() == kOutOfMemory);
-  CHECK(desk.windows.ExitStatus() == 1);
+  CHECK(fixture.Told() == kOutOfMemory);
+  CHECK(fixture.windows.ExitStatus() == 1);
   CHECK(left);
 }
 
 TEST_CASE("A program that an error has ended is taken down with its windows on screen") {
-  ProgramOnScreen desk;
-  desk.folder.Write("birds.tsr", DeckBytes(3));
-  desk.Start(u"birds.tsr");
-  desk.AnswerByKey(Qt::Key_Return);
-  desk.program.Windows().Run([] { throw RunTimeError(ErrorNumber::kSubscriptOutOfRange); });
-  CHECK(desk.TakeAsked() ==
+  ProgramOnScreen fixture;
+  fixture.folder.Write("birds.tsr", DeckBytes(3));
+  fixture.Start(u"birds.tsr");
+  fixture.AnswerByKey(Qt::Key_Return);
+  fixture.program.Windows().Run([] { throw RunTimeError(ErrorNumber::kSubscriptOutOfRange); });
+  CHECK(fixture.TakeAsked() ==
         std::vector<std::string>{"Run-time error '9':\n\nSubscript out of range"});
-  CHECK(desk.program.Windows().ExitStatus() == 1);
+  CHECK(fixture.program.Windows().ExitStatus() == 1);
   CHECK(ProgramOnScreen::Of("NoteletCtl1").isVisible());
 }

@@ -35,30 +35,30 @@ constexpr const char* kBarBehindWindow = "[&File] &Help ";
 }  // namespace
 
 TEST_CASE("A frame that saves a changed deck on its way closes with all its windows") {
-  ProgramOnScreen desk;
-  desk.folder.Write("birds.tsr", DeckBytes(1));
-  desk.Start(u"birds.tsr");
+  ProgramOnScreen fixture;
+  fixture.folder.Write("birds.tsr", DeckBytes(1));
+  fixture.Start(u"birds.tsr");
   ChangeCard();
   SUBCASE("behind the builder") {}
   SUBCASE("behind the deck window") {
     ProgramOnScreen::Click("Command1(3)", "frmEssay");
   }
-  for (int answers = 0; answers < 3; ++answers) desk.AnswerByKey(Qt::Key_Return);
+  for (int answers = 0; answers < 3; ++answers) fixture.AnswerByKey(Qt::Key_Return);
   ProgramOnScreen::Top("MDIForm1").close();
-  CHECK(desk.TakeAsked() ==
+  CHECK(fixture.TakeAsked() ==
         std::vector<std::string>{
             "There have been changes to this Tessara.Do you want to save them?",
-            "This file has been saved to " + (desk.folder / "birds.tsr").string(),
+            "This file has been saved to " + (fixture.folder / "birds.tsr").string(),
             "ARE YOU SURE?"});
-  CHECK(desk.program.Windows().ExitStatus() == 0);
+  CHECK(fixture.program.Windows().ExitStatus() == 0);
   // As the event loop does on its way out: the frame goes, and all that is in it.
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   for (const QWidget* left : QApplication::topLevelWidgets()) CHECK_FALSE(left->isVisible());
 }
 
 TEST_CASE("The information window over an empty deck leaves the menus as they were") {
-  ProgramOnScreen desk;
-  desk.Start();
+  ProgramOnScreen fixture;
+  fixture.Start();
   CHECK(Bar() == kBarOfEmptyDeck);
   ProgramOnScreen::ChooseByKeys("mnuUtility", "mnuCDI");
   CHECK(Bar() == kBarBehindWindow);
@@ -67,11 +67,11 @@ TEST_CASE("The information window over an empty deck leaves the menus as they we
 }
 
 TEST_CASE("A deck window that comes to the front while it is disabled does not take the bar") {
-  ProgramOnScreen desk;
-  desk.Start();
+  ProgramOnScreen fixture;
+  fixture.Start();
   ProgramOnScreen::ChooseByKeys("mnuUtility", "mnuCDI");
-  desk.program.Windows().Run([&] { desk.program.DeckWindowOf()->Show(); });
+  fixture.program.Windows().Run([&] { fixture.program.DeckWindowOf()->Show(); });
   CHECK(Bar() == kBarBehindWindow);
-  desk.program.InfoWindow().Unload();
+  fixture.program.InfoWindow().Unload();
   CHECK(Bar() == kBarOfEmptyDeck);
 }

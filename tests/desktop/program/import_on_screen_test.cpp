@@ -15,8 +15,8 @@ namespace {
 const std::string kSamples = TESSARA_TEST_PICTURES "/../../samples/";
 
 /// The frame's menu is there while no deck is; the dialog takes the whole path.
-void ImportByKeys(ProgramOnScreen& desk, const std::string& path) {
-  desk.WhenAsked([&path](QWidget& dialog) {
+void ImportByKeys(ProgramOnScreen& fixture, const std::string& path) {
+  fixture.WhenAsked([&path](QWidget& dialog) {
     CHECK(qobject_cast<QFileDialog*>(&dialog) != nullptr);
     auto* name = qobject_cast<QLineEdit*>(QApplication::focusWidget());
     REQUIRE(name != nullptr);
@@ -48,18 +48,18 @@ TEST_CASE("The sample texts are imported by the menu and the file dialog") {
       {"science.txt", "60", nullptr, u"", true}};
   for (const Case& c : cases) {
     CAPTURE(c.file);
-    ProgramOnScreen desk;
-    desk.Start();
+    ProgramOnScreen fixture;
+    fixture.Start();
     ProgramOnScreen::Alt(Qt::Key_C);
     CHECK_FALSE(DeckIsOpen());
-    ImportByKeys(desk, kSamples + c.file);
-    CHECK(desk.TakeAsked().size() == 1);
+    ImportByKeys(fixture, kSamples + c.file);
+    CHECK(fixture.TakeAsked().size() == 1);
     REQUIRE(DeckIsOpen());
     CHECK(ProgramOnScreen::Card("CardNumber") == "1");
     CHECK(ProgramOnScreen::Card("CardTotal") == c.cards);
     CHECK(ProgramOnScreen::Of("Picture1").isVisible() == c.question);
     if (c.first != nullptr) CHECK(ProgramOnScreen::Card("CardText") == c.first);
-    CHECK(desk.state.deck.Cell(1, kBackText) == c.back);
+    CHECK(fixture.state.deck.Cell(1, kBackText) == c.back);
   }
 }
 
@@ -79,21 +79,21 @@ TEST_CASE("Texts with an error are told in a box, and the next import is a good 
        {"Error at card # 1 in import file. Import has been cancelled."}},
       {"EXT\n1.Which?\nB.Two\nA.One\n=A\n", {"Error in answer sequence."}}};
 
-  ProgramOnScreen desk;
-  desk.Start();
+  ProgramOnScreen fixture;
+  fixture.Start();
   ProgramOnScreen::Alt(Qt::Key_C);
   for (const Case& c : cases) {
     CAPTURE(c.text);
-    desk.folder.Write("deck.txt", c.text);
-    ImportByKeys(desk, (desk.folder / "deck.txt").string());
-    std::vector<std::string> asked = desk.TakeAsked();
+    fixture.folder.Write("deck.txt", c.text);
+    ImportByKeys(fixture, (fixture.folder / "deck.txt").string());
+    std::vector<std::string> asked = fixture.TakeAsked();
     REQUIRE_FALSE(asked.empty());
     asked.erase(asked.begin());
     CHECK(asked == c.boxes);
     CHECK_FALSE(DeckIsOpen());
   }
-  desk.folder.Write("deck.txt", "STD\n1.\n*>F\nfront\n*>B\nback\n");
-  ImportByKeys(desk, (desk.folder / "deck.txt").string());
+  fixture.folder.Write("deck.txt", "STD\n1.\n*>F\nfront\n*>B\nback\n");
+  ImportByKeys(fixture, (fixture.folder / "deck.txt").string());
   CHECK(ProgramOnScreen::Card("CardText") == "front");
   CHECK(ProgramOnScreen::Card("CardTotal") == "1");
 }

@@ -21,8 +21,8 @@ std::string OneQuestion() {
 }
 
 /// The frame alone; its own menu then makes a deck of questions and opens the builder.
-void StartQuestions(ProgramOnScreen& desk) {
-  desk.Start();
+void StartQuestions(ProgramOnScreen& fixture) {
+  fixture.Start();
   WithCtrl(Qt::Key_W);
   ProgramOnScreen::Alt(Qt::Key_F);
   ProgramOnScreen::Keys({Qt::Key_N, Qt::Key_X});
@@ -32,8 +32,8 @@ void StartQuestions(ProgramOnScreen& desk) {
 }  // namespace
 
 TEST_CASE("Ten text cards are written with two keys each beside their text") {
-  ProgramOnScreen desk;
-  desk.Start();
+  ProgramOnScreen fixture;
+  fixture.Start();
   WithCtrl(Qt::Key_E);
   for (int card = 1; card <= 10; ++card) {
     CHECK(ProgramOnScreen::Focus() == "Text1(0)");
@@ -42,14 +42,14 @@ TEST_CASE("Ten text cards are written with two keys each beside their text") {
     ProgramOnScreen::Type(u"back " + DecimalText(card));
     WithCtrl(Qt::Key_Return);
   }
-  CHECK(desk.state.deck.cardCount == 10);
-  CHECK(desk.state.deck.Cell(10, kBackText) == u"back 10");
-  CHECK(desk.TakeAsked().empty());
+  CHECK(fixture.state.deck.cardCount == 10);
+  CHECK(fixture.state.deck.Cell(10, kBackText) == u"back 10");
+  CHECK(fixture.TakeAsked().empty());
 }
 
 TEST_CASE("Ten questions are written with their marks and tabs and one key more") {
-  ProgramOnScreen desk;
-  StartQuestions(desk);
+  ProgramOnScreen fixture;
+  StartQuestions(fixture);
   for (int card = 1; card <= 10; ++card) {
     CHECK(ProgramOnScreen::Focus() == "Text2");
     ProgramOnScreen::Type(u"question " + DecimalText(card));
@@ -62,16 +62,16 @@ TEST_CASE("Ten questions are written with their marks and tabs and one key more"
     ProgramOnScreen::Key(Qt::Key_Down);
     WithCtrl(Qt::Key_Return);
   }
-  CHECK(desk.state.deck.cardCount == 10);
-  CHECK(desk.state.deck.Cell(10, kAnswer) == u"B");
-  CHECK(desk.state.deck.Cell(10, kChoiceA + 3) == u"four");
-  CHECK(desk.TakeAsked().empty());
+  CHECK(fixture.state.deck.cardCount == 10);
+  CHECK(fixture.state.deck.Cell(10, kAnswer) == u"B");
+  CHECK(fixture.state.deck.Cell(10, kChoiceA + 3) == u"four");
+  CHECK(fixture.TakeAsked().empty());
 }
 
 TEST_CASE("A deck is studied by arrows and blanks from the start") {
-  ProgramOnScreen desk;
-  desk.folder.Write("birds.tsr", DeckBytes(3));
-  desk.Start(u"birds.tsr");
+  ProgramOnScreen fixture;
+  fixture.folder.Write("birds.tsr", DeckBytes(3));
+  fixture.Start(u"birds.tsr");
   const std::pair<Qt::Key, const char*> steps[] = {
       {Qt::Key_Space, "back 1"},  {Qt::Key_Right, "back 2"}, {Qt::Key_Space, "front 2"},
       {Qt::Key_Right, "front 3"}, {Qt::Key_Space, "back 3"}, {Qt::Key_Right, "back 3"},
@@ -84,18 +84,18 @@ TEST_CASE("A deck is studied by arrows and blanks from the start") {
 }
 
 TEST_CASE("In a menu that has been opened by the keyboard the arrows are the menu's") {
-  ProgramOnScreen desk;
-  desk.folder.Write("birds.tsr", DeckBytes(3));
-  desk.Start(u"birds.tsr");
+  ProgramOnScreen fixture;
+  fixture.folder.Write("birds.tsr", DeckBytes(3));
+  fixture.Start(u"birds.tsr");
   ProgramOnScreen::Key(Qt::Key_Alt, Qt::AltModifier);
   ProgramOnScreen::Key(Qt::Key_Right);
   CHECK(ProgramOnScreen::Card("CardText") == "front 1");
 }
 
 TEST_CASE("In a test the arrows go round all four choices, and a blank answers") {
-  ProgramOnScreen desk;
-  desk.folder.Write("one.tsr", OneQuestion());
-  desk.Start(u"one.tsr");
+  ProgramOnScreen fixture;
+  fixture.folder.Write("one.tsr", OneQuestion());
+  fixture.Start(u"one.tsr");
   ProgramOnScreen::ChooseByKeys("mnuMode", "mnuTest");
   for (const char* choice : {"Option1(0)", "Option1(1)", "Option1(2)", "Option1(3)"}) {
     CHECK(ProgramOnScreen::Focus() == choice);
@@ -108,29 +108,29 @@ TEST_CASE("In a test the arrows go round all four choices, and a blank answers")
 }
 
 TEST_CASE("Save, save as, go to and close go by their keys") {
-  ProgramOnScreen desk;
-  desk.folder.Write("birds.tsr", DeckBytes(3));
-  desk.Start(u"birds.tsr");
-  desk.WhenAsked([](QWidget&) {
+  ProgramOnScreen fixture;
+  fixture.folder.Write("birds.tsr", DeckBytes(3));
+  fixture.Start(u"birds.tsr");
+  fixture.WhenAsked([](QWidget&) {
     QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("3"));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
   });
   WithCtrl(Qt::Key_G);
   CHECK(ProgramOnScreen::Card("CardText") == "front 3");
-  TypePathWhenAsked(desk, "other.tsr");
-  desk.AnswerByKey(Qt::Key_Return);
+  TypePathWhenAsked(fixture, "other.tsr");
+  fixture.AnswerByKey(Qt::Key_Return);
   WithCtrl(Qt::Key_S, Qt::ShiftModifier);
-  CHECK(desk.folder.Read("other.tsr").size() == desk.folder.Read("birds.tsr").size());
-  desk.TakeAsked();
+  CHECK(fixture.folder.Read("other.tsr").size() == fixture.folder.Read("birds.tsr").size());
+  fixture.TakeAsked();
   WithCtrl(Qt::Key_S);
-  CHECK(desk.TakeAsked().empty());
+  CHECK(fixture.TakeAsked().empty());
   // The information of the saved deck is in front, and has the keys.
   ProgramOnScreen::Key(Qt::Key_Escape);
-  desk.state.deck.changed = true;
-  desk.AnswerByKey(Qt::Key_Y);
-  desk.AnswerByKey(Qt::Key_Return);
-  desk.AnswerByKey(Qt::Key_Y);
+  fixture.state.deck.changed = true;
+  fixture.AnswerByKey(Qt::Key_Y);
+  fixture.AnswerByKey(Qt::Key_Return);
+  fixture.AnswerByKey(Qt::Key_Y);
   WithCtrl(Qt::Key_W);
-  CHECK(desk.TakeAsked().size() == 3);
-  CHECK_FALSE(desk.program.DeckWindowOf().IsLoaded());
+  CHECK(fixture.TakeAsked().size() == 3);
+  CHECK_FALSE(fixture.program.DeckWindowOf().IsLoaded());
 }

@@ -15,7 +15,7 @@
 #include "base/utf8.h"
 #include "tests/desktop/support/event_loops.h"
 #include "tests/support/hostile_texts.h"
-#include "tests/support/program_desk.h"
+#include "tests/support/program_fixture.h"
 
 namespace tessara::test {
 

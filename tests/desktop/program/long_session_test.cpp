@@ -12,7 +12,7 @@
 #include "tests/desktop/support/event_loops.h"
 #include "tests/desktop/support/program_on_screen.h"
 #include "tests/support/memory_use.h"
-#include "tests/support/program_desk.h"
+#include "tests/support/program_fixture.h"
 #include "tests/support/window_tour.h"
 
 namespace tessara::test {
@@ -33,8 +33,8 @@ struct SessionOnScreen {
     StartAnew();
     program.Windows().SetRenderer(renderer);
     fakes.settings.values = {{u"ShowSplash", showSplash}, {u"FirstLoad", u"False"}};
-    fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(20));
-    fakes.files.Put(u"/decks/other.tsr", ProgramDesk::DeckBytes(200, u"T"));
+    fakes.files.Put(u"/decks/birds.tsr", ProgramFixture::DeckBytes(20));
+    fakes.files.Put(u"/decks/other.tsr", ProgramFixture::DeckBytes(200, u"T"));
     program.Main(u"/decks/birds.tsr");
     QApplication::processEvents();
   }
@@ -51,7 +51,7 @@ struct BoxesOnScreen : ProgramOnScreen {
   int closed = 0;
 
   BoxesOnScreen() {
-    folder.Write("birds.tsr", ProgramDesk::DeckBytes(20));
+    folder.Write("birds.tsr", ProgramFixture::DeckBytes(20));
     Start(u"birds.tsr");
   }
 

@@ -91,9 +91,9 @@ bool Shown(const char* control) {
 TEST_CASE("A text deck is studied, by the mouse and by the keyboard alone") {
   for (const bool byKeys : {false, true}) {
     CAPTURE(byKeys);
-    ProgramOnScreen desk;
-    desk.folder.Write("birds.tsr", DeckBytes(3));
-    desk.Start(u"birds.tsr");
+    ProgramOnScreen fixture;
+    fixture.folder.Write("birds.tsr", DeckBytes(3));
+    fixture.Start(u"birds.tsr");
     const auto flip = [byKeys] {
       byKeys ? ProgramOnScreen::Alt(Qt::Key_S) : ProgramOnScreen::Click("Command3(1)");
     };
@@ -120,7 +120,7 @@ TEST_CASE("A text deck is studied, by the mouse and by the keyboard alone") {
     Page(byKeys, 0);
     CHECK(TextOnCard("1") == "front 1");
     CHECK_FALSE(CanPage(0));
-    CHECK(desk.TakeAsked().empty());
+    CHECK(fixture.TakeAsked().empty());
   }
 }
 
@@ -128,9 +128,9 @@ TEST_CASE("Questions are studied with their answers, by the mouse and by the key
   const char* const answers[] = {"TRUE", "three", "FALSE", "one"};
   for (const bool byKeys : {false, true}) {
     CAPTURE(byKeys);
-    ProgramOnScreen desk;
-    desk.folder.Write("sky.tsr", QuestionDeckBytes());
-    desk.Start(u"sky.tsr");
+    ProgramOnScreen fixture;
+    fixture.folder.Write("sky.tsr", QuestionDeckBytes());
+    fixture.Start(u"sky.tsr");
     CHECK_FALSE(ProgramOnScreen::Of("Command3(1)").isEnabled());
     const auto check = [&answers](int card) {
       const std::string number = std::to_string(card);
@@ -149,16 +149,16 @@ TEST_CASE("Questions are studied with their answers, by the mouse and by the key
       Page(byKeys, 0);
     }
     check(1);
-    CHECK(desk.TakeAsked().empty());
+    CHECK(fixture.TakeAsked().empty());
   }
 }
 
 TEST_CASE("A quiz of a text deck is taken whole, by the mouse and by the keyboard alone") {
   for (const bool byKeys : {false, true}) {
     CAPTURE(byKeys);
-    ProgramOnScreen desk;
-    desk.folder.Write("birds.tsr", DeckBytes(3));
-    desk.Start(u"birds.tsr");
+    ProgramOnScreen fixture;
+    fixture.folder.Write("birds.tsr", DeckBytes(3));
+    fixture.Start(u"birds.tsr");
     const Hand hand(byKeys);
     hand.Enter("mnuQuiz");
     CHECK(ProgramOnScreen::TitleOf("frmMain") == "birds  [QUIZ]");
@@ -174,16 +174,16 @@ TEST_CASE("A quiz of a text deck is taken whole, by the mouse and by the keyboar
     hand.Enter("mnuStudy");
     CHECK(TextOnCard("1") == "front 1");
     CHECK(ProgramOnScreen::TitleOf("frmMain") == "birds  [STUDY]");
-    CHECK(desk.TakeAsked().empty());
+    CHECK(fixture.TakeAsked().empty());
   }
 }
 
 TEST_CASE("A quiz of questions is taken whole, by the mouse and by the keyboard alone") {
   for (const bool byKeys : {false, true}) {
     CAPTURE(byKeys);
-    ProgramOnScreen desk;
-    desk.folder.Write("sky.tsr", QuestionDeckBytes());
-    desk.Start(u"sky.tsr");
+    ProgramOnScreen fixture;
+    fixture.folder.Write("sky.tsr", QuestionDeckBytes());
+    fixture.Start(u"sky.tsr");
     CHECK(Shown("Picture1"));
     const Hand hand(byKeys);
     hand.Enter("mnuQuiz");
@@ -209,9 +209,9 @@ TEST_CASE("A quiz of questions is taken whole, by the mouse and by the keyboard 
 TEST_CASE("A test of a text deck is graded whole, by the mouse and by the keyboard alone") {
   for (const bool byKeys : {false, true}) {
     CAPTURE(byKeys);
-    ProgramOnScreen desk;
-    desk.folder.Write("birds.tsr", DeckBytes(3));
-    desk.Start(u"birds.tsr");
+    ProgramOnScreen fixture;
+    fixture.folder.Write("birds.tsr", DeckBytes(3));
+    fixture.Start(u"birds.tsr");
     const Hand hand(byKeys);
     hand.Enter("mnuTest");
     CHECK(Shown("Frame1"));
@@ -223,9 +223,9 @@ TEST_CASE("A test of a text deck is graded whole, by the mouse and by the keyboa
     hand.Press("Command1(2)");
     CHECK(TextOnCard("3") == "front 3");
     hand.PressNext("Command3(1)");
-    desk.AnswerByKey(Qt::Key_Return);
+    fixture.AnswerByKey(Qt::Key_Return);
     hand.Press("Command1(0)");
-    CHECK(desk.TakeAsked() ==
+    CHECK(fixture.TakeAsked() ==
           std::vector<std::string>{"You have completed this test. After viewing your score at the "
                                    "top of the last card, please return to STUDY mode."});
     CHECK(Banner() == "Complete: You scored 1.5 points out of a possible 3");
@@ -240,9 +240,9 @@ TEST_CASE("A test of a text deck is graded whole, by the mouse and by the keyboa
 TEST_CASE("A test of questions is judged whole, by the mouse and by the keyboard alone") {
   for (const bool byKeys : {false, true}) {
     CAPTURE(byKeys);
-    ProgramOnScreen desk;
-    desk.folder.Write("sky.tsr", QuestionDeckBytes());
-    desk.Start(u"sky.tsr");
+    ProgramOnScreen fixture;
+    fixture.folder.Write("sky.tsr", QuestionDeckBytes());
+    fixture.Start(u"sky.tsr");
     const Hand hand(byKeys);
     hand.Enter("mnuTest");
     CHECK(Shown("Frame2"));
@@ -258,10 +258,10 @@ TEST_CASE("A test of questions is judged whole, by the mouse and by the keyboard
       CHECK_FALSE(ProgramOnScreen::Of("Command3(0)").isEnabled());
       hand.Press(choice.option);
       CHECK(Banner() == choice.banner);
-      if (&choice == &choices[3]) desk.AnswerByKey(Qt::Key_Return);
+      if (&choice == &choices[3]) fixture.AnswerByKey(Qt::Key_Return);
       hand.PressNext("Command3(0)");
     }
-    CHECK(desk.TakeAsked() ==
+    CHECK(fixture.TakeAsked() ==
           std::vector<std::string>{" Your score is 75% please return to STUDY mode."});
     CHECK(Banner() == "SCORE: 75% ... RETURN TO STUDY MODE");
     hand.Enter("mnuStudy");

@@ -98,8 +98,8 @@ void ChooseBackdrop(const QString& name) {
   ProgramOnScreen::Key(Qt::Key_Return);
 }
 
-void Answer(ProgramOnScreen& desk, QMessageBox::StandardButton answer) {
-  desk.WhenAsked([answer](QWidget& box) {
+void Answer(ProgramOnScreen& fixture, QMessageBox::StandardButton answer) {
+  fixture.WhenAsked([answer](QWidget& box) {
     QTest::mouseClick(qobject_cast<QMessageBox*>(&box)->button(answer), Qt::LeftButton);
   });
 }
@@ -134,9 +134,9 @@ TEST_CASE("The start-up picture is on screen during the pause and gone with it")
   const ConfigFolder config;
   config.Write("[Settings]\nFirstLoad=False\nShowSplash=1\n");
   QtSettingsStore settings(config.File());
-  ProgramOnScreen desk(settings);
+  ProgramOnScreen fixture(settings);
   int pictures = 0;
-  desk.WhilePausing([&pictures] {
+  fixture.WhilePausing([&pictures] {
     if (pictures > 0) return;
     QApplication::processEvents();
     const QWidget& splash = ProgramOnScreen::Top("Splash");
@@ -146,7 +146,7 @@ TEST_CASE("The start-up picture is on screen during the pause and gone with it")
     CHECK(ProgramOnScreen::Of("Image1", "Splash").accessibleName() == "Tessara 1.0");
     ++pictures;
   });
-  desk.Start();
+  fixture.Start();
   CHECK(pictures == 1);
   CHECK_FALSE(IsOpen("Splash"));
 }
@@ -157,8 +157,8 @@ TEST_CASE(
   config.Write(kPlainStart);
   {
     QtSettingsStore settings(config.File());
-    ProgramOnScreen desk(settings);
-    desk.Start();
+    ProgramOnScreen fixture(settings);
+    fixture.Start();
     CHECK(BackdropIs("backdrops/DEFAULT.jpg"));
     CHECK(ProgramOnScreen::Card("CardColor") == "Q");
     OpenSetUp();
@@ -172,14 +172,14 @@ TEST_CASE(
     ProgramOnScreen::Click("Option1(1)", kSetUp);
     ProgramOnScreen::Click("Option2(0)", kSetUp);
     CHECK(config.Read() == kPlainStart);
-    Answer(desk, QMessageBox::Ok);
+    Answer(fixture, QMessageBox::Ok);
     ProgramOnScreen::Alt(Qt::Key_A);
-    CHECK(desk.TakeAsked() == std::vector{kSaved});
+    CHECK(fixture.TakeAsked() == std::vector{kSaved});
     CHECK_FALSE(Enabled(kApply));
     CHECK(BackdropIs("backdrops/DEFAULT.jpg"));
     ProgramOnScreen::Alt(Qt::Key_C);
     CHECK_FALSE(IsOpen(kSetUp));
-    CHECK(desk.TakeAsked().empty());
+    CHECK(fixture.TakeAsked().empty());
   }
   QtSettingsStore settings(config.File());
   ProgramOnScreen again(settings);
@@ -194,8 +194,8 @@ TEST_CASE(
 }
 
 TEST_CASE("A key on the closed list of backdrops opens it and chooses nothing") {
-  ProgramOnScreen desk;
-  desk.Start();
+  ProgramOnScreen fixture;
+  fixture.Start();
   OpenSetUp();
   for (const Qt::Key key :
        {Qt::Key_Up, Qt::Key_Down, Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End,
@@ -244,8 +244,8 @@ TEST_CASE("In the open list of backdrops only Return or a click chooses") {
   };
   for (const Case& c : cases) {
     CAPTURE(c.how);
-    ProgramOnScreen desk;
-    desk.Start();
+    ProgramOnScreen fixture;
+    fixture.Start();
     OpenSetUp();
     MarkBackdrop("DESERT");
     c.leave();
@@ -261,15 +261,15 @@ TEST_CASE("Closing the set-up window with changes asks, and only Yes stores them
     const ConfigFolder config;
     config.Write(kPlainStart);
     QtSettingsStore settings(config.File());
-    ProgramOnScreen desk(settings);
-    desk.Start();
+    ProgramOnScreen fixture(settings);
+    fixture.Start();
     OpenSetUp();
     ProgramOnScreen::Click("Check1", kSetUp);
-    Answer(desk, answer);
-    Answer(desk, QMessageBox::Ok);
+    Answer(fixture, answer);
+    Answer(fixture, QMessageBox::Ok);
     ProgramOnScreen::Click("Command1(0)", kSetUp);
     const bool yes = answer == QMessageBox::Yes;
-    CHECK(desk.TakeAsked() == (yes ? std::vector{kQuestion, kSaved} : std::vector{kQuestion}));
+    CHECK(fixture.TakeAsked() == (yes ? std::vector{kQuestion, kSaved} : std::vector{kQuestion}));
     CHECK_FALSE(IsOpen(kSetUp));
     CHECK(config.Read().contains("ShowSplash=1") == yes);
     CHECK((config.Read() == kPlainStart) != yes);
@@ -279,9 +279,9 @@ TEST_CASE("Closing the set-up window with changes asks, and only Yes stores them
 TEST_CASE("The picture book is paged there and back, by the mouse and by the keyboard alone") {
   for (const bool byKeys : {false, true}) {
     CAPTURE(byKeys);
-    ProgramOnScreen desk;
-    desk.Start();
-    desk.WhenAsked([byKeys](QWidget&) {
+    ProgramOnScreen fixture;
+    fixture.Start();
+    fixture.WhenAsked([byKeys](QWidget&) {
       CheckStep(1);
       for (int step = 2; step <= kSteps; ++step) {
         Turn("Command1(1)", byKeys);
@@ -294,7 +294,7 @@ TEST_CASE("The picture book is paged there and back, by the mouse and by the key
       Turn("Command2", byKeys);
     });
     ProgramOnScreen::ChooseByKeys("mnuHelp", "mnuSC");
-    CHECK(desk.TakeAsked() == std::vector<std::string>{"Separating The Cards"});
+    CHECK(fixture.TakeAsked() == std::vector<std::string>{"Separating The Cards"});
     CHECK_FALSE(IsOpen(kBook));
   }
 }

@@ -23,8 +23,8 @@ std::string WithAccents(std::string bytes) {
 }
 
 /// The empty deck window goes; the frame's own menu makes an extended deck.
-void StartQuestionDeck(ProgramOnScreen& desk) {
-  desk.Start();
+void StartQuestionDeck(ProgramOnScreen& fixture) {
+  fixture.Start();
   ProgramOnScreen::Alt(kLetterC);
   ProgramOnScreen::Alt(Qt::Key_F);
   ProgramOnScreen::Keys({kLetterN, Qt::Key_X});
@@ -66,8 +66,8 @@ TEST_CASE(
     "A text deck typed by keys alone is in its file byte for byte, and back after a restart") {
   std::string saved;
   {
-    ProgramOnScreen desk;
-    desk.Start();
+    ProgramOnScreen fixture;
+    fixture.Start();
     OpenBuilder();
     CHECK(ProgramOnScreen::Focus() == "Text1(0)");
     ProgramOnScreen::Type(u"What is the capital\nof Norway?");
@@ -89,8 +89,8 @@ TEST_CASE(
     PressChange();
     CHECK_FALSE(ProgramOnScreen::Of("Command1(1)", "frmEssay").isEnabled());
     ProgramOnScreen::Alt(kLetterC);
-    saved = SaveByKeys(desk, "mnuSave");
-    CHECK(desk.TakeAsked().empty());
+    saved = SaveByKeys(fixture, "mnuSave");
+    CHECK(fixture.TakeAsked().empty());
   }
   CHECK(saved ==
         WithAccents(InfoBytes(NewDeckOfType(u" Standard")) +
@@ -107,8 +107,8 @@ TEST_CASE(
     "A question deck typed by keys alone is in its file byte for byte, and back after a restart") {
   std::string saved;
   {
-    ProgramOnScreen desk;
-    StartQuestionDeck(desk);
+    ProgramOnScreen fixture;
+    StartQuestionDeck(fixture);
     Write("Text2", u"Which particle carries\na negative charge?");
     Write("Text1(0)", u"proton");
     Write("Text1(1)", u"neutron");
@@ -125,8 +125,8 @@ TEST_CASE(
     Pick("Option2(1)");
     ProgramOnScreen::Alt(kLetterA);
     ProgramOnScreen::Alt(kLetterC);
-    saved = SaveByKeys(desk, "mnuSave");
-    CHECK(desk.TakeAsked().empty());
+    saved = SaveByKeys(fixture, "mnuSave");
+    CHECK(fixture.TakeAsked().empty());
   }
   CHECK(saved == WithAccents(InfoBytes(NewDeckOfType(u" Extended")) +
                              QuestionBytes('M', u"Which particle carries\r\na negative charge?", 1,
@@ -144,8 +144,8 @@ TEST_CASE(
 }
 
 TEST_CASE("Typing goes on harmlessly where line D has closed itself, and drops no card") {
-  ProgramOnScreen desk;
-  StartQuestionDeck(desk);
+  ProgramOnScreen fixture;
+  StartQuestionDeck(fixture);
   Write("Text2", u"Which?");
   for (const char* line : {"Text1(0)", "Text1(1)", "Text1(2)", "Text1(3)"}) Write(line, u"x");
   Pick("Option1(3)");
@@ -161,9 +161,9 @@ TEST_CASE("Ten cards of each kind are typed one after the other, and each is in 
   constexpr int kCards = 10;
   const auto text = [](TextView what, int card) { return Text(what) + u' ' + DecimalText(card); };
   std::string expected;
-  ProgramOnScreen desk;
+  ProgramOnScreen fixture;
   SUBCASE("texts") {
-    desk.Start();
+    fixture.Start();
     OpenBuilder();
     expected = InfoBytes(NewDeckOfType(u" Standard"));
     for (int card = 1; card <= kCards; ++card) {
@@ -175,7 +175,7 @@ TEST_CASE("Ten cards of each kind are typed one after the other, and each is in 
     }
   }
   SUBCASE("choices") {
-    StartQuestionDeck(desk);
+    StartQuestionDeck(fixture);
     expected = InfoBytes(NewDeckOfType(u" Extended"));
     for (int card = 1; card <= kCards; ++card) {
       if (card > 1) ProgramOnScreen::Alt(kLetterN);
@@ -190,7 +190,7 @@ TEST_CASE("Ten cards of each kind are typed one after the other, and each is in 
     }
   }
   SUBCASE("true or false") {
-    StartQuestionDeck(desk);
+    StartQuestionDeck(fixture);
     expected = InfoBytes(NewDeckOfType(u" Extended"));
     PickTrueFalse();
     for (int card = 1; card <= kCards; ++card) {
@@ -203,14 +203,14 @@ TEST_CASE("Ten cards of each kind are typed one after the other, and each is in 
     }
   }
   ProgramOnScreen::Alt(kLetterC);
-  CHECK(SaveByKeys(desk, "mnuSave") == expected + EndBytes());
+  CHECK(SaveByKeys(fixture, "mnuSave") == expected + EndBytes());
   CHECK(ProgramOnScreen::Card("CardTotal") == "10");
-  CHECK(desk.TakeAsked().empty());
+  CHECK(fixture.TakeAsked().empty());
 }
 
 TEST_CASE(
     "Tab goes round a builder from text to buttons and arrows, once to each group of options") {
-  ProgramOnScreen desk;
+  ProgramOnScreen fixture;
   const auto names = [] {
     std::string met;
     const std::string first = ProgramOnScreen::Focus();
@@ -223,8 +223,8 @@ TEST_CASE(
     return met;
   };
   SUBCASE("texts") {
-    desk.folder.Write("deck.tsr", DeckBytes(3));
-    desk.Start(u"deck.tsr");
+    fixture.folder.Write("deck.tsr", DeckBytes(3));
+    fixture.Start(u"deck.tsr");
     OpenBuilder();
     ProgramOnScreen::Key(Qt::Key_PageDown, Qt::ControlModifier);
     GoTo("Text1(0)");
@@ -237,8 +237,8 @@ TEST_CASE(
     const std::array<Text, 4> choices = {u"one", u"two", u"three", u"four"};
     std::string bytes = InfoBytes({});
     for (int card = 1; card <= 3; ++card) bytes += QuestionBytes('M', u"?", card, choices, 'A');
-    desk.folder.Write("deck.tsr", bytes + EndBytes());
-    desk.Start(u"deck.tsr");
+    fixture.folder.Write("deck.tsr", bytes + EndBytes());
+    fixture.Start(u"deck.tsr");
     OpenBuilder();
     ProgramOnScreen::Key(Qt::Key_PageDown, Qt::ControlModifier);
     GoTo("Text2");
@@ -251,22 +251,22 @@ TEST_CASE(
 }
 
 TEST_CASE("Nine lines on a back, wrapped ones counted, bring no notice, and the tenth does") {
-  ProgramOnScreen desk;
-  desk.Start();
+  ProgramOnScreen fixture;
+  fixture.Start();
   OpenBuilder();
   GoTo("Text1(1)");
   // Two lines, for the box is narrower.
   ProgramOnScreen::Type(Text(30, u'w') + u' ' + Text(30, u'w') + u"\n3\n4\n5\n6\n7\n8\n9");
-  CHECK(desk.TakeAsked().empty());
-  desk.AnswerByKey(Qt::Key_Return);
+  CHECK(fixture.TakeAsked().empty());
+  fixture.AnswerByKey(Qt::Key_Return);
   ProgramOnScreen::Type(u"\n");
-  CHECK(desk.TakeAsked() ==
+  CHECK(fixture.TakeAsked() ==
         std::vector<std::string>{
             "You have reached the maximum number of lines that a card will show. Any further lines "
             "which are added will not be seen."});
   GoTo("Text1(0)");
   ProgramOnScreen::Type(u"1\n2\n3\n4\n5\n6\n7\n8\n9\n10");
-  CHECK(desk.TakeAsked().empty());
+  CHECK(fixture.TakeAsked().empty());
 }
 
 TEST_CASE("Cards of every byte, looked at in a builder, moved over and saved, stay as they are") {
@@ -281,13 +281,13 @@ TEST_CASE("Cards of every byte, looked at in a builder, moved over and saved, st
     const std::string next = textCard ? CardBytes(2, u"front", u"back")
                                       : QuestionBytes('M', u"question", 2, {u"a", u"b"}, 'A');
     const std::string cards = card + next + EndBytes();
-    ProgramOnScreen desk;
-    desk.folder.Write("all.tsr", InfoBytes({}) + cards);
-    desk.Start(u"all.tsr");
+    ProgramOnScreen fixture;
+    fixture.folder.Write("all.tsr", InfoBytes({}) + cards);
+    fixture.Start(u"all.tsr");
     OpenBuilder();
     ProgramOnScreen::Key(Qt::Key_PageDown, Qt::ControlModifier);
     ProgramOnScreen::Key(Qt::Key_PageUp, Qt::ControlModifier);
     ProgramOnScreen::Alt(kLetterC);
-    CHECK(SaveByKeys(desk, "mnuSaveAs").substr(kRecordSize) == cards);
+    CHECK(SaveByKeys(fixture, "mnuSaveAs").substr(kRecordSize) == cards);
   }
 }

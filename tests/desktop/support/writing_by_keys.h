@@ -39,23 +39,23 @@ inline void PressChange() {
 }
 
 /// The next file dialog gets the name of a file in the folder, and Return.
-inline void TypePathWhenAsked(ProgramOnScreen& desk, const char* file) {
-  desk.WhenAsked([&desk, file](QWidget&) {
+inline void TypePathWhenAsked(ProgramOnScreen& fixture, const char* file) {
+  fixture.WhenAsked([&fixture, file](QWidget&) {
     auto* name = qobject_cast<QLineEdit*>(QApplication::focusWidget());
     REQUIRE(name != nullptr);
-    QTest::keyClicks(name, QString::fromStdString((desk.folder / file).string()));
+    QTest::keyClicks(name, QString::fromStdString((fixture.folder / file).string()));
     QTest::keyClick(name, Qt::Key_Return);
   });
 }
 
 /// Saves under the name, and takes the box that says so away.
-inline std::string SaveByKeys(ProgramOnScreen& desk, const char* command) {
-  TypePathWhenAsked(desk, "new.tsr");
-  desk.AnswerByKey(Qt::Key_Return);
+inline std::string SaveByKeys(ProgramOnScreen& fixture, const char* command) {
+  TypePathWhenAsked(fixture, "new.tsr");
+  fixture.AnswerByKey(Qt::Key_Return);
   ProgramOnScreen::ChooseByKeys("mnuFile", command);
-  CHECK(desk.TakeAsked().back() ==
-        "This file has been saved to " + (desk.folder / "new.tsr").string());
-  return desk.folder.Read("new.tsr");
+  CHECK(fixture.TakeAsked().back() ==
+        "This file has been saved to " + (fixture.folder / "new.tsr").string());
+  return fixture.folder.Read("new.tsr");
 }
 
 }  // namespace tessara::test

@@ -2,7 +2,7 @@
 #include <doctest/doctest.h>
 #include <string>
 
-#include "tests/unit/authoring/builder_desk.h"
+#include "tests/unit/authoring/builder_fixture.h"
 
 namespace tessara::test {
 
@@ -35,15 +35,15 @@ void Fill(QuestionBuilder& window, const std::vector<Text>& lines) {
 }  // namespace
 
 TEST_CASE("on a new question only line A is open, and no mark can be set") {
-  BuilderDesk desk;
-  const QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  const QuestionBuilder& window = fixture.OpenQuestion();
   CHECK(OpenLines(window) == "1000");
   CHECK(ArmedMarks(window) == "0000");
 }
 
 TEST_CASE("text on a line opens the next one and arms the line's own mark") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   const std::array<std::string, 4> open = {"1100", "1110", "1111", "1111"};
   const std::array<std::string, 4> armed = {"1000", "1100", "1110", "1111"};
   for (int line = 0; line < 4; ++line) {
@@ -68,8 +68,8 @@ TEST_CASE("an emptied line closes the empty one behind it, and clears and disarm
       {{u"a", u"b", u"c", u"d"}, 0, "1111", "1111"},
   };
   for (const Case& c : cases) {
-    BuilderDesk desk;
-    QuestionBuilder& window = desk.OpenQuestion();
+    BuilderFixture fixture;
+    QuestionBuilder& window = fixture.OpenQuestion();
     Fill(window, c.lines);
     window.marks[c.emptied].Press();
     CHECK(window.marks[c.emptied].Selected());
@@ -81,8 +81,8 @@ TEST_CASE("an emptied line closes the empty one behind it, and clears and disarm
 }
 
 TEST_CASE("line D, emptied where the user types, hands the focus to the line that opens it again") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   Fill(window, {u"a", u"b", u"c", u"d"});
   window.answers[3].SetFocus();
   Replace(window.answers[3], u"");
@@ -91,8 +91,8 @@ TEST_CASE("line D, emptied where the user types, hands the focus to the line tha
 }
 
 TEST_CASE("a line emptied from elsewhere leaves the focus where it is") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   Fill(window, {u"a", u"b", u"c", u"d"});
   window.question.SetFocus();
   window.answers[3].SetText(u"");
@@ -100,8 +100,8 @@ TEST_CASE("a line emptied from elsewhere leaves the focus where it is") {
 }
 
 TEST_CASE("only a change of line C opens an emptied line D again") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   Fill(window, {u"a", u"b", u"c", u"d"});
   Replace(window.answers[3], u"");
   Type(window.answers[0], u"x");
@@ -124,20 +124,20 @@ TEST_CASE("a loaded question opens its lines and the first empty one") {
       {{}, "1000", "0000"},
   };
   for (const Case& c : cases) {
-    BuilderDesk desk;
-    desk.AddChoice(u"question", c.choices, u"A");
-    const QuestionBuilder& window = desk.OpenQuestionOverTable();
+    BuilderFixture fixture;
+    fixture.AddChoice(u"question", c.choices, u"A");
+    const QuestionBuilder& window = fixture.OpenQuestionOverTable();
     CHECK(OpenLines(window) == c.open);
     CHECK(ArmedMarks(window) == c.armed);
   }
 }
 
 TEST_CASE("a move leaves the lines as the arriving texts make them") {
-  BuilderDesk desk;
-  desk.AddChoice(u"1", {u"a", u"b", u"c", u"d"}, u"B");
-  desk.AddChoice(u"2", {u"a"}, u"A");
-  desk.AddTrueFalse(u"3", u"T");
-  QuestionBuilder& window = desk.OpenQuestionOverTable();
+  BuilderFixture fixture;
+  fixture.AddChoice(u"1", {u"a", u"b", u"c", u"d"}, u"B");
+  fixture.AddChoice(u"2", {u"a"}, u"A");
+  fixture.AddTrueFalse(u"3", u"T");
+  QuestionBuilder& window = fixture.OpenQuestionOverTable();
   // The lines empty one by one: B and C still meet the old text behind them, D closes itself.
   window.arrows[kNextCard].Press();
   CHECK(OpenLines(window) == "1110");
@@ -148,9 +148,9 @@ TEST_CASE("a move leaves the lines as the arriving texts make them") {
 }
 
 TEST_CASE("the cancel of a new question sets the lines as a load does") {
-  BuilderDesk desk;
-  desk.AddChoice(u"1", {u"a", u"b"}, u"B");
-  QuestionBuilder& window = desk.OpenQuestionOverTable();
+  BuilderFixture fixture;
+  fixture.AddChoice(u"1", {u"a", u"b"}, u"B");
+  QuestionBuilder& window = fixture.OpenQuestionOverTable();
   window.buttons[kNewButton].Press();
   CHECK(OpenLines(window) == "1000");
   window.buttons[kCancelButton].Press();
@@ -159,8 +159,8 @@ TEST_CASE("the cancel of a new question sets the lines as a load does") {
 }
 
 TEST_CASE("the marks are one group: setting one clears the others") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   Fill(window, {u"a", u"b"});
   window.marks[0].Press();
   window.marks[1].Press();
@@ -169,8 +169,8 @@ TEST_CASE("the marks are one group: setting one clears the others") {
 }
 
 TEST_CASE("a mark on an empty line can't be set") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   Fill(window, {u"a"});
   window.marks[1].Press();
   CHECK_FALSE(window.marks[1].Selected());
@@ -178,8 +178,8 @@ TEST_CASE("a mark on an empty line can't be set") {
 
 TEST_CASE(
     "the add button needs a question and a mark, but a line's change asks for the mark only") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   const Button& add = window.buttons[kAddButton];
   Type(window.answers[0], u"a");
   CHECK_FALSE(add.Enabled());
@@ -194,8 +194,8 @@ TEST_CASE(
 }
 
 TEST_CASE("the click of a mark asks for text on line A only") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   Type(window.question, u"q");
   Fill(window, {u"a", u"b"});
   Replace(window.answers[0], u"");
@@ -213,8 +213,8 @@ TEST_CASE("a true or false question needs its text and a mark") {
                         {u"", true, false, true},
                         {u"", false, false, false}};
   for (const Case& c : cases) {
-    BuilderDesk desk;
-    QuestionBuilder& window = desk.OpenQuestion();
+    BuilderFixture fixture;
+    QuestionBuilder& window = fixture.OpenQuestion();
     window.layouts[kTrueOrFalse].Press();
     Type(window.question, Text(c.question));
     if (c.marked) window.trueFalseMarks[kFalseMark].Press();
@@ -224,8 +224,8 @@ TEST_CASE("a true or false question needs its text and a mark") {
 }
 
 TEST_CASE("a cancel is offered for a question, text on line A, or a true or false mark") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   const Button& cancel = window.buttons[kCancelButton];
   CHECK_FALSE(cancel.Enabled());
   Type(window.answers[0], u"a");
@@ -238,12 +238,12 @@ TEST_CASE("a cancel is offered for a question, text on line A, or a true or fals
 }
 
 TEST_CASE("the fifth capital of the run shortens the line that it is typed on") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   Type(window.answers[0], u"aAbBCD");
   CHECK(window.answers[0].MaxLength() == 48);
   Type(window.answers[1], u"E");
-  CHECK(desk.state.building.capitalCount == 5);
+  CHECK(fixture.state.building.capitalCount == 5);
   const std::array<int, 4> expected = {48, 40, 48, 48};
   for (int line = 0; line < 4; ++line) {
     CHECK(window.answers[line].MaxLength() == expected.at(static_cast<std::size_t>(line)));
@@ -255,8 +255,8 @@ TEST_CASE("the fifth capital of the run shortens the line that it is typed on") 
 }
 
 TEST_CASE("while the count stands at five every key shortens its line") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   Type(window.answers[0], u"ABCDE");
   Type(window.answers[1], u"x");
   Type(window.answers[2], u"1");
@@ -266,18 +266,18 @@ TEST_CASE("while the count stands at five every key shortens its line") {
 }
 
 TEST_CASE("letters beyond A to Z are no capitals, and the question's keys do not count") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   Type(window.answers[0], u"@[\u00C4\u00D6az09");
   Type(window.question, u"CAPITALS");
-  CHECK(desk.state.building.capitalCount == 0);
+  CHECK(fixture.state.building.capitalCount == 0);
   Type(window.answers[0], u"AZ");
-  CHECK(desk.state.building.capitalCount == 2);
+  CHECK(fixture.state.building.capitalCount == 2);
 }
 
 TEST_CASE("a shortened line keeps the text that is longer already") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   Type(window.answers[0], Text(48, u'x'));
   Type(window.answers[0], u"ABCDE");
   CHECK(window.answers[0].TextOf() == Text(48, u'x'));
@@ -289,23 +289,23 @@ TEST_CASE("a shortened line keeps the text that is longer already") {
 }
 
 TEST_CASE("the count and the shortened line outlive the builder") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   Type(window.answers[0], u"ABCDE");
   window.UserClose();
-  CHECK_FALSE(desk.question.IsLoaded());
-  desk.OpenBuilder();
-  CHECK(desk.state.building.capitalCount == 5);
-  CHECK(desk.question->answers[0].MaxLength() == 40);
-  CHECK(desk.question->answers[1].MaxLength() == 48);
+  CHECK_FALSE(fixture.question.IsLoaded());
+  fixture.OpenBuilder();
+  CHECK(fixture.state.building.capitalCount == 5);
+  CHECK(fixture.question->answers[0].MaxLength() == 40);
+  CHECK(fixture.question->answers[1].MaxLength() == 48);
 }
 
 TEST_CASE("the count of capitals stays at the most that it can hold") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
-  desk.state.building.capitalCount = 32767;
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
+  fixture.state.building.capitalCount = 32767;
   Type(window.answers[0], u"A");
-  CHECK(desk.state.building.capitalCount == 32767);
+  CHECK(fixture.state.building.capitalCount == 32767);
   CHECK(window.answers[0].MaxLength() == 48);
 }
 
@@ -318,8 +318,8 @@ TEST_CASE("a visit to a line takes the placeholder away, and nothing else") {
                         {u"[TEXT MISSING HERE] ", u"[TEXT MISSING HERE] "},
                         {u"answer", u"answer"}};
   for (const Case& c : cases) {
-    BuilderDesk desk;
-    QuestionBuilder& window = desk.OpenQuestion();
+    BuilderFixture fixture;
+    QuestionBuilder& window = fixture.OpenQuestion();
     Type(window.answers[0], Text(c.text));
     window.UserFocus(window.question);
     window.UserFocus(window.answers[0]);
@@ -328,8 +328,8 @@ TEST_CASE("a visit to a line takes the placeholder away, and nothing else") {
 }
 
 TEST_CASE("an answer line is one line and takes 48 characters") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   Replace(window.answers[0], u"first\r\nsecond");
   CHECK(window.answers[0].TextOf() == u"first");
   Replace(window.answers[0], Text(60, u'x'));
@@ -353,8 +353,8 @@ TEST_CASE("Tab leaves the last open answer line for the first mark that can be s
   };
   for (const Case& c : cases) {
     CAPTURE(c.from);
-    BuilderDesk desk;
-    QuestionBuilder& window = desk.OpenQuestion();
+    BuilderFixture fixture;
+    QuestionBuilder& window = fixture.OpenQuestion();
     Fill(window, c.lines);
     if (c.emptied >= 0) Replace(window.answers[c.emptied], u"");
     const Control* target = window.TabTarget(window.answers[c.from]);
@@ -363,8 +363,8 @@ TEST_CASE("Tab leaves the last open answer line for the first mark that can be s
 }
 
 TEST_CASE("with a mark set, or in the other layout, Tab goes to the next control") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   Fill(window, {u"a"});
   REQUIRE(window.TabTarget(window.answers[1]) != nullptr);
   window.marks[0].Press();

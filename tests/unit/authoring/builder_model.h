@@ -3,7 +3,7 @@
 #include <array>
 #include <vector>
 
-#include "tests/unit/authoring/builder_desk.h"
+#include "tests/unit/authoring/builder_fixture.h"
 
 namespace tessara::test {
 
@@ -30,14 +30,15 @@ class BuilderModel {
   std::array<int, 4> limit = {48, 48, 48, 48};
   int capitals = 0;
 
-  explicit BuilderModel(const BuilderDesk& desk)
-      : current(desk.state.deck.currentCard),
-        count(desk.state.deck.cardCount),
-        goTo(desk.deck->goToCard.Enabled()) {
+  explicit BuilderModel(const BuilderFixture& fixture)
+      : current(fixture.state.deck.currentCard),
+        count(fixture.state.deck.cardCount),
+        goTo(fixture.deck->goToCard.Enabled()) {
     for (int row = 0; row < kRows; ++row) {
       At(row) = {};
-      for (int column = 0; column < kColumns; ++column) Cell(row, column) = desk.Cell(row, column);
-      Present(row) = desk.state.deck.cardPresent.At(row);
+      for (int column = 0; column < kColumns; ++column)
+        Cell(row, column) = fixture.Cell(row, column);
+      Present(row) = fixture.state.deck.cardPresent.At(row);
     }
   }
 

@@ -88,14 +88,14 @@ std::string Summary(const BuilderModel& model) {
                  model.look, model.number, model.boxes);
 }
 
-std::string Summary(BuilderDesk& desk, const ButtonsLook& look, const Text& number) {
+std::string Summary(BuilderFixture& fixture, const ButtonsLook& look, const Text& number) {
   std::vector<Text> titles;
-  for (const FakeMessages::Shown& box : desk.TakeBoxes()) titles.push_back(box.title);
-  CHECK_FALSE(desk.state.building.fillingBoxes);
-  return Summary(
-      desk.state.deck.currentCard, desk.state.deck.cardCount,
-      {desk.state.deck.changed, desk.state.deck.saveOffered, desk.deck->goToCard.Enabled()}, look,
-      number, titles);
+  for (const FakeMessages::Shown& box : fixture.TakeBoxes()) titles.push_back(box.title);
+  CHECK_FALSE(fixture.state.building.fillingBoxes);
+  return Summary(fixture.state.deck.currentCard, fixture.state.deck.cardCount,
+                 {fixture.state.deck.changed, fixture.state.deck.saveOffered,
+                  fixture.deck->goToCard.Enabled()},
+                 look, number, titles);
 }
 
 /// The first cell or flag that differs, or nothing.
@@ -163,13 +163,13 @@ struct EssayWalk {
     return {kWrite, kWrite, kWrite,   kWrite,   kWrite,      kMove,  kMove,
             kNew,   kNew,   kAddCard, kAddCard, kCancelCard, kClose, kCloseBox};
   }
-  static void Open(BuilderDesk& desk, int cards) { desk.OpenEssay(cards); }
+  static void Open(BuilderFixture& fixture, int cards) { fixture.OpenEssay(cards); }
 
   static void Take(const Step& step, EssayModel& model) {
     TakeIn(model, step, [&] { model.Write(step.place % 2, TextOf(step)); });
   }
-  static void Take(const Step& step, BuilderDesk& desk) {
-    TextCardBuilder& window = desk.essay.Loaded();
+  static void Take(const Step& step, BuilderFixture& fixture) {
+    TextCardBuilder& window = fixture.essay.Loaded();
     TakeAt(window, window.buttons, step,
            [&] { Replace(window.sides[step.place % 2], TextOf(step)); });
   }
@@ -177,10 +177,10 @@ struct EssayWalk {
     return EssayModel::Texts()[step.text % EssayModel::Texts().size()].first;
   }
 
-  static bool IsOpen(const BuilderDesk& desk) { return desk.essay.IsLoaded(); }
-  static std::string Seen(BuilderDesk& desk) {
-    const TextCardBuilder& window = desk.essay.Loaded();
-    return Summary(desk, LookOf(window), window.number.Caption()) + " " +
+  static bool IsOpen(const BuilderFixture& fixture) { return fixture.essay.IsLoaded(); }
+  static std::string Seen(BuilderFixture& fixture) {
+    const TextCardBuilder& window = fixture.essay.Loaded();
+    return Summary(fixture, LookOf(window), window.number.Caption()) + " " +
            ToUtf8(window.sides[kFrontSide].TextOf()) + "|" +
            ToUtf8(window.sides[kBackSide].TextOf());
   }
@@ -197,13 +197,13 @@ struct QuestionWalk {
             kKey,   kVisit,   kMark,    kMark,       kTrueFalse, kType,    kMove,
             kNew,   kAddCard, kAddCard, kCancelCard, kClose,     kCloseBox};
   }
-  static void Open(BuilderDesk& desk, int cards) { desk.OpenQuestion(cards); }
+  static void Open(BuilderFixture& fixture, int cards) { fixture.OpenQuestion(cards); }
 
   static void Take(const Step& step, QuestionModel& model) {
     TakeIn(model, step, [&] { TakeOwn(step, model); });
   }
-  static void Take(const Step& step, BuilderDesk& desk) {
-    QuestionBuilder& window = desk.question.Loaded();
+  static void Take(const Step& step, BuilderFixture& fixture) {
+    QuestionBuilder& window = fixture.question.Loaded();
     TakeAt(window, window.buttons, step, [&] { TakeOwn(step, window); });
   }
   static void TakeOwn(const Step& step, QuestionModel& model) {
@@ -250,12 +250,12 @@ struct QuestionWalk {
     return keys[step.text % keys.size()];
   }
 
-  static bool IsOpen(const BuilderDesk& desk) { return desk.question.IsLoaded(); }
-  static std::string Seen(BuilderDesk& desk) {
-    const QuestionBuilder& window = desk.question.Loaded();
-    std::string text = Summary(desk, LookOf(window), window.number.Caption());
+  static bool IsOpen(const BuilderFixture& fixture) { return fixture.question.IsLoaded(); }
+  static std::string Seen(BuilderFixture& fixture) {
+    const QuestionBuilder& window = fixture.question.Loaded();
+    std::string text = Summary(fixture, LookOf(window), window.number.Caption());
     text += "|" + ToUtf8(window.question.TextOf()) + " " +
-            std::to_string(desk.state.building.capitalCount);
+            std::to_string(fixture.state.building.capitalCount);
     for (int line = 0; line < 4; ++line) {
       const TextBox& box = window.answers[line];
       text += Line(box.TextOf(),
@@ -303,7 +303,8 @@ struct Sights {
 
 /// True where the program goes on behind the step.
 template <class Walk>
-bool TakeStep(const Step& step, BuilderDesk& desk, typename Walk::Model& model, Sights& sights) {
+bool TakeStep(const Step& step, BuilderFixture& fixture, typename Walk::Model& model,
+              Sights& sights) {
   model.boxes.clear();
   model.yes = step.yes;
   bool ends = false;
@@ -313,24 +314,24 @@ bool TakeStep(const Step& step, BuilderDesk& desk, typename Walk::Model& model, 
     ends = true;
   }
   sights.titles.insert(model.boxes.begin(), model.boxes.end());
-  desk.fakes.messages.answers = {step.yes ? MessageAnswer::kYes : MessageAnswer::kNo};
-  Walk::Take(step, desk);
+  fixture.fakes.messages.answers = {step.yes ? MessageAnswer::kYes : MessageAnswer::kNo};
+  Walk::Take(step, fixture);
   if (ends) {
     ++sights.programEnds;
-    CHECK(desk.windows.ExitStatus() == 1);
+    CHECK(fixture.windows.ExitStatus() == 1);
     return false;
   }
-  REQUIRE_FALSE(desk.windows.ExitStatus());
-  if (!Walk::IsOpen(desk)) desk.OpenBuilder();
+  REQUIRE_FALSE(fixture.windows.ExitStatus());
+  if (!Walk::IsOpen(fixture)) fixture.OpenBuilder();
   return true;
 }
 
 template <class Walk>
 void WalkOnce(unsigned seed, Sights& sights) {
   constexpr std::array<int, 5> kDecks = {0, 1, 3, 199, 200};
-  BuilderDesk desk;
-  Walk::Open(desk, kDecks.at(seed % kDecks.size()));
-  typename Walk::Model model(desk);
+  BuilderFixture fixture;
+  Walk::Open(fixture, kDecks.at(seed % kDecks.size()));
+  typename Walk::Model model(fixture);
   Dice dice(seed);
   for (int step = 0; step < kSteps; ++step) {
     const Step next = dice.Next(Walk::Kinds());
@@ -338,11 +339,11 @@ void WalkOnce(unsigned seed, Sights& sights) {
     CAPTURE(step);
     CAPTURE(static_cast<int>(next.kind));
     CAPTURE(next.place);
-    if (!TakeStep<Walk>(next, desk, model, sights)) return;
+    if (!TakeStep<Walk>(next, fixture, model, sights)) return;
     ++sights.steps;
     if (model.count >= kMostCards) ++sights.fullDecks;
-    REQUIRE(Walk::Seen(desk) == Walk::Expected(model));
-    REQUIRE(Difference(model, desk.state) == "");
+    REQUIRE(Walk::Seen(fixture) == Walk::Expected(model));
+    REQUIRE(Difference(model, fixture.state) == "");
     const bool leadsOut = model.look.previousOn && model.current <= 1;
     REQUIRE_FALSE(leadsOut);
   }

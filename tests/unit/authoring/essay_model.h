@@ -21,7 +21,7 @@ class EssayModel : public BuilderModel {
     return texts;
   }
 
-  explicit EssayModel(const BuilderDesk& desk) : BuilderModel(desk) { Load(); }
+  explicit EssayModel(const BuilderFixture& fixture) : BuilderModel(fixture) { Load(); }
 
   void Write(int box, const Text& text) {
     Text& held = box == 0 ? front : back;

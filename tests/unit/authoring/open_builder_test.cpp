@@ -1,6 +1,6 @@
 #include <doctest/doctest.h>
 
-#include "tests/unit/authoring/builder_desk.h"
+#include "tests/unit/authoring/builder_fixture.h"
 
 namespace tessara::test {
 
@@ -13,10 +13,10 @@ TEST_CASE("the deck's type decides which builder opens, at its size in the middl
   const Case cases[] = {{kStandardDeck, "frmEssay", 5730, 5565},
                         {kExtendedDeck, "frmQuestion", 6000, 5535}};
   for (const Case& c : cases) {
-    BuilderDesk desk;
-    desk.Open(c.kind);
-    desk.OpenBuilder();
-    const Form& builder = *desk.windows.ActiveForm();
+    BuilderFixture fixture;
+    fixture.Open(c.kind);
+    fixture.OpenBuilder();
+    const Form& builder = *fixture.windows.ActiveForm();
     CHECK(builder.Name() == c.name);
     CHECK(builder.Caption() == u"Tessara");
     CHECK(builder.Kind() == FormKind::kChild);
@@ -24,23 +24,23 @@ TEST_CASE("the deck's type decides which builder opens, at its size in the middl
     CHECK(builder.Width() == c.width);
     CHECK(builder.Top() == (9000 - c.height) / 2);
     CHECK(builder.Left() == (12000 - c.width) / 2);
-    CHECK_FALSE(desk.deck->Visible());
-    CHECK_FALSE(desk.state.building.fillingBoxes);
+    CHECK_FALSE(fixture.deck->Visible());
+    CHECK_FALSE(fixture.state.building.fillingBoxes);
   }
 }
 
 TEST_CASE("the deck window is hidden for as long as a builder is open") {
   for (const DeckKind kind : {kStandardDeck, kExtendedDeck}) {
-    BuilderDesk desk;
-    desk.Open(kind);
-    desk.renderer.activated.clear();
-    desk.OpenBuilder();
-    CHECK_FALSE(desk.deck->Visible());
-    desk.windows.ActiveForm()->UserClose();
-    CHECK(desk.deck->Visible());
-    CHECK(desk.windows.ActiveForm() == &desk.deck.Loaded());
-    CHECK_FALSE(desk.essay.IsLoaded());
-    CHECK_FALSE(desk.question.IsLoaded());
+    BuilderFixture fixture;
+    fixture.Open(kind);
+    fixture.renderer.activated.clear();
+    fixture.OpenBuilder();
+    CHECK_FALSE(fixture.deck->Visible());
+    fixture.windows.ActiveForm()->UserClose();
+    CHECK(fixture.deck->Visible());
+    CHECK(fixture.windows.ActiveForm() == &fixture.deck.Loaded());
+    CHECK_FALSE(fixture.essay.IsLoaded());
+    CHECK_FALSE(fixture.question.IsLoaded());
   }
 }
 
@@ -56,13 +56,13 @@ TEST_CASE("behind a builder the focus is where a blank closes no deck") {
                         {"the last question of three", true, 3, false}};
   for (const Case& c : cases) {
     CAPTURE(c.what);
-    BuilderDesk desk;
-    c.questions ? desk.OpenExtendedDeck(c.cards) : desk.OpenStandardDeck(c.cards);
-    DeckWindow& deck = desk.deck.Loaded();
+    BuilderFixture fixture;
+    c.questions ? fixture.OpenExtendedDeck(c.cards) : fixture.OpenStandardDeck(c.cards);
+    DeckWindow& deck = fixture.deck.Loaded();
     deck.UserFocus(deck.closeDeck);
-    desk.OpenBuilder();
-    desk.windows.ActiveForm()->UserAccelerator(u'c');
-    CHECK(desk.windows.ActiveForm() == &deck);
+    fixture.OpenBuilder();
+    fixture.windows.ActiveForm()->UserAccelerator(u'c');
+    CHECK(fixture.windows.ActiveForm() == &deck);
     const Control* next = &deck.card;
     if (c.arrow) next = &deck.arrows[kNextCard];
     CHECK(deck.FocusedControl() == next);
@@ -70,39 +70,39 @@ TEST_CASE("behind a builder the focus is where a blank closes no deck") {
 }
 
 TEST_CASE("behind a builder the focus is on what had it, where that still works") {
-  BuilderDesk desk;
-  desk.OpenStandardDeck(3);
-  DeckWindow& deck = desk.deck.Loaded();
+  BuilderFixture fixture;
+  fixture.OpenStandardDeck(3);
+  DeckWindow& deck = fixture.deck.Loaded();
   deck.UserFocus(deck.flip);
-  desk.OpenBuilder();
-  desk.essay->UserClose();
+  fixture.OpenBuilder();
+  fixture.essay->UserClose();
   CHECK(deck.FocusedControl() == &deck.flip);
 }
 
 TEST_CASE("a builder opened again while it is open keeps the guard on") {
-  BuilderDesk desk;
-  TextCardBuilder& window = desk.OpenEssay(2);
-  desk.OpenBuilder();
-  CHECK(desk.state.building.fillingBoxes);
+  BuilderFixture fixture;
+  TextCardBuilder& window = fixture.OpenEssay(2);
+  fixture.OpenBuilder();
+  CHECK(fixture.state.building.fillingBoxes);
   Replace(window.sides[kFrontSide], u"other");
   CHECK_FALSE(window.buttons[kAddButton].Enabled());
 }
 
 TEST_CASE("a click on a builder closes the About box") {
   for (const DeckKind kind : {kStandardDeck, kExtendedDeck}) {
-    BuilderDesk desk;
-    desk.Open(kind);
-    desk.OpenBuilder();
-    desk.windows.ActiveForm()->UserClick();
-    CHECK(desk.frame.aboutClosed == 1);
+    BuilderFixture fixture;
+    fixture.Open(kind);
+    fixture.OpenBuilder();
+    fixture.windows.ActiveForm()->UserClick();
+    CHECK(fixture.frame.aboutClosed == 1);
   }
 }
 
 TEST_CASE("the label of the card's number is read out with the number") {
-  BuilderDesk essayDesk;
-  CHECK(essayDesk.OpenEssay().number.AccessibleName().empty());
-  BuilderDesk questionDesk;
-  CHECK(questionDesk.OpenQuestion().number.AccessibleName().empty());
+  BuilderFixture essayFixture;
+  CHECK(essayFixture.OpenEssay().number.AccessibleName().empty());
+  BuilderFixture questionFixture;
+  CHECK(questionFixture.OpenQuestion().number.AccessibleName().empty());
 }
 
 TEST_CASE("in a builder the letter C drops and closes nothing while two buttons carry it") {
@@ -114,8 +114,8 @@ TEST_CASE("in a builder the letter C drops and closes nothing while two buttons 
   const Case cases[] = {{"a new card", true, kCancelButton}, {"a changed card", false, kAddButton}};
   for (const Case& c : cases) {
     CAPTURE(c.what);
-    BuilderDesk desk;
-    TextCardBuilder& window = desk.OpenEssay(2);
+    BuilderFixture fixture;
+    TextCardBuilder& window = fixture.OpenEssay(2);
     if (c.fresh) window.buttons[kNewButton].Press();
     for (TextBox& box : window.sides) Type(box, u"typed");
     const Text typed = window.sides[kBackSide].TextOf();
@@ -124,22 +124,22 @@ TEST_CASE("in a builder the letter C drops and closes nothing while two buttons 
       CHECK(window.UserAccelerator(u'c'));
       CHECK(window.FocusedControl() == &window.buttons[button]);
     }
-    CHECK(desk.essay.IsLoaded());
+    CHECK(fixture.essay.IsLoaded());
     CHECK(window.sides[kBackSide].TextOf() == typed);
     CHECK(window.buttons[kAddButton].Enabled());
-    CHECK(desk.TakeBoxes().empty());
+    CHECK(fixture.TakeBoxes().empty());
   }
 }
 
 TEST_CASE("in a builder the letter C closes where no other button carries it") {
-  BuilderDesk desk;
+  BuilderFixture fixture;
   SUBCASE("texts") {
-    CHECK(desk.OpenEssay(2).UserAccelerator(u'c'));
-    CHECK_FALSE(desk.essay.IsLoaded());
+    CHECK(fixture.OpenEssay(2).UserAccelerator(u'c'));
+    CHECK_FALSE(fixture.essay.IsLoaded());
   }
   SUBCASE("questions") {
-    CHECK(desk.OpenQuestion(2).UserAccelerator(u'c'));
-    CHECK_FALSE(desk.question.IsLoaded());
+    CHECK(fixture.OpenQuestion(2).UserAccelerator(u'c'));
+    CHECK_FALSE(fixture.question.IsLoaded());
   }
 }
 

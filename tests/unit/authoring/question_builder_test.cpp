@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <doctest/doctest.h>
 
-#include "tests/unit/authoring/builder_desk.h"
+#include "tests/unit/authoring/builder_fixture.h"
 
 namespace tessara::test {
 
@@ -27,8 +27,8 @@ void FillChoice(QuestionBuilder& window) {
 }  // namespace
 
 TEST_CASE("the question builder over an empty deck waits for a multiple choice card 1") {
-  BuilderDesk desk;
-  const QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  const QuestionBuilder& window = fixture.OpenQuestion();
   CHECK(LookOf(window) == ButtonsLook{false, false, false, false, false, kAdd, kCancel});
   CHECK(window.number.Caption() == u"Card: 1");
   CHECK(window.layouts[kMultipleChoice].Selected());
@@ -39,8 +39,8 @@ TEST_CASE("the question builder over an empty deck waits for a multiple choice c
 }
 
 TEST_CASE("the question is the first control that the focus comes to") {
-  BuilderDesk desk;
-  const QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  const QuestionBuilder& window = fixture.OpenQuestion();
   const auto& controls = window.Controls();
   const auto first = std::find_if(controls.begin(), controls.end(), [](const Control* control) {
     return control->TakesFocus() && control->Reachable();
@@ -56,11 +56,11 @@ TEST_CASE("the question builder over a deck shows the card that the deck window 
     int layout;
   };
   for (const Case& c : {Case{1, false, true, 1}, Case{2, true, true, 0}, Case{3, true, false, 1}}) {
-    BuilderDesk desk;
-    desk.OpenExtendedDeck(3);
-    desk.state.deck.currentCard = c.card;
-    desk.OpenBuilder();
-    const QuestionBuilder& window = desk.question.Loaded();
+    BuilderFixture fixture;
+    fixture.OpenExtendedDeck(3);
+    fixture.state.deck.currentCard = c.card;
+    fixture.OpenBuilder();
+    const QuestionBuilder& window = fixture.question.Loaded();
     CHECK(LookOf(window) == ButtonsLook{true, false, true, c.previous, c.next, kChange, kDelete});
     CHECK(window.question.TextOf() == u"question " + DecimalText(c.card));
     CHECK(window.number.Caption() == u"Card: " + DecimalText(c.card));
@@ -69,7 +69,7 @@ TEST_CASE("the question builder over a deck shows the card that the deck window 
     CHECK(window.trueFalseLayout.Visible() == (c.layout == 1));
     CHECK_FALSE(window.layouts[kMultipleChoice].Enabled());
     CHECK_FALSE(window.layouts[kTrueOrFalse].Enabled());
-    CHECK_FALSE(desk.state.building.fillingBoxes);
+    CHECK_FALSE(fixture.state.building.fillingBoxes);
   }
 }
 
@@ -83,10 +83,10 @@ TEST_CASE("each stored mark and type comes back onto the form") {
                         {u"M", u"", 0, 0, -1},  {u"M", u"b", 0, 0, -1}, {u"T", u"", 1, 0, -1},
                         {u"M", u"F", 0, -1, 1}, {u"E", u"", 0, 0, -1},  {u"t", u"T", 0, -1, 0}};
   for (const Case& c : cases) {
-    BuilderDesk desk;
-    desk.AddChoice(u"q", {u"1", u"2", u"3", u"4"}, Text(c.key));
-    desk.state.deck.cardGrid.Set(1, kCardType, Text(c.type));
-    const QuestionBuilder& window = desk.OpenQuestionOverTable();
+    BuilderFixture fixture;
+    fixture.AddChoice(u"q", {u"1", u"2", u"3", u"4"}, Text(c.key));
+    fixture.state.deck.cardGrid.Set(1, kCardType, Text(c.type));
+    const QuestionBuilder& window = fixture.OpenQuestionOverTable();
     CHECK(Chosen(window.layouts) == c.layout);
     CHECK(Chosen(window.marks) == c.mark);
     CHECK(Chosen(window.trueFalseMarks) == c.trueFalse);
@@ -95,10 +95,10 @@ TEST_CASE("each stored mark and type comes back onto the form") {
 }
 
 TEST_CASE("a text card in an extended deck shows as multiple choice with mark A") {
-  BuilderDesk desk;
-  desk.AddTrueFalse(u"q", u"T");
-  desk.AddTextCard(u"front", u"back");
-  QuestionBuilder& window = desk.OpenQuestionOverTable();
+  BuilderFixture fixture;
+  fixture.AddTrueFalse(u"q", u"T");
+  fixture.AddTextCard(u"front", u"back");
+  QuestionBuilder& window = fixture.OpenQuestionOverTable();
   window.arrows[kNextCard].Press();
   CHECK(window.question.TextOf() == u"front");
   CHECK(Chosen(window.layouts) == 0);
@@ -107,15 +107,15 @@ TEST_CASE("a text card in an extended deck shows as multiple choice with mark A"
 }
 
 TEST_CASE("the number on a question's form is the one that its row stores") {
-  BuilderDesk desk;
-  desk.AddTrueFalse(u"q", u"T");
-  desk.state.deck.cardGrid.Set(1, kRowNumber, u"7");
-  CHECK(desk.OpenQuestionOverTable().number.Caption() == u"Card: 7");
+  BuilderFixture fixture;
+  fixture.AddTrueFalse(u"q", u"T");
+  fixture.state.deck.cardGrid.Set(1, kRowNumber, u"7");
+  CHECK(fixture.OpenQuestionOverTable().number.Caption() == u"Card: 7");
 }
 
 TEST_CASE("switching the type keeps what stands on the hidden layout and goes to the question") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   FillChoice(window);
   window.UserFocus(window.layouts[kTrueOrFalse]);
   window.layouts[kTrueOrFalse].Press();
@@ -133,8 +133,8 @@ TEST_CASE("switching the type keeps what stands on the hidden layout and goes to
 }
 
 TEST_CASE("the type of a card that is in the deck can't be changed") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion(1);
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion(1);
   window.layouts[kMultipleChoice].Press();
   CHECK(Chosen(window.layouts) == 1);
   window.buttons[kNewButton].Press();
@@ -144,11 +144,11 @@ TEST_CASE("the type of a card that is in the deck can't be changed") {
 
 TEST_CASE("a new question keeps the type of the card before it, on an empty form") {
   for (const std::int16_t card : {std::int16_t{1}, std::int16_t{2}}) {
-    BuilderDesk desk;
-    desk.OpenExtendedDeck(3);
-    desk.state.deck.currentCard = card;
-    desk.OpenBuilder();
-    QuestionBuilder& window = desk.question.Loaded();
+    BuilderFixture fixture;
+    fixture.OpenExtendedDeck(3);
+    fixture.state.deck.currentCard = card;
+    fixture.OpenBuilder();
+    QuestionBuilder& window = fixture.question.Loaded();
     const int layout = Chosen(window.layouts);
     window.buttons[kNewButton].Press();
     CHECK(Chosen(window.layouts) == layout);
@@ -160,8 +160,8 @@ TEST_CASE("a new question keeps the type of the card before it, on an empty form
     CHECK(Chosen(window.marks) == -1);
     CHECK(Chosen(window.trueFalseMarks) == -1);
     CHECK(window.FocusedControl() == &window.question);
-    CHECK(desk.state.deck.currentCard == 4);
-    CHECK_FALSE(desk.state.building.fillingBoxes);
+    CHECK(fixture.state.deck.currentCard == 4);
+    CHECK_FALSE(fixture.state.building.fillingBoxes);
   }
 }
 
@@ -174,91 +174,91 @@ TEST_CASE("a mark set by the program uses up the guard, one that stands already 
   const Case cases[] = {
       {u"B", 0, false}, {u"B", 1, true}, {u"", 0, true}, {u"C", -1, false}, {u"T", -1, false}};
   for (const Case& c : cases) {
-    BuilderDesk desk;
-    QuestionBuilder& window = desk.OpenQuestion();
+    BuilderFixture fixture;
+    QuestionBuilder& window = fixture.OpenQuestion();
     if (c.before >= 0) window.marks[c.before].SetSelected(true);
-    desk.state.building.fillingBoxes = true;
+    fixture.state.building.fillingBoxes = true;
     window.MarkCorrAns(Text(c.key));
-    CHECK(desk.state.building.fillingBoxes == c.guardAfter);
+    CHECK(fixture.state.building.fillingBoxes == c.guardAfter);
     CHECK_FALSE(window.buttons[kAddButton].Enabled());
   }
 }
 
 TEST_CASE("a guard left on by opening the builder twice is used up by the user's next mark") {
-  BuilderDesk desk;
-  desk.AddChoice(u"q", {u"a", u"b"}, u"A");
-  QuestionBuilder& window = desk.OpenQuestionOverTable();
-  desk.OpenBuilder();
+  BuilderFixture fixture;
+  fixture.AddChoice(u"q", {u"a", u"b"}, u"A");
+  QuestionBuilder& window = fixture.OpenQuestionOverTable();
+  fixture.OpenBuilder();
   Type(window.question, u"!");
   CHECK_FALSE(window.buttons[kAddButton].Enabled());
   window.marks[1].Press();
   CHECK_FALSE(window.buttons[kAddButton].Enabled());
-  CHECK_FALSE(desk.state.building.fillingBoxes);
+  CHECK_FALSE(fixture.state.building.fillingBoxes);
   Type(window.question, u"!");
   CHECK(window.buttons[kAddButton].Enabled());
 }
 
 TEST_CASE("a move, a cancel and a delete do not count as edits of the question") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion(4);
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion(4);
   for (const int arrow : {1, 1, 0, 1, 1, 0}) {
     window.arrows[arrow].Press();
     CHECK_FALSE(window.buttons[kAddButton].Enabled());
-    CHECK_FALSE(desk.state.building.fillingBoxes);
+    CHECK_FALSE(fixture.state.building.fillingBoxes);
   }
   window.buttons[kNewButton].Press();
   window.buttons[kCancelButton].Press();
   CHECK_FALSE(window.buttons[kAddButton].Enabled());
-  desk.Answer(MessageAnswer::kYes);
+  fixture.Answer(MessageAnswer::kYes);
   window.buttons[kCancelButton].Press();
   CHECK_FALSE(window.buttons[kAddButton].Enabled());
-  CHECK_FALSE(desk.state.building.fillingBoxes);
+  CHECK_FALSE(fixture.state.building.fillingBoxes);
 }
 
 TEST_CASE("a move to a question of the other type goes to its text") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion(2);
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion(2);
   window.UserFocus(window.arrows[kNextCard]);
   window.arrows[kNextCard].Press();
   CHECK(window.FocusedControl() == &window.question);
 }
 
 TEST_CASE("the arrows of the question builder pass the focus on at the ends of the deck") {
-  BuilderDesk desk;
-  desk.AddTrueFalse(u"1", u"T");
-  desk.AddTrueFalse(u"2", u"T");
-  QuestionBuilder& window = desk.OpenQuestionOverTable();
+  BuilderFixture fixture;
+  fixture.AddTrueFalse(u"1", u"T");
+  fixture.AddTrueFalse(u"2", u"T");
+  QuestionBuilder& window = fixture.OpenQuestionOverTable();
   window.UserFocus(window.arrows[kNextCard]);
   window.arrows[kNextCard].Press();
   CHECK(window.FocusedControl() == &window.arrows[kPreviousCard]);
 }
 
 TEST_CASE("saving an older question through the question of a move adds one to the count") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion(3);
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion(3);
   Type(window.question, u"!");
-  desk.Answer(MessageAnswer::kYes);
+  fixture.Answer(MessageAnswer::kYes);
   window.arrows[kNextCard].Press();
-  CHECK(desk.TakeBoxes() == std::vector{kChangedCardBox});
-  CHECK(desk.Cell(1, kCardText) == u"question 1!");
-  CHECK(desk.state.deck.cardCount == 4);
-  CHECK(desk.state.deck.cardPresent.At(4) == 0);
-  CHECK(desk.state.deck.currentCard == 2);
+  CHECK(fixture.TakeBoxes() == std::vector{kChangedCardBox});
+  CHECK(fixture.Cell(1, kCardText) == u"question 1!");
+  CHECK(fixture.state.deck.cardCount == 4);
+  CHECK(fixture.state.deck.cardPresent.At(4) == 0);
+  CHECK(fixture.state.deck.currentCard == 2);
   CHECK_FALSE(window.buttons[kAddButton].Enabled());
 }
 
 TEST_CASE("No to the question about a changed question leaves the change button on") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion(3);
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion(3);
   Type(window.question, u"!");
-  desk.Answer(MessageAnswer::kNo);
+  fixture.Answer(MessageAnswer::kNo);
   window.arrows[kNextCard].Press();
   CHECK(window.buttons[kAddButton].Enabled());
-  CHECK(desk.Cell(1, kCardText) == u"question 1");
-  CHECK(desk.state.deck.cardCount == 3);
-  desk.Answer(MessageAnswer::kNo);
+  CHECK(fixture.Cell(1, kCardText) == u"question 1");
+  CHECK(fixture.state.deck.cardCount == 3);
+  fixture.Answer(MessageAnswer::kNo);
   window.arrows[kNextCard].Press();
-  CHECK(desk.TakeBoxes() == std::vector{kChangedCardBox, kChangedCardBox});
+  CHECK(fixture.TakeBoxes() == std::vector{kChangedCardBox, kChangedCardBox});
 }
 
 TEST_CASE("the two builders count differently: one ends the deck at the saved card, one adds") {
@@ -267,35 +267,35 @@ TEST_CASE("the two builders count differently: one ends the deck at the saved ca
     std::int16_t count;
   };
   for (const Case& c : {Case{kStandardDeck, 2}, Case{kExtendedDeck, 6}}) {
-    BuilderDesk desk;
+    BuilderFixture fixture;
     if (c.kind == kStandardDeck) {
-      TextCardBuilder& window = desk.OpenEssay(5);
+      TextCardBuilder& window = fixture.OpenEssay(5);
       window.arrows[kNextCard].Press();
       Type(window.sides[kFrontSide], u"!");
-      desk.Answer(MessageAnswer::kYes);
+      fixture.Answer(MessageAnswer::kYes);
       window.arrows[kPreviousCard].Press();
     } else {
-      QuestionBuilder& window = desk.OpenQuestion(5);
+      QuestionBuilder& window = fixture.OpenQuestion(5);
       window.arrows[kNextCard].Press();
       Type(window.question, u"!");
-      desk.Answer(MessageAnswer::kYes);
+      fixture.Answer(MessageAnswer::kYes);
       window.arrows[kPreviousCard].Press();
     }
-    CHECK(desk.state.deck.cardCount == c.count);
+    CHECK(fixture.state.deck.cardCount == c.count);
   }
 }
 
 TEST_CASE("cancelling the first question empties the form") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   FillChoice(window);
   window.buttons[kCancelButton].Press();
   CHECK(LookOf(window) == ButtonsLook{false, false, false, false, false, kAdd, kCancel});
   CHECK(window.question.TextOf().empty());
   CHECK(Chosen(window.marks) == -1);
   CHECK(window.FocusedControl() == &window.question);
-  CHECK(desk.state.deck.currentCard == 0);
-  CHECK(desk.TakeBoxes().empty());
+  CHECK(fixture.state.deck.currentCard == 0);
+  CHECK(fixture.TakeBoxes().empty());
 }
 
 TEST_CASE("cancelling a new question shows the last one, with the arrows by its place") {
@@ -304,62 +304,62 @@ TEST_CASE("cancelling a new question shows the last one, with the arrows by its 
     bool previous;
   };
   for (const Case& c : {Case{1, false}, Case{2, true}}) {
-    BuilderDesk desk;
-    QuestionBuilder& window = desk.OpenQuestion(c.cards);
+    BuilderFixture fixture;
+    QuestionBuilder& window = fixture.OpenQuestion(c.cards);
     window.buttons[kNewButton].Press();
     Type(window.question, u"never mind");
     window.buttons[kCancelButton].Press();
     CHECK(window.question.TextOf() == u"question " + DecimalText(c.cards));
     CHECK(LookOf(window) == ButtonsLook{true, false, true, c.previous, false, kChange, kDelete});
-    CHECK(desk.state.deck.currentCard == c.cards);
-    CHECK_FALSE(desk.state.deck.changed);
+    CHECK(fixture.state.deck.currentCard == c.cards);
+    CHECK_FALSE(fixture.state.deck.changed);
   }
 }
 
 TEST_CASE("deleting the only question goes back to a new one") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion(1);
-  desk.Answer(MessageAnswer::kYes);
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion(1);
+  fixture.Answer(MessageAnswer::kYes);
   window.buttons[kCancelButton].Press();
   CHECK(LookOf(window) == ButtonsLook{false, false, false, false, false, kAdd, kCancel});
-  CHECK(desk.state.deck.cardCount == 0);
-  CHECK(desk.state.deck.currentCard == 0);
+  CHECK(fixture.state.deck.cardCount == 0);
+  CHECK(fixture.state.deck.currentCard == 0);
   CHECK(window.layouts[kMultipleChoice].Enabled());
   CHECK(window.FocusedControl() == &window.question);
-  CHECK_FALSE(desk.deck->goToCard.Enabled());
+  CHECK_FALSE(fixture.deck->goToCard.Enabled());
 }
 
 TEST_CASE("No to the delete question redraws the question and marks the deck as changed") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion(2);
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion(2);
   Replace(window.question, u"typed over");
-  desk.Answer(MessageAnswer::kNo);
+  fixture.Answer(MessageAnswer::kNo);
   window.buttons[kCancelButton].Press();
   CHECK(window.question.TextOf() == u"question 1");
   CHECK(Chosen(window.trueFalseMarks) == 0);
-  CHECK(desk.state.deck.changed);
-  CHECK(desk.state.deck.cardCount == 2);
+  CHECK(fixture.state.deck.changed);
+  CHECK(fixture.state.deck.cardCount == 2);
   CHECK_FALSE(window.buttons[kAddButton].Enabled());
 }
 
 TEST_CASE("at 200 questions there is no new card") {
-  BuilderDesk desk;
-  CHECK_FALSE(desk.OpenQuestion(kMostCards).buttons[kNewButton].Enabled());
-  BuilderDesk other;
+  BuilderFixture fixture;
+  CHECK_FALSE(fixture.OpenQuestion(kMostCards).buttons[kNewButton].Enabled());
+  BuilderFixture other;
   CHECK(other.OpenQuestion(kMostCards - 1).buttons[kNewButton].Enabled());
 }
 
 TEST_CASE("sizing the question builder writes the number of cards to the deck window") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion(2);
-  desk.deck->card.SetCardTotal(u"");
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion(2);
+  fixture.deck->card.SetCardTotal(u"");
   window.SetHeight(window.Height() + 15);
-  CHECK(desk.deck->card.CardTotal() == u"2");
+  CHECK(fixture.deck->card.CardTotal() == u"2");
 }
 
 TEST_CASE("the window of the question builder is laid out as designed") {
-  BuilderDesk desk;
-  const QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  const QuestionBuilder& window = fixture.OpenQuestion();
   CHECK(window.heading.FontOf() == Font{u"MS Sans Serif", 9.75});
   CHECK(window.heading.ForeColor() == FixedColor(0, 0, 255));
   CHECK(window.number.ForeColor() == FixedColor(128, 0, 0));

@@ -17,7 +17,7 @@ class QuestionModel : public BuilderModel {
   int layout = -1;
   bool typeOn = true;
 
-  explicit QuestionModel(const BuilderDesk& desk) : BuilderModel(desk) { Load(); }
+  explicit QuestionModel(const BuilderFixture& fixture) : BuilderModel(fixture) { Load(); }
 
   void WriteQuestion(const Text& text) {
     if (question == text) return;

@@ -1,6 +1,6 @@
 #include <doctest/doctest.h>
 
-#include "tests/unit/authoring/builder_desk.h"
+#include "tests/unit/authoring/builder_fixture.h"
 
 namespace tessara::test {
 
@@ -27,10 +27,10 @@ void FillIn(QuestionBuilder& window, const Sheet& sheet) {
   }
 }
 
-std::vector<Text> Row(const BuilderDesk& desk, int row) {
+std::vector<Text> Row(const BuilderFixture& fixture, int row) {
   std::vector<Text> cells;
   cells.reserve(kColumns);
-  for (int column = 0; column < kColumns; ++column) cells.push_back(desk.Cell(row, column));
+  for (int column = 0; column < kColumns; ++column) cells.push_back(fixture.Cell(row, column));
   return cells;
 }
 
@@ -58,73 +58,74 @@ TEST_CASE("adding a question writes its row") {
        {u"", u"T", u"q", u"1", u"one", u"two", u"", u"", u"F", u""}},
   };
   for (const Case& c : cases) {
-    BuilderDesk desk;
-    QuestionBuilder& window = desk.OpenQuestion();
+    BuilderFixture fixture;
+    QuestionBuilder& window = fixture.OpenQuestion();
     FillIn(window, c.sheet);
     window.buttons[kAddButton].Press();
-    CHECK(Row(desk, 1) == c.row);
-    CHECK(desk.state.deck.cardPresent.At(1) == 1);
-    CHECK(desk.state.deck.currentCard == 1);
-    CHECK(desk.state.deck.cardCount == 1);
-    CHECK(desk.state.deck.changed);
-    CHECK(desk.state.deck.saveOffered);
+    CHECK(Row(fixture, 1) == c.row);
+    CHECK(fixture.state.deck.cardPresent.At(1) == 1);
+    CHECK(fixture.state.deck.currentCard == 1);
+    CHECK(fixture.state.deck.cardCount == 1);
+    CHECK(fixture.state.deck.changed);
+    CHECK(fixture.state.deck.saveOffered);
     CHECK(LookOf(window) == ButtonsLook{true, false, true, false, false, kChange, kDelete});
     CHECK_FALSE(window.layouts[kMultipleChoice].Enabled());
     CHECK(window.number.Caption() == u"Card: 1");
-    CHECK(desk.TakeBoxes().empty());
+    CHECK(fixture.TakeBoxes().empty());
   }
 }
 
 TEST_CASE("a gap among the answer lines is a gap in the row") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   FillIn(window, {false, u"q", {u"a", u"b", u"c"}, 2});
   Replace(window.answers[1], u"");
   window.buttons[kAddButton].Press();
-  CHECK(Row(desk, 1) == std::vector<Text>{u"", u"M", u"q", u"1", u"a", u"", u"c", u"", u"C", u""});
-  CHECK(desk.TakeBoxes().empty());
+  CHECK(Row(fixture, 1) ==
+        std::vector<Text>{u"", u"M", u"q", u"1", u"a", u"", u"c", u"", u"C", u""});
+  CHECK(fixture.TakeBoxes().empty());
 }
 
 TEST_CASE("a card added without a mark is stored without one and comes back with mark A") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   FillIn(window, {false, u"q", {u"a", u"b"}, 1});
   window.layouts[kTrueOrFalse].Press();  // the add button stays on
   window.buttons[kAddButton].Press();
-  CHECK(desk.Cell(1, kCardType) == u"T");
-  CHECK(desk.Cell(1, kAnswer).empty());
+  CHECK(fixture.Cell(1, kCardType) == u"T");
+  CHECK(fixture.Cell(1, kAnswer).empty());
   CHECK(window.marks[0].Selected());
 }
 
 TEST_CASE("a change of an older question keeps the count and the other state") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion(3);
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion(3);
   window.arrows[kNextCard].Press();
   Type(window.answers[3], u"!");
-  desk.state.deck.cardPresent.Set(2, 0);
+  fixture.state.deck.cardPresent.Set(2, 0);
   window.buttons[kAddButton].Press();
-  CHECK(Row(desk, 2) == std::vector<Text>{u"", u"M", u"question 2", u"2", u"one", u"two", u"three",
-                                          u"four!", u"B", u""});
-  CHECK(desk.state.deck.cardPresent.At(2) == 1);
-  CHECK(desk.state.deck.cardCount == 3);
-  CHECK(desk.state.deck.currentCard == 2);
-  CHECK(desk.state.deck.changed);
-  CHECK(desk.state.deck.saveOffered);
+  CHECK(Row(fixture, 2) == std::vector<Text>{u"", u"M", u"question 2", u"2", u"one", u"two",
+                                             u"three", u"four!", u"B", u""});
+  CHECK(fixture.state.deck.cardPresent.At(2) == 1);
+  CHECK(fixture.state.deck.cardCount == 3);
+  CHECK(fixture.state.deck.currentCard == 2);
+  CHECK(fixture.state.deck.changed);
+  CHECK(fixture.state.deck.saveOffered);
   CHECK_FALSE(window.buttons[kAddButton].Enabled());
 }
 
 TEST_CASE("the go-to command comes on with the second question") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   FillIn(window, {true, u"1", {}, 0});
   window.buttons[kAddButton].Press();
-  CHECK_FALSE(desk.deck->goToCard.Enabled());
+  CHECK_FALSE(fixture.deck->goToCard.Enabled());
   window.buttons[kNewButton].Press();
   Type(window.question, u"2");
   window.trueFalseMarks[kFalseMark].Press();
   window.buttons[kAddButton].Press();
-  CHECK(desk.deck->goToCard.Enabled());
-  CHECK(desk.state.deck.cardCount == 2);
+  CHECK(fixture.deck->goToCard.Enabled());
+  CHECK(fixture.state.deck.cardCount == 2);
 }
 
 TEST_CASE("the placeholder on an answer line refuses the add and the change") {
@@ -140,48 +141,48 @@ TEST_CASE("the placeholder on an answer line refuses the add and the change") {
       {{u"a", u"[TEXT MISSING HERE]."}, 0},
   };
   for (const Case& c : cases) {
-    BuilderDesk desk;
-    QuestionBuilder& window = desk.OpenQuestion();
+    BuilderFixture fixture;
+    QuestionBuilder& window = fixture.OpenQuestion();
     FillIn(window, {false, u"q", c.lines, 0});
     window.buttons[kAddButton].Press();
     const bool refused = c.line != 0;
-    CHECK(desk.TakeBoxes() == std::vector(refused ? 1 : 0, Refusal(c.line)));
-    CHECK(desk.state.deck.cardCount == (refused ? 0 : 1));
+    CHECK(fixture.TakeBoxes() == std::vector(refused ? 1 : 0, Refusal(c.line)));
+    CHECK(fixture.state.deck.cardCount == (refused ? 0 : 1));
     CHECK(window.buttons[kAddButton].Enabled() == refused);
     CHECK(window.buttons[kAddButton].Caption() == (refused ? kAdd : kChange));
-    CHECK(desk.state.deck.changed == !refused);
+    CHECK(fixture.state.deck.changed == !refused);
   }
 }
 
 TEST_CASE("a refused change leaves the row as it was") {
-  BuilderDesk desk;
-  desk.AddChoice(u"q", {u"a", u"b"}, u"A");
-  QuestionBuilder& window = desk.OpenQuestionOverTable();
+  BuilderFixture fixture;
+  fixture.AddChoice(u"q", {u"a", u"b"}, u"A");
+  QuestionBuilder& window = fixture.OpenQuestionOverTable();
   Replace(window.answers[1], u"[TEXT MISSING HERE]");
   window.buttons[kAddButton].Press();
-  CHECK(desk.TakeBoxes() == std::vector{Refusal(2)});
-  CHECK(desk.Cell(1, kChoiceB) == u"b");
-  CHECK_FALSE(desk.state.deck.saveOffered);
+  CHECK(fixture.TakeBoxes() == std::vector{Refusal(2)});
+  CHECK(fixture.Cell(1, kChoiceB) == u"b");
+  CHECK_FALSE(fixture.state.deck.saveOffered);
   CHECK(window.buttons[kAddButton].Enabled());
   window.UserFocus(window.answers[1]);
   Type(window.answers[1], u"c");
   window.buttons[kAddButton].Press();
-  CHECK(desk.Cell(1, kChoiceB) == u"c");
+  CHECK(fixture.Cell(1, kChoiceB) == u"c");
 }
 
 TEST_CASE("text on a closed line puts the placeholder on the line before and refuses") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   FillIn(window, {false, u"q", {u"a", u"b", u"c"}, 0});
   Replace(window.answers[1], u"");
   window.answers[2].SetEnabled(false);
   window.buttons[kAddButton].Press();
-  CHECK(desk.TakeBoxes() ==
+  CHECK(fixture.TakeBoxes() ==
         std::vector<FakeMessages::Shown>{{u"Answer line # 2 must have text.", 16,
                                           u"Error: Incomplete Question Builder Information!"}});
   CHECK(window.answers[1].TextOf() == u"[TEXT MISSING HERE]");
-  CHECK(desk.state.deck.cardCount == 0);
-  CHECK(desk.Cell(1, kCardType).empty());
+  CHECK(fixture.state.deck.cardCount == 0);
+  CHECK(fixture.Cell(1, kCardType).empty());
 }
 
 TEST_CASE("the mark of the form follows the layout") {
@@ -192,8 +193,8 @@ TEST_CASE("the mark of the form follows the layout") {
   const Case cases[] = {{0, 2, 1, u"C", u"F"}, {1, 2, 1, u"F", u"F"}, {1, 2, 0, u"T", u"T"},
                         {0, -1, 0, u"", u"T"}, {1, 3, -1, u"", u""},  {-1, 3, 1, u"", u"F"}};
   for (const Case& c : cases) {
-    BuilderDesk desk;
-    QuestionBuilder& window = desk.OpenQuestion();
+    BuilderFixture fixture;
+    QuestionBuilder& window = fixture.OpenQuestion();
     if (c.choice >= 0) window.marks[c.choice].SetSelected(true);
     if (c.trueFalse >= 0) window.trueFalseMarks[c.trueFalse].SetSelected(true);
     window.layouts[kMultipleChoice].SetSelected(false);
@@ -210,28 +211,28 @@ TEST_CASE("the mark of the form follows the layout") {
 }
 
 TEST_CASE("saving without a chosen type writes nothing, yet counts") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   window.layouts[kMultipleChoice].SetSelected(false);
   window.SaveTrueFalse();
-  CHECK(desk.state.deck.cardCount == 0);
+  CHECK(fixture.state.deck.cardCount == 0);
   window.SaveCard_Gen();
-  CHECK(desk.state.deck.cardCount == 1);
-  CHECK(desk.Cell(1, kCardType).empty());
+  CHECK(fixture.state.deck.cardCount == 1);
+  CHECK(fixture.Cell(1, kCardType).empty());
 }
 
 TEST_CASE("closing the question builder without a change goes to the last card") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion(3);
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion(3);
   window.buttons[kCloseButton].Press();
-  CHECK(desk.state.deck.currentCard == 3);
-  CHECK(desk.deck->card.CardText() == u"question 3");
-  CHECK(desk.deck->card.CardNumber() == u"3");
-  CHECK(desk.deck->answer.Caption() == u"TRUE");
-  CHECK(desk.deck->printDeck.Enabled());
-  CHECK(desk.deck->Visible());
-  CHECK_FALSE(desk.question.IsLoaded());
-  CHECK(desk.TakeBoxes().empty());
+  CHECK(fixture.state.deck.currentCard == 3);
+  CHECK(fixture.deck->card.CardText() == u"question 3");
+  CHECK(fixture.deck->card.CardNumber() == u"3");
+  CHECK(fixture.deck->answer.Caption() == u"TRUE");
+  CHECK(fixture.deck->printDeck.Enabled());
+  CHECK(fixture.deck->Visible());
+  CHECK_FALSE(fixture.question.IsLoaded());
+  CHECK(fixture.TakeBoxes().empty());
 }
 
 TEST_CASE("the close of a changed question saves on Yes and goes to the last card on No") {
@@ -246,61 +247,61 @@ TEST_CASE("the close of a changed question saves on Yes and goes to the last car
                         {true, MessageAnswer::kYes, 4, 4, u"question 2"},
                         {true, MessageAnswer::kNo, 3, 3, u"question 2"}};
   for (const Case& c : cases) {
-    BuilderDesk desk;
-    QuestionBuilder& window = desk.OpenQuestion(3);
+    BuilderFixture fixture;
+    QuestionBuilder& window = fixture.OpenQuestion(3);
     window.arrows[kNextCard].Press();
     if (c.isNew) window.buttons[kNewButton].Press();
     Replace(window.answers[0], u"A & B");
     window.marks[0].Press();
     Replace(window.question, u"edited");
-    desk.Answer(c.answer);
+    fixture.Answer(c.answer);
     window.buttons[kCloseButton].Press();
     std::vector<FakeMessages::Shown> boxes = {
         {u"This card has been changed. Do you want to save these changes?", 4, u"Tessara"}};
     const bool saved = c.answer == MessageAnswer::kYes;
     if (saved) boxes.push_back({u"Changes Saved!", 0, u"Tessara"});
-    CHECK(desk.TakeBoxes() == boxes);
-    CHECK(desk.state.deck.cardCount == c.count);
-    CHECK(desk.state.deck.currentCard == c.current);
-    CHECK(desk.state.deck.changed == saved);
-    CHECK(desk.state.deck.saveOffered == saved);
-    CHECK(desk.Cell(2, kCardText) == c.question2);
-    CHECK(desk.deck->card.CardTotal() == DecimalText(c.count));
-    CHECK(desk.deck->card.CardText() == (saved ? u"edited" : u"question 3"));
-    CHECK(desk.deck->answer.Caption() == (saved ? u"A && B" : u"TRUE"));
+    CHECK(fixture.TakeBoxes() == boxes);
+    CHECK(fixture.state.deck.cardCount == c.count);
+    CHECK(fixture.state.deck.currentCard == c.current);
+    CHECK(fixture.state.deck.changed == saved);
+    CHECK(fixture.state.deck.saveOffered == saved);
+    CHECK(fixture.Cell(2, kCardText) == c.question2);
+    CHECK(fixture.deck->card.CardTotal() == DecimalText(c.count));
+    CHECK(fixture.deck->card.CardText() == (saved ? u"edited" : u"question 3"));
+    CHECK(fixture.deck->answer.Caption() == (saved ? u"A && B" : u"TRUE"));
   }
 }
 
 TEST_CASE("a question saved at the close of a new deck is card 1, and not checked") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
-  desk.state.deck.currentCard = 0;
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
+  fixture.state.deck.currentCard = 0;
   FillIn(window, {false, u"q", {u"[TEXT MISSING HERE]"}, 0});
-  desk.Answer(MessageAnswer::kYes);
+  fixture.Answer(MessageAnswer::kYes);
   window.buttons[kCloseButton].Press();
-  CHECK(desk.state.deck.currentCard == 1);
-  CHECK(desk.state.deck.cardCount == 1);
-  CHECK(desk.Cell(1, kChoiceA) == u"[TEXT MISSING HERE]");
+  CHECK(fixture.state.deck.currentCard == 1);
+  CHECK(fixture.state.deck.cardCount == 1);
+  CHECK(fixture.Cell(1, kChoiceA) == u"[TEXT MISSING HERE]");
 }
 
 TEST_CASE("the question builder's close box drops what is on the form without a question") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion(2);
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion(2);
   Type(window.question, u"!");
   window.UserClose();
-  CHECK(desk.TakeBoxes().empty());
-  CHECK(desk.Cell(1, kCardText) == u"question 1");
-  CHECK(desk.deck->Visible());
-  CHECK(desk.state.deck.currentCard == 1);
+  CHECK(fixture.TakeBoxes().empty());
+  CHECK(fixture.Cell(1, kCardText) == u"question 1");
+  CHECK(fixture.deck->Visible());
+  CHECK(fixture.state.deck.currentCard == 1);
 }
 
 TEST_CASE("a true or false question shows its word on the answer card, not the letter") {
-  BuilderDesk desk;
-  QuestionBuilder& window = desk.OpenQuestion();
+  BuilderFixture fixture;
+  QuestionBuilder& window = fixture.OpenQuestion();
   FillIn(window, {true, u"q", {}, 1});
   window.buttons[kAddButton].Press();
   window.buttons[kCloseButton].Press();
-  CHECK(desk.deck->answer.Caption() == u"FALSE");
+  CHECK(fixture.deck->answer.Caption() == u"FALSE");
 }
 
 }  // namespace tessara::test

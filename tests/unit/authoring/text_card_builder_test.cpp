@@ -2,7 +2,7 @@
 #include <string>
 
 #include "base/code_page.h"
-#include "tests/unit/authoring/builder_desk.h"
+#include "tests/unit/authoring/builder_fixture.h"
 
 namespace tessara::test {
 
@@ -27,8 +27,8 @@ void AddCard(TextCardBuilder& window, const Text& front, const Text& back) {
 }  // namespace
 
 TEST_CASE("the text builder over an empty deck waits for card 1") {
-  BuilderDesk desk;
-  const TextCardBuilder& window = desk.OpenEssay();
+  BuilderFixture fixture;
+  const TextCardBuilder& window = fixture.OpenEssay();
   CHECK(LookOf(window) == ButtonsLook{false, false, true, false, false, kAdd, kCancel});
   CHECK(window.number.Caption() == u"Card: 1");
   CHECK(window.sides[kFrontSide].TextOf().empty());
@@ -41,16 +41,16 @@ TEST_CASE("the text builder over a deck shows the card that the deck window show
     bool previous, next;
   };
   for (const Case& c : {Case{1, false, true}, Case{2, true, true}, Case{3, true, false}}) {
-    BuilderDesk desk;
-    desk.OpenStandardDeck(3);
-    desk.state.deck.currentCard = c.card;
-    desk.OpenBuilder();
-    const TextCardBuilder& window = desk.essay.Loaded();
+    BuilderFixture fixture;
+    fixture.OpenStandardDeck(3);
+    fixture.state.deck.currentCard = c.card;
+    fixture.OpenBuilder();
+    const TextCardBuilder& window = fixture.essay.Loaded();
     CHECK(LookOf(window) == ButtonsLook{true, false, true, c.previous, c.next, kChange, kDelete});
     CHECK(window.sides[kFrontSide].TextOf() == u"front " + DecimalText(c.card));
     CHECK(window.sides[kBackSide].TextOf() == u"back " + DecimalText(c.card));
     CHECK(window.number.Caption() == u"Card: " + DecimalText(c.card));
-    CHECK(desk.TakeBoxes().empty());
+    CHECK(fixture.TakeBoxes().empty());
   }
 }
 
@@ -62,8 +62,8 @@ TEST_CASE("a text card needs a front and a back, a cancel any text") {
   const Case cases[] = {
       {u"f", u"", false, true}, {u"", u"b", false, true}, {u"f", u"b", true, true}};
   for (const Case& c : cases) {
-    BuilderDesk desk;
-    TextCardBuilder& window = desk.OpenEssay();
+    BuilderFixture fixture;
+    TextCardBuilder& window = fixture.OpenEssay();
     Type(window.sides[kFrontSide], Text(c.front));
     Type(window.sides[kBackSide], Text(c.back));
     CHECK(window.buttons[kAddButton].Enabled() == c.add);
@@ -76,48 +76,49 @@ TEST_CASE("a text card needs a front and a back, a cancel any text") {
 }
 
 TEST_CASE("adding the first text card makes it card 1 of the deck") {
-  BuilderDesk desk;
-  TextCardBuilder& window = desk.OpenEssay();
-  desk.state.deck.currentCard = 0;
+  BuilderFixture fixture;
+  TextCardBuilder& window = fixture.OpenEssay();
+  fixture.state.deck.currentCard = 0;
   AddCard(window, u"front", u"back");
-  CHECK(desk.state.deck.currentCard == 1);
-  CHECK(desk.state.deck.cardCount == 1);
-  CHECK(desk.state.deck.cardPresent.At(1) == 1);
-  CHECK(desk.state.deck.changed);
-  CHECK(desk.state.deck.saveOffered);
+  CHECK(fixture.state.deck.currentCard == 1);
+  CHECK(fixture.state.deck.cardCount == 1);
+  CHECK(fixture.state.deck.cardPresent.At(1) == 1);
+  CHECK(fixture.state.deck.changed);
+  CHECK(fixture.state.deck.saveOffered);
   CHECK(LookOf(window) == ButtonsLook{true, false, true, false, false, kChange, kDelete});
   const Text expected[] = {u"", u"E", u"front", u"1", u"", u"", u"", u"", u"", u"back"};
-  for (int column = 0; column < kColumns; ++column) CHECK(desk.Cell(1, column) == expected[column]);
+  for (int column = 0; column < kColumns; ++column)
+    CHECK(fixture.Cell(1, column) == expected[column]);
 }
 
 TEST_CASE("the go-to command comes on with the second text card") {
-  BuilderDesk desk;
-  TextCardBuilder& window = desk.OpenEssay();
+  BuilderFixture fixture;
+  TextCardBuilder& window = fixture.OpenEssay();
   AddCard(window, u"1", u"1");
-  CHECK_FALSE(desk.deck->goToCard.Enabled());
+  CHECK_FALSE(fixture.deck->goToCard.Enabled());
   window.buttons[kNewButton].Press();
   AddCard(window, u"2", u"2");
-  CHECK(desk.deck->goToCard.Enabled());
+  CHECK(fixture.deck->goToCard.Enabled());
 }
 
 TEST_CASE("a card's text goes into the deck as typed, line ends and blanks included") {
-  BuilderDesk desk;
-  TextCardBuilder& window = desk.OpenEssay();
+  BuilderFixture fixture;
+  TextCardBuilder& window = fixture.OpenEssay();
   std::string bytes;
   for (int byte = 0; byte < 256; ++byte) {
     if (byte != '\r' && byte != '\n') bytes += static_cast<char>(byte);
   }
-  const Text allBytes = desk.machine.codePage.Decode(bytes);
+  const Text allBytes = fixture.machine.codePage.Decode(bytes);
   Replace(window.sides[kFrontSide], u"  one\r\n\r\ntwo  ");
   Replace(window.sides[kBackSide], allBytes);
   window.buttons[kAddButton].Press();
-  CHECK(desk.Cell(1, kCardText) == u"  one\r\n\r\ntwo  ");
-  CHECK(desk.Cell(1, kBackText) == allBytes);
+  CHECK(fixture.Cell(1, kCardText) == u"  one\r\n\r\ntwo  ");
+  CHECK(fixture.Cell(1, kBackText) == allBytes);
 }
 
 TEST_CASE("a new text card has an empty form, the next number and the focus on its front") {
-  BuilderDesk desk;
-  TextCardBuilder& window = desk.OpenEssay(3);
+  BuilderFixture fixture;
+  TextCardBuilder& window = fixture.OpenEssay(3);
   window.UserFocus(window.buttons[kNewButton]);
   window.buttons[kNewButton].Press();
   CHECK(LookOf(window) == ButtonsLook{false, false, true, false, false, kAdd, kCancel});
@@ -125,51 +126,52 @@ TEST_CASE("a new text card has an empty form, the next number and the focus on i
   CHECK(window.sides[kFrontSide].TextOf().empty());
   CHECK(window.sides[kBackSide].TextOf().empty());
   CHECK(window.FocusedControl() == &window.sides[kFrontSide]);
-  CHECK(desk.state.deck.currentCard == 4);
-  CHECK(desk.state.deck.cardCount == 3);
-  CHECK_FALSE(desk.state.building.fillingBoxes);
+  CHECK(fixture.state.deck.currentCard == 4);
+  CHECK(fixture.state.deck.cardCount == 3);
+  CHECK_FALSE(fixture.state.building.fillingBoxes);
 }
 
 TEST_CASE("a change writes the two boxes and leaves the rest of the row and the count") {
-  BuilderDesk desk;
-  desk.AddTextCard(u"front 1", u"back 1");
-  desk.AddChoice(u"question", {u"one", u"two"}, u"B");
-  desk.Open(kStandardDeck);
-  desk.state.deck.currentCard = 2;
-  desk.OpenBuilder();
-  TextCardBuilder& window = desk.essay.Loaded();
+  BuilderFixture fixture;
+  fixture.AddTextCard(u"front 1", u"back 1");
+  fixture.AddChoice(u"question", {u"one", u"two"}, u"B");
+  fixture.Open(kStandardDeck);
+  fixture.state.deck.currentCard = 2;
+  fixture.OpenBuilder();
+  TextCardBuilder& window = fixture.essay.Loaded();
   CHECK(window.sides[kFrontSide].TextOf() == u"question");
   Replace(window.sides[kBackSide], u"now a back");
-  desk.state.deck.cardPresent.Set(2, 0);
+  fixture.state.deck.cardPresent.Set(2, 0);
   window.buttons[kAddButton].Press();
   const Text expected[] = {u"",    u"E", u"question", u"2", u"one",
                            u"two", u"",  u"",         u"B", u"now a back"};
-  for (int column = 0; column < kColumns; ++column) CHECK(desk.Cell(2, column) == expected[column]);
-  CHECK(desk.state.deck.cardPresent.At(2) == 0);
-  CHECK(desk.state.deck.cardCount == 2);
-  CHECK(desk.state.deck.changed);
-  CHECK(desk.state.deck.saveOffered);
+  for (int column = 0; column < kColumns; ++column)
+    CHECK(fixture.Cell(2, column) == expected[column]);
+  CHECK(fixture.state.deck.cardPresent.At(2) == 0);
+  CHECK(fixture.state.deck.cardCount == 2);
+  CHECK(fixture.state.deck.changed);
+  CHECK(fixture.state.deck.saveOffered);
   CHECK_FALSE(window.buttons[kAddButton].Enabled());
 }
 
 TEST_CASE("the arrows walk the text cards without a question where nothing was typed") {
-  BuilderDesk desk;
-  TextCardBuilder& window = desk.OpenEssay(3);
+  BuilderFixture fixture;
+  TextCardBuilder& window = fixture.OpenEssay(3);
   window.arrows[kNextCard].Press();
   CHECK(window.sides[kBackSide].TextOf() == u"back 2");
   window.arrows[kNextCard].Press();
   CHECK(LookOf(window) == ButtonsLook{true, false, true, true, false, kChange, kDelete});
   window.arrows[kNextCard].Press();
-  CHECK(desk.state.deck.currentCard == 3);
+  CHECK(fixture.state.deck.currentCard == 3);
   window.arrows[kPreviousCard].Press();
   CHECK(window.number.Caption() == u"Card: 2");
-  CHECK(desk.TakeBoxes().empty());
-  CHECK_FALSE(desk.state.deck.changed);
+  CHECK(fixture.TakeBoxes().empty());
+  CHECK_FALSE(fixture.state.deck.changed);
 }
 
 TEST_CASE("the focus goes to the other arrow when the one just pressed goes off") {
-  BuilderDesk desk;
-  TextCardBuilder& window = desk.OpenEssay(2);
+  BuilderFixture fixture;
+  TextCardBuilder& window = fixture.OpenEssay(2);
   window.UserFocus(window.arrows[kNextCard]);
   window.arrows[kNextCard].Press();
   CHECK(window.FocusedControl() == &window.arrows[kPreviousCard]);
@@ -179,8 +181,8 @@ TEST_CASE("the focus goes to the other arrow when the one just pressed goes off"
 }
 
 TEST_CASE("the focus goes to the new button when the add button was pressed with the focus on it") {
-  BuilderDesk desk;
-  TextCardBuilder& window = desk.OpenEssay();
+  BuilderFixture fixture;
+  TextCardBuilder& window = fixture.OpenEssay();
   Type(window.sides[kFrontSide], u"f");
   Type(window.sides[kBackSide], u"b");
   window.UserFocus(window.buttons[kAddButton]);
@@ -189,34 +191,34 @@ TEST_CASE("the focus goes to the new button when the add button was pressed with
 }
 
 TEST_CASE("saving an older text card through the question ends the deck there") {
-  BuilderDesk desk;
-  TextCardBuilder& window = desk.OpenEssay(5);
+  BuilderFixture fixture;
+  TextCardBuilder& window = fixture.OpenEssay(5);
   window.arrows[kNextCard].Press();
   Replace(window.sides[kFrontSide], u"edited");
-  desk.Answer(MessageAnswer::kYes);
+  fixture.Answer(MessageAnswer::kYes);
   window.arrows[kNextCard].Press();
-  CHECK(desk.TakeBoxes() == std::vector{kChangedCardBox});
-  CHECK(desk.Cell(2, kCardText) == u"edited");
-  CHECK(desk.state.deck.cardCount == 2);
-  CHECK(desk.state.deck.currentCard == 3);
+  CHECK(fixture.TakeBoxes() == std::vector{kChangedCardBox});
+  CHECK(fixture.Cell(2, kCardText) == u"edited");
+  CHECK(fixture.state.deck.cardCount == 2);
+  CHECK(fixture.state.deck.currentCard == 3);
   CHECK(window.sides[kFrontSide].TextOf() == u"front 3");
   CHECK_FALSE(window.arrows[kNextCard].Enabled());
   CHECK(window.arrows[kPreviousCard].Enabled());
-  CHECK(desk.state.deck.cardPresent.At(5) == 1);
-  CHECK(desk.Cell(5, kCardText) == u"front 5");
+  CHECK(fixture.state.deck.cardPresent.At(5) == 1);
+  CHECK(fixture.Cell(5, kCardText) == u"front 5");
 }
 
 TEST_CASE("No to the question about a changed text card drops the change and the question") {
-  BuilderDesk desk;
-  TextCardBuilder& window = desk.OpenEssay(3);
+  BuilderFixture fixture;
+  TextCardBuilder& window = fixture.OpenEssay(3);
   Replace(window.sides[kFrontSide], u"edited");
-  desk.Answer(MessageAnswer::kNo);
+  fixture.Answer(MessageAnswer::kNo);
   window.arrows[kNextCard].Press();
-  CHECK(desk.Cell(1, kCardText) == u"front 1");
-  CHECK(desk.state.deck.cardCount == 3);
+  CHECK(fixture.Cell(1, kCardText) == u"front 1");
+  CHECK(fixture.state.deck.cardCount == 3);
   CHECK_FALSE(window.buttons[kAddButton].Enabled());
-  CHECK_FALSE(desk.state.deck.changed);
-  CHECK_FALSE(desk.state.building.fillingBoxes);
+  CHECK_FALSE(fixture.state.deck.changed);
+  CHECK_FALSE(fixture.state.building.fillingBoxes);
 }
 
 TEST_CASE("the back's tenth line brings the notice at every further change, the ninth never") {
@@ -226,94 +228,95 @@ TEST_CASE("the back's tenth line brings the notice at every further change, the 
   };
   for (const Case& c :
        {Case{1, 9, false}, Case{1, 10, true}, Case{1, 11, true}, Case{0, 20, false}}) {
-    BuilderDesk desk;
-    TextCardBuilder& window = desk.OpenEssay();
+    BuilderFixture fixture;
+    TextCardBuilder& window = fixture.OpenEssay();
     Replace(window.sides[c.box], Lines(c.lines));
     const std::vector<FakeMessages::Shown> once(c.warned ? 1 : 0, kLinesBox);
-    CHECK(desk.TakeBoxes() == once);
+    CHECK(fixture.TakeBoxes() == once);
     Type(window.sides[c.box], u"x");
-    CHECK(desk.TakeBoxes() == once);
+    CHECK(fixture.TakeBoxes() == once);
     CHECK(window.sides[c.box].TextOf() == Lines(c.lines) + u"x");
   }
 }
 
 TEST_CASE("a long line that wraps counts as several lines") {
-  BuilderDesk desk;
-  TextCardBuilder& window = desk.OpenEssay();
+  BuilderFixture fixture;
+  TextCardBuilder& window = fixture.OpenEssay();
   Replace(window.sides[kBackSide], Text(2000, u'x'));
-  CHECK(desk.TakeBoxes() == std::vector{kLinesBox});
+  CHECK(fixture.TakeBoxes() == std::vector{kLinesBox});
 }
 
 TEST_CASE("a card with a long back brings the notice as it comes onto the form") {
-  BuilderDesk desk;
-  desk.AddTextCard(u"front", Lines(10));
-  desk.Open(kStandardDeck);
-  desk.OpenBuilder();
-  CHECK(desk.TakeBoxes() == std::vector{kLinesBox});
-  CHECK_FALSE(desk.essay->buttons[kAddButton].Enabled());
+  BuilderFixture fixture;
+  fixture.AddTextCard(u"front", Lines(10));
+  fixture.Open(kStandardDeck);
+  fixture.OpenBuilder();
+  CHECK(fixture.TakeBoxes() == std::vector{kLinesBox});
+  CHECK_FALSE(fixture.essay->buttons[kAddButton].Enabled());
 }
 
 TEST_CASE("at 200 text cards there is no new card, but card 200 can be changed and deleted") {
-  BuilderDesk desk;
-  desk.OpenStandardDeck(kMostCards);
-  desk.state.deck.currentCard = kMostCards;
-  desk.OpenBuilder();
-  TextCardBuilder& window = desk.essay.Loaded();
+  BuilderFixture fixture;
+  fixture.OpenStandardDeck(kMostCards);
+  fixture.state.deck.currentCard = kMostCards;
+  fixture.OpenBuilder();
+  TextCardBuilder& window = fixture.essay.Loaded();
   CHECK_FALSE(window.buttons[kNewButton].Enabled());
   Replace(window.sides[kFrontSide], u"edited");
   window.buttons[kAddButton].Press();
-  CHECK(desk.Cell(200, kCardText) == u"edited");
-  desk.Answer(MessageAnswer::kYes);
+  CHECK(fixture.Cell(200, kCardText) == u"edited");
+  fixture.Answer(MessageAnswer::kYes);
   window.buttons[kCancelButton].Press();
-  CHECK(desk.state.deck.cardCount == 199);
+  CHECK(fixture.state.deck.cardCount == 199);
   CHECK(window.buttons[kNewButton].Enabled());
   CHECK(window.sides[kFrontSide].TextOf() == u"front 199");
 }
 
 TEST_CASE("the card that fills the deck leaves the new button off") {
-  BuilderDesk desk;
-  TextCardBuilder& window = desk.OpenEssay(kMostCards - 1);
+  BuilderFixture fixture;
+  TextCardBuilder& window = fixture.OpenEssay(kMostCards - 1);
   window.buttons[kNewButton].Press();
   AddCard(window, u"f", u"b");
-  CHECK(desk.state.deck.cardCount == kMostCards);
+  CHECK(fixture.state.deck.cardCount == kMostCards);
   CHECK_FALSE(window.buttons[kNewButton].Enabled());
 }
 
 TEST_CASE("deleting the only text card goes back to a new one") {
-  BuilderDesk desk;
-  TextCardBuilder& window = desk.OpenEssay(1);
-  desk.Answer(MessageAnswer::kYes);
+  BuilderFixture fixture;
+  TextCardBuilder& window = fixture.OpenEssay(1);
+  fixture.Answer(MessageAnswer::kYes);
   window.buttons[kCancelButton].Press();
-  CHECK(desk.TakeBoxes() == std::vector<FakeMessages::Shown>{
-                                {u"Deletion is permanent, are you sure?", 4, u"Delete Card # 1"}});
+  CHECK(fixture.TakeBoxes() ==
+        std::vector<FakeMessages::Shown>{
+            {u"Deletion is permanent, are you sure?", 4, u"Delete Card # 1"}});
   CHECK(LookOf(window) == ButtonsLook{false, false, false, false, false, kAdd, kCancel});
-  CHECK(desk.state.deck.cardCount == 0);
-  CHECK(desk.state.deck.currentCard == 0);
+  CHECK(fixture.state.deck.cardCount == 0);
+  CHECK(fixture.state.deck.currentCard == 0);
   CHECK(window.FocusedControl() == &window.sides[kFrontSide]);
-  CHECK_FALSE(desk.deck->goToCard.Enabled());
+  CHECK_FALSE(fixture.deck->goToCard.Enabled());
 }
 
 TEST_CASE("deleting a text card in the middle shows the one that followed") {
-  BuilderDesk desk;
-  TextCardBuilder& window = desk.OpenEssay(3);
+  BuilderFixture fixture;
+  TextCardBuilder& window = fixture.OpenEssay(3);
   window.arrows[kNextCard].Press();
-  desk.Answer(MessageAnswer::kYes);
+  fixture.Answer(MessageAnswer::kYes);
   window.buttons[kCancelButton].Press();
-  CHECK(desk.state.deck.currentCard == 2);
+  CHECK(fixture.state.deck.currentCard == 2);
   CHECK(window.sides[kFrontSide].TextOf() == u"front 3");
   CHECK(LookOf(window) == ButtonsLook{true, false, true, true, false, kChange, kDelete});
 }
 
 TEST_CASE("No to the delete question redraws the card and marks the deck as changed all the same") {
-  BuilderDesk desk;
-  TextCardBuilder& window = desk.OpenEssay(2);
+  BuilderFixture fixture;
+  TextCardBuilder& window = fixture.OpenEssay(2);
   Replace(window.sides[kFrontSide], u"typed over");
-  desk.Answer(MessageAnswer::kNo);
+  fixture.Answer(MessageAnswer::kNo);
   window.buttons[kCancelButton].Press();
   CHECK(window.sides[kFrontSide].TextOf() == u"front 1");
   CHECK(window.sides[kBackSide].TextOf() == u"back 1");
-  CHECK(desk.state.deck.cardCount == 2);
-  CHECK(desk.state.deck.changed);
+  CHECK(fixture.state.deck.cardCount == 2);
+  CHECK(fixture.state.deck.changed);
   CHECK_FALSE(window.buttons[kAddButton].Enabled());
 }
 
@@ -323,53 +326,53 @@ TEST_CASE("cancelling a new text card shows the last one, with the arrows by its
     bool previous;
   };
   for (const Case& c : {Case{1, false}, Case{2, true}}) {
-    BuilderDesk desk;
-    TextCardBuilder& window = desk.OpenEssay(c.cards);
+    BuilderFixture fixture;
+    TextCardBuilder& window = fixture.OpenEssay(c.cards);
     window.buttons[kNewButton].Press();
     Type(window.sides[kFrontSide], u"never mind");
     window.buttons[kCancelButton].Press();
     CHECK(window.sides[kFrontSide].TextOf() == u"front " + DecimalText(c.cards));
     CHECK(LookOf(window) == ButtonsLook{true, false, true, c.previous, false, kChange, kDelete});
-    CHECK(desk.state.deck.currentCard == c.cards);
-    CHECK_FALSE(desk.state.deck.changed);
-    CHECK(desk.TakeBoxes().empty());
+    CHECK(fixture.state.deck.currentCard == c.cards);
+    CHECK_FALSE(fixture.state.deck.changed);
+    CHECK(fixture.TakeBoxes().empty());
   }
 }
 
 TEST_CASE("on the only text card the way back does nothing, after a cancel too") {
-  BuilderDesk desk;
-  TextCardBuilder& window = desk.OpenEssay(1);
+  BuilderFixture fixture;
+  TextCardBuilder& window = fixture.OpenEssay(1);
   window.buttons[kNewButton].Press();
   window.buttons[kCancelButton].Press();
   for (int press = 0; press < 2; ++press) window.arrows[kPreviousCard].Press();
   CHECK(window.number.Caption() == u"Card: 1");
   CHECK(window.sides[kBackSide].TextOf() == u"back 1");
-  CHECK(desk.state.deck.currentCard == 1);
+  CHECK(fixture.state.deck.currentCard == 1);
 }
 
 TEST_CASE("cancelling the first text card empties the form") {
-  BuilderDesk desk;
-  TextCardBuilder& window = desk.OpenEssay();
+  BuilderFixture fixture;
+  TextCardBuilder& window = fixture.OpenEssay();
   Type(window.sides[kFrontSide], u"f");
   Type(window.sides[kBackSide], u"b");
-  desk.deck->goToCard.SetEnabled(true);
+  fixture.deck->goToCard.SetEnabled(true);
   window.buttons[kCancelButton].Press();
   CHECK(LookOf(window) == ButtonsLook{false, false, false, false, false, kAdd, kCancel});
   CHECK(window.sides[kFrontSide].TextOf().empty());
   CHECK(window.sides[kBackSide].TextOf().empty());
   CHECK(window.FocusedControl() == &window.sides[kFrontSide]);
-  CHECK_FALSE(desk.deck->goToCard.Enabled());
-  CHECK(desk.state.deck.currentCard == 0);
+  CHECK_FALSE(fixture.deck->goToCard.Enabled());
+  CHECK(fixture.state.deck.currentCard == 0);
 }
 
 TEST_CASE("closing the text builder brings the deck window up to date") {
-  BuilderDesk desk;
-  TextCardBuilder& window = desk.OpenEssay();
-  CHECK_FALSE(desk.deck->flip.Enabled());
+  BuilderFixture fixture;
+  TextCardBuilder& window = fixture.OpenEssay();
+  CHECK_FALSE(fixture.deck->flip.Enabled());
   AddCard(window, u"salt & pepper", u"back");
   window.buttons[kCloseButton].Press();
-  CHECK_FALSE(desk.essay.IsLoaded());
-  const DeckWindow& deck = desk.deck.Loaded();
+  CHECK_FALSE(fixture.essay.IsLoaded());
+  const DeckWindow& deck = fixture.deck.Loaded();
   CHECK(deck.Visible());
   CHECK(deck.card.CardTotal() == u"1");
   CHECK(deck.card.CardNumber() == u"1");
@@ -377,7 +380,7 @@ TEST_CASE("closing the text builder brings the deck window up to date") {
   CHECK(deck.flip.Enabled());
   CHECK(deck.printDeck.Enabled());
   CHECK(deck.saveDeck.Enabled());
-  CHECK(desk.TakeBoxes().empty());
+  CHECK(fixture.TakeBoxes().empty());
 }
 
 TEST_CASE("the text builder asks about an unsaved card as it closes") {
@@ -392,92 +395,92 @@ TEST_CASE("the text builder asks about an unsaved card as it closes") {
                         {MessageAnswer::kYes, true, 4, 4, u"front 2"},
                         {MessageAnswer::kNo, true, 3, 3, u"front 2"}};
   for (const Case& c : cases) {
-    BuilderDesk desk;
-    TextCardBuilder& window = desk.OpenEssay(3);
+    BuilderFixture fixture;
+    TextCardBuilder& window = fixture.OpenEssay(3);
     window.arrows[kNextCard].Press();
     if (c.isNew) window.buttons[kNewButton].Press();
     Replace(window.sides[kFrontSide], u"edited");
     Replace(window.sides[kBackSide], u"back");
-    desk.Answer(c.answer);
+    fixture.Answer(c.answer);
     window.buttons[kCloseButton].Press();
     std::vector boxes = {kUnsavedBox};
     if (c.answer == MessageAnswer::kYes) boxes.push_back({u"Card is saved", 0, u"Save"});
-    CHECK(desk.TakeBoxes() == boxes);
-    CHECK(desk.state.deck.cardCount == c.count);
-    CHECK(desk.state.deck.currentCard == c.current);
-    CHECK(desk.Cell(2, kCardText) == c.front);
-    CHECK(desk.deck->card.CardTotal() == DecimalText(c.count));
-    CHECK(desk.deck->card.CardNumber() == DecimalText(c.current));
-    CHECK(desk.deck->Visible());
-    CHECK(desk.state.deck.saveOffered == (c.answer == MessageAnswer::kYes));
+    CHECK(fixture.TakeBoxes() == boxes);
+    CHECK(fixture.state.deck.cardCount == c.count);
+    CHECK(fixture.state.deck.currentCard == c.current);
+    CHECK(fixture.Cell(2, kCardText) == c.front);
+    CHECK(fixture.deck->card.CardTotal() == DecimalText(c.count));
+    CHECK(fixture.deck->card.CardNumber() == DecimalText(c.current));
+    CHECK(fixture.deck->Visible());
+    CHECK(fixture.state.deck.saveOffered == (c.answer == MessageAnswer::kYes));
   }
 }
 
 TEST_CASE("a deck whose only card was saved at the close is saved under the name chosen") {
-  BuilderDesk desk;
-  desk.deck->ClearDeck();
-  desk.OpenBuilder();
-  TextCardBuilder& window = desk.essay.Loaded();
+  BuilderFixture fixture;
+  fixture.deck->ClearDeck();
+  fixture.OpenBuilder();
+  TextCardBuilder& window = fixture.essay.Loaded();
   Type(window.sides[kFrontSide], u"front");
   Type(window.sides[kBackSide], u"back");
-  desk.Answer(MessageAnswer::kYes);
+  fixture.Answer(MessageAnswer::kYes);
   window.buttons[kCloseButton].Press();
-  desk.fakes.files.Put(u"/decks/other.tsr", "");
-  desk.fakes.dialogs.files.emplace_back(u"/decks/one.tsr");
-  desk.deck->SaveDeck();
-  CHECK(desk.fakes.files.Has(u"/decks/one.tsr"));
+  fixture.fakes.files.Put(u"/decks/other.tsr", "");
+  fixture.fakes.dialogs.files.emplace_back(u"/decks/one.tsr");
+  fixture.deck->SaveDeck();
+  CHECK(fixture.fakes.files.Has(u"/decks/one.tsr"));
 }
 
 TEST_CASE("the first card built after a deck was cleared at a later card is card 1") {
-  BuilderDesk desk;
-  desk.OpenStandardDeck(3);
-  desk.state.deck.currentCard = 3;
-  desk.deck->ClearDeck();
-  desk.OpenBuilder();
-  AddCard(desk.essay.Loaded(), u"front", u"back");
-  CHECK(desk.state.deck.cardCount == 1);
-  CHECK(desk.Cell(1, kCardText) == u"front");
+  BuilderFixture fixture;
+  fixture.OpenStandardDeck(3);
+  fixture.state.deck.currentCard = 3;
+  fixture.deck->ClearDeck();
+  fixture.OpenBuilder();
+  AddCard(fixture.essay.Loaded(), u"front", u"back");
+  CHECK(fixture.state.deck.cardCount == 1);
+  CHECK(fixture.Cell(1, kCardText) == u"front");
 }
 
 TEST_CASE("closing from an empty new card goes back to the last card") {
-  BuilderDesk desk;
-  TextCardBuilder& window = desk.OpenEssay(3);
+  BuilderFixture fixture;
+  TextCardBuilder& window = fixture.OpenEssay(3);
   window.buttons[kNewButton].Press();
   window.buttons[kCloseButton].Press();
-  CHECK(desk.state.deck.currentCard == 3);
-  CHECK(desk.deck->card.CardText() == u"front 3");
+  CHECK(fixture.state.deck.currentCard == 3);
+  CHECK(fixture.deck->card.CardText() == u"front 3");
 }
 
 TEST_CASE("the text builder's close box drops what is on the form without a question") {
-  BuilderDesk desk;
-  TextCardBuilder& window = desk.OpenEssay(2);
+  BuilderFixture fixture;
+  TextCardBuilder& window = fixture.OpenEssay(2);
   Replace(window.sides[kFrontSide], u"edited");
   window.UserClose();
-  CHECK(desk.TakeBoxes().empty());
-  CHECK(desk.Cell(1, kCardText) == u"front 1");
-  CHECK(desk.deck->Visible());
-  CHECK(desk.deck->card.CardText() == u"front 1");
+  CHECK(fixture.TakeBoxes().empty());
+  CHECK(fixture.Cell(1, kCardText) == u"front 1");
+  CHECK(fixture.deck->Visible());
+  CHECK(fixture.deck->card.CardText() == u"front 1");
 }
 
 TEST_CASE("a text card looked at, moved over and saved stays the same to the last character") {
-  BuilderDesk desk;
+  BuilderFixture fixture;
   const Text odd = Text(u"a\u0000b\r\rc\n\nd\u00A0 \t", 12);
-  desk.AddTextCard(odd, odd);
-  desk.AddTextCard(u"2", u"2");
-  desk.Open(kStandardDeck);
-  desk.OpenBuilder();
-  TextCardBuilder& window = desk.essay.Loaded();
+  fixture.AddTextCard(odd, odd);
+  fixture.AddTextCard(u"2", u"2");
+  fixture.Open(kStandardDeck);
+  fixture.OpenBuilder();
+  TextCardBuilder& window = fixture.essay.Loaded();
   window.arrows[kNextCard].Press();
   window.arrows[kPreviousCard].Press();
   Type(window.sides[kBackSide], u"x");
   window.buttons[kAddButton].Press();
-  CHECK(desk.Cell(1, kCardText) == odd);
-  CHECK(desk.Cell(1, kBackText) == odd + u"x");
+  CHECK(fixture.Cell(1, kCardText) == odd);
+  CHECK(fixture.Cell(1, kBackText) == odd + u"x");
 }
 
 TEST_CASE("the window of the text builder is laid out as designed") {
-  BuilderDesk desk;
-  const TextCardBuilder& window = desk.OpenEssay();
+  BuilderFixture fixture;
+  const TextCardBuilder& window = fixture.OpenEssay();
   CHECK(window.heading.Caption() == u"Card Builder:");
   CHECK(window.heading.FontOf() == Font{u"MS Sans Serif", 9.75});
   CHECK(window.heading.ForeColor() == FixedColor(0, 0, 255));

@@ -8,92 +8,92 @@
 namespace tessara::test {
 
 TEST_CASE("controls carry their names, array members with their index") {
-  RulesDesk desk;
-  CHECK(desk.first->options[1].Name() == "Option1(1)");
-  CHECK(desk.first->textBox.Name() == "Text1");
-  CHECK(desk.first->FindControl("Option1(1)") == &desk.first->options[1]);
-  CHECK(desk.first->FindControl("Option1(2)") == nullptr);
-  CHECK(desk.first->FindMenu("mnuOpen") == &desk.first->openEntry);
+  RulesFixture fixture;
+  CHECK(fixture.first->options[1].Name() == "Option1(1)");
+  CHECK(fixture.first->textBox.Name() == "Text1");
+  CHECK(fixture.first->FindControl("Option1(1)") == &fixture.first->options[1]);
+  CHECK(fixture.first->FindControl("Option1(2)") == nullptr);
+  CHECK(fixture.first->FindMenu("mnuOpen") == &fixture.first->openEntry);
 }
 
 TEST_CASE("an index that a control array does not have is error 340") {
-  RulesDesk desk;
+  RulesFixture fixture;
   for (const int index : {-1, 2, 99}) {
-    CHECK(ErrorOf([&] { static_cast<void>(desk.first->options[index]); }) == 340);
+    CHECK(ErrorOf([&] { static_cast<void>(fixture.first->options[index]); }) == 340);
   }
 }
 
 TEST_CASE("assigning a different text runs the change before the assignment returns") {
-  RulesDesk desk;
+  RulesFixture fixture;
   int changes = 0;
-  desk.first->textBox.onChange = [&] { ++changes; };
-  desk.first->textBox.SetText(u"a");
+  fixture.first->textBox.onChange = [&] { ++changes; };
+  fixture.first->textBox.SetText(u"a");
   CHECK(changes == 1);
-  desk.first->textBox.SetText(u"a");
+  fixture.first->textBox.SetText(u"a");
   CHECK(changes == 1);
 }
 
 TEST_CASE("selecting an option clears its group without an event and runs its click") {
-  RulesDesk desk;
+  RulesFixture fixture;
   std::vector<int> clicks;
-  desk.first->options.Wire(&OptionButton::onClick, [&](int index) { clicks.push_back(index); });
-  desk.first->loneOption.SetSelected(true);
-  desk.first->options[0].SetSelected(true);
-  desk.first->options[1].SetSelected(true);
-  CHECK_FALSE(desk.first->options[0].Selected());
-  CHECK(desk.first->loneOption.Selected());
-  desk.first->options[1].SetSelected(true);
-  desk.first->options[1].SetSelected(false);
+  fixture.first->options.Wire(&OptionButton::onClick, [&](int index) { clicks.push_back(index); });
+  fixture.first->loneOption.SetSelected(true);
+  fixture.first->options[0].SetSelected(true);
+  fixture.first->options[1].SetSelected(true);
+  CHECK_FALSE(fixture.first->options[0].Selected());
+  CHECK(fixture.first->loneOption.Selected());
+  fixture.first->options[1].SetSelected(true);
+  fixture.first->options[1].SetSelected(false);
   CHECK(clicks == std::vector{0, 1});
 }
 
 TEST_CASE("the user's click on a selected option runs its click once more") {
-  RulesDesk desk;
-  desk.first->Show();
+  RulesFixture fixture;
+  fixture.first->Show();
   int clicks = 0;
-  desk.first->loneOption.onClick = [&] { ++clicks; };
-  desk.first->loneOption.Press();
-  desk.first->loneOption.Press();
+  fixture.first->loneOption.onClick = [&] { ++clicks; };
+  fixture.first->loneOption.Press();
+  fixture.first->loneOption.Press();
   CHECK(clicks == 2);
 }
 
 TEST_CASE("a check box runs its click for a different value only") {
-  RulesDesk desk;
+  RulesFixture fixture;
   int clicks = 0;
-  desk.first->check.onClick = [&] { ++clicks; };
-  desk.first->check.SetValue(1);
-  desk.first->check.SetValue(1);
-  desk.first->check.SetValue(0);
+  fixture.first->check.onClick = [&] { ++clicks; };
+  fixture.first->check.SetValue(1);
+  fixture.first->check.SetValue(1);
+  fixture.first->check.SetValue(0);
   CHECK(clicks == 2);
-  CHECK(ErrorOf([&] { desk.first->check.SetValue(3); }) == 380);
+  CHECK(ErrorOf([&] { fixture.first->check.SetValue(3); }) == 380);
 }
 
 TEST_CASE("what a disabled or hidden container holds can't be pressed") {
-  RulesDesk desk;
-  desk.first->Show();
+  RulesFixture fixture;
+  fixture.first->Show();
   int clicks = 0;
-  desk.first->options[0].onClick = [&] { ++clicks; };
-  desk.first->group.SetEnabled(false);
-  desk.first->options[0].Press();
-  desk.first->group.SetEnabled(true);
-  desk.first->group.SetVisible(false);
-  desk.first->options[0].Press();
+  fixture.first->options[0].onClick = [&] { ++clicks; };
+  fixture.first->group.SetEnabled(false);
+  fixture.first->options[0].Press();
+  fixture.first->group.SetEnabled(true);
+  fixture.first->group.SetVisible(false);
+  fixture.first->options[0].Press();
   CHECK(clicks == 0);
-  desk.first->group.SetVisible(true);
-  desk.first->options[0].Press();
+  fixture.first->group.SetVisible(true);
+  fixture.first->options[0].Press();
   CHECK(clicks == 1);
 }
 
 TEST_CASE("an accelerator presses what carries it, in either case") {
-  RulesDesk desk;
-  desk.first->Show();
+  RulesFixture fixture;
+  fixture.first->Show();
   int clicks = 0;
-  desk.first->close.onClick = [&] { ++clicks; };
-  CHECK(desk.first->UserAccelerator(u'c'));
-  CHECK(desk.first->UserAccelerator(u'C'));
-  CHECK_FALSE(desk.first->UserAccelerator(u'x'));
-  CHECK(desk.first->UserAccelerator(u't'));
-  CHECK(desk.first->options[1].Selected());
+  fixture.first->close.onClick = [&] { ++clicks; };
+  CHECK(fixture.first->UserAccelerator(u'c'));
+  CHECK(fixture.first->UserAccelerator(u'C'));
+  CHECK_FALSE(fixture.first->UserAccelerator(u'x'));
+  CHECK(fixture.first->UserAccelerator(u't'));
+  CHECK(fixture.first->options[1].Selected());
   CHECK(clicks == 2);
 }
 
@@ -112,20 +112,20 @@ TEST_CASE("a letter of any script is an accelerator, in either case where it has
                         {u"&\u0E19\u0E49\u0E33", u"\u0E19"}};
   for (const Case& one : cases) {
     CAPTURE(ToUtf8(one.caption));
-    RulesDesk desk;
-    desk.first->Show();
+    RulesFixture fixture;
+    fixture.first->Show();
     std::size_t clicks = 0;
-    desk.first->close.SetCaption(Text(one.caption));
-    desk.first->close.onClick = [&] { ++clicks; };
-    for (const char16_t key : one.keys) CHECK(desk.first->UserAccelerator(key));
+    fixture.first->close.SetCaption(Text(one.caption));
+    fixture.first->close.onClick = [&] { ++clicks; };
+    for (const char16_t key : one.keys) CHECK(fixture.first->UserAccelerator(key));
     CHECK(clicks == one.keys.size());
   }
 }
 
 TEST_CASE("a letter that several controls share goes from one to the next and presses none") {
-  RulesDesk desk;
-  desk.first->Show();
-  RulesForm& form = *desk.first.operator->();
+  RulesFixture fixture;
+  fixture.first->Show();
+  RulesForm& form = *fixture.first.operator->();
   int clicks = 0;
   form.loneOption.SetCaption(u"&Choice");
   form.check.SetCaption(u"&Check");
@@ -143,9 +143,9 @@ TEST_CASE("a letter that several controls share goes from one to the next and pr
 }
 
 TEST_CASE("a control that can't be reached shares no letter") {
-  RulesDesk desk;
-  desk.first->Show();
-  RulesForm& form = *desk.first.operator->();
+  RulesFixture fixture;
+  fixture.first->Show();
+  RulesForm& form = *fixture.first.operator->();
   int clicks = 0;
   form.close.onClick = [&] { ++clicks; };
   form.options[0].SetCaption(u"&Choice");
@@ -180,25 +180,25 @@ TEST_CASE("accelerators and plain captions are read from marks") {
 }
 
 TEST_CASE("the focus can't go where the user can't reach: error 5") {
-  RulesDesk desk;
-  CHECK(ErrorOf([&] { desk.first->textBox.SetFocus(); }) == 5);
-  desk.first->Show();
-  desk.first->textBox.SetEnabled(false);
-  CHECK(ErrorOf([&] { desk.first->textBox.SetFocus(); }) == 5);
-  desk.first->textBox.SetEnabled(true);
-  desk.first->textBox.SetFocus();
-  CHECK(desk.first->FocusedControl() == &desk.first->textBox);
+  RulesFixture fixture;
+  CHECK(ErrorOf([&] { fixture.first->textBox.SetFocus(); }) == 5);
+  fixture.first->Show();
+  fixture.first->textBox.SetEnabled(false);
+  CHECK(ErrorOf([&] { fixture.first->textBox.SetFocus(); }) == 5);
+  fixture.first->textBox.SetEnabled(true);
+  fixture.first->textBox.SetFocus();
+  CHECK(fixture.first->FocusedControl() == &fixture.first->textBox);
 }
 
 TEST_CASE("the focus leaves one control before it enters the next") {
-  RulesDesk desk;
-  desk.first->Show();
+  RulesFixture fixture;
+  fixture.first->Show();
   Events events;
-  desk.first->textBox.onGotFocus = [&] { events.push_back("text got"); };
-  desk.first->textBox.onLostFocus = [&] { events.push_back("text lost"); };
-  desk.first->close.onGotFocus = [&] { events.push_back("button got"); };
-  desk.first->textBox.SetFocus();
-  desk.first->UserFocus(desk.first->close);
+  fixture.first->textBox.onGotFocus = [&] { events.push_back("text got"); };
+  fixture.first->textBox.onLostFocus = [&] { events.push_back("text lost"); };
+  fixture.first->close.onGotFocus = [&] { events.push_back("button got"); };
+  fixture.first->textBox.SetFocus();
+  fixture.first->UserFocus(fixture.first->close);
   CHECK(events == Events{"text got", "text lost", "button got"});
 }
 
@@ -212,16 +212,16 @@ TEST_CASE("image lists know their pictures by key and by index from 1") {
 }
 
 TEST_CASE("a menu entry runs only where it and all above it are enabled and visible") {
-  RulesDesk desk;
-  desk.first->Show();
+  RulesFixture fixture;
+  fixture.first->Show();
   int clicks = 0;
-  desk.first->openEntry.onClick = [&] { ++clicks; };
-  desk.first->openEntry.Press();
-  desk.first->fileMenu.SetEnabled(false);
-  desk.first->openEntry.Press();
-  desk.first->fileMenu.SetEnabled(true);
-  desk.first->openEntry.SetVisible(false);
-  desk.first->openEntry.Press();
+  fixture.first->openEntry.onClick = [&] { ++clicks; };
+  fixture.first->openEntry.Press();
+  fixture.first->fileMenu.SetEnabled(false);
+  fixture.first->openEntry.Press();
+  fixture.first->fileMenu.SetEnabled(true);
+  fixture.first->openEntry.SetVisible(false);
+  fixture.first->openEntry.Press();
   CHECK(clicks == 1);
 }
 

@@ -21,13 +21,13 @@ const FakeMessages::Shown kReport{u"Run-time error '9':\r\n\r\nSubscript out of 
 }  // namespace
 
 TEST_CASE("an error that a handler lets out is reported and ends the program") {
-  RulesDesk desk;
-  desk.first->Show();
-  desk.first->close.onClick = RaiseSubscript;
-  desk.first->close.Press();
-  CHECK(desk.fakes.messages.shown == std::vector{kReport});
-  CHECK(desk.windows.ExitStatus() == 1);
-  CHECK(desk.renderer.exitStatus == 1);
+  RulesFixture fixture;
+  fixture.first->Show();
+  fixture.first->close.onClick = RaiseSubscript;
+  fixture.first->close.Press();
+  CHECK(fixture.fakes.messages.shown == std::vector{kReport});
+  CHECK(fixture.windows.ExitStatus() == 1);
+  CHECK(fixture.renderer.exitStatus == 1);
 }
 
 TEST_CASE("an exception of the standard library ends the program as a run-time error does") {
@@ -42,35 +42,35 @@ TEST_CASE("an exception of the standard library ends the program as a run-time e
       {[] { throw std::logic_error("never"); }, u"Run-time error '51':\r\n\r\nInternal error"},
   };
   for (const Case& c : cases) {
-    RulesDesk desk;
+    RulesFixture fixture;
     bool wentOn = false;
-    desk.windows.Run([&] {
-      desk.windows.Run(c.raise);
+    fixture.windows.Run([&] {
+      fixture.windows.Run(c.raise);
       wentOn = true;
     });
     CHECK_FALSE(wentOn);
-    CHECK(desk.fakes.messages.shown ==
+    CHECK(fixture.fakes.messages.shown ==
           std::vector{FakeMessages::Shown{Text(c.report), kStopIcon, u"Tessara"}});
-    CHECK(desk.renderer.exitStatus == 1);
+    CHECK(fixture.renderer.exitStatus == 1);
   }
 }
 
 TEST_CASE("an error ends the program even where its report can't be shown") {
-  RulesDesk desk;
-  desk.fakes.messages.whileShown = [](const FakeMessages::Shown&) { throw std::bad_alloc(); };
-  desk.windows.Run(RaiseSubscript);
-  CHECK(desk.windows.ExitStatus() == 1);
-  desk.windows.Run([] { FAIL("an event behind the end"); });
+  RulesFixture fixture;
+  fixture.fakes.messages.whileShown = [](const FakeMessages::Shown&) { throw std::bad_alloc(); };
+  fixture.windows.Run(RaiseSubscript);
+  CHECK(fixture.windows.ExitStatus() == 1);
+  fixture.windows.Run([] { FAIL("an event behind the end"); });
 }
 
 TEST_CASE("an error inside OnLoad ends the program even where the loader swallows errors") {
-  RulesDesk desk;
+  RulesFixture fixture;
   bool swallowed = false;
   bool wentOn = false;
-  desk.prepare = [](RulesForm& form) { form.onLoad = RaiseSubscript; };
-  desk.windows.Run([&] {
+  fixture.prepare = [](RulesForm& form) { form.onLoad = RaiseSubscript; };
+  fixture.windows.Run([&] {
     try {
-      desk.first.Loaded();
+      fixture.first.Loaded();
     } catch (const RunTimeError&) {
       swallowed = true;
     }
@@ -78,46 +78,46 @@ TEST_CASE("an error inside OnLoad ends the program even where the loader swallow
   });
   CHECK_FALSE(swallowed);
   CHECK_FALSE(wentOn);
-  CHECK(desk.fakes.messages.shown == std::vector{kReport});
+  CHECK(fixture.fakes.messages.shown == std::vector{kReport});
 }
 
 TEST_CASE("nothing runs after the program has ended") {
-  RulesDesk desk;
-  desk.first->Show();
-  desk.windows.EndProgram(1);
+  RulesFixture fixture;
+  fixture.first->Show();
+  fixture.windows.EndProgram(1);
   int clicks = 0;
-  desk.first->close.onClick = [&] { ++clicks; };
-  desk.first->close.Press();
+  fixture.first->close.onClick = [&] { ++clicks; };
+  fixture.first->close.Press();
   CHECK(clicks == 0);
 }
 
 TEST_CASE("a modal window during which an error ends the program is not modal any more") {
-  RulesDesk desk;
-  desk.renderer.whileModal = [&](Form&) { desk.windows.Run(RaiseSubscript); };
-  desk.windows.Run([&] { desk.first->Show(Modality::kModal); });
-  CHECK(desk.windows.ExitStatus() == 1);
-  CHECK(desk.windows.ModalForm() == nullptr);
+  RulesFixture fixture;
+  fixture.renderer.whileModal = [&](Form&) { fixture.windows.Run(RaiseSubscript); };
+  fixture.windows.Run([&] { fixture.first->Show(Modality::kModal); });
+  CHECK(fixture.windows.ExitStatus() == 1);
+  CHECK(fixture.windows.ModalForm() == nullptr);
 }
 
 TEST_CASE("an error that the routine handles by number goes no further") {
-  RulesDesk desk;
-  desk.windows.Run([] {
+  RulesFixture fixture;
+  fixture.windows.Run([] {
     try {
       RaiseSubscript();
     } catch (const RunTimeError& error) {
       CHECK(error.Number() == ErrorNumber::kSubscriptOutOfRange);
     }
   });
-  CHECK(desk.fakes.messages.shown.empty());
-  CHECK_FALSE(desk.windows.ExitStatus());
+  CHECK(fixture.fakes.messages.shown.empty());
+  CHECK_FALSE(fixture.windows.ExitStatus());
 }
 
 TEST_CASE("an event that waited while the program ended is left") {
-  RulesDesk desk;
+  RulesFixture fixture;
   bool wentOn = false;
-  desk.windows.Run([&] {
-    desk.windows.EndProgram(1);
-    desk.windows.LeaveIfEnded();
+  fixture.windows.Run([&] {
+    fixture.windows.EndProgram(1);
+    fixture.windows.LeaveIfEnded();
     wentOn = true;
   });
   CHECK_FALSE(wentOn);

@@ -6,7 +6,7 @@
 #include "forms/controls/controls.h"
 #include "forms/form.h"
 #include "forms/window.h"
-#include "tests/support/test_desk.h"
+#include "tests/support/test_fixture.h"
 
 namespace tessara::test {
 
@@ -56,8 +56,8 @@ class RulesForm : public Form {
   std::vector<std::string>& log_;
 };
 
-/// Two windows on a desk of fakes.
-struct RulesDesk : TestDesk {
+/// Two windows over fakes.
+struct RulesFixture : TestFixture {
   std::vector<std::string> log;
   std::function<void(RulesForm&)> prepare;
   WindowSlot<RulesForm> firstSlot{windows, [this] { return Make("First"); }};

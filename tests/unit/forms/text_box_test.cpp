@@ -53,9 +53,9 @@ TEST_CASE("what the user types comes into the text by the box's rules") {
   };
   for (const EditCase& c : cases) {
     CAPTURE(c.what);
-    RulesDesk desk;
-    desk.first->Show();
-    TextBox& box = desk.first->textBox;
+    RulesFixture fixture;
+    fixture.first->Show();
+    TextBox& box = fixture.first->textBox;
     box.SetMultiLine(c.multiLine);
     box.SetText(c.before);
     box.SetMaxLength(c.limit);
@@ -65,16 +65,16 @@ TEST_CASE("what the user types comes into the text by the box's rules") {
 }
 
 TEST_CASE("a lowered limit does not cut the text that is there") {
-  RulesDesk desk;
-  desk.first->textBox.SetText(u"forty-one");
-  desk.first->textBox.SetMaxLength(4);
-  CHECK(desk.first->textBox.TextOf() == u"forty-one");
+  RulesFixture fixture;
+  fixture.first->textBox.SetText(u"forty-one");
+  fixture.first->textBox.SetMaxLength(4);
+  CHECK(fixture.first->textBox.TextOf() == u"forty-one");
 }
 
 TEST_CASE("a locked or unreachable box takes no edit") {
-  RulesDesk desk;
-  desk.first->Show();
-  TextBox& box = desk.first->textBox;
+  RulesFixture fixture;
+  fixture.first->Show();
+  TextBox& box = fixture.first->textBox;
   box.SetLocked(true);
   box.UserEdit({0, 0, u"x"});
   box.SetLocked(false);
@@ -84,26 +84,26 @@ TEST_CASE("a locked or unreachable box takes no edit") {
 }
 
 TEST_CASE("the program's own texts are taken as they are") {
-  RulesDesk desk;
+  RulesFixture fixture;
   const Text raw = {u'\0', u'\r', u'\n', u'\n', u'\u4e2d', u'\u00a0'};
-  desk.first->textBox.SetMaxLength(2);
-  desk.first->textBox.SetText(raw);
-  CHECK(desk.first->textBox.TextOf() == raw);
+  fixture.first->textBox.SetMaxLength(2);
+  fixture.first->textBox.SetText(raw);
+  CHECK(fixture.first->textBox.TextOf() == raw);
 }
 
 TEST_CASE("a paste beyond the memory ends the program with the error for that") {
   if (!kMemoryCanBeLimited) return;
   constexpr std::size_t kHuge = 100'000'000;
   constexpr long kRest = 50'000'000;
-  RulesDesk desk;
-  desk.first->Show();
+  RulesFixture fixture;
+  fixture.first->Show();
   const TextEdit paste{0, 0, Text(kHuge, u'x')};
   CHECK(HoldsInProcess([&] {
     LimitMemory(AddressBytes() + kRest);
-    desk.first->textBox.UserEdit(paste);
-    const auto& shown = desk.fakes.messages.shown;
+    fixture.first->textBox.UserEdit(paste);
+    const auto& shown = fixture.fakes.messages.shown;
     return shown.size() == 1 && shown[0].text == u"Run-time error '7':\r\n\r\nOut of memory" &&
-           desk.windows.ExitStatus() == 1;
+           fixture.windows.ExitStatus() == 1;
   }));
 }
 

@@ -2,7 +2,7 @@
 #include <doctest/doctest.h>
 #include <string>
 
-#include "tests/unit/import/import_desk.h"
+#include "tests/unit/import/import_fixture.h"
 
 namespace tessara::test {
 
@@ -18,27 +18,27 @@ const std::string kExtendedText =
     "2.A question\r\nA.one\r\nB.two\r\nC.three\r\nD.four\r\n=c\r\n\r\n"
     "3.Another\r\n=F\r\n";
 
-using Import = void (ImportDesk::*)(std::string);
+using Import = void (ImportFixture::*)(std::string);
 
 /// What must be true after any import: a deck on show or no card, and a file that is open after
 /// an unforeseen error only.
 bool EndsInOrder(const std::string& bytes, Import import) {
-  ImportDesk desk;
-  (desk.*import)(bytes);
+  ImportFixture fixture;
+  (fixture.*import)(bytes);
   const bool unforeseen =
-      std::any_of(desk.messages.shown.begin(), desk.messages.shown.end(),
+      std::any_of(fixture.messages.shown.begin(), fixture.messages.shown.end(),
                   [](const FakeMessages::Shown& box) { return box.title == u"Import Error"; });
-  const bool shown = desk.shown.size() == 1 && desk.state.deck.changed;
-  return (shown || desk.Dropped()) && desk.fileNumber.IsOpen() == unforeseen &&
-         desk.state.deck.cardCount >= 0 && desk.state.deck.cardCount < kRows;
+  const bool shown = fixture.shown.size() == 1 && fixture.state.deck.changed;
+  return (shown || fixture.Dropped()) && fixture.fileNumber.IsOpen() == unforeseen &&
+         fixture.state.deck.cardCount >= 0 && fixture.state.deck.cardCount < kRows;
 }
 
 struct Subject {
   const std::string& text;
   Import import;
 };
-const Subject kSubjects[] = {{kStandardText, &ImportDesk::Standard},
-                             {kExtendedText, &ImportDesk::Extended}};
+const Subject kSubjects[] = {{kStandardText, &ImportFixture::Standard},
+                             {kExtendedText, &ImportFixture::Extended}};
 
 }  // namespace
 
@@ -76,8 +76,8 @@ TEST_CASE("any byte left out or doubled is a deck or none") {
 }
 
 TEST_CASE("a text of the other format is a deck or none") {
-  CHECK(EndsInOrder(kExtendedText, &ImportDesk::Standard));
-  CHECK(EndsInOrder(kStandardText, &ImportDesk::Extended));
+  CHECK(EndsInOrder(kExtendedText, &ImportFixture::Standard));
+  CHECK(EndsInOrder(kStandardText, &ImportFixture::Extended));
 }
 
 }  // namespace tessara::test

@@ -2,7 +2,7 @@
 
 #include <doctest/doctest.h>
 
-#include "tests/unit/import/import_desk.h"
+#include "tests/unit/import/import_fixture.h"
 
 namespace tessara::test {
 
@@ -53,13 +53,13 @@ TEST_CASE("abandoning an import drops the cards and keeps the count and the stan
 
 TEST_CASE("a file that can't be opened or read is an error that the readers tell") {
   for (const auto operation : {MemoryFiles::Operation::kOpen, MemoryFiles::Operation::kRead}) {
-    ImportDesk desk;
-    desk.files.fault = [&](MemoryFiles::Operation at, const Text&) {
+    ImportFixture fixture;
+    fixture.files.fault = [&](MemoryFiles::Operation at, const Text&) {
       return at == operation ? std::optional(ErrorNumber::kDeviceIo) : std::nullopt;
     };
-    desk.Extended(Lines({"EXT", "1.Q"}));
-    CHECK(desk.messages.shown == Boxes{UnforeseenError(u"Device I/O error")});
-    CHECK(desk.fileNumber.IsOpen() == (operation == MemoryFiles::Operation::kRead));
+    fixture.Extended(Lines({"EXT", "1.Q"}));
+    CHECK(fixture.messages.shown == Boxes{UnforeseenError(u"Device I/O error")});
+    CHECK(fixture.fileNumber.IsOpen() == (operation == MemoryFiles::Operation::kRead));
   }
 }
 

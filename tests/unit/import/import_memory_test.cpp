@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "tests/support/memory_use.h"
-#include "tests/unit/import/import_desk.h"
+#include "tests/unit/import/import_fixture.h"
 
 namespace tessara::test {
 
@@ -61,14 +61,14 @@ constexpr std::uint64_t kMegabyte = 1'000'000;
 long MemoryOfImport(std::string_view line, std::uint64_t size) {
   LongTextDisk disk("STD\r\n1.\r\n*>F\r\n", line, size);
   FileNumber fileNumber(disk);
-  ImportDesk desk;
+  ImportFixture fixture;
   const long before = ResidentBytes();
-  ImportContext context = desk.Context();
+  ImportContext context = fixture.Context();
   const ImportContext ofDisk{context.state,    fileNumber,    context.messages,
                              context.codePage, context.today, context.setCardTotal,
                              context.showDeck};
   ImportStandard(kTextPath, ofDisk);
-  CHECK(desk.state.deck.Cell(1, kCardText).size() <= kLongestImportedText);
+  CHECK(fixture.state.deck.Cell(1, kCardText).size() <= kLongestImportedText);
   return disk.mostResident - before;
 }
 

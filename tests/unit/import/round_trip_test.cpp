@@ -1,7 +1,7 @@
 #include <doctest/doctest.h>
 #include <random>
 
-#include "tests/unit/import/import_desk.h"
+#include "tests/unit/import/import_fixture.h"
 #include "tests/unit/import/import_text.h"
 
 namespace tessara::test {
@@ -51,11 +51,11 @@ void AddQuestion(ProgramState& state, Chance& chance) {
   state.deck.cardGrid.Set(row, kAnswer, Text(1, keys[key]));
 }
 
-void CheckSameCards(const ImportDesk& desk, const ProgramState& written) {
-  CHECK(desk.messages.shown.empty());
-  CHECK(desk.state.deck.cardCount == written.deck.cardCount);
+void CheckSameCards(const ImportFixture& fixture, const ProgramState& written) {
+  CHECK(fixture.messages.shown.empty());
+  CHECK(fixture.state.deck.cardCount == written.deck.cardCount);
   for (int row = 1; row <= written.deck.cardCount; ++row) {
-    CHECK(RowOf(desk.state, row) == RowOf(written, row));
+    CHECK(RowOf(fixture.state, row) == RowOf(written, row));
   }
 }
 
@@ -67,9 +67,9 @@ TEST_CASE("a standard deck written as a text is read back the same") {
       ProgramState written;
       Chance chance;
       for (int card = 0; card < cards; ++card) AddTextCard(written, chance);
-      ImportDesk desk;
-      desk.Standard(ImportText::OfStandardDeck(written, lineLength));
-      CheckSameCards(desk, written);
+      ImportFixture fixture;
+      fixture.Standard(ImportText::OfStandardDeck(written, lineLength));
+      CheckSameCards(fixture, written);
     }
   }
 }
@@ -79,9 +79,9 @@ TEST_CASE("an extended deck written as a text is read back the same") {
     ProgramState written;
     Chance chance;
     for (int card = 0; card < cards; ++card) AddQuestion(written, chance);
-    ImportDesk desk;
-    desk.Extended(ImportText::OfExtendedDeck(written));
-    CheckSameCards(desk, written);
+    ImportFixture fixture;
+    fixture.Extended(ImportText::OfExtendedDeck(written));
+    CheckSameCards(fixture, written);
   }
 }
 

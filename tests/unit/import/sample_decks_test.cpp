@@ -4,7 +4,7 @@
 #include <iterator>
 #include <string>
 
-#include "tests/unit/import/import_desk.h"
+#include "tests/unit/import/import_fixture.h"
 
 namespace tessara::test {
 
@@ -17,12 +17,12 @@ std::string BytesOfFile(const std::filesystem::path& path) {
 }
 
 /// The deck as a save writes it, without its information record.
-std::string CardRecords(ImportDesk& desk) {
+std::string CardRecords(ImportFixture& fixture) {
   const Text path = u"/texts/deck.tsr";
-  desk.fileNumber.OpenRandom(path, OpenMode::kReadAndWrite, kRecordSize);
-  WriteRecords(desk.state, desk.fileNumber, CodePage::Western());
-  desk.fileNumber.Close();
-  return desk.files.Bytes(path).substr(kRecordSize);
+  fixture.fileNumber.OpenRandom(path, OpenMode::kReadAndWrite, kRecordSize);
+  WriteRecords(fixture.state, fixture.fileNumber, CodePage::Western());
+  fixture.fileNumber.Close();
+  return fixture.files.Bytes(path).substr(kRecordSize);
 }
 
 }  // namespace
@@ -30,20 +30,22 @@ std::string CardRecords(ImportDesk& desk) {
 TEST_CASE("the sample texts import to the cards of the sample decks, byte for byte") {
   struct Case {
     std::string name;
-    void (ImportDesk::*import)(std::string bytes);
+    void (ImportFixture::*import)(std::string bytes);
     int fewestCards;
   };
   for (const Case& c :
-       {Case{"capitals", &ImportDesk::Standard, 190}, Case{"science", &ImportDesk::Extended, 40},
-        Case{"words", &ImportDesk::Standard, 40}, Case{"scripts", &ImportDesk::Extended, 28}}) {
+       {Case{"capitals", &ImportFixture::Standard, 190},
+        Case{"science", &ImportFixture::Extended, 40}, Case{"words", &ImportFixture::Standard, 40},
+        Case{"scripts", &ImportFixture::Extended, 28}}) {
     CAPTURE(c.name);
-    ImportDesk desk;
-    (desk.*c.import)(BytesOfFile(std::filesystem::path(TESSARA_SAMPLE_TEXTS) / (c.name + ".txt")));
-    CHECK(desk.messages.shown.empty());
-    CHECK(desk.state.deck.cardCount >= c.fewestCards);
+    ImportFixture fixture;
+    (fixture.*
+     c.import)(BytesOfFile(std::filesystem::path(TESSARA_SAMPLE_TEXTS) / (c.name + ".txt")));
+    CHECK(fixture.messages.shown.empty());
+    CHECK(fixture.state.deck.cardCount >= c.fewestCards);
     const std::string deck =
         BytesOfFile(std::filesystem::path(TESSARA_SAMPLE_DECKS) / (c.name + ".tsr"));
-    CHECK(CardRecords(desk) == deck.substr(kRecordSize));
+    CHECK(CardRecords(fixture) == deck.substr(kRecordSize));
   }
 }
 

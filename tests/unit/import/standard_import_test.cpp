@@ -4,7 +4,7 @@
 #include <string>
 
 #include "base/utf8.h"
-#include "tests/unit/import/import_desk.h"
+#include "tests/unit/import/import_fixture.h"
 
 namespace tessara::test {
 
@@ -44,71 +44,73 @@ std::string Cards(int first, int last) {
 }  // namespace
 
 TEST_CASE("cards with a front and a back are read into their rows") {
-  ImportDesk desk;
-  desk.Standard(Lines({"STD", "1.", "*>F", "What is the capital", "of Norway?", "*>B", "Oslo", "",
-                       "2.", "*>F", "Boiling point of water", "*>B", "100 degrees", "*END*"}));
-  CHECK(desk.messages.shown.empty());
-  CHECK(RowOf(desk.state, 1) == TextCard(u"What is the capitalof Norway?", u"1", u"Oslo"));
-  CHECK(RowOf(desk.state, 2) == TextCard(u"Boiling point of water", u"2", u"100 degrees"));
-  CHECK(desk.state.deck.cardPresent.At(2) == 1);
-  CHECK(desk.state.deck.cardPresent.At(3) == 0);
-  CHECK(desk.state.deck.cardCount == 2);
-  CHECK(desk.totals == std::vector{1, 2});
+  ImportFixture fixture;
+  fixture.Standard(
+      Lines({"STD", "1.", "*>F", "What is the capital", "of Norway?", "*>B", "Oslo", "", "2.",
+             "*>F", "Boiling point of water", "*>B", "100 degrees", "*END*"}));
+  CHECK(fixture.messages.shown.empty());
+  CHECK(RowOf(fixture.state, 1) == TextCard(u"What is the capitalof Norway?", u"1", u"Oslo"));
+  CHECK(RowOf(fixture.state, 2) == TextCard(u"Boiling point of water", u"2", u"100 degrees"));
+  CHECK(fixture.state.deck.cardPresent.At(2) == 1);
+  CHECK(fixture.state.deck.cardPresent.At(3) == 0);
+  CHECK(fixture.state.deck.cardCount == 2);
+  CHECK(fixture.totals == std::vector{1, 2});
 }
 
 TEST_CASE("a standard import ends as a new deck that was never saved") {
-  ImportDesk desk;
-  desk.Standard(Lines({"STD", "1.", "*>F", "f", "*>B", "b", ""}));
-  CHECK(desk.shown == std::vector{kStandardDeck});
-  CHECK(desk.state.deck.currentCard == 1);
-  CHECK(desk.state.deck.changed);
-  CHECK(desk.state.deck.Cell(0, kInfoType) == u"Santdard");
-  CHECK_FALSE(desk.fileNumber.IsOpen());
-  CHECK(desk.state.import.standardCard == 0);
-  CHECK(desk.state.import.previousStandardCard == 0);
+  ImportFixture fixture;
+  fixture.Standard(Lines({"STD", "1.", "*>F", "f", "*>B", "b", ""}));
+  CHECK(fixture.shown == std::vector{kStandardDeck});
+  CHECK(fixture.state.deck.currentCard == 1);
+  CHECK(fixture.state.deck.changed);
+  CHECK(fixture.state.deck.Cell(0, kInfoType) == u"Santdard");
+  CHECK_FALSE(fixture.fileNumber.IsOpen());
+  CHECK(fixture.state.import.standardCard == 0);
+  CHECK(fixture.state.import.previousStandardCard == 0);
 }
 
 TEST_CASE("lines of a side are joined as they stand, lines of blanks included") {
-  ImportDesk desk;
-  desk.Standard(Lines({"1.", "*>F", " a ", "  ", "b", "*>B", "\tc", " "}));
-  CHECK(RowOf(desk.state, 1) == TextCard(u" a   b", u"1", u"\tc "));
+  ImportFixture fixture;
+  fixture.Standard(Lines({"1.", "*>F", " a ", "  ", "b", "*>B", "\tc", " "}));
+  CHECK(RowOf(fixture.state, 1) == TextCard(u" a   b", u"1", u"\tc "));
 }
 
 TEST_CASE("a side of lines without end takes no more than the bound of an imported text") {
   const std::string line(400'000, 'x');
-  ImportDesk desk;
-  desk.Standard(Lines({"1.", "*>F", line, line, line, "*>B", std::string(1'500'000, 'y')}));
-  CHECK(RowOf(desk.state, 1) ==
+  ImportFixture fixture;
+  fixture.Standard(Lines({"1.", "*>F", line, line, line, "*>B", std::string(1'500'000, 'y')}));
+  CHECK(RowOf(fixture.state, 1) ==
         TextCard(Text(kLongestImportedText, u'x'), u"1", Text(kLongestImportedText, u'y')));
 }
 
 TEST_CASE("tags stand in either order, repeat, and are known with blanks and in lower case") {
-  ImportDesk desk;
-  desk.Standard(Lines({"1.", " *>b ", "b1", "*>f", "f1", "*>B", "b2", "*>F  ", "f2", ""}));
-  CHECK(desk.messages.shown.empty());
-  CHECK(RowOf(desk.state, 1) == TextCard(u"f1f2", u"1", u"b1b2"));
+  ImportFixture fixture;
+  fixture.Standard(Lines({"1.", " *>b ", "b1", "*>f", "f1", "*>B", "b2", "*>F  ", "f2", ""}));
+  CHECK(fixture.messages.shown.empty());
+  CHECK(RowOf(fixture.state, 1) == TextCard(u"f1f2", u"1", u"b1b2"));
 }
 
 TEST_CASE("what only looks like a tag is text") {
-  ImportDesk desk;
-  desk.Standard(Lines({"1.", "*>F", "*>C", "*>FF", "* >F", "*>B", "*END", "x"}));
-  CHECK(RowOf(desk.state, 1) == TextCard(u"*>C*>FF* >F", u"1", u"*ENDx"));
+  ImportFixture fixture;
+  fixture.Standard(Lines({"1.", "*>F", "*>C", "*>FF", "* >F", "*>B", "*END", "x"}));
+  CHECK(RowOf(fixture.state, 1) == TextCard(u"*>C*>FF* >F", u"1", u"*ENDx"));
 }
 
 TEST_CASE(
     "text before any tag of the file is dropped, later it goes to the side of the card before") {
-  ImportDesk desk;
-  desk.Standard(Lines({"1.", "lost", "*>F", "f", "*>B", "b", "", "2.", "kept", "*>F", "*>B", ""}));
-  CHECK(desk.messages.shown.empty());
-  CHECK(RowOf(desk.state, 1) == TextCard(u"f", u"1", u"b"));
-  CHECK(RowOf(desk.state, 2) == TextCard(u"", u"2", u"kept"));
+  ImportFixture fixture;
+  fixture.Standard(
+      Lines({"1.", "lost", "*>F", "f", "*>B", "b", "", "2.", "kept", "*>F", "*>B", ""}));
+  CHECK(fixture.messages.shown.empty());
+  CHECK(RowOf(fixture.state, 1) == TextCard(u"f", u"1", u"b"));
+  CHECK(RowOf(fixture.state, 2) == TextCard(u"", u"2", u"kept"));
 }
 
 TEST_CASE("the two type words are skipped wherever they stand, in any case") {
-  ImportDesk desk;
-  desk.Standard(Lines({"std", "EXT", "1.", "*>F", "f", " ext ", "*>B", "b", "", "Std", ""}));
-  CHECK(desk.messages.shown == Boxes{LineOutsideCard(u"1")});
-  ImportDesk good;
+  ImportFixture fixture;
+  fixture.Standard(Lines({"std", "EXT", "1.", "*>F", "f", " ext ", "*>B", "b", "", "Std", ""}));
+  CHECK(fixture.messages.shown == Boxes{LineOutsideCard(u"1")});
+  ImportFixture good;
   good.Standard(Lines({"std", "EXT", "1.", "*>F", "f", " ext ", "*>B", "b", "", "Std"}));
   CHECK(good.messages.shown.empty());
   CHECK(RowOf(good.state, 1) == TextCard(u"f", u"1", u"b"));
@@ -116,10 +118,10 @@ TEST_CASE("the two type words are skipped wherever they stand, in any case") {
 
 TEST_CASE("nothing behind the end line is read, whatever its case and its blanks") {
   for (const char* end : {"*END*", " *end* ", "*End*"}) {
-    ImportDesk desk;
-    desk.Standard(Lines({"1.", "*>F", "f", "*>B", "b", end, "more", "", "7."}));
-    CHECK(desk.messages.shown.empty());
-    CHECK(RowOf(desk.state, 1) == TextCard(u"f", u"1", u"b"));
+    ImportFixture fixture;
+    fixture.Standard(Lines({"1.", "*>F", "f", "*>B", "b", end, "more", "", "7."}));
+    CHECK(fixture.messages.shown.empty());
+    CHECK(RowOf(fixture.state, 1) == TextCard(u"f", u"1", u"b"));
   }
 }
 
@@ -144,10 +146,10 @@ TEST_CASE("a number line is a number as a whole with an early dot") {
 TEST_CASE("the number is the line without its last character, rounded") {
   for (const std::string line : {"1.", "1.5", "1.49", "0.99", "0.519", "  1.", " 1. ", "+1."}) {
     CAPTURE(line);
-    ImportDesk desk;
-    desk.Standard(Lines({"STD", line, "*>F", "f"}));
-    CHECK(desk.messages.shown.empty());
-    CHECK(RowOf(desk.state, 1) == TextCard(u"f", u"1", u""));
+    ImportFixture fixture;
+    fixture.Standard(Lines({"STD", line, "*>F", "f"}));
+    CHECK(fixture.messages.shown.empty());
+    CHECK(RowOf(fixture.state, 1) == TextCard(u"f", u"1", u""));
   }
 }
 
@@ -170,19 +172,19 @@ TEST_CASE("card numbers start at 1 and go up by one") {
   };
   for (const Case& c : cases) {
     CAPTURE(c.what);
-    ImportDesk desk;
-    desk.Standard(c.bytes);
-    CHECK(desk.messages.shown == c.boxes);
-    CHECK(desk.Dropped());
-    CHECK_FALSE(desk.fileNumber.IsOpen());
+    ImportFixture fixture;
+    fixture.Standard(c.bytes);
+    CHECK(fixture.messages.shown == c.boxes);
+    CHECK(fixture.Dropped());
+    CHECK_FALSE(fixture.fileNumber.IsOpen());
   }
 }
 
 TEST_CASE("the number of the card being read may come again and changes nothing") {
-  ImportDesk desk;
-  desk.Standard(Lines({"1.", "*>F", "f", "1.", "g", "*>B", "b", ""}));
-  CHECK(desk.messages.shown.empty());
-  CHECK(RowOf(desk.state, 1) == TextCard(u"fg", u"1", u"b"));
+  ImportFixture fixture;
+  fixture.Standard(Lines({"1.", "*>F", "f", "1.", "g", "*>B", "b", ""}));
+  CHECK(fixture.messages.shown.empty());
+  CHECK(RowOf(fixture.state, 1) == TextCard(u"fg", u"1", u"b"));
 }
 
 TEST_CASE("a line where a number is due names the card before") {
@@ -203,11 +205,11 @@ TEST_CASE("a line where a number is due names the card before") {
   };
   for (const Case& c : cases) {
     CAPTURE(c.what);
-    ImportDesk desk;
-    desk.Standard(c.bytes);
-    CHECK(desk.messages.shown == c.boxes);
-    CHECK(desk.Dropped());
-    CHECK_FALSE(desk.fileNumber.IsOpen());
+    ImportFixture fixture;
+    fixture.Standard(c.bytes);
+    CHECK(fixture.messages.shown == c.boxes);
+    CHECK(fixture.Dropped());
+    CHECK_FALSE(fixture.fileNumber.IsOpen());
   }
 }
 
@@ -224,10 +226,10 @@ TEST_CASE("a blank line needs both tags of its card") {
   };
   for (const Case& c : cases) {
     CAPTURE(c.what);
-    ImportDesk desk;
-    desk.Standard(Cards(1, 1) + c.card);
-    CHECK(desk.messages.shown == Boxes{TagMissing(u"2")});
-    CHECK(desk.Dropped());
+    ImportFixture fixture;
+    fixture.Standard(Cards(1, 1) + c.card);
+    CHECK(fixture.messages.shown == Boxes{TagMissing(u"2")});
+    CHECK(fixture.Dropped());
   }
 }
 
@@ -248,42 +250,42 @@ TEST_CASE("the last card needs no blank line and no back, only its front tag") {
   };
   for (const Case& c : cases) {
     CAPTURE(c.what);
-    ImportDesk desk;
-    desk.Standard(c.bytes);
-    CHECK(desk.messages.shown.empty());
-    CHECK(RowOf(desk.state, 1) == c.row);
-    CHECK(desk.state.deck.cardPresent.At(1) == c.present);
-    CHECK(desk.state.deck.cardCount == 1);
+    ImportFixture fixture;
+    fixture.Standard(c.bytes);
+    CHECK(fixture.messages.shown.empty());
+    CHECK(RowOf(fixture.state, 1) == c.row);
+    CHECK(fixture.state.deck.cardPresent.At(1) == c.present);
+    CHECK(fixture.state.deck.cardCount == 1);
   }
 }
 
 TEST_CASE("a text without cards tells so and shows an empty deck") {
   for (const std::string& bytes : {Lines({"STD"}), Lines({"STD", "*END*", "1."}), std::string()}) {
-    ImportDesk desk;
-    desk.Standard(bytes);
-    CHECK(desk.messages.shown == Boxes{kNoCards});
-    CHECK(desk.shown == std::vector{kStandardDeck});
-    CHECK_FALSE(desk.state.deck.HasCards());
-    CHECK(desk.state.deck.changed);
+    ImportFixture fixture;
+    fixture.Standard(bytes);
+    CHECK(fixture.messages.shown == Boxes{kNoCards});
+    CHECK(fixture.shown == std::vector{kStandardDeck});
+    CHECK_FALSE(fixture.state.deck.HasCards());
+    CHECK(fixture.state.deck.changed);
   }
 }
 
 TEST_CASE("reading stops behind the number of card 201 with 200 cards") {
-  ImportDesk desk;
-  desk.Standard("STD\r\n" + Cards(1, 201) + "an error\r\n");
-  CHECK(desk.messages.shown.empty());
-  CHECK(desk.state.deck.cardCount == 200);
-  CHECK(desk.state.deck.cardPresent.At(200) == 1);
-  CHECK(desk.state.deck.cardPresent.At(201) == 0);
-  CHECK(desk.totals.back() == 201);
+  ImportFixture fixture;
+  fixture.Standard("STD\r\n" + Cards(1, 201) + "an error\r\n");
+  CHECK(fixture.messages.shown.empty());
+  CHECK(fixture.state.deck.cardCount == 200);
+  CHECK(fixture.state.deck.cardPresent.At(200) == 1);
+  CHECK(fixture.state.deck.cardPresent.At(201) == 0);
+  CHECK(fixture.totals.back() == 201);
 }
 
 TEST_CASE("a file that ends with the number of card 201 counts it") {
-  ImportDesk desk;
-  desk.Standard("STD\r\n" + Cards(1, 200) + "201.\r\n");
-  CHECK(desk.messages.shown.empty());
-  CHECK(desk.state.deck.cardCount == 201);
-  CHECK(desk.state.deck.cardPresent.At(201) == 0);
+  ImportFixture fixture;
+  fixture.Standard("STD\r\n" + Cards(1, 200) + "201.\r\n");
+  CHECK(fixture.messages.shown.empty());
+  CHECK(fixture.state.deck.cardCount == 201);
+  CHECK(fixture.state.deck.cardPresent.At(201) == 0);
 }
 
 TEST_CASE("an unforeseen error shows the line too and leaves the file open") {
@@ -297,61 +299,61 @@ TEST_CASE("an unforeseen error shows the line too and leaves the file open") {
                         {" .5", u"Type mismatch"}};
   for (const Case& c : cases) {
     CAPTURE(c.line);
-    ImportDesk desk;
-    desk.Standard("STD\r\n" + Cards(1, 2) + c.line + "\r\n");
-    CHECK(desk.messages.shown ==
+    ImportFixture fixture;
+    fixture.Standard("STD\r\n" + Cards(1, 2) + c.line + "\r\n");
+    CHECK(fixture.messages.shown ==
           Boxes{UnforeseenError(c.description), LineWithError(FromUtf8(c.line))});
-    CHECK(desk.Dropped());
-    CHECK(desk.fileNumber.IsOpen());
+    CHECK(fixture.Dropped());
+    CHECK(fixture.fileNumber.IsOpen());
   }
 }
 
 TEST_CASE("a card that was begun and a number beyond the table are an unforeseen error") {
-  ImportDesk desk;
-  desk.Standard(Lines({"STD", "1.", "*>F", "f", "203."}));
-  CHECK(desk.messages.shown ==
+  ImportFixture fixture;
+  fixture.Standard(Lines({"STD", "1.", "*>F", "f", "203."}));
+  CHECK(fixture.messages.shown ==
         Boxes{kBadFirstCard, UnforeseenError(u"Subscript out of range"), LineWithError(u"203.")});
-  CHECK(desk.Dropped());
-  CHECK(desk.fileNumber.IsOpen());
+  CHECK(fixture.Dropped());
+  CHECK(fixture.fileNumber.IsOpen());
 }
 
 TEST_CASE("a card that was begun leaves nothing after an error") {
-  ImportDesk desk;
-  desk.Standard(Lines({"STD", "1.", "*>F", "f", "7."}));
-  CHECK(desk.messages.shown == Boxes{kBadFirstCard});
-  CHECK(desk.Dropped());
-  CHECK(desk.state.import.standardCard == 0);
+  ImportFixture fixture;
+  fixture.Standard(Lines({"STD", "1.", "*>F", "f", "7."}));
+  CHECK(fixture.messages.shown == Boxes{kBadFirstCard});
+  CHECK(fixture.Dropped());
+  CHECK(fixture.state.import.standardCard == 0);
 }
 
 TEST_CASE("a failed import that has finished a card spoils the next one in the same run") {
-  ImportDesk desk;
-  desk.Standard("STD\r\n" + Cards(1, 2) + "\r\n");
-  CHECK(desk.messages.Take() == Boxes{LineOutsideCard(u"2")});
-  CHECK(desk.state.import.previousStandardCard == 2);
-  CHECK(desk.state.deck.cardCount == 2);
+  ImportFixture fixture;
+  fixture.Standard("STD\r\n" + Cards(1, 2) + "\r\n");
+  CHECK(fixture.messages.Take() == Boxes{LineOutsideCard(u"2")});
+  CHECK(fixture.state.import.previousStandardCard == 2);
+  CHECK(fixture.state.deck.cardCount == 2);
   for (int again = 0; again < 2; ++again) {
-    desk.Standard("STD\r\n" + Cards(1, 1));
-    CHECK(desk.messages.Take() == Boxes{SequenceError(u"2")});
-    CHECK(desk.Dropped());
+    fixture.Standard("STD\r\n" + Cards(1, 1));
+    CHECK(fixture.messages.Take() == Boxes{SequenceError(u"2")});
+    CHECK(fixture.Dropped());
   }
 }
 
 TEST_CASE("a failed import that has finished no card does not") {
-  ImportDesk desk;
-  desk.Standard(Lines({"STD", "1.", "*>F", "f", ""}));
-  CHECK(desk.messages.Take() == Boxes{TagMissing(u"1")});
-  desk.Standard("STD\r\n" + Cards(1, 1));
-  CHECK(desk.messages.shown.empty());
-  CHECK(desk.state.deck.cardCount == 1);
+  ImportFixture fixture;
+  fixture.Standard(Lines({"STD", "1.", "*>F", "f", ""}));
+  CHECK(fixture.messages.Take() == Boxes{TagMissing(u"1")});
+  fixture.Standard("STD\r\n" + Cards(1, 1));
+  CHECK(fixture.messages.shown.empty());
+  CHECK(fixture.state.deck.cardCount == 1);
 }
 
 TEST_CASE("a stale count of 201 ends the next import at once") {
-  ImportDesk desk;
-  desk.state.deck.cardCount = 201;
-  desk.Standard("STD\r\n" + Cards(1, 1));
-  CHECK(desk.messages.shown.empty());
-  CHECK(desk.state.deck.cardCount == 200);
-  CHECK_FALSE(desk.state.deck.HasCards());
+  ImportFixture fixture;
+  fixture.state.deck.cardCount = 201;
+  fixture.Standard("STD\r\n" + Cards(1, 1));
+  CHECK(fixture.messages.shown.empty());
+  CHECK(fixture.state.deck.cardCount == 200);
+  CHECK_FALSE(fixture.state.deck.HasCards());
 }
 
 }  // namespace tessara::test

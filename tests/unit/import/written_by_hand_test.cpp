@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "tests/unit/import/command_desk.h"
+#include "tests/unit/import/command_fixture.h"
 
 namespace tessara::test {
 
@@ -212,11 +212,11 @@ void CheckAll(const HandWritten (&files)[count]) {
     for (const Writing& writing : kWritings) {
       CAPTURE(file.what);
       CAPTURE(writing.name);
-      CommandDesk desk;
-      desk.Import(Written(file.lines, writing));
-      CHECK(TextsOf(desk.Told()) == file.told);
-      CHECK(CardsOf(desk.state) == file.cards);
-      CHECK((desk.deck.IsLoaded() && desk.deck->Visible()) == !file.cards.empty());
+      CommandFixture fixture;
+      fixture.Import(Written(file.lines, writing));
+      CHECK(TextsOf(fixture.Told()) == file.told);
+      CHECK(CardsOf(fixture.state) == file.cards);
+      CHECK((fixture.deck.IsLoaded() && fixture.deck->Visible()) == !file.cards.empty());
     }
   }
 }
@@ -276,10 +276,10 @@ TEST_CASE("the examples of the documents become the cards that the documents tel
   for (const Case& c : cases) {
     CAPTURE(c.document);
     CAPTURE(c.firstLine);
-    CommandDesk desk;
-    desk.Import(ExampleIn(c.document, c.firstLine));
-    CHECK(desk.Told().empty());
-    CHECK(CardsOf(desk.state) == c.cards);
+    CommandFixture fixture;
+    fixture.Import(ExampleIn(c.document, c.firstLine));
+    CHECK(fixture.Told().empty());
+    CHECK(CardsOf(fixture.state) == c.cards);
   }
 }
 
@@ -296,22 +296,22 @@ TEST_CASE("a text that does not begin with its type is refused, whatever editor 
 }
 
 TEST_CASE("a text in the code page of the language reads like one in UTF-8") {
-  CommandDesk desk;
-  desk.Import("STD\r\n1.\r\n*>F\r\ngro\xDF\r\n*>B\r\ncaf\xE9 \x80\r\n");
-  CHECK(CardsOf(desk.state) == std::vector<Text>{u"E|gro\u00DF|caf\u00E9 \u20AC"});
+  CommandFixture fixture;
+  fixture.Import("STD\r\n1.\r\n*>F\r\ngro\xDF\r\n*>B\r\ncaf\xE9 \x80\r\n");
+  CHECK(CardsOf(fixture.state) == std::vector<Text>{u"E|gro\u00DF|caf\u00E9 \u20AC"});
 }
 
 TEST_CASE("a text in UTF-16 with its mark reads like one in UTF-8") {
   const TextView text = u"\uFEFFSTD\r\n1.\r\n*>F\r\n\u0416\r\n*>B\r\n\u4E2D\r\n";
-  CommandDesk desk;
-  desk.Import({reinterpret_cast<const char*>(text.data()), text.size() * sizeof(char16_t)});
-  CHECK(CardsOf(desk.state) == std::vector<Text>{u"E|\u0416|\u4E2D"});
+  CommandFixture fixture;
+  fixture.Import({reinterpret_cast<const char*>(text.data()), text.size() * sizeof(char16_t)});
+  CHECK(CardsOf(fixture.state) == std::vector<Text>{u"E|\u0416|\u4E2D"});
 }
 
 TEST_CASE("a text in UTF-16 without a mark does not begin with a type") {
-  CommandDesk desk;
-  desk.Import(std::string("S\0T\0D\0\r\0\n\0", 10));
-  CHECK(desk.Told() == Boxes{kUnknownFormat});
+  CommandFixture fixture;
+  fixture.Import(std::string("S\0T\0D\0\r\0\n\0", 10));
+  CHECK(fixture.Told() == Boxes{kUnknownFormat});
 }
 
 }  // namespace tessara::test

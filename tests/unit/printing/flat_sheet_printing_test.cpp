@@ -3,27 +3,27 @@
 
 #include "base/run_time_error.h"
 #include "printing/print_window.h"
-#include "tests/unit/printing/print_desk.h"
+#include "tests/unit/printing/print_fixture.h"
 
 namespace tessara {
 namespace {
 
-using test::PrintDesk;
+using test::PrintFixture;
 using Calls = std::vector<std::string>;
 using Shown = test::FakeMessages::Shown;
 
 /// A print window in flat mode.
-PrintWindow& OpenFlat(PrintDesk& desk, int ticked) {
-  PrintWindow& window = desk.OpenTicked(ticked);
+PrintWindow& OpenFlat(PrintFixture& fixture, int ticked) {
+  PrintWindow& window = fixture.OpenTicked(ticked);
   window.flatSheet.SetTicked(true);
   return window;
 }
 
-Calls PrintFlat(PrintDesk& desk, int ticked) {
-  PrintWindow& window = OpenFlat(desk, ticked);
-  desk.ChoosePrinter();
+Calls PrintFlat(PrintFixture& fixture, int ticked) {
+  PrintWindow& window = OpenFlat(fixture, ticked);
+  fixture.ChoosePrinter();
   window.print.Press();
-  return desk.surface.record.Take();
+  return fixture.surface.record.Take();
 }
 
 void DescribeDeck(ProgramState& state) {
@@ -48,8 +48,8 @@ const Calls kHeader{"Destination /home/me/cards.pdf",
                     "Line "};
 
 TEST_CASE("a flat document lists the ticked cards below a header, texts one row too far") {
-  PrintDesk desk;
-  DescribeDeck(desk.state);
+  PrintFixture fixture;
+  DescribeDeck(fixture.state);
   Calls expected = kHeader;
   const Calls body{"Font Arial", "Size 10",      "Bold on",     "Rule 0 1600 4000 1600",
                    "Line ",      "Line Card #1", "Bold off",    "Line front 2",
@@ -57,13 +57,13 @@ TEST_CASE("a flat document lists the ticked cards below a header, texts one row 
                    "Italic off", "Italic off",   "Italic off",  "End",
                    "Box PRINT"};
   expected.insert(expected.end(), body.begin(), body.end());
-  CHECK(PrintFlat(desk, 1) == expected);
-  CHECK(desk.server.record.calls == Calls{"Box PRINT"});
+  CHECK(PrintFlat(fixture, 1) == expected);
+  CHECK(fixture.server.record.calls == Calls{"Box PRINT"});
 }
 
 TEST_CASE("the block of the last card is empty and the texts of card 1 are never printed") {
-  PrintDesk desk;
-  const Calls calls = PrintFlat(desk, 3);
+  PrintFixture fixture;
+  const Calls calls = PrintFlat(fixture, 3);
   const auto has = [&calls](const char* line) {
     return std::find(calls.begin(), calls.end(), line) != calls.end();
   };
@@ -76,73 +76,73 @@ TEST_CASE("the block of the last card is empty and the texts of card 1 are never
 }
 
 TEST_CASE("the header counts all cards of the deck") {
-  PrintDesk desk(5);
-  desk.Open();
-  const Calls calls = PrintFlat(desk, 1);
+  PrintFixture fixture(5);
+  fixture.Open();
+  const Calls calls = PrintFlat(fixture, 1);
   CHECK(std::find(calls.begin(), calls.end(), "Line Total Cards: 5") != calls.end());
 }
 
 TEST_CASE("an extended deck has its answers for backs") {
-  PrintDesk desk;
-  desk.state.deck.kind = kExtendedDeck;
-  desk.state.deck.cardGrid.Set(2, kAnswer, u"T");
-  const Calls calls = PrintFlat(desk, 1);
+  PrintFixture fixture;
+  fixture.state.deck.kind = kExtendedDeck;
+  fixture.state.deck.cardGrid.Set(2, kAnswer, u"T");
+  const Calls calls = PrintFlat(fixture, 1);
   const auto italic = std::find(calls.begin(), calls.end(), "Italic on");
   REQUIRE(italic != calls.end());
   CHECK(*(italic + 1) == "Line TRUE");
 }
 
 TEST_CASE("a document leaves the number of the last ticked card and no position behind") {
-  PrintDesk desk(4);
-  desk.state.printing.flatLastY = 77;
-  PrintFlat(desk, 2);
-  CHECK(desk.state.deck.currentCard == 2);
-  CHECK(desk.state.printing.flatLastY == 0);
+  PrintFixture fixture(4);
+  fixture.state.printing.flatLastY = 77;
+  PrintFlat(fixture, 2);
+  CHECK(fixture.state.deck.currentCard == 2);
+  CHECK(fixture.state.printing.flatLastY == 0);
 }
 
 TEST_CASE("each further flat copy is asked for and is a whole document") {
   for (const bool wanted : {true, false}) {
     CAPTURE(wanted);
-    PrintDesk desk;
-    PrintWindow& window = OpenFlat(desk, 1);
-    desk.ChoosePrinter(2);
-    desk.fakes.messages.answers = {wanted ? MessageAnswer::kYes : MessageAnswer::kNo};
+    PrintFixture fixture;
+    PrintWindow& window = OpenFlat(fixture, 1);
+    fixture.ChoosePrinter(2);
+    fixture.fakes.messages.answers = {wanted ? MessageAnswer::kYes : MessageAnswer::kNo};
     window.print.Press();
-    const auto& shown = desk.fakes.messages.shown;
+    const auto& shown = fixture.fakes.messages.shown;
     REQUIRE(shown.size() == 2);
     constexpr int kFlags = 36;
     CHECK(shown[0] ==
           Shown{u"Perparing to print copy # 2 of 2, do want to continue?", kFlags, u"Print Cards"});
     CHECK(shown[1].title == u"PRINT");
-    CHECK(desk.surface.record.Count("End") == (wanted ? 2 : 1));
-    CHECK(desk.surface.record.Count("Copies 1") == (wanted ? 3 : 2));
-    CHECK_FALSE(desk.state.printing.cancelled);
+    CHECK(fixture.surface.record.Count("End") == (wanted ? 2 : 1));
+    CHECK(fixture.surface.record.Count("Copies 1") == (wanted ? 3 : 2));
+    CHECK_FALSE(fixture.state.printing.cancelled);
   }
 }
 
 TEST_CASE("a word wider than the page drops the document, and the next one starts afresh") {
-  PrintDesk desk;
-  desk.state.deck.cardGrid.Set(2, kCardText, Text(41, u'x'));
-  PrintWindow& window = OpenFlat(desk, 1);
-  desk.ChoosePrinter();
+  PrintFixture fixture;
+  fixture.state.deck.cardGrid.Set(2, kCardText, Text(41, u'x'));
+  PrintWindow& window = OpenFlat(fixture, 1);
+  fixture.ChoosePrinter();
   bool flagBehindTheBox = true;
-  desk.fakes.messages.whileShown = [&](const Shown&) {
-    flagBehindTheBox = desk.state.printing.cancelled;
+  fixture.fakes.messages.whileShown = [&](const Shown&) {
+    flagBehindTheBox = fixture.state.printing.cancelled;
   };
   window.print.Press();
-  CHECK(desk.fakes.messages.Take() ==
+  CHECK(fixture.fakes.messages.Take() ==
         std::vector<Shown>{{u"Printing was cancelled", kOkOnly, u"Cancel Printing"}});
   CHECK_FALSE(flagBehindTheBox);
-  CHECK(desk.state.printing.cancelled);
-  CHECK(desk.surface.record.Count("End") == 0);
-  CHECK(desk.surface.record.calls.back() == "Drop");
-  CHECK(desk.state.printing.flatLastY == 1000);
+  CHECK(fixture.state.printing.cancelled);
+  CHECK(fixture.surface.record.Count("End") == 0);
+  CHECK(fixture.surface.record.calls.back() == "Drop");
+  CHECK(fixture.state.printing.flatLastY == 1000);
 
-  desk.state.deck.cardGrid.Set(2, kCardText, u"short");
-  desk.ChoosePrinter();
+  fixture.state.deck.cardGrid.Set(2, kCardText, u"short");
+  fixture.ChoosePrinter();
   window.print.Press();
-  CHECK(desk.surface.record.Count("End") == 1);
-  CHECK(desk.state.printing.flatLastY == 0);
+  CHECK(fixture.surface.record.Count("End") == 1);
+  CHECK(fixture.state.printing.flatLastY == 0);
 }
 
 TEST_CASE("an error of any operation of the surface cancels the flat job") {
@@ -151,26 +151,26 @@ TEST_CASE("an error of any operation of the surface cancels the flat job") {
                             "Italic on",   "Line back 2", "Italic off", "End"};
   for (const char* failing : failures) {
     CAPTURE(failing);
-    PrintDesk desk;
-    PrintWindow& window = OpenFlat(desk, 1);
-    desk.ChoosePrinter();
-    desk.surface.record.FailAt(failing, ErrorNumber::kPrinterError);
+    PrintFixture fixture;
+    PrintWindow& window = OpenFlat(fixture, 1);
+    fixture.ChoosePrinter();
+    fixture.surface.record.FailAt(failing, ErrorNumber::kPrinterError);
     window.print.Press();
-    CHECK(desk.fakes.messages.shown ==
+    CHECK(fixture.fakes.messages.shown ==
           std::vector<Shown>{{u"Printing was cancelled", kOkOnly, u"Cancel Printing"}});
-    CHECK(desk.surface.record.Count("Drop") == 1);
-    CHECK(desk.state.printing.cancelled);
+    CHECK(fixture.surface.record.Count("Drop") == 1);
+    CHECK(fixture.state.printing.cancelled);
   }
 }
 
 TEST_CASE("flat sheets need no spreadsheet server") {
-  PrintDesk desk;
-  desk.state.printing.canPrintCards = false;
-  PrintWindow& window = desk.OpenTicked(1);
-  desk.ChoosePrinter();
+  PrintFixture fixture;
+  fixture.state.printing.canPrintCards = false;
+  PrintWindow& window = fixture.OpenTicked(1);
+  fixture.ChoosePrinter();
   window.print.Press();
-  CHECK(desk.surface.record.Count("End") == 1);
-  CHECK(desk.server.record.calls == Calls{"Box PRINT"});
+  CHECK(fixture.surface.record.Count("End") == 1);
+  CHECK(fixture.server.record.calls == Calls{"Box PRINT"});
 }
 
 }  // namespace

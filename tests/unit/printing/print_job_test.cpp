@@ -2,12 +2,12 @@
 #include <vector>
 
 #include "base/run_time_error.h"
-#include "tests/unit/printing/print_desk.h"
+#include "tests/unit/printing/print_fixture.h"
 
 namespace tessara {
 namespace {
 
-using test::PrintDesk;
+using test::PrintFixture;
 using Pointers = std::vector<MousePointer>;
 
 TEST_CASE("from the press of the print button to the job's end the wait pointer is up") {
@@ -15,26 +15,26 @@ TEST_CASE("from the press of the print button to the job's end the wait pointer 
   const Pointers waited{MousePointer::kHourglass, MousePointer::kDefault};
   for (const bool flat : {false, true}) {
     CAPTURE(flat);
-    PrintDesk desk;
-    desk.OpenTicked(1).flatSheet.SetTicked(flat);
-    desk.ChoosePrinter();
+    PrintFixture fixture;
+    fixture.OpenTicked(1).flatSheet.SetTicked(flat);
+    fixture.ChoosePrinter();
     int boxes = 0;
-    desk.fakes.messages.whileShown = [&](const test::FakeMessages::Shown&) {
+    fixture.fakes.messages.whileShown = [&](const test::FakeMessages::Shown&) {
       ++boxes;
-      CHECK(desk.fakes.desktop.pointers == waiting);
+      CHECK(fixture.fakes.desktop.pointers == waiting);
     };
-    desk.Open().print.Press();
+    fixture.Open().print.Press();
     CHECK(boxes > 0);
-    CHECK(desk.fakes.desktop.pointers == waited);
+    CHECK(fixture.fakes.desktop.pointers == waited);
   }
 }
 
 TEST_CASE("a job that is cancelled in the printer dialog sets the pointer back") {
-  PrintDesk desk;
-  desk.CancelPrinter();
-  desk.OpenTicked(1).print.Press();
-  REQUIRE_FALSE(desk.fakes.desktop.pointers.empty());
-  CHECK(desk.fakes.desktop.pointers.back() == MousePointer::kDefault);
+  PrintFixture fixture;
+  fixture.CancelPrinter();
+  fixture.OpenTicked(1).print.Press();
+  REQUIRE_FALSE(fixture.fakes.desktop.pointers.empty());
+  CHECK(fixture.fakes.desktop.pointers.back() == MousePointer::kDefault);
 }
 
 }  // namespace

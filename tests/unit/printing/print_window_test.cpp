@@ -3,13 +3,13 @@
 #include <doctest/doctest.h>
 
 #include "base/run_time_error.h"
-#include "tests/unit/printing/print_desk.h"
+#include "tests/unit/printing/print_fixture.h"
 
 namespace tessara {
 namespace {
 
 using test::FakeMessages;
-using test::PrintDesk;
+using test::PrintFixture;
 using Shown = FakeMessages::Shown;
 
 constexpr TextView kDisabledText =
@@ -41,14 +41,14 @@ void CheckControls(const PrintWindow& window, const Controls& expected) {
 }
 
 TEST_CASE("the window lists the cards and hides the deck window") {
-  PrintDesk desk(12);
-  const PrintWindow& window = desk.Open();
+  PrintFixture fixture(12);
+  const PrintWindow& window = fixture.Open();
   CHECK(window.Visible());
   CHECK(window.Caption() == u"Print Cards");
   CHECK(window.Width() == 8685);
   CHECK(window.Height() == 5565);
-  CHECK(window.Left() == (desk.frame.width - 8685) / 2);
-  CHECK(window.Top() == (desk.frame.height - 5565) / 2);
+  CHECK(window.Left() == (fixture.frame.width - 8685) / 2);
+  CHECK(window.Top() == (fixture.frame.height - 5565) / 2);
   CHECK(window.cards.Count() == 12);
   CHECK(window.cards.Item(12).text == u"12");
   CHECK(window.cards.Item(12).subItems == std::vector<Text>{u"front 12"});
@@ -56,30 +56,30 @@ TEST_CASE("the window lists the cards and hides the deck window") {
   CHECK(window.cards.ColumnWidth(2) == 8175 - 1764 - 300);
   CHECK(window.available.Caption() == u"Available Cards: 12");
   CHECK(window.selected.Caption() == u"Number of cards selected for print: 0");
-  CHECK_FALSE(desk.deckSlot.Instance().Visible());
+  CHECK_FALSE(fixture.deckSlot.Instance().Visible());
 }
 
 TEST_CASE("closing shows the deck window") {
-  PrintDesk desk;
-  desk.Open().close.Press();
-  CHECK_FALSE(desk.window.IsLoaded());
-  CHECK(desk.deckSlot.Instance().Visible());
-  CHECK(desk.server.record.calls.empty());
+  PrintFixture fixture;
+  fixture.Open().close.Press();
+  CHECK_FALSE(fixture.window.IsLoaded());
+  CHECK(fixture.deckSlot.Instance().Visible());
+  CHECK(fixture.server.record.calls.empty());
 }
 
 TEST_CASE("a click on the window closes the About box") {
-  PrintDesk desk;
-  desk.Open().UserClick();
-  CHECK(desk.frame.aboutClosed == 1);
+  PrintFixture fixture;
+  fixture.Open().UserClick();
+  CHECK(fixture.frame.aboutClosed == 1);
 }
 
 TEST_CASE("the command tells that card printing is disabled, and opens the window all the same") {
-  PrintDesk desk;
-  OpenPrintWindow(desk.app, desk.window);
-  CHECK(desk.fakes.messages.shown.empty());
-  CHECK(desk.window.IsLoaded());
+  PrintFixture fixture;
+  OpenPrintWindow(fixture.app, fixture.window);
+  CHECK(fixture.fakes.messages.shown.empty());
+  CHECK(fixture.window.IsLoaded());
 
-  PrintDesk without;
+  PrintFixture without;
   without.state.printing.canPrintCards = false;
   without.fakes.messages.whileShown = [&without](const Shown&) {
     CHECK_FALSE(without.window.IsLoaded());
@@ -93,15 +93,15 @@ TEST_CASE("the command tells that card printing is disabled, and opens the windo
 TEST_CASE("the print controls have four states") {
   for (const bool ticked : {false, true}) {
     CAPTURE(ticked);
-    PrintDesk desk;
-    PrintWindow& window = desk.OpenTicked(ticked ? 1 : 0);
+    PrintFixture fixture;
+    PrintWindow& window = fixture.OpenTicked(ticked ? 1 : 0);
     CheckControls(window, {false, true, false, true, "nonflip", false, ticked});
     window.flipPrint.Press();
     CheckControls(window, {false, true, true, true, "flip", false, ticked});
     window.flatSheet.Press();
     CheckControls(window, {true, true, false, false, "flip_disabled", false, ticked});
 
-    PrintDesk without;
+    PrintFixture without;
     without.state.printing.canPrintCards = false;
     CheckControls(without.OpenTicked(ticked ? 1 : 0),
                   {true, false, false, false, "flip_disabled", true, ticked});
@@ -109,8 +109,8 @@ TEST_CASE("the print controls have four states") {
 }
 
 TEST_CASE("after a detour through flat mode the flip choice is unticked") {
-  PrintDesk desk;
-  PrintWindow& window = desk.Open();
+  PrintFixture fixture;
+  PrintWindow& window = fixture.Open();
   window.flipPrint.Press();
   window.flatSheet.Press();
   window.flatSheet.Press();
@@ -118,9 +118,9 @@ TEST_CASE("after a detour through flat mode the flip choice is unticked") {
 }
 
 TEST_CASE("flat mode can't be left where nothing else can print") {
-  PrintDesk desk;
-  desk.state.printing.canPrintCards = false;
-  PrintWindow& window = desk.Open();
+  PrintFixture fixture;
+  fixture.state.printing.canPrintCards = false;
+  PrintWindow& window = fixture.Open();
   window.flatSheet.Press();
   window.flipPrint.Press();
   CheckControls(window, {true, false, false, false, "flip_disabled", true, false});
@@ -129,16 +129,16 @@ TEST_CASE("flat mode can't be left where nothing else can print") {
 }
 
 TEST_CASE("the toggle button follows the last tick of a click") {
-  PrintDesk desk;
-  PrintWindow& window = desk.Open();
+  PrintFixture fixture;
+  PrintWindow& window = fixture.Open();
   const auto toggle = [&window] { return window.toggleAll.Caption(); };
-  desk.Tick(1);
-  desk.Tick(2);
+  fixture.Tick(1);
+  fixture.Tick(2);
   CHECK(toggle() == u"Select All");
-  desk.Tick(3);
+  fixture.Tick(3);
   CHECK(toggle() == u"Deselect All");
   CHECK(window.AllChecked());
-  desk.Tick(2);
+  fixture.Tick(2);
   CHECK(toggle() == u"Select All");
   CHECK_FALSE(window.AllChecked());
 }
@@ -146,8 +146,8 @@ TEST_CASE("the toggle button follows the last tick of a click") {
 TEST_CASE("Select All ticks every card and turns into Deselect All") {
   for (const bool flat : {false, true}) {
     CAPTURE(flat);
-    PrintDesk desk;
-    PrintWindow& window = desk.Open();
+    PrintFixture fixture;
+    PrintWindow& window = fixture.Open();
     if (flat) window.flatSheet.Press();
     window.toggleAll.Press();
     CHECK(window.CountChecks() == 3);
@@ -163,8 +163,8 @@ TEST_CASE("Select All ticks every card and turns into Deselect All") {
 }
 
 TEST_CASE("ticking and unticking all touches the print button in flat mode alone") {
-  PrintDesk desk;
-  PrintWindow& window = desk.Open();
+  PrintFixture fixture;
+  PrintWindow& window = fixture.Open();
   window.SelectAll();
   CHECK_FALSE(window.print.Enabled());
   window.flatSheet.SetTicked(true);
@@ -181,17 +181,17 @@ TEST_CASE("the print button is to be enabled with a tick and a way to print") {
   for (const Case& c : {Case{true, false, true, true}, Case{true, true, true, true},
                         Case{true, false, false, false}, Case{false, true, true, true},
                         Case{false, true, false, false}, Case{false, false, true, false}}) {
-    PrintDesk desk;
-    PrintWindow& window = desk.OpenTicked(c.ticked ? 1 : 0);
+    PrintFixture fixture;
+    PrintWindow& window = fixture.OpenTicked(c.ticked ? 1 : 0);
     window.flatSheet.SetTicked(c.flat);
-    desk.state.printing.canPrintCards = c.canPrint;
+    fixture.state.printing.canPrintCards = c.canPrint;
     CHECK(window.PrnButEn() == c.enabled);
   }
 }
 
 TEST_CASE("a click shows the back of the selected card and the counts") {
-  PrintDesk desk;
-  PrintWindow& window = desk.Open();
+  PrintFixture fixture;
+  PrintWindow& window = fixture.Open();
   window.cards.UserClick(2, ListView::HitPart::kText);
   CHECK(window.back.TextOf() == u"back 2");
   CHECK(window.selected.Caption() == u"Number of cards selected for print: 0");
@@ -206,18 +206,18 @@ TEST_CASE("a click shows the back of the selected card and the counts") {
 }
 
 TEST_CASE("in a list without cards a click and a key do nothing") {
-  PrintDesk desk(0);
-  PrintWindow& window = desk.Open();
+  PrintFixture fixture(0);
+  PrintWindow& window = fixture.Open();
   window.cards.UserClick(0, ListView::HitPart::kText);
   window.cards.UserKeyUp();
-  CHECK(desk.fakes.messages.Take().empty());
+  CHECK(fixture.fakes.messages.Take().empty());
   CHECK(window.back.TextOf().empty());
-  CHECK_FALSE(desk.windows.ExitStatus());
+  CHECK_FALSE(fixture.windows.ExitStatus());
 }
 
 TEST_CASE("a key shows the back of the card below, in other words, and leaves the print button") {
-  PrintDesk desk;
-  PrintWindow& window = desk.Open();
+  PrintFixture fixture;
+  PrintWindow& window = fixture.Open();
   window.available.SetCaption(u"as it was");
   window.cards.UserToggleByKey();
   window.cards.UserKeyUp();
@@ -237,12 +237,12 @@ TEST_CASE("a key shows the back of the card below, in other words, and leaves th
 }
 
 TEST_CASE("the sides of a card depend on the type of the deck") {
-  PrintDesk desk;
-  const PrintWindow& window = desk.Open();
-  desk.state.deck.cardGrid.Set(1, kChoiceC, u"third");
+  PrintFixture fixture;
+  const PrintWindow& window = fixture.Open();
+  fixture.state.deck.cardGrid.Set(1, kChoiceC, u"third");
   const auto back = [&](DeckKind kind, const Text& answer) {
-    desk.state.deck.kind = kind;
-    desk.state.deck.cardGrid.Set(1, kAnswer, answer);
+    fixture.state.deck.kind = kind;
+    fixture.state.deck.cardGrid.Set(1, kAnswer, answer);
     return window.GetCardText(u"Back", 1);
   };
   CHECK(back(kStandardDeck, u"C") == u"back 1");
@@ -253,7 +253,7 @@ TEST_CASE("the sides of a card depend on the type of the deck") {
   CHECK(back(static_cast<DeckKind>(2), u"C").empty());
   CHECK(window.GetCardText(u"Front", 1).empty());
   for (const DeckKind kind : {kStandardDeck, kExtendedDeck}) {
-    desk.state.deck.kind = kind;
+    fixture.state.deck.kind = kind;
     CHECK(window.GetCardText(u"Front", 1) == u"front 1");
     CHECK(window.GetCardText(u"front", 1).empty());
     CHECK(window.GetCardText(u"", 1).empty());
@@ -261,10 +261,10 @@ TEST_CASE("the sides of a card depend on the type of the deck") {
 }
 
 TEST_CASE("a click on a card of an extended deck shows its answer") {
-  PrintDesk desk;
-  desk.state.deck.kind = kExtendedDeck;
-  desk.state.deck.cardGrid.Set(2, kAnswer, u"T");
-  PrintWindow& window = desk.Open();
+  PrintFixture fixture;
+  fixture.state.deck.kind = kExtendedDeck;
+  fixture.state.deck.cardGrid.Set(2, kAnswer, u"T");
+  PrintWindow& window = fixture.Open();
   window.cards.UserClick(2, ListView::HitPart::kText);
   CHECK(window.back.TextOf() == u"TRUE");
   window.cards.UserSelectByKey(1);
@@ -275,70 +275,70 @@ TEST_CASE("a click on a card of an extended deck shows its answer") {
 TEST_CASE("the closing box names the deck, whatever the way of printing") {
   for (const bool flat : {false, true}) {
     CAPTURE(flat);
-    PrintDesk desk;
-    PrintWindow& window = desk.OpenTicked(2);
+    PrintFixture fixture;
+    PrintWindow& window = fixture.OpenTicked(2);
     window.flatSheet.SetTicked(flat);
-    desk.ChoosePrinter();
+    fixture.ChoosePrinter();
     window.print.Press();
-    CHECK(desk.fakes.messages.shown.back() ==
+    CHECK(fixture.fakes.messages.shown.back() ==
           Shown{u"capitals has finished printing.", kInformationIcon, u"PRINT"});
-    CHECK_FALSE(desk.state.printing.cancelled);
+    CHECK_FALSE(fixture.state.printing.cancelled);
     CHECK(window.selected.Caption() == u"Number of cards selected for print: 2");
     CHECK(window.print.Enabled());
   }
 }
 
 TEST_CASE("the closing box of a deck without a file begins with a blank") {
-  PrintDesk desk;
-  desk.state.deck.filePath.clear();
-  PrintWindow& window = desk.OpenTicked(1);
-  desk.ChoosePrinter();
+  PrintFixture fixture;
+  fixture.state.deck.filePath.clear();
+  PrintWindow& window = fixture.OpenTicked(1);
+  fixture.ChoosePrinter();
   window.print.Press();
-  CHECK(desk.fakes.messages.shown.back().text == u" has finished printing.");
+  CHECK(fixture.fakes.messages.shown.back().text == u" has finished printing.");
 }
 
 TEST_CASE("a cancelled card job has no closing box and clears the flag") {
-  PrintDesk desk;
-  PrintWindow& window = desk.OpenTicked(1);
+  PrintFixture fixture;
+  PrintWindow& window = fixture.OpenTicked(1);
   window.selected.SetCaption(u"as it was");
-  desk.CancelPrinter();
+  fixture.CancelPrinter();
   window.print.Press();
-  CHECK(desk.fakes.messages.Take() ==
+  CHECK(fixture.fakes.messages.Take() ==
         std::vector<Shown>{{u"Printing was cancelled", kOkOnly, u"Cancel Printing"}});
-  CHECK_FALSE(desk.state.printing.cancelled);
+  CHECK_FALSE(fixture.state.printing.cancelled);
   CHECK(window.selected.Caption() == u"Number of cards selected for print: 1");
   CHECK(window.print.Enabled());
 }
 
 TEST_CASE("after a cancelled flat job every flat job ends in silence, until a card job clears it") {
-  PrintDesk desk;
-  PrintWindow& window = desk.OpenTicked(1);
+  PrintFixture fixture;
+  PrintWindow& window = fixture.OpenTicked(1);
   window.flatSheet.Press();
   window.selected.SetCaption(u"as it was");
-  desk.CancelPrinter();
+  fixture.CancelPrinter();
   window.print.Press();
-  CHECK(desk.fakes.messages.Take() ==
+  CHECK(fixture.fakes.messages.Take() ==
         std::vector<Shown>{{u"Printing was cancelled", kOkOnly, u"Cancel Printing"}});
-  CHECK(desk.state.printing.cancelled);
+  CHECK(fixture.state.printing.cancelled);
   CHECK(window.selected.Caption() == u"as it was");
 
-  desk.ChoosePrinter();
+  fixture.ChoosePrinter();
   window.print.Press();
-  CHECK(desk.surface.record.Count("End") == 1);
-  CHECK(desk.fakes.messages.Take().empty());
+  CHECK(fixture.surface.record.Count("End") == 1);
+  CHECK(fixture.fakes.messages.Take().empty());
   CHECK(window.selected.Caption() == u"as it was");
 
   window.flatSheet.Press();
-  desk.ChoosePrinter();
+  fixture.ChoosePrinter();
   window.print.Press();
-  CHECK(desk.fakes.messages.Take().back().title == u"PRINT BACK");
-  CHECK_FALSE(desk.state.printing.cancelled);
+  CHECK(fixture.fakes.messages.Take().back().title == u"PRINT BACK");
+  CHECK_FALSE(fixture.state.printing.cancelled);
   CHECK(window.selected.Caption() == u"Number of cards selected for print: 1");
 
   window.flatSheet.Press();
-  desk.ChoosePrinter();
+  fixture.ChoosePrinter();
   window.print.Press();
-  CHECK(desk.fakes.messages.Take().back().title == u"PRINT");
+  CHECK(fixture.fakes.messages.Take().back().title == u"PRINT");
 }
 
 TEST_CASE("a job that can't be opened or closed greys the print button and tells why") {
@@ -358,75 +358,75 @@ TEST_CASE("a job that can't be opened or closed greys the print button and tells
   };
   for (const Case& c : cases) {
     CAPTURE(c.failing);
-    PrintDesk desk;
-    PrintWindow& window = desk.OpenTicked(1);
+    PrintFixture fixture;
+    PrintWindow& window = fixture.OpenTicked(1);
     window.selected.SetCaption(u"as it was");
-    desk.ChoosePrinter();
-    desk.server.record.FailAt(c.failing, c.number);
+    fixture.ChoosePrinter();
+    fixture.server.record.FailAt(c.failing, c.number);
     bool enabledBehindTheBox = true;
-    desk.fakes.messages.whileShown = [&](const Shown&) {
+    fixture.fakes.messages.whileShown = [&](const Shown&) {
       enabledBehindTheBox = window.print.Enabled();
     };
     window.print.Press();
-    CHECK(desk.fakes.messages.shown.back() ==
+    CHECK(fixture.fakes.messages.shown.back() ==
           Shown{Text(c.text), kStopIcon, u"Error Printing Cards"});
     CHECK_FALSE(enabledBehindTheBox);
     CHECK_FALSE(window.print.Enabled());
     CHECK(window.selected.Caption() == u"as it was");
-    CHECK(desk.state.printing.canPrintCards);
+    CHECK(fixture.state.printing.canPrintCards);
 
     window.cards.UserClick(1, ListView::HitPart::kText);
     CHECK(window.print.Enabled());
-    desk.ChoosePrinter();
+    fixture.ChoosePrinter();
     window.print.Press();
-    CHECK(desk.fakes.messages.shown.back().title == u"PRINT");
+    CHECK(fixture.fakes.messages.shown.back().title == u"PRINT");
   }
 }
 
 TEST_CASE("a job that can't be opened shows no printer dialog") {
-  PrintDesk desk;
-  PrintWindow& window = desk.OpenTicked(1);
-  desk.ChoosePrinter();
-  desk.server.record.FailAt("Bind", ErrorNumber::kAutomationError);
+  PrintFixture fixture;
+  PrintWindow& window = fixture.OpenTicked(1);
+  fixture.ChoosePrinter();
+  fixture.server.record.FailAt("Bind", ErrorNumber::kAutomationError);
   window.print.Press();
-  CHECK(desk.fakes.dialogs.printers.size() == 1);
+  CHECK(fixture.fakes.dialogs.printers.size() == 1);
 }
 
 const std::vector<std::string> kAsked{"/opt/tessara/Notelet.xlt after 300 ms"};
 
 TEST_CASE("while the user chooses the server starts, 300 ms after the window has come up") {
-  PrintDesk desk;
-  desk.Open();
-  CHECK(desk.server.readiness == kAsked);
-  CHECK(desk.server.record.calls.empty());
+  PrintFixture fixture;
+  fixture.Open();
+  CHECK(fixture.server.readiness == kAsked);
+  CHECK(fixture.server.record.calls.empty());
 }
 
 TEST_CASE("no server starts ahead where cards can't be printed") {
-  PrintDesk desk;
-  desk.state.printing.canPrintCards = false;
-  desk.Open();
-  desk.Open().flatSheet.SetTicked(false);
-  for (const std::string& asked : desk.server.readiness) CHECK(asked == "dismissed");
+  PrintFixture fixture;
+  fixture.state.printing.canPrintCards = false;
+  fixture.Open();
+  fixture.Open().flatSheet.SetTicked(false);
+  for (const std::string& asked : fixture.server.readiness) CHECK(asked == "dismissed");
 }
 
 TEST_CASE("a server that has started ahead goes when the window does, or flat sheets are chosen") {
   for (const bool closes : {false, true}) {
     CAPTURE(closes);
-    PrintDesk desk;
-    PrintWindow& window = desk.Open();
-    desk.server.readiness.clear();
+    PrintFixture fixture;
+    PrintWindow& window = fixture.Open();
+    fixture.server.readiness.clear();
     closes ? window.close.Press() : window.flatSheet.Press();
-    CHECK(desk.server.readiness == std::vector<std::string>{"dismissed"});
+    CHECK(fixture.server.readiness == std::vector<std::string>{"dismissed"});
   }
 }
 
 TEST_CASE("back from flat sheets the server starts ahead again") {
-  PrintDesk desk;
-  PrintWindow& window = desk.Open();
+  PrintFixture fixture;
+  PrintWindow& window = fixture.Open();
   window.flatSheet.Press();
-  desk.server.readiness.clear();
+  fixture.server.readiness.clear();
   window.flatSheet.Press();
-  CHECK(desk.server.readiness == kAsked);
+  CHECK(fixture.server.readiness == kAsked);
 }
 
 }  // namespace

@@ -3,15 +3,15 @@
 #include <doctest/doctest.h>
 
 #include "base/run_time_error.h"
-#include "tests/support/test_desk.h"
+#include "tests/support/test_fixture.h"
 
 namespace tessara {
 namespace {
 
 struct Book {
-  test::TestDesk desk;
+  test::TestFixture fixture;
   WindowSlot<SeparationWindow> slot{
-      desk.windows, [this] { return std::make_unique<SeparationWindow>(desk.windows); }};
+      fixture.windows, [this] { return std::make_unique<SeparationWindow>(fixture.windows); }};
   Window<SeparationWindow> window{slot};
 
   SeparationWindow& Open() {
@@ -85,7 +85,7 @@ TEST_CASE("the picture and its text lie in the picture box, the text above the p
 TEST_CASE("the command shows the picture book modally") {
   Book book;
   std::string shown;
-  book.desk.renderer.whileModal = [&shown](Form& form) {
+  book.fixture.renderer.whileModal = [&shown](Form& form) {
     shown = form.Name();
     form.Unload();
   };

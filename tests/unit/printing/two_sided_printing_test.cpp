@@ -3,12 +3,12 @@
 
 #include "base/run_time_error.h"
 #include "printing/print_window.h"
-#include "tests/unit/printing/print_desk.h"
+#include "tests/unit/printing/print_fixture.h"
 
 namespace tessara {
 namespace {
 
-using test::PrintDesk;
+using test::PrintFixture;
 using Calls = std::vector<std::string>;
 using Cells = test::RecordingSpreadsheet::Cells;
 using Shown = test::FakeMessages::Shown;
@@ -16,12 +16,12 @@ using Shown = test::FakeMessages::Shown;
 constexpr TextView kNote = u"ALL SELECTED CARDS PRINTED";
 
 /// Prints the first cards of a deck of that many and returns the sheets.
-std::vector<Cells> Print(PrintDesk& desk, int cards, bool flip) {
-  PrintWindow& window = desk.OpenTicked(cards);
+std::vector<Cells> Print(PrintFixture& fixture, int cards, bool flip) {
+  PrintWindow& window = fixture.OpenTicked(cards);
   window.flipPrint.SetTicked(flip);
-  desk.ChoosePrinter();
+  fixture.ChoosePrinter();
   window.print.Press();
-  return desk.server.sheets;
+  return fixture.server.sheets;
 }
 
 TEST_CASE("one card makes one sheet of each side, in this order of calls") {
@@ -43,25 +43,25 @@ TEST_CASE("one card makes one sheet of each side, in this order of calls") {
   add({"C3 = ALL SELECTED CARDS PRINTED", "C6 = ' Page 1 - Back ", "Print", "Finish", "Close",
        "Box PRINT"});
 
-  PrintDesk desk(1);
-  Print(desk, 1, false);
-  CHECK(desk.server.record.calls == expected);
-  CHECK(desk.surface.record.calls == Calls{"Destination /home/me/cards.pdf", "Copies 1",
-                                           "Box PRINT FRONT", "Box PRINT BACK", "Box PRINT"});
+  PrintFixture fixture(1);
+  Print(fixture, 1, false);
+  CHECK(fixture.server.record.calls == expected);
+  CHECK(fixture.surface.record.calls == Calls{"Destination /home/me/cards.pdf", "Copies 1",
+                                              "Box PRINT FRONT", "Box PRINT BACK", "Box PRINT"});
 }
 
 TEST_CASE("the choice of turning is read at each placement") {
-  PrintDesk desk(1);
-  desk.fakes.messages.whileShown = [&desk](const Shown& box) {
-    if (box.title == u"PRINT BACK") desk.window->flipPrint.SetTicked(true);
+  PrintFixture fixture(1);
+  fixture.fakes.messages.whileShown = [&fixture](const Shown& box) {
+    if (box.title == u"PRINT BACK") fixture.window->flipPrint.SetTicked(true);
   };
-  CHECK(Print(desk, 1, false).back().contains("A7"));
+  CHECK(Print(fixture, 1, false).back().contains("A7"));
 }
 
 TEST_CASE("the boxes ask for the paper") {
-  PrintDesk desk;
-  Print(desk, 1, false);
-  const auto& shown = desk.fakes.messages.shown;
+  PrintFixture fixture;
+  Print(fixture, 1, false);
+  const auto& shown = fixture.fakes.messages.shown;
   REQUIRE(shown.size() == 3);
   CHECK(shown[0] == Shown{u"Insert Sheet for Front Card printing", kOkOnly, u"PRINT FRONT"});
   CHECK(shown[1] == Shown{u"Insert Sheet for Back Card printing", kOkOnly, u"PRINT BACK"});
@@ -83,14 +83,14 @@ TEST_CASE("the backs of one card and its note lie behind their fronts in both wa
   };
   for (const Case& c : cases) {
     CAPTURE(c.flip);
-    PrintDesk desk;
-    CHECK(Print(desk, 1, c.flip) == std::vector<Cells>{c.front, c.back});
+    PrintFixture fixture;
+    CHECK(Print(fixture, 1, c.flip) == std::vector<Cells>{c.front, c.back});
   }
 }
 
 TEST_CASE("eight cards fill a sheet without a note") {
-  PrintDesk desk(8);
-  const std::vector<Cells> sheets = Print(desk, 8, false);
+  PrintFixture fixture(8);
+  const std::vector<Cells> sheets = Print(fixture, 8, false);
   REQUIRE(sheets.size() == 2);
   CHECK(sheets[0] == Cells{{"A1", u"front 1"},
                            {"A3", u"front 2"},
@@ -113,8 +113,8 @@ TEST_CASE("eight cards fill a sheet without a note") {
 }
 
 TEST_CASE("the ninth card goes to the second sheet, its note behind it") {
-  PrintDesk desk(9);
-  const std::vector<Cells> sheets = Print(desk, 9, true);
+  PrintFixture fixture(9);
+  const std::vector<Cells> sheets = Print(fixture, 9, true);
   REQUIRE(sheets.size() == 4);
   CHECK(sheets[0].at("C6") == u"' Page 1 - Front VV");
   CHECK(sheets[1] ==
@@ -123,9 +123,9 @@ TEST_CASE("the ninth card goes to the second sheet, its note behind it") {
 }
 
 TEST_CASE("a full sheet gets its page line, is printed, and only then is cleared") {
-  PrintDesk desk(9);
-  Print(desk, 9, false);
-  const Calls& calls = desk.server.record.calls;
+  PrintFixture fixture(9);
+  Print(fixture, 9, false);
+  const Calls& calls = fixture.server.record.calls;
   const auto print = std::find(calls.begin(), calls.end(), "Print");
   REQUIRE(print != calls.end());
   CHECK(*(print - 1) == "C6 = ' Page 1 - Front ^^");
@@ -142,8 +142,8 @@ TEST_CASE("a pass prints a sheet for each eight cards and its last one tells its
   for (const Case& c : {Case{1, 1, true}, Case{7, 1, true}, Case{8, 1, false}, Case{9, 2, true},
                         Case{16, 2, false}, Case{17, 3, true}, Case{200, 25, false}}) {
     CAPTURE(c.cards);
-    PrintDesk desk(c.cards);
-    const std::vector<Cells> sheets = Print(desk, c.cards, false);
+    PrintFixture fixture(c.cards);
+    const std::vector<Cells> sheets = Print(fixture, c.cards, false);
     REQUIRE(sheets.size() == 2 * c.sheets);
     const Text number = DecimalText(static_cast<long>(c.sheets));
     CHECK(sheets[c.sheets - 1].at("C6") == u"' Page " + number + u" - Front ^^");
@@ -157,92 +157,92 @@ TEST_CASE("a pass prints a sheet for each eight cards and its last one tells its
 }
 
 TEST_CASE("only the ticked cards are printed, in the order of the list") {
-  PrintDesk desk(6);
-  PrintWindow& window = desk.Open();
-  desk.Tick(5);
-  desk.Tick(2);
-  desk.ChoosePrinter();
+  PrintFixture fixture(6);
+  PrintWindow& window = fixture.Open();
+  fixture.Tick(5);
+  fixture.Tick(2);
+  fixture.ChoosePrinter();
   window.print.Press();
-  CHECK(desk.server.sheets[0].at("A1") == u"front 2");
-  CHECK(desk.server.sheets[0].at("A3") == u"front 5");
-  CHECK(desk.server.sheets[0].at("A5") == kNote);
+  CHECK(fixture.server.sheets[0].at("A1") == u"front 2");
+  CHECK(fixture.server.sheets[0].at("A3") == u"front 5");
+  CHECK(fixture.server.sheets[0].at("A5") == kNote);
 }
 
 TEST_CASE("the server and the print surface go where the dialog says, with one copy each") {
-  PrintDesk desk;
-  PrintWindow& window = desk.OpenTicked(1);
-  desk.fakes.dialogs.printers.emplace_back(PrinterChoice{{u"Office", u""}, 1});
+  PrintFixture fixture;
+  PrintWindow& window = fixture.OpenTicked(1);
+  fixture.fakes.dialogs.printers.emplace_back(PrinterChoice{{u"Office", u""}, 1});
   window.print.Press();
-  CHECK(desk.server.record.Count("Destination Office") == 1);
-  CHECK(desk.surface.record.calls.front() == "Destination Office");
-  CHECK(desk.surface.record.Count("Copies 1") == 1);
+  CHECK(fixture.server.record.Count("Destination Office") == 1);
+  CHECK(fixture.surface.record.calls.front() == "Destination Office");
+  CHECK(fixture.surface.record.Count("Copies 1") == 1);
 }
 
 TEST_CASE("each further copy is asked for, and a No ends the job without a failure") {
-  PrintDesk desk;
-  PrintWindow& window = desk.OpenTicked(1);
-  desk.ChoosePrinter(3);
-  desk.fakes.messages.answers = {MessageAnswer::kYes, MessageAnswer::kNo};
+  PrintFixture fixture;
+  PrintWindow& window = fixture.OpenTicked(1);
+  fixture.ChoosePrinter(3);
+  fixture.fakes.messages.answers = {MessageAnswer::kYes, MessageAnswer::kNo};
   window.print.Press();
-  CHECK(desk.server.sheets.size() == 4);
-  const std::vector<Shown> shown = desk.fakes.messages.shown;
+  CHECK(fixture.server.sheets.size() == 4);
+  const std::vector<Shown> shown = fixture.fakes.messages.shown;
   REQUIRE(shown.size() == 7);
   constexpr int kFlags = 36;
   CHECK(shown[2] ==
         Shown{u"Perparing to print copy # 2 of 3, do want to continue?", kFlags, u"Print Cards"});
   CHECK(shown[5].text == u"Perparing to print copy # 3 of 3, do want to continue?");
   CHECK(shown[6].text == u"capitals has finished printing.");
-  CHECK(desk.server.record.Count("Finish") == 1);
-  CHECK_FALSE(desk.state.printing.cancelled);
+  CHECK(fixture.server.record.Count("Finish") == 1);
+  CHECK_FALSE(fixture.state.printing.cancelled);
 }
 
 TEST_CASE("no copy at all prints nothing and is no failure") {
-  PrintDesk desk;
-  PrintWindow& window = desk.OpenTicked(1);
-  desk.ChoosePrinter(0);
+  PrintFixture fixture;
+  PrintWindow& window = fixture.OpenTicked(1);
+  fixture.ChoosePrinter(0);
   window.print.Press();
-  CHECK(desk.server.sheets.empty());
-  CHECK(desk.fakes.messages.shown.back().title == u"PRINT");
+  CHECK(fixture.server.sheets.empty());
+  CHECK(fixture.fakes.messages.shown.back().title == u"PRINT");
 }
 
 TEST_CASE(
     "the fronts of a second copy carry the first copy's last backs where they write nothing") {
-  PrintDesk desk;
-  PrintWindow& window = desk.OpenTicked(3);
-  desk.ChoosePrinter(2);
-  desk.fakes.messages.answers = {MessageAnswer::kYes};
+  PrintFixture fixture;
+  PrintWindow& window = fixture.OpenTicked(3);
+  fixture.ChoosePrinter(2);
+  fixture.fakes.messages.answers = {MessageAnswer::kYes};
   window.print.Press();
-  REQUIRE(desk.server.sheets.size() == 4);
-  CHECK(desk.server.sheets[2] == Cells{{"A1", u"front 1"},
-                                       {"A3", u"front 2"},
-                                       {"A5", u"front 3"},
-                                       {"A7", Text(kNote)},
-                                       {"C1", u"back 1"},
-                                       {"C3", u"back 2"},
-                                       {"C5", u"back 3"},
-                                       {"C7", Text(kNote)},
-                                       {"C6", u"' Page 1 - Front ^^"}});
-  CHECK(desk.server.sheets[3] == desk.server.sheets[1]);
+  REQUIRE(fixture.server.sheets.size() == 4);
+  CHECK(fixture.server.sheets[2] == Cells{{"A1", u"front 1"},
+                                          {"A3", u"front 2"},
+                                          {"A5", u"front 3"},
+                                          {"A7", Text(kNote)},
+                                          {"C1", u"back 1"},
+                                          {"C3", u"back 2"},
+                                          {"C5", u"back 3"},
+                                          {"C7", Text(kNote)},
+                                          {"C6", u"' Page 1 - Front ^^"}});
+  CHECK(fixture.server.sheets[3] == fixture.server.sheets[1]);
 }
 
 TEST_CASE("a card without an answer takes its slot with an empty back") {
-  PrintDesk desk(2);
-  desk.state.deck.kind = kExtendedDeck;
-  desk.state.deck.cardGrid.Set(1, kAnswer, u"?");
-  desk.state.deck.cardGrid.Set(2, kAnswer, u"T");
-  const std::vector<Cells> sheets = Print(desk, 2, false);
-  CHECK(desk.server.record.Count("C1 = ") == 2);  // the clearing is the other one
+  PrintFixture fixture(2);
+  fixture.state.deck.kind = kExtendedDeck;
+  fixture.state.deck.cardGrid.Set(1, kAnswer, u"?");
+  fixture.state.deck.cardGrid.Set(2, kAnswer, u"T");
+  const std::vector<Cells> sheets = Print(fixture, 2, false);
+  CHECK(fixture.server.record.Count("C1 = ") == 2);  // the clearing is the other one
   CHECK(sheets[1] == Cells{{"C3", u"TRUE"}, {"C5", Text(kNote)}, {"C6", u"' Page 1 - Back "}});
 }
 
 TEST_CASE("a cancelled printer dialog prints nothing, and the job closes") {
-  PrintDesk desk;
-  PrintWindow& window = desk.OpenTicked(1);
-  desk.CancelPrinter();
+  PrintFixture fixture;
+  PrintWindow& window = fixture.OpenTicked(1);
+  fixture.CancelPrinter();
   window.print.Press();
-  CHECK(desk.server.record.calls == Calls{"Bind /opt/tessara/Notelet.xlt", "ActiveSheet",
-                                          "Alerts off", "Box Cancel Printing", "Close"});
-  CHECK(desk.surface.record.calls == Calls{"Box Cancel Printing"});
+  CHECK(fixture.server.record.calls == Calls{"Bind /opt/tessara/Notelet.xlt", "ActiveSheet",
+                                             "Alerts off", "Box Cancel Printing", "Close"});
+  CHECK(fixture.surface.record.calls == Calls{"Box Cancel Printing"});
 }
 
 TEST_CASE("an error of any operation ends the printing, keeps its sheets, and the job closes") {
@@ -250,17 +250,17 @@ TEST_CASE("an error of any operation ends the printing, keeps its sheets, and th
                             "A3 = ALL",    "C6 = ", "Print",   "A1 = ",   "C1 = back"};
   for (const char* failing : failures) {
     CAPTURE(failing);
-    PrintDesk desk;
-    PrintWindow& window = desk.OpenTicked(1);
-    desk.ChoosePrinter();
-    desk.server.record.FailAt(failing, ErrorNumber::kAutomationError);
+    PrintFixture fixture;
+    PrintWindow& window = fixture.OpenTicked(1);
+    fixture.ChoosePrinter();
+    fixture.server.record.FailAt(failing, ErrorNumber::kAutomationError);
     window.print.Press();
-    CHECK(desk.fakes.messages.shown.back() ==
+    CHECK(fixture.fakes.messages.shown.back() ==
           Shown{u"Printing was cancelled", kOkOnly, u"Cancel Printing"});
-    CHECK(desk.server.record.calls.back() == "Close");
+    CHECK(fixture.server.record.calls.back() == "Close");
     const bool begun = std::string(failing) != "Destination";
-    CHECK(desk.server.record.Count("Finish") == (begun ? 1 : 0));
-    CHECK_FALSE(desk.state.printing.cancelled);
+    CHECK(fixture.server.record.Count("Finish") == (begun ? 1 : 0));
+    CHECK_FALSE(fixture.state.printing.cancelled);
     CHECK(window.print.Enabled());
   }
 }
@@ -281,37 +281,37 @@ TEST_CASE("a missing object is told in other words than all other errors") {
       {ErrorNumber::kDiskFull, cancelled},
   };
   for (const Case& c : cases) {
-    PrintDesk desk;
-    PrintWindow& window = desk.OpenTicked(1);
-    desk.ChoosePrinter();
-    desk.server.record.FailAt("Print", c.number);
+    PrintFixture fixture;
+    PrintWindow& window = fixture.OpenTicked(1);
+    fixture.ChoosePrinter();
+    fixture.server.record.FailAt("Print", c.number);
     window.print.Press();
-    CHECK(desk.fakes.messages.shown.back() == c.box);
+    CHECK(fixture.fakes.messages.shown.back() == c.box);
   }
 }
 
 TEST_CASE("an error in sending the sheets off cancels the job, told once") {
   for (const char* failing : {"Finish", "Print"}) {
     CAPTURE(failing);
-    PrintDesk desk;
-    PrintWindow& window = desk.OpenTicked(1);
-    desk.ChoosePrinter();
-    desk.server.record.FailAt(failing, ErrorNumber::kDiskFull);
+    PrintFixture fixture;
+    PrintWindow& window = fixture.OpenTicked(1);
+    fixture.ChoosePrinter();
+    fixture.server.record.FailAt(failing, ErrorNumber::kDiskFull);
     window.print.Press();
-    CHECK(desk.server.record.Count("Box Cancel Printing") == 1);
-    CHECK(desk.server.record.Count("Finish") == 1);
-    CHECK(desk.server.record.Count("Box PRINT") == 0);
+    CHECK(fixture.server.record.Count("Box Cancel Printing") == 1);
+    CHECK(fixture.server.record.Count("Finish") == 1);
+    CHECK(fixture.server.record.Count("Box PRINT") == 0);
   }
 }
 
 TEST_CASE("a printer that can't be set up cancels the job before its first sheet") {
-  PrintDesk desk;
-  PrintWindow& window = desk.OpenTicked(1);
-  desk.ChoosePrinter();
-  desk.surface.record.FailAt("Copies", ErrorNumber::kPrinterError);
+  PrintFixture fixture;
+  PrintWindow& window = fixture.OpenTicked(1);
+  fixture.ChoosePrinter();
+  fixture.surface.record.FailAt("Copies", ErrorNumber::kPrinterError);
   window.print.Press();
-  CHECK(desk.server.sheets.empty());
-  CHECK(desk.fakes.messages.shown.back().title == u"Cancel Printing");
+  CHECK(fixture.server.sheets.empty());
+  CHECK(fixture.fakes.messages.shown.back().title == u"Cancel Printing");
 }
 
 }  // namespace

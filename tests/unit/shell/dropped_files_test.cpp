@@ -2,7 +2,7 @@
 
 #include <doctest/doctest.h>
 
-#include "tests/support/program_desk.h"
+#include "tests/support/program_fixture.h"
 
 namespace tessara::test {
 
@@ -12,8 +12,8 @@ const Text kBirds = u"/decks/birds.tsr";
 const Text kOther = u"/decks/other.tsr";
 const Text kText = u"/texts/one.txt";
 
-struct DropDesk : ProgramDesk {
-  DropDesk() {
+struct DropFixture : ProgramFixture {
+  DropFixture() {
     fakes.files.Put(kBirds, DeckBytes(2));
     fakes.files.Put(kOther, DeckBytes(3));
     fakes.files.Put(kText, "STD\r\n1.\r\n*>F\r\nfront\r\n*>B\r\nback\r\n");
@@ -33,58 +33,58 @@ struct DropDesk : ProgramDesk {
 }  // namespace
 
 TEST_CASE("a deck dropped on the empty frame opens") {
-  DropDesk desk;
-  desk.StartEmpty();
-  desk.Drop(kOther);
-  CHECK(desk.Deck().Visible());
-  CHECK(desk.Deck().Caption() == u"other  [STUDY]");
-  CHECK(desk.state.deck.filePath == kOther);
-  CHECK(desk.state.deck.cardCount == 3);
-  CHECK(desk.fakes.dialogs.fileRequests.empty());
-  CHECK(desk.fakes.messages.shown.empty());
+  DropFixture fixture;
+  fixture.StartEmpty();
+  fixture.Drop(kOther);
+  CHECK(fixture.Deck().Visible());
+  CHECK(fixture.Deck().Caption() == u"other  [STUDY]");
+  CHECK(fixture.state.deck.filePath == kOther);
+  CHECK(fixture.state.deck.cardCount == 3);
+  CHECK(fixture.fakes.dialogs.fileRequests.empty());
+  CHECK(fixture.fakes.messages.shown.empty());
 }
 
 TEST_CASE("a text dropped on the empty frame is imported") {
-  DropDesk desk;
-  desk.StartEmpty();
-  desk.Drop(kText);
-  CHECK(desk.Deck().card.CardText() == u"front");
-  CHECK(desk.state.deck.cardCount == 1);
-  CHECK(desk.state.deck.changed);
+  DropFixture fixture;
+  fixture.StartEmpty();
+  fixture.Drop(kText);
+  CHECK(fixture.Deck().card.CardText() == u"front");
+  CHECK(fixture.state.deck.cardCount == 1);
+  CHECK(fixture.state.deck.changed);
 }
 
 TEST_CASE("a deck dropped on a deck takes its place, and is where dialogs begin") {
-  DropDesk desk;
-  desk.Start(kBirds);
-  desk.Drop(kOther);
-  CHECK(desk.Deck().Caption() == u"other  [STUDY]");
-  CHECK(desk.Deck().card.CardTotal() == u"3");
-  CHECK(desk.state.deck.onFile);
-  CHECK(desk.state.dialogs.folderUsedLast == u"/decks");
+  DropFixture fixture;
+  fixture.Start(kBirds);
+  fixture.Drop(kOther);
+  CHECK(fixture.Deck().Caption() == u"other  [STUDY]");
+  CHECK(fixture.Deck().card.CardTotal() == u"3");
+  CHECK(fixture.state.deck.onFile);
+  CHECK(fixture.state.dialogs.folderUsedLast == u"/decks");
 }
 
 TEST_CASE("a Yes before a dropped deck saves the old deck to its own file, never over it") {
-  DropDesk desk;
-  desk.Start(kBirds);
-  desk.Change();
-  const std::string other = desk.fakes.files.Bytes(kOther);
-  desk.fakes.messages.answers = {MessageAnswer::kYes};
-  desk.Drop(kOther);
-  CHECK(desk.fakes.files.Bytes(kOther) == other);
-  CHECK(desk.fakes.files.Bytes(kBirds).find("changed") != std::string::npos);
-  CHECK(desk.state.deck.filePath == kOther);
-  CHECK(desk.Deck().card.CardText() == u"front 1");
+  DropFixture fixture;
+  fixture.Start(kBirds);
+  fixture.Change();
+  const std::string other = fixture.fakes.files.Bytes(kOther);
+  fixture.fakes.messages.answers = {MessageAnswer::kYes};
+  fixture.Drop(kOther);
+  CHECK(fixture.fakes.files.Bytes(kOther) == other);
+  CHECK(fixture.fakes.files.Bytes(kBirds).find("changed") != std::string::npos);
+  CHECK(fixture.state.deck.filePath == kOther);
+  CHECK(fixture.Deck().card.CardText() == u"front 1");
 }
 
 TEST_CASE("a No before a dropped deck leaves the old deck's file alone") {
-  DropDesk desk;
-  desk.Start(kBirds);
-  desk.Change();
-  const std::string birds = desk.fakes.files.Bytes(kBirds);
-  desk.fakes.messages.answers = {MessageAnswer::kNo};
-  desk.Drop(kOther);
-  CHECK(desk.fakes.files.Bytes(kBirds) == birds);
-  CHECK(desk.state.deck.filePath == kOther);
+  DropFixture fixture;
+  fixture.Start(kBirds);
+  fixture.Change();
+  const std::string birds = fixture.fakes.files.Bytes(kBirds);
+  fixture.fakes.messages.answers = {MessageAnswer::kNo};
+  fixture.Drop(kOther);
+  CHECK(fixture.fakes.files.Bytes(kBirds) == birds);
+  CHECK(fixture.state.deck.filePath == kOther);
 }
 
 TEST_CASE("a dropped deck is refused before anything is asked, and the open one keeps its path") {
@@ -95,66 +95,66 @@ TEST_CASE("a dropped deck is refused before anything is asked, and the open one 
   const Case cases[] = {{u"/decks/other.TSR", u"This is not a valid Tessara file"},
                         {u"/elsewhere/birds.tsr", u"birds Tessara is already open"}};
   for (const Case& c : cases) {
-    DropDesk desk;
-    desk.Start(kBirds);
-    desk.Change();
-    desk.Drop(c.dropped);
-    REQUIRE(desk.fakes.messages.shown.size() == 1);
-    CHECK(desk.fakes.messages.shown[0].text == c.refusal);
-    CHECK(desk.state.deck.filePath == kBirds);
-    CHECK(desk.state.deck.Cell(1, kCardText) == u"changed");
-    CHECK(desk.state.deck.changed);
+    DropFixture fixture;
+    fixture.Start(kBirds);
+    fixture.Change();
+    fixture.Drop(c.dropped);
+    REQUIRE(fixture.fakes.messages.shown.size() == 1);
+    CHECK(fixture.fakes.messages.shown[0].text == c.refusal);
+    CHECK(fixture.state.deck.filePath == kBirds);
+    CHECK(fixture.state.deck.Cell(1, kCardText) == u"changed");
+    CHECK(fixture.state.deck.changed);
   }
 }
 
 TEST_CASE("a deck of another ending is refused on the empty frame too, before the table is empty") {
-  DropDesk desk;
-  desk.StartEmpty();
-  desk.Drop(u"/decks/birds.TSR");
-  REQUIRE(desk.fakes.messages.shown.size() == 1);
-  CHECK_FALSE(desk.program.DeckWindowOf().IsLoaded());
+  DropFixture fixture;
+  fixture.StartEmpty();
+  fixture.Drop(u"/decks/birds.TSR");
+  REQUIRE(fixture.fakes.messages.shown.size() == 1);
+  CHECK_FALSE(fixture.program.DeckWindowOf().IsLoaded());
 }
 
 TEST_CASE("a file is taken only where its entry is on, on the bar that is on show") {
   struct Case {
     const char* front;
     bool takesDeck, takesText;
-    std::function<void(DropDesk&)> bringUp;
+    std::function<void(DropFixture&)> bringUp;
   };
-  const auto start = [](DropDesk& desk) { desk.Start(kBirds); };
+  const auto start = [](DropFixture& fixture) { fixture.Start(kBirds); };
   const Case cases[] = {
-      {"empty frame", true, true, [](DropDesk& desk) { desk.StartEmpty(); }},
-      {"empty deck", true, false, [](DropDesk& desk) { desk.Start(); }},
+      {"empty frame", true, true, [](DropFixture& fixture) { fixture.StartEmpty(); }},
+      {"empty deck", true, false, [](DropFixture& fixture) { fixture.Start(); }},
       {"deck", true, false, start},
       {"quiz", false, false,
-       [&](DropDesk& desk) {
-         start(desk);
-         desk.Deck().quiz.Press();
+       [&](DropFixture& fixture) {
+         start(fixture);
+         fixture.Deck().quiz.Press();
        }},
       {"builder", false, false,
-       [&](DropDesk& desk) {
-         start(desk);
-         desk.Deck().createOrEditCard.Press();
+       [&](DropFixture& fixture) {
+         start(fixture);
+         fixture.Deck().createOrEditCard.Press();
        }},
       {"information", false, false,
-       [&](DropDesk& desk) {
-         start(desk);
-         desk.Deck().deckInfo.Press();
+       [&](DropFixture& fixture) {
+         start(fixture);
+         fixture.Deck().deckInfo.Press();
        }},
   };
   for (const Case& c : cases) {
     CAPTURE(c.front);
-    DropDesk desk;
-    c.bringUp(desk);
-    CHECK(desk.Frame().TakesFile(kOther) == c.takesDeck);
-    CHECK(desk.Frame().TakesFile(u"/decks/OTHER.TSR") == c.takesDeck);
-    CHECK(desk.Frame().TakesFile(kText) == c.takesText);
+    DropFixture fixture;
+    c.bringUp(fixture);
+    CHECK(fixture.Frame().TakesFile(kOther) == c.takesDeck);
+    CHECK(fixture.Frame().TakesFile(u"/decks/OTHER.TSR") == c.takesDeck);
+    CHECK(fixture.Frame().TakesFile(kText) == c.takesText);
     for (const char16_t* foreign : {u"/a/tsr", u"/a/picture.png", u"/a/deck.tsr.bak", u""}) {
-      CHECK_FALSE(desk.Frame().TakesFile(foreign));
+      CHECK_FALSE(fixture.Frame().TakesFile(foreign));
     }
-    const std::int16_t cards = desk.state.deck.cardCount;
-    if (!c.takesDeck) desk.Drop(kOther);
-    CHECK(desk.state.deck.cardCount == cards);
+    const std::int16_t cards = fixture.state.deck.cardCount;
+    if (!c.takesDeck) fixture.Drop(kOther);
+    CHECK(fixture.state.deck.cardCount == cards);
   }
 }
 

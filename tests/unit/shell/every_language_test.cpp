@@ -76,7 +76,7 @@ constexpr int kCards = static_cast<int>(std::size(kWords));
 static_assert(kCards == 40);
 
 /// The program on a desktop of a language.
-struct LanguageDesk {
+struct LanguageFixture {
   CodePage codePage;
   FakeMachine fakes;
   RecordingSpreadsheet server;
@@ -89,7 +89,7 @@ struct LanguageDesk {
   Program program{machine};
   ProgramState& state = program.State();
 
-  explicit LanguageDesk(const char* locale) : codePage(CodePageNamed(CodePageNameOf(locale))) {
+  explicit LanguageFixture(const char* locale) : codePage(CodePageNamed(CodePageNameOf(locale))) {
     program.Windows().SetRenderer(renderer);
     fakes.settings.values = {{u"ShowSplash", u"0"}, {u"FirstLoad", u"False"}};
     // A place is one where a file is.
@@ -129,22 +129,22 @@ void Paste(TextBox& box, TextView text) {
 }
 
 /// A deck of the words, written in the builder, saved.
-std::string WrittenDeck(LanguageDesk& desk, void (*write)(TextBox& box, TextView text)) {
-  desk.OpenEmpty();
-  desk.Frame().newStandardDeck.Press();
-  desk.Deck().createOrEditCard.Press();
-  TextCardBuilder& builder = desk.program.TextBuilder().Loaded();
+std::string WrittenDeck(LanguageFixture& fixture, void (*write)(TextBox& box, TextView text)) {
+  fixture.OpenEmpty();
+  fixture.Frame().newStandardDeck.Press();
+  fixture.Deck().createOrEditCard.Press();
+  TextCardBuilder& builder = fixture.program.TextBuilder().Loaded();
   for (const Word& word : kWords) {
-    if (desk.state.deck.cardCount > 0) builder.buttons[kNewButton].Press();
+    if (fixture.state.deck.cardCount > 0) builder.buttons[kNewButton].Press();
     write(builder.sides[kFrontSide], word.front);
     write(builder.sides[kBackSide], word.back);
     builder.buttons[kAddButton].Press();
   }
   builder.buttons[kCloseButton].Press();
-  return desk.Saved();
+  return fixture.Saved();
 }
 
-std::string ImportedDeck(LanguageDesk& desk) {
+std::string ImportedDeck(LanguageFixture& fixture) {
   Text text = u"STD\r\n";
   const auto line = [](TextView side) {
     Text joined;
@@ -158,11 +158,11 @@ std::string ImportedDeck(LanguageDesk& desk) {
     text += DecimalText(card) + u".\r\n*>F\r\n" + line(word.front) + u"\r\n*>B\r\n" +
             line(word.back) + u"\r\n\r\n";
   }
-  desk.fakes.files.Put(kTextPath, ToUtf8(text));
-  desk.OpenEmpty();
-  desk.fakes.dialogs.files = {kTextPath};
-  desk.Frame().importTextFile.Press();
-  return desk.Saved();
+  fixture.fakes.files.Put(kTextPath, ToUtf8(text));
+  fixture.OpenEmpty();
+  fixture.fakes.dialogs.files = {kTextPath};
+  fixture.Frame().importTextFile.Press();
+  return fixture.Saved();
 }
 
 bool IsBehindSignature(const std::string& deck, int card, std::size_t offset) {
@@ -178,7 +178,7 @@ void CheckRead(const std::string& deck, const char* locale, bool sameCodePage) {
   CAPTURE(locale);
   constexpr std::size_t kFrontOffset = 1;
   constexpr std::size_t kBackOffset = 748;
-  LanguageDesk reader(locale);
+  LanguageFixture reader(locale);
   reader.Open(deck);
   REQUIRE(reader.state.deck.cardCount == kCards);
   for (int card = 1; card <= kCards; ++card) {
@@ -204,11 +204,11 @@ TEST_CASE("cards in twelve scripts come back as they were written, on every desk
   for (const char* const locale : kLocales) {
     CAPTURE(locale);
     for (const auto write : {&Type, &Paste}) {
-      LanguageDesk desk(locale);
-      const std::string deck = WrittenDeck(desk, write);
+      LanguageFixture fixture(locale);
+      const std::string deck = WrittenDeck(fixture, write);
       CheckReadEverywhere(deck, locale);
       // A load and another save change nothing more.
-      LanguageDesk again(locale);
+      LanguageFixture again(locale);
       again.Open(deck);
       CHECK(again.Saved().substr(kRecordSize) == deck.substr(kRecordSize));
     }
@@ -218,33 +218,33 @@ TEST_CASE("cards in twelve scripts come back as they were written, on every desk
 TEST_CASE("cards in twelve scripts come back as they were imported") {
   for (const char* const locale : kLocales) {
     CAPTURE(locale);
-    LanguageDesk desk(locale);
-    const std::string deck = ImportedDeck(desk);
-    LanguageDesk again(locale);
+    LanguageFixture fixture(locale);
+    const std::string deck = ImportedDeck(fixture);
+    LanguageFixture again(locale);
     again.Open(deck);
     REQUIRE(again.state.deck.cardCount == kCards);
     for (int card = 1; card <= kCards; ++card) {
       CHECK(Composed8(again.state.deck.Cell(card, kCardText)) ==
-            Composed8(desk.state.deck.Cell(card, kCardText)));
+            Composed8(fixture.state.deck.Cell(card, kCardText)));
     }
-    CHECK(ToUtf8(desk.state.deck.Cell(19, kBackText)) == ToUtf8(kWords[18].back));
+    CHECK(ToUtf8(fixture.state.deck.Cell(19, kBackText)) == ToUtf8(kWords[18].back));
   }
 }
 
 TEST_CASE("cards in twelve scripts are studied and tested as they stand") {
   for (const char* const locale : kLocales) {
     CAPTURE(locale);
-    LanguageDesk desk(locale);
-    desk.Open([&] {
-      LanguageDesk writer(locale);
+    LanguageFixture fixture(locale);
+    fixture.Open([&] {
+      LanguageFixture writer(locale);
       return WrittenDeck(writer, &Paste);
     }());
-    DeckWindow& deck = desk.Deck();
+    DeckWindow& deck = fixture.Deck();
     const auto checkCard = [&](int card) {
-      const Text& front = desk.state.deck.Cell(card, kCardText);
+      const Text& front = fixture.state.deck.Cell(card, kCardText);
       CHECK(ToUtf8(deck.card.CardText()) == ToUtf8(DoubleAmps(front)));
       deck.flip.Press();
-      const Text& back = desk.state.deck.Cell(card, kBackText);
+      const Text& back = fixture.state.deck.Cell(card, kBackText);
       CHECK(ToUtf8(deck.card.CardText()) == ToUtf8(DoubleAmps(back)));
     };
     for (int card = 1; card <= kCards; ++card) {
@@ -256,21 +256,21 @@ TEST_CASE("cards in twelve scripts are studied and tested as they stand") {
     for (int card = 1; card <= kCards; ++card) {
       checkCard(card);
       deck.credits[kFullCredit].Press();
-      CHECK(desk.state.deck.currentCard == std::min(card + 1, kCards));
+      CHECK(fixture.state.deck.currentCard == std::min(card + 1, kCards));
     }
   }
 }
 
 TEST_CASE("cards in twelve scripts are printed as they stand, in both ways") {
-  LanguageDesk desk("en_US.UTF-8");
-  desk.Open([&] {
-    LanguageDesk writer("en_US.UTF-8");
+  LanguageFixture fixture("en_US.UTF-8");
+  fixture.Open([&] {
+    LanguageFixture writer("en_US.UTF-8");
     return WrittenDeck(writer, &Paste);
   }());
-  desk.Deck().printDeck.Press();
-  PrintWindow& window = desk.program.PrintWindowOf().Loaded();
+  fixture.Deck().printDeck.Press();
+  PrintWindow& window = fixture.program.PrintWindowOf().Loaded();
   for (const bool flat : {false, true}) {
-    desk.fakes.dialogs.printers.emplace_back(PrinterChoice{{u"", u"/decks/words.pdf"}, 1});
+    fixture.fakes.dialogs.printers.emplace_back(PrinterChoice{{u"", u"/decks/words.pdf"}, 1});
     window.SelectAll();
     window.flatSheet.SetTicked(flat);
     window.print.SetEnabled(true);
@@ -278,18 +278,18 @@ TEST_CASE("cards in twelve scripts are printed as they stand, in both ways") {
   }
   for (int card = 1; card <= kCards; ++card) {
     CAPTURE(card);
-    const Text& front = desk.state.deck.Cell(card, kCardText);
-    const Text& back = desk.state.deck.Cell(card, kBackText);
+    const Text& front = fixture.state.deck.Cell(card, kCardText);
+    const Text& back = fixture.state.deck.Cell(card, kBackText);
     const auto isOnSheet = [](const Text& text) {
       return [&text](const RecordingSpreadsheet::Cells& sheet) {
         return std::ranges::any_of(sheet, [&](const auto& cell) { return cell.second == text; });
       };
     };
-    CHECK(std::ranges::any_of(desk.server.sheets, isOnSheet(front)));
-    CHECK(std::ranges::any_of(desk.server.sheets, isOnSheet(back)));
+    CHECK(std::ranges::any_of(fixture.server.sheets, isOnSheet(front)));
+    CHECK(std::ranges::any_of(fixture.server.sheets, isOnSheet(back)));
     // The listing begins with card 2.
     if (card == 1) continue;
-    const auto& calls = desk.surface.record.calls;
+    const auto& calls = fixture.surface.record.calls;
     CHECK(std::ranges::find(calls, "Line " + ToUtf8(front)) != calls.end());
   }
 }

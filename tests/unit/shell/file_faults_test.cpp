@@ -5,7 +5,7 @@
 
 #include "tests/support/fakes/faulty_files.h"
 #include "tests/support/limited_process.h"
-#include "tests/support/program_desk.h"
+#include "tests/support/program_fixture.h"
 #include "tests/unit/import/text_file.h"
 
 namespace tessara::test {
@@ -22,7 +22,7 @@ constexpr ErrorNumber kErrors[] = {
 };
 
 /// The whole program over a disk in memory that can fail.
-struct FaultDesk {
+struct FaultFixture {
   FakeMachine fakes;
   FaultyFiles faulty{fakes.files};
   Machine machine = WithFaultyFiles();
@@ -30,10 +30,10 @@ struct FaultDesk {
   Program program{machine};
   ProgramState& state = program.State();
 
-  FaultDesk() {
+  FaultFixture() {
     program.Windows().SetRenderer(renderer);
     fakes.settings.values = {{u"ShowSplash", u"0"}, {u"FirstLoad", u"False"}};
-    fakes.files.Put(kDeck, ProgramDesk::DeckBytes(kCards));
+    fakes.files.Put(kDeck, ProgramFixture::DeckBytes(kCards));
     fakes.files.Put(u"/decks/std.txt",
                     Lines({"STD", "1.", "*>F", "front", "*>B", "back", "*END*"}));
     fakes.files.Put(u"/decks/ext.txt", Lines({"EXT", "1.Question", "=T"}));
@@ -75,67 +75,67 @@ struct Fault {
   ErrorNumber error;
 };
 
-using Action = std::function<void(FaultDesk&)>;
+using Action = std::function<void(FaultFixture&)>;
 
-/// Runs the command on a fresh desk for each fault, until it has no operation that could fail, and
-/// returns how many it has.
+/// Runs the command on a fresh fixture for each fault, until it has no operation that could fail,
+/// and returns how many it has.
 int FailEachInTurn(const Action& prepare, const Action& command,
-                   const std::function<void(FaultDesk&, const Fault&)>& check) {
+                   const std::function<void(FaultFixture&, const Fault&)>& check) {
   for (int failing = 1;; ++failing) {
     for (const ErrorNumber error : kErrors) {
-      FaultDesk desk;
-      prepare(desk);
-      desk.fakes.messages.shown.clear();
-      desk.faulty.operations = desk.faulty.opens = 0;
-      desk.faulty.fault = [&](int operation) {
+      FaultFixture fixture;
+      prepare(fixture);
+      fixture.fakes.messages.shown.clear();
+      fixture.faulty.operations = fixture.faulty.opens = 0;
+      fixture.faulty.fault = [&](int operation) {
         return operation == failing ? std::optional(error) : std::nullopt;
       };
-      command(desk);
-      desk.faulty.fault = nullptr;
-      if (desk.faulty.operations < failing) return failing - 1;
+      command(fixture);
+      fixture.faulty.fault = nullptr;
+      if (fixture.faulty.operations < failing) return failing - 1;
       CAPTURE(failing);
       CAPTURE(static_cast<int>(error));
-      check(desk, {failing, error});
+      check(fixture, {failing, error});
     }
   }
 }
 
-void CheckEndedWith(const FaultDesk& desk, ErrorNumber error) {
-  REQUIRE(desk.fakes.messages.shown.size() == 1);
-  CHECK(desk.fakes.messages.shown[0].text.starts_with(
+void CheckEndedWith(const FaultFixture& fixture, ErrorNumber error) {
+  REQUIRE(fixture.fakes.messages.shown.size() == 1);
+  CHECK(fixture.fakes.messages.shown[0].text.starts_with(
       u"Run-time error '" + DecimalText(static_cast<long>(error)) + u"':"));
-  CHECK(desk.renderer.exitStatus == 1);
+  CHECK(fixture.renderer.exitStatus == 1);
 }
 
-const Action kNothing = [](FaultDesk&) {};
-const Action kPlainStart = [](FaultDesk& desk) { desk.program.Main(u""); };
+const Action kNothing = [](FaultFixture&) {};
+const Action kPlainStart = [](FaultFixture& fixture) { fixture.program.Main(u""); };
 
 }  // namespace
 
 TEST_CASE("whatever fails in the load of the start ends the program with its report") {
   constexpr int kLookUps = 2;
   const int operations = FailEachInTurn(
-      kNothing, [](FaultDesk& desk) { desk.program.Main(kDeck); },
-      [](FaultDesk& desk, const Fault& fault) {
+      kNothing, [](FaultFixture& fixture) { fixture.program.Main(kDeck); },
+      [](FaultFixture& fixture, const Fault& fault) {
         const bool lookUp = fault.operation <= kLookUps;
-        CheckEndedWith(desk, lookUp ? ErrorNumber::kPathFileAccess : fault.error);
+        CheckEndedWith(fixture, lookUp ? ErrorNumber::kPathFileAccess : fault.error);
       });
   CHECK(operations == kLookUps + 1 + kCards + 2);
 }
 
 TEST_CASE("whatever fails in a load from the menus ends the program with its report") {
   const Action opens[] = {
-      [](FaultDesk& desk) { desk.OpenFromMenu(); },
-      [](FaultDesk& desk) {
-        desk.CloseDeckWindow();
-        desk.Choose(kDeck);
-        desk.Run([&desk] { desk.program.FrameWindow()->OpenExistingDeck(); });
+      [](FaultFixture& fixture) { fixture.OpenFromMenu(); },
+      [](FaultFixture& fixture) {
+        fixture.CloseDeckWindow();
+        fixture.Choose(kDeck);
+        fixture.Run([&fixture] { fixture.program.FrameWindow()->OpenExistingDeck(); });
       },
   };
   for (const Action& open : opens) {
     const int operations = FailEachInTurn(
         kPlainStart, open,
-        [](FaultDesk& desk, const Fault& fault) { CheckEndedWith(desk, fault.error); });
+        [](FaultFixture& fixture, const Fault& fault) { CheckEndedWith(fixture, fault.error); });
     CHECK(operations == 1 + kCards + 2);
   }
 }
@@ -143,34 +143,36 @@ TEST_CASE("whatever fails in a load from the menus ends the program with its rep
 TEST_CASE(
     "whatever fails in a save, success is told, the table stays, and the next save is whole") {
   const Action prepares[] = {
-      [](FaultDesk& desk) { desk.program.Main(kDeck); },
-      [](FaultDesk& desk) {
-        kPlainStart(desk);
-        desk.OpenFromMenu();
+      [](FaultFixture& fixture) { fixture.program.Main(kDeck); },
+      [](FaultFixture& fixture) {
+        kPlainStart(fixture);
+        fixture.OpenFromMenu();
       },
   };
   for (const Action& prepare : prepares) {
     std::vector<Text> table;
-    const auto save = [](FaultDesk& desk) { desk.Run([&] { desk.Deck().SaveDeck(); }); };
+    const auto save = [](FaultFixture& fixture) {
+      fixture.Run([&] { fixture.Deck().SaveDeck(); });
+    };
     FailEachInTurn(
         prepare,
-        [&](FaultDesk& desk) {
-          desk.state.deck.cardGrid.Set(1, kCardText, u"changed");
-          desk.state.deck.cardGrid.Set(kCards, kBackText, Text(500, u'x'));
-          save(desk);
-          table = desk.Table();
+        [&](FaultFixture& fixture) {
+          fixture.state.deck.cardGrid.Set(1, kCardText, u"changed");
+          fixture.state.deck.cardGrid.Set(kCards, kBackText, Text(500, u'x'));
+          save(fixture);
+          table = fixture.Table();
         },
-        [&](FaultDesk& desk, const Fault&) {
-          CHECK_FALSE(desk.HasEnded());
-          CHECK(desk.fakes.messages.shown.size() == 1);
-          CHECK(desk.fakes.messages.shown[0].title == u"Save");
-          CHECK(desk.state.deck.Cell(1, kCardText) == u"changed");
-          CHECK(desk.state.deck.Cell(kCards, kBackText) == Text(500, u'x'));
-          save(desk);
-          CHECK(desk.Table() == table);
-          CHECK(desk.fakes.files.Bytes(kDeck).size() == (kCards + 2) * kRecordSize);
-          FaultDesk next;
-          next.fakes.files.Put(kDeck, desk.fakes.files.Bytes(kDeck));
+        [&](FaultFixture& fixture, const Fault&) {
+          CHECK_FALSE(fixture.HasEnded());
+          CHECK(fixture.fakes.messages.shown.size() == 1);
+          CHECK(fixture.fakes.messages.shown[0].title == u"Save");
+          CHECK(fixture.state.deck.Cell(1, kCardText) == u"changed");
+          CHECK(fixture.state.deck.Cell(kCards, kBackText) == Text(500, u'x'));
+          save(fixture);
+          CHECK(fixture.Table() == table);
+          CHECK(fixture.fakes.files.Bytes(kDeck).size() == (kCards + 2) * kRecordSize);
+          FaultFixture next;
+          next.fakes.files.Put(kDeck, fixture.fakes.files.Bytes(kDeck));
           next.program.Main(kDeck);
           CHECK(next.state.deck.cardCount == kCards);
           CHECK(next.state.deck.Cell(1, kCardText) == u"changed");
@@ -187,41 +189,41 @@ TEST_CASE(
   };
   const Case cases[] = {
       {"Save As",
-       [](FaultDesk& desk) {
-         desk.Choose(u"/decks/other.tsr");
-         desk.Run([&desk] { desk.Deck().SaveDeckAs(); });
+       [](FaultFixture& fixture) {
+         fixture.Choose(u"/decks/other.tsr");
+         fixture.Run([&fixture] { fixture.Deck().SaveDeckAs(); });
        },
        true},
       {"Yes to the question of a deck without a file",
-       [](FaultDesk& desk) {
-         desk.state.deck.filePath.clear();
-         desk.fakes.messages.answers = {MessageAnswer::kYes};
-         desk.Choose(u"/decks/other.tsr");
-         desk.Choose(u"/decks/other.tsr");
-         desk.Run([&desk] { desk.Deck().ClearDeck(); });
+       [](FaultFixture& fixture) {
+         fixture.state.deck.filePath.clear();
+         fixture.fakes.messages.answers = {MessageAnswer::kYes};
+         fixture.Choose(u"/decks/other.tsr");
+         fixture.Choose(u"/decks/other.tsr");
+         fixture.Run([&fixture] { fixture.Deck().ClearDeck(); });
        },
        false},
       {"Yes to the question of a deck with a file",
-       [](FaultDesk& desk) {
-         desk.fakes.messages.answers = {MessageAnswer::kYes};
-         desk.Run([&desk] { desk.Deck().ClearDeck(); });
+       [](FaultFixture& fixture) {
+         fixture.fakes.messages.answers = {MessageAnswer::kYes};
+         fixture.Run([&fixture] { fixture.Deck().ClearDeck(); });
        },
        false},
   };
-  const Action changedDeck = [](FaultDesk& desk) {
-    kPlainStart(desk);
-    desk.OpenFromMenu();
-    desk.state.deck.changed = true;
-    desk.state.deck.saveOffered = true;
+  const Action changedDeck = [](FaultFixture& fixture) {
+    kPlainStart(fixture);
+    fixture.OpenFromMenu();
+    fixture.state.deck.changed = true;
+    fixture.state.deck.saveOffered = true;
   };
   for (const Case& c : cases) {
     CAPTURE(c.name);
     const int operations =
-        FailEachInTurn(changedDeck, c.command, [&c](FaultDesk& desk, const Fault&) {
-          CHECK_FALSE(desk.HasEnded());
-          REQUIRE_FALSE(desk.fakes.messages.shown.empty());
-          CHECK(desk.fakes.messages.shown.back().title == u"Save");
-          CHECK(desk.state.deck.HasCards() == c.keepsCards);
+        FailEachInTurn(changedDeck, c.command, [&c](FaultFixture& fixture, const Fault&) {
+          CHECK_FALSE(fixture.HasEnded());
+          REQUIRE_FALSE(fixture.fakes.messages.shown.empty());
+          CHECK(fixture.fakes.messages.shown.back().title == u"Save");
+          CHECK(fixture.state.deck.HasCards() == c.keepsCards);
         });
     CHECK(operations >= 1 + kCards + 2);
   }
@@ -233,23 +235,23 @@ TEST_CASE(
   for (const TextView path : {TextView(u"/decks/std.txt"), TextView(u"/decks/ext.txt")}) {
     const int operations = FailEachInTurn(
         kPlainStart,
-        [path](FaultDesk& desk) {
-          desk.CloseDeckWindow();
-          desk.Choose(Text(path));
-          desk.Run([&desk] { desk.program.FrameWindow()->ImportDeck(); });
+        [path](FaultFixture& fixture) {
+          fixture.CloseDeckWindow();
+          fixture.Choose(Text(path));
+          fixture.Run([&fixture] { fixture.program.FrameWindow()->ImportDeck(); });
         },
-        [](FaultDesk& desk, const Fault& fault) {
-          const bool firstLook = desk.faulty.opens == 1;
+        [](FaultFixture& fixture, const Fault& fault) {
+          const bool firstLook = fixture.faulty.opens == 1;
           if (firstLook) {
-            CheckEndedWith(desk, fault.error);
+            CheckEndedWith(fixture, fault.error);
             return;
           }
-          CHECK_FALSE(desk.HasEnded());
-          REQUIRE_FALSE(desk.fakes.messages.shown.empty());
-          CHECK(desk.fakes.messages.shown[0].title == u"Import Error");
-          for (int row = 0; row < kRows; ++row) CHECK(desk.state.deck.cardPresent.At(row) == 0);
-          desk.program.FrameWindow()->newStandardDeck.Press();
-          CHECK(desk.Deck().Visible());
+          CHECK_FALSE(fixture.HasEnded());
+          REQUIRE_FALSE(fixture.fakes.messages.shown.empty());
+          CHECK(fixture.fakes.messages.shown[0].title == u"Import Error");
+          for (int row = 0; row < kRows; ++row) CHECK(fixture.state.deck.cardPresent.At(row) == 0);
+          fixture.program.FrameWindow()->newStandardDeck.Press();
+          CHECK(fixture.Deck().Visible());
         });
     CHECK(operations >= 4);
   }

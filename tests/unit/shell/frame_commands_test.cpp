@@ -3,7 +3,7 @@
 #include <doctest/doctest.h>
 #include <functional>
 
-#include "tests/support/program_desk.h"
+#include "tests/support/program_fixture.h"
 
 namespace tessara::test {
 
@@ -23,15 +23,15 @@ constexpr Front kInformation = {"frmInfo", u"E", &DeckWindow::deckInfo};
 constexpr Front kPrint = {"PrintCard", u"E", &DeckWindow::printDeck};
 constexpr Front kFronts[] = {kTextBuilder, kQuestionBuilder, kInformation, kPrint};
 
-std::string NameOfFront(ProgramDesk& desk) {
-  const Form* form = desk.program.Windows().ActiveForm();
+std::string NameOfFront(ProgramFixture& fixture) {
+  const Form* form = fixture.program.Windows().ActiveForm();
   return form == nullptr ? "" : form->Name();
 }
 
 /// The program with two cards and the window in front.
-struct FrontDesk : ProgramDesk {
-  explicit FrontDesk(const Front& front) {
-    fakes.files.Put(kPath, ProgramDesk::DeckBytes(2, front.deckType));
+struct FrontFixture : ProgramFixture {
+  explicit FrontFixture(const Front& front) {
+    fakes.files.Put(kPath, ProgramFixture::DeckBytes(2, front.deckType));
     Start(kPath);
     (Deck().*front.command).Press();
     REQUIRE(FrontName() == front.window);
@@ -42,12 +42,12 @@ struct FrontDesk : ProgramDesk {
 };
 
 /// The import has told the deck window of its first card when it meets the error.
-void ImportWithoutSecondCard(ProgramDesk& desk) {
-  desk.fakes.files.Put(u"/texts/gap.txt", "STD\r\n1.\r\n*>F\r\na\r\n*>B\r\nb\r\n\r\n3.\r\n");
-  desk.fakes.dialogs.files = {u"/texts/gap.txt"};
-  desk.Frame().importTextFile.Press();
-  REQUIRE(desk.program.DeckWindowOf().IsLoaded());
-  REQUIRE_FALSE(desk.Deck().Visible());
+void ImportWithoutSecondCard(ProgramFixture& fixture) {
+  fixture.fakes.files.Put(u"/texts/gap.txt", "STD\r\n1.\r\n*>F\r\na\r\n*>B\r\nb\r\n\r\n3.\r\n");
+  fixture.fakes.dialogs.files = {u"/texts/gap.txt"};
+  fixture.Frame().importTextFile.Press();
+  REQUIRE(fixture.program.DeckWindowOf().IsLoaded());
+  REQUIRE_FALSE(fixture.Deck().Visible());
 }
 
 }  // namespace
@@ -56,116 +56,116 @@ TEST_CASE(
     "the frame's file menu is off with the deck on screen, and behind what stands in for it") {
   for (const Front& front : kFronts) {
     CAPTURE(front.window);
-    FrontDesk desk(front);
-    CHECK_FALSE(desk.Frame().fileMenu.Enabled());
-    desk.program.Windows().Run([&] { desk.program.Windows().ActiveForm()->Unload(); });
-    CHECK(desk.FrontName() == "frmMain");
-    CHECK_FALSE(desk.Frame().fileMenu.Enabled());
+    FrontFixture fixture(front);
+    CHECK_FALSE(fixture.Frame().fileMenu.Enabled());
+    fixture.program.Windows().Run([&] { fixture.program.Windows().ActiveForm()->Unload(); });
+    CHECK(fixture.FrontName() == "frmMain");
+    CHECK_FALSE(fixture.Frame().fileMenu.Enabled());
   }
 }
 
 TEST_CASE("no command of the frame's file menu touches the deck behind a window in front") {
   for (const Front& front : kFronts) {
     CAPTURE(front.window);
-    FrontDesk desk(front);
-    const DeckKind deckType = desk.state.deck.kind;
-    for (MenuEntry* command : {&desk.Frame().newStandardDeck, &desk.Frame().newExtendedDeck,
-                               &desk.Frame().openExistingDeck, &desk.Frame().importTextFile,
-                               &desk.Frame().setUp, &desk.Frame().exit}) {
+    FrontFixture fixture(front);
+    const DeckKind deckType = fixture.state.deck.kind;
+    for (MenuEntry* command : {&fixture.Frame().newStandardDeck, &fixture.Frame().newExtendedDeck,
+                               &fixture.Frame().openExistingDeck, &fixture.Frame().importTextFile,
+                               &fixture.Frame().setUp, &fixture.Frame().exit}) {
       command->Press();
-      CHECK(desk.FrontName() == front.window);
+      CHECK(fixture.FrontName() == front.window);
     }
-    CHECK(desk.state.deck.cardCount == 2);
-    CHECK(desk.state.deck.Cell(2, kCardText) == u"front 2");
-    CHECK(desk.state.deck.kind == deckType);
-    CHECK(desk.fakes.dialogs.fileRequests.empty());
-    CHECK(desk.fakes.messages.shown.empty());
+    CHECK(fixture.state.deck.cardCount == 2);
+    CHECK(fixture.state.deck.Cell(2, kCardText) == u"front 2");
+    CHECK(fixture.state.deck.kind == deckType);
+    CHECK(fixture.fakes.dialogs.fileRequests.empty());
+    CHECK(fixture.fakes.messages.shown.empty());
   }
 }
 
 TEST_CASE("the frame's file menu is on while no deck is on screen, whatever else is") {
   struct Case {
     const char* name;
-    std::function<void(ProgramDesk&)> leave;
+    std::function<void(ProgramFixture&)> leave;
   };
   const Case cases[] = {
-      {"nothing", [](ProgramDesk&) {}},
-      {"About", [](ProgramDesk& desk) { desk.Frame().about.Press(); }},
-      {"set-up", [](ProgramDesk& desk) { desk.Frame().setUp.Press(); }},
-      {"information", [](ProgramDesk& desk) { desk.program.InfoWindow().Loaded(); }},
+      {"nothing", [](ProgramFixture&) {}},
+      {"About", [](ProgramFixture& fixture) { fixture.Frame().about.Press(); }},
+      {"set-up", [](ProgramFixture& fixture) { fixture.Frame().setUp.Press(); }},
+      {"information", [](ProgramFixture& fixture) { fixture.program.InfoWindow().Loaded(); }},
       {"a deck window that a failed import has loaded", ImportWithoutSecondCard},
   };
   for (const Case& c : cases) {
     CAPTURE(c.name);
-    ProgramDesk desk;
-    desk.Start();
-    CHECK_FALSE(desk.Frame().fileMenu.Enabled());
-    desk.Deck().UserClose();
-    CHECK(desk.Frame().fileMenu.Enabled());
-    c.leave(desk);
-    CHECK(desk.Frame().fileMenu.Enabled());
-    desk.Frame().newStandardDeck.Press();
-    CHECK_FALSE(desk.Frame().fileMenu.Enabled());
-    desk.Deck().UserClose();
-    CHECK(desk.Frame().fileMenu.Enabled());
+    ProgramFixture fixture;
+    fixture.Start();
+    CHECK_FALSE(fixture.Frame().fileMenu.Enabled());
+    fixture.Deck().UserClose();
+    CHECK(fixture.Frame().fileMenu.Enabled());
+    c.leave(fixture);
+    CHECK(fixture.Frame().fileMenu.Enabled());
+    fixture.Frame().newStandardDeck.Press();
+    CHECK_FALSE(fixture.Frame().fileMenu.Enabled());
+    fixture.Deck().UserClose();
+    CHECK(fixture.Frame().fileMenu.Enabled());
   }
 }
 
 TEST_CASE("the frame's file menu stays off in whatever order the windows come to the front") {
-  ProgramDesk desk;
-  desk.fakes.files.Put(kPath, ProgramDesk::DeckBytes(2));
-  desk.Start();
-  desk.Deck().UserClose();
-  desk.Frame().setUp.Press();
-  desk.fakes.dialogs.files = {kPath};
-  desk.Frame().openExistingDeck.Press();
-  desk.Deck().deckInfo.Press();
-  Form& setUp = desk.program.SetUpWindowOf().Loaded();
-  Form& info = desk.program.InfoWindow().Loaded();
+  ProgramFixture fixture;
+  fixture.fakes.files.Put(kPath, ProgramFixture::DeckBytes(2));
+  fixture.Start();
+  fixture.Deck().UserClose();
+  fixture.Frame().setUp.Press();
+  fixture.fakes.dialogs.files = {kPath};
+  fixture.Frame().openExistingDeck.Press();
+  fixture.Deck().deckInfo.Press();
+  Form& setUp = fixture.program.SetUpWindowOf().Loaded();
+  Form& info = fixture.program.InfoWindow().Loaded();
   for (Form* front : {&setUp, &info, &setUp}) {
     front->UserActivate();
-    CHECK(NameOfFront(desk) == front->Name());
-    CHECK_FALSE(desk.Frame().fileMenu.Enabled());
+    CHECK(NameOfFront(fixture) == front->Name());
+    CHECK_FALSE(fixture.Frame().fileMenu.Enabled());
   }
   info.UserClose();
-  desk.Deck().UserActivate();
-  desk.Deck().printDeck.Press();
-  for (Form* front : {&setUp, static_cast<Form*>(&desk.program.PrintWindowOf().Loaded())}) {
+  fixture.Deck().UserActivate();
+  fixture.Deck().printDeck.Press();
+  for (Form* front : {&setUp, static_cast<Form*>(&fixture.program.PrintWindowOf().Loaded())}) {
     front->UserActivate();
-    CHECK_FALSE(desk.Frame().fileMenu.Enabled());
+    CHECK_FALSE(fixture.Frame().fileMenu.Enabled());
   }
-  desk.program.PrintWindowOf().Unload();
-  CHECK_FALSE(desk.Frame().fileMenu.Enabled());
-  desk.fakes.messages.answers = {MessageAnswer::kYes};
-  desk.Deck().UserClose();
-  CHECK(desk.Frame().fileMenu.Enabled());
+  fixture.program.PrintWindowOf().Unload();
+  CHECK_FALSE(fixture.Frame().fileMenu.Enabled());
+  fixture.fakes.messages.answers = {MessageAnswer::kYes};
+  fixture.Deck().UserClose();
+  CHECK(fixture.Frame().fileMenu.Enabled());
 }
 
 TEST_CASE("help stands in front of any window, and leaves it as it is") {
   for (const Front& front : kFronts) {
     CAPTURE(front.window);
-    FrontDesk desk(front);
+    FrontFixture fixture(front);
     SUBCASE("help") {
-      desk.Frame().helpTopics.Press();
-      CHECK(desk.fakes.desktop.helpShown == std::vector<Text>{u"/opt/tessara/TessaraHelp.chm"});
+      fixture.Frame().helpTopics.Press();
+      CHECK(fixture.fakes.desktop.helpShown == std::vector<Text>{u"/opt/tessara/TessaraHelp.chm"});
     }
     SUBCASE("About") {
-      desk.Frame().about.Press();
-      CHECK(desk.FrontName() == "frmAbout");
-      desk.program.AboutBoxOf()->ok.Press();
-      CHECK(desk.FrontName() == front.window);
+      fixture.Frame().about.Press();
+      CHECK(fixture.FrontName() == "frmAbout");
+      fixture.program.AboutBoxOf()->ok.Press();
+      CHECK(fixture.FrontName() == front.window);
     }
     SUBCASE("separation instructions") {
       std::string inFront;
-      desk.renderer.whileModal = [&](Form& form) {
+      fixture.renderer.whileModal = [&](Form& form) {
         inFront = form.Name();
         form.Unload();
       };
-      desk.Frame().separatingCards.Press();
+      fixture.Frame().separatingCards.Press();
       CHECK(inFront == "frmInstruct");
-      CHECK(desk.FrontName() == front.window);
+      CHECK(fixture.FrontName() == front.window);
     }
-    CHECK(desk.state.deck.cardCount == 2);
+    CHECK(fixture.state.deck.cardCount == 2);
   }
 }
 

@@ -3,26 +3,26 @@
 #include <vector>
 
 #include "shell/documents.h"
-#include "tests/support/program_desk.h"
+#include "tests/support/program_fixture.h"
 
 namespace tessara::test {
 
 namespace {
 
 /// The frame alone, its deck window closed.
-void CloseDeckWindow(ProgramDesk& desk) {
-  desk.Deck().closeDeck.Press();
-  REQUIRE_FALSE(desk.program.DeckWindowOf().IsLoaded());
+void CloseDeckWindow(ProgramFixture& fixture) {
+  fixture.Deck().closeDeck.Press();
+  REQUIRE_FALSE(fixture.program.DeckWindowOf().IsLoaded());
 }
 
 /// Set-up is of the empty frame: the deck has to go for it and come back.
-void OpenSetUpInFront(ProgramDesk& desk) {
-  desk.fakes.messages.answers = {MessageAnswer::kYes};
-  CloseDeckWindow(desk);
-  desk.Frame().setUp.Press();
-  desk.fakes.dialogs.files = {u"/decks/birds.tsr"};
-  desk.Frame().openExistingDeck.Press();
-  desk.program.SetUpWindowOf()->UserActivate();
+void OpenSetUpInFront(ProgramFixture& fixture) {
+  fixture.fakes.messages.answers = {MessageAnswer::kYes};
+  CloseDeckWindow(fixture);
+  fixture.Frame().setUp.Press();
+  fixture.fakes.dialogs.files = {u"/decks/birds.tsr"};
+  fixture.Frame().openExistingDeck.Press();
+  fixture.program.SetUpWindowOf()->UserActivate();
 }
 
 std::vector<Text> CaptionsOf(const MenuEntry& menu) {
@@ -34,30 +34,30 @@ std::vector<Text> CaptionsOf(const MenuEntry& menu) {
 }  // namespace
 
 TEST_CASE("the backdrop is painted once over the screen, both far edges included") {
-  ProgramDesk desk;
-  desk.fakes.desktop.screenWidth = 128;
-  desk.fakes.desktop.screenHeight = 96;
-  desk.fakes.settings.values[u"BackDrop"] = u"GRANITE";  // 64 by 64
-  desk.Start();
-  const auto& painted = desk.Frame().Painted();
+  ProgramFixture fixture;
+  fixture.fakes.desktop.screenWidth = 128;
+  fixture.fakes.desktop.screenHeight = 96;
+  fixture.fakes.settings.values[u"BackDrop"] = u"GRANITE";  // 64 by 64
+  fixture.Start();
+  const auto& painted = fixture.Frame().Painted();
   REQUIRE(painted.size() == 6);
   CHECK(painted.front() == PaintedPicture{{"backdrops/GRANITE.gif", 64, 64}, 0, 0});
   CHECK(painted.back() == PaintedPicture{{"backdrops/GRANITE.gif", 64, 64}, 128, 64});
 }
 
 TEST_CASE("a tile larger than the screen is painted once") {
-  ProgramDesk desk;
-  desk.fakes.desktop.screenWidth = 60;
-  desk.fakes.desktop.screenHeight = 60;
-  desk.fakes.settings.values[u"BackDrop"] = u"DESERT";
-  desk.Start();
-  CHECK(desk.Frame().Painted().size() == 1);
+  ProgramFixture fixture;
+  fixture.fakes.desktop.screenWidth = 60;
+  fixture.fakes.desktop.screenHeight = 60;
+  fixture.fakes.settings.values[u"BackDrop"] = u"DESERT";
+  fixture.Start();
+  CHECK(fixture.Frame().Painted().size() == 1);
 }
 
 TEST_CASE("the frame's menus hold their commands in their order") {
-  ProgramDesk desk;
-  desk.Start();
-  const ProgramFrame& frame = desk.Frame();
+  ProgramFixture fixture;
+  fixture.Start();
+  const ProgramFrame& frame = fixture.Frame();
   CHECK(CaptionsOf(frame.fileMenu) == std::vector<Text>{u"&New", u"&Open Existing Deck", u"Set &Up",
                                                         u"Import Text File", u"-", u"&Exit"});
   CHECK(CaptionsOf(frame.newMenu) == std::vector<Text>{u"&Standard Tessara", u"E&xtended Tessara"});
@@ -66,112 +66,113 @@ TEST_CASE("the frame's menus hold their commands in their order") {
 }
 
 TEST_CASE("the tiles stand under their twenty keys, in their order") {
-  ProgramDesk desk;
-  desk.Start();
-  desk.program.SetUpWindowOf().Loaded();
+  ProgramFixture fixture;
+  fixture.Start();
+  fixture.program.SetUpWindowOf().Loaded();
   const TextView keys[] = {
       u"<NONE>",   u"DEFAULT",  u"DIGITAL", u"DESERT",   u"STUCCO",  u"BARS",     u"BLUESPH",
       u"CCURTIAN", u"CH_LINK",  u"GRANITE", u"NEONGRID", u"NETWORK", u"OHIOSTAR", u"OLDBLUE",
       u"P_GRID",   u"REDBRICK", u"S_NOISE", u"STRIPES",  u"THREADS", u"WD_FLOOR", u"SOFTGRID"};
-  ComboBox& combo = desk.program.SetUpWindowOf()->backdrops;
+  ComboBox& combo = fixture.program.SetUpWindowOf()->backdrops;
   REQUIRE(combo.Count() == 21);
   for (int index = 0; index < 21; ++index) CHECK(combo.Item(index) == keys[index]);
 }
 
 TEST_CASE("new decks come up in their view with the frame's own caption of the flip button") {
-  ProgramDesk desk;
-  desk.Start();
-  CloseDeckWindow(desk);
+  ProgramFixture fixture;
+  fixture.Start();
+  CloseDeckWindow(fixture);
   SUBCASE("standard") {
-    desk.Frame().newStandardDeck.Press();
-    CHECK(desk.state.deck.kind == kStandardDeck);
-    CHECK(desk.Deck().flip.Caption() == u"&Show Back");
+    fixture.Frame().newStandardDeck.Press();
+    CHECK(fixture.state.deck.kind == kStandardDeck);
+    CHECK(fixture.Deck().flip.Caption() == u"&Show Back");
   }
   SUBCASE("extended") {
-    desk.Frame().newExtendedDeck.Press();
-    CHECK(desk.state.deck.kind == kExtendedDeck);
-    CHECK(desk.Deck().flip.Caption() == u"&Hide Answer");
-    CHECK(desk.Deck().answerCard.Visible());
+    fixture.Frame().newExtendedDeck.Press();
+    CHECK(fixture.state.deck.kind == kExtendedDeck);
+    CHECK(fixture.Deck().flip.Caption() == u"&Hide Answer");
+    CHECK(fixture.Deck().answerCard.Visible());
   }
-  CHECK(desk.Deck().Visible());
-  CHECK(desk.Deck().Caption() == u"New Deck");
-  CHECK_FALSE(desk.Deck().goToCard.Enabled());
+  CHECK(fixture.Deck().Visible());
+  CHECK(fixture.Deck().Caption() == u"New Deck");
+  CHECK_FALSE(fixture.Deck().goToCard.Enabled());
 }
 
 TEST_CASE("an existing deck is opened from the frame and is not on file") {
-  ProgramDesk desk;
-  desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(2));
-  desk.Start();
-  CloseDeckWindow(desk);
-  desk.fakes.dialogs.files = {u"/decks/birds.tsr"};
-  desk.Frame().openExistingDeck.Press();
-  CHECK(desk.Deck().Caption() == u"birds  [STUDY]");
-  CHECK(desk.Deck().card.CardText() == u"front 1");
-  CHECK_FALSE(desk.state.deck.onFile);
-  CHECK(desk.fakes.dialogs.fileRequests.back().filter == u"Study Cards|*.tsr");
-  CHECK(desk.fakes.dialogs.fileRequests.back().flags == 4100);
-  CHECK(desk.fakes.dialogs.fileRequests.back().initialFolder == desk.fakes.desktop.documentsFolder);
+  ProgramFixture fixture;
+  fixture.fakes.files.Put(u"/decks/birds.tsr", ProgramFixture::DeckBytes(2));
+  fixture.Start();
+  CloseDeckWindow(fixture);
+  fixture.fakes.dialogs.files = {u"/decks/birds.tsr"};
+  fixture.Frame().openExistingDeck.Press();
+  CHECK(fixture.Deck().Caption() == u"birds  [STUDY]");
+  CHECK(fixture.Deck().card.CardText() == u"front 1");
+  CHECK_FALSE(fixture.state.deck.onFile);
+  CHECK(fixture.fakes.dialogs.fileRequests.back().filter == u"Study Cards|*.tsr");
+  CHECK(fixture.fakes.dialogs.fileRequests.back().flags == 4100);
+  CHECK(fixture.fakes.dialogs.fileRequests.back().initialFolder ==
+        fixture.fakes.desktop.documentsFolder);
 }
 
 TEST_CASE("a deck opened from the frame can be saved under another name") {
-  ProgramDesk desk;
-  desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(2));
-  desk.fakes.files.Put(u"/decks/none.tsr", ProgramDesk::DeckBytes(0));
-  desk.fakes.messages.answers = {MessageAnswer::kYes};
-  desk.Start();
+  ProgramFixture fixture;
+  fixture.fakes.files.Put(u"/decks/birds.tsr", ProgramFixture::DeckBytes(2));
+  fixture.fakes.files.Put(u"/decks/none.tsr", ProgramFixture::DeckBytes(0));
+  fixture.fakes.messages.answers = {MessageAnswer::kYes};
+  fixture.Start();
   for (const TextView path : {u"/decks/birds.tsr", u"/decks/none.tsr"}) {
-    CloseDeckWindow(desk);
-    desk.fakes.dialogs.files = {Text(path)};
-    desk.Frame().openExistingDeck.Press();
-    CHECK(desk.Deck().saveDeckAs.Enabled() == (desk.state.deck.cardCount > 0));
+    CloseDeckWindow(fixture);
+    fixture.fakes.dialogs.files = {Text(path)};
+    fixture.Frame().openExistingDeck.Press();
+    CHECK(fixture.Deck().saveDeckAs.Enabled() == (fixture.state.deck.cardCount > 0));
   }
 }
 
 TEST_CASE("a deck opened from the frame is written over in place once, then deleted first") {
   const Text path = u"/decks/birds.tsr";
-  ProgramDesk desk;
-  desk.fakes.files.Put(path, ProgramDesk::DeckBytes(2));
-  desk.Start();
-  CloseDeckWindow(desk);
-  desk.fakes.dialogs.files = {path};
-  desk.Frame().openExistingDeck.Press();
-  desk.fakes.messages.answers = {MessageAnswer::kYes};
-  desk.Deck().deleteCard.Press();
-  desk.program.Windows().Run([&] { desk.Deck().SaveDeck(); });
-  CHECK(desk.fakes.files.Bytes(path).size() == 4 * kRecordSize);
-  CHECK(desk.state.deck.onFile);
-  desk.program.Windows().Run([&] { desk.Deck().SaveDeck(); });
-  CHECK(desk.fakes.files.Bytes(path).size() == 3 * kRecordSize);
+  ProgramFixture fixture;
+  fixture.fakes.files.Put(path, ProgramFixture::DeckBytes(2));
+  fixture.Start();
+  CloseDeckWindow(fixture);
+  fixture.fakes.dialogs.files = {path};
+  fixture.Frame().openExistingDeck.Press();
+  fixture.fakes.messages.answers = {MessageAnswer::kYes};
+  fixture.Deck().deleteCard.Press();
+  fixture.program.Windows().Run([&] { fixture.Deck().SaveDeck(); });
+  CHECK(fixture.fakes.files.Bytes(path).size() == 4 * kRecordSize);
+  CHECK(fixture.state.deck.onFile);
+  fixture.program.Windows().Run([&] { fixture.Deck().SaveDeck(); });
+  CHECK(fixture.fakes.files.Bytes(path).size() == 3 * kRecordSize);
 }
 
 TEST_CASE("a path in capitals is refused by both open commands") {
-  ProgramDesk desk;
-  desk.Start();
-  desk.fakes.dialogs.files = {u"/decks/BIRDS.TSR", u"/decks/BIRDS.TSR"};
-  desk.Deck().openDeck.Press();
-  CloseDeckWindow(desk);
-  desk.Frame().openExistingDeck.Press();
+  ProgramFixture fixture;
+  fixture.Start();
+  fixture.fakes.dialogs.files = {u"/decks/BIRDS.TSR", u"/decks/BIRDS.TSR"};
+  fixture.Deck().openDeck.Press();
+  CloseDeckWindow(fixture);
+  fixture.Frame().openExistingDeck.Press();
   const FakeMessages::Shown refusal{u"This is not a valid Tessara file", 16, u"Error Opening File"};
-  CHECK(desk.fakes.messages.shown == std::vector{refusal, refusal});
-  CHECK_FALSE(desk.program.DeckWindowOf().IsLoaded());
+  CHECK(fixture.fakes.messages.shown == std::vector{refusal, refusal});
+  CHECK_FALSE(fixture.program.DeckWindowOf().IsLoaded());
 }
 
 TEST_CASE("help opens the help file of the program's folder from both menus") {
-  ProgramDesk desk;
-  desk.Start();
-  desk.Frame().helpTopics.Press();
-  desk.Deck().helpTopics.Press();
+  ProgramFixture fixture;
+  fixture.Start();
+  fixture.Frame().helpTopics.Press();
+  fixture.Deck().helpTopics.Press();
   const Text path = u"/opt/tessara/TessaraHelp.chm";
-  CHECK(desk.fakes.desktop.helpShown == std::vector{path, path});
+  CHECK(fixture.fakes.desktop.helpShown == std::vector{path, path});
 }
 
 TEST_CASE("the About box closes by its button, a click, the loss of the focus and its link") {
-  ProgramDesk desk;
-  desk.Start();
-  desk.Deck().about.Press();
-  REQUIRE(desk.program.AboutBoxOf().IsLoaded());
-  AboutBox& about = desk.program.AboutBoxOf().Loaded();
-  CHECK(desk.program.Windows().ActiveForm() == &about);
+  ProgramFixture fixture;
+  fixture.Start();
+  fixture.Deck().about.Press();
+  REQUIRE(fixture.program.AboutBoxOf().IsLoaded());
+  AboutBox& about = fixture.program.AboutBoxOf().Loaded();
+  CHECK(fixture.program.Windows().ActiveForm() == &about);
   SUBCASE("button") {
     about.ok.Press();
   }
@@ -181,7 +182,7 @@ TEST_CASE("the About box closes by its button, a click, the loss of the focus an
   SUBCASE("Return on the link") {
     about.mailLink.SetFocus();
     CHECK(about.UserReturn());
-    CHECK(desk.fakes.desktop.opened.size() == 1);
+    CHECK(fixture.fakes.desktop.opened.size() == 1);
   }
   SUBCASE("Escape") {
     CHECK(about.UserEscape());
@@ -190,62 +191,62 @@ TEST_CASE("the About box closes by its button, a click, the loss of the focus an
     about.UserClick();
   }
   SUBCASE("loss of the focus") {
-    desk.Deck().UserActivate();
+    fixture.Deck().UserActivate();
   }
   SUBCASE("click on the frame") {
-    desk.Frame().UserClick();
+    fixture.Frame().UserClick();
   }
   SUBCASE("click on the deck window") {
-    desk.Deck().UserClick();
+    fixture.Deck().UserClick();
   }
   SUBCASE("link") {
     about.mailLink.UserClick();
-    REQUIRE(desk.fakes.desktop.opened.size() == 1);
-    const Text target = desk.fakes.desktop.opened[0];
+    REQUIRE(fixture.fakes.desktop.opened.size() == 1);
+    const Text target = fixture.fakes.desktop.opened[0];
     CHECK(target.starts_with(u"mailto:"));
     CHECK(target.ends_with(u"?SUBJECT=Re: Tessara 1.0"));
   }
-  CHECK_FALSE(desk.program.AboutBoxOf().IsLoaded());
+  CHECK_FALSE(fixture.program.AboutBoxOf().IsLoaded());
 }
 
 TEST_CASE("a second About brings the same box forward") {
-  ProgramDesk desk;
-  desk.Start();
-  desk.Deck().about.Press();
-  AboutBox& about = desk.program.AboutBoxOf().Loaded();
-  desk.Frame().about.Press();
-  CHECK(&about == &desk.program.AboutBoxOf().Loaded());
-  CHECK(desk.program.Windows().ActiveForm() == &about);
+  ProgramFixture fixture;
+  fixture.Start();
+  fixture.Deck().about.Press();
+  AboutBox& about = fixture.program.AboutBoxOf().Loaded();
+  fixture.Frame().about.Press();
+  CHECK(&about == &fixture.program.AboutBoxOf().Loaded());
+  CHECK(fixture.program.Windows().ActiveForm() == &about);
 }
 
 TEST_CASE("an information window that outlives its deck leaves no trace of one when it goes") {
-  ProgramDesk desk;
-  desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(2));
-  desk.Start(u"/decks/birds.tsr");
-  desk.program.Windows().Run([&] { desk.Deck().SaveDeck(); });
-  REQUIRE(desk.program.InfoWindow().IsLoaded());
-  desk.fakes.messages.answers = {MessageAnswer::kYes};
-  desk.Deck().closeDeck.Press();
-  REQUIRE_FALSE(desk.program.DeckWindowOf().IsLoaded());
-  CHECK(desk.program.InfoWindow()->Visible());
-  CHECK(desk.program.InfoWindow()->fields[kTitleField].TextOf() == u" Birds");
+  ProgramFixture fixture;
+  fixture.fakes.files.Put(u"/decks/birds.tsr", ProgramFixture::DeckBytes(2));
+  fixture.Start(u"/decks/birds.tsr");
+  fixture.program.Windows().Run([&] { fixture.Deck().SaveDeck(); });
+  REQUIRE(fixture.program.InfoWindow().IsLoaded());
+  fixture.fakes.messages.answers = {MessageAnswer::kYes};
+  fixture.Deck().closeDeck.Press();
+  REQUIRE_FALSE(fixture.program.DeckWindowOf().IsLoaded());
+  CHECK(fixture.program.InfoWindow()->Visible());
+  CHECK(fixture.program.InfoWindow()->fields[kTitleField].TextOf() == u" Birds");
   // Loading a deck window would end the program.
-  desk.state.settings.largeCardColor = u"x";
-  desk.program.InfoWindow()->close.Press();
-  CHECK_FALSE(desk.program.DeckWindowOf().IsLoaded());
-  CHECK(desk.program.Windows().ActiveForm() == nullptr);
-  CHECK_FALSE(desk.program.Windows().ExitStatus());
-  desk.state.settings.largeCardColor = u"0";
-  desk.Frame().newStandardDeck.Press();
-  CHECK(desk.Deck().Visible());
-  CHECK(desk.Deck().Caption() == u"New Deck");
+  fixture.state.settings.largeCardColor = u"x";
+  fixture.program.InfoWindow()->close.Press();
+  CHECK_FALSE(fixture.program.DeckWindowOf().IsLoaded());
+  CHECK(fixture.program.Windows().ActiveForm() == nullptr);
+  CHECK_FALSE(fixture.program.Windows().ExitStatus());
+  fixture.state.settings.largeCardColor = u"0";
+  fixture.Frame().newStandardDeck.Press();
+  CHECK(fixture.Deck().Visible());
+  CHECK(fixture.Deck().Caption() == u"New Deck");
 }
 
 TEST_CASE("hovering the link shows the icon until the pointer is on the window again") {
-  ProgramDesk desk;
-  desk.Start();
-  desk.Deck().about.Press();
-  AboutBox& about = desk.program.AboutBoxOf().Loaded();
+  ProgramFixture fixture;
+  fixture.Start();
+  fixture.Deck().about.Press();
+  AboutBox& about = fixture.program.AboutBoxOf().Loaded();
   CHECK_FALSE(about.envelope.Visible());
   about.mailLink.UserMouseMove();
   CHECK(about.envelope.Visible());
@@ -258,42 +259,42 @@ TEST_CASE("hovering the link shows the icon until the pointer is on the window a
 }
 
 TEST_CASE("a document that is missing is reported, other failures are not") {
-  ProgramDesk desk;
-  desk.fakes.desktop.openResult = kOpenFileNotFound;
-  CHECK(OpenTearingSheet(desk.machine) == kOpenFileNotFound);
-  CHECK(desk.fakes.messages.Take() ==
+  ProgramFixture fixture;
+  fixture.fakes.desktop.openResult = kOpenFileNotFound;
+  CHECK(OpenTearingSheet(fixture.machine) == kOpenFileNotFound);
+  CHECK(fixture.fakes.messages.Take() ==
         std::vector<FakeMessages::Shown>{
             {u"/opt/tessara/Tearing Sheet.bmp was not found in the Tessara program directory.", 0,
              u"File Not Found"}});
-  desk.fakes.desktop.openResult = 31;
-  CHECK(OpenQuickStart(desk.machine) == 31);
-  CHECK(desk.fakes.messages.shown.empty());
-  CHECK(desk.fakes.desktop.opened.back() == u"/opt/tessara/QuickStartDocument.wri");
+  fixture.fakes.desktop.openResult = 31;
+  CHECK(OpenQuickStart(fixture.machine) == 31);
+  CHECK(fixture.fakes.messages.shown.empty());
+  CHECK(fixture.fakes.desktop.opened.back() == u"/opt/tessara/QuickStartDocument.wri");
 }
 
 TEST_CASE("closing the frame ends the program, unless the deck window refuses") {
-  ProgramDesk desk;
-  desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(2));
-  desk.Start(u"/decks/birds.tsr");
+  ProgramFixture fixture;
+  fixture.fakes.files.Put(u"/decks/birds.tsr", ProgramFixture::DeckBytes(2));
+  fixture.Start(u"/decks/birds.tsr");
   SUBCASE("during a quiz everything stays open") {
-    desk.Deck().quiz.Press();
-    desk.Frame().UserClose();
-    CHECK(desk.fakes.messages.shown.back().text ==
+    fixture.Deck().quiz.Press();
+    fixture.Frame().UserClose();
+    CHECK(fixture.fakes.messages.shown.back().text ==
           u"Tessara must be in study mode before quiting.");
-    CHECK(desk.Deck().Visible());
-    CHECK(desk.Frame().Visible());
-    CHECK(desk.renderer.exitStatus == -1);
+    CHECK(fixture.Deck().Visible());
+    CHECK(fixture.Frame().Visible());
+    CHECK(fixture.renderer.exitStatus == -1);
   }
   SUBCASE("No to the question keeps all") {
-    desk.fakes.messages.answers = {MessageAnswer::kNo};
-    desk.Frame().UserClose();
-    CHECK(desk.fakes.messages.shown.back().text == u"ARE YOU SURE?");
-    CHECK(desk.renderer.exitStatus == -1);
+    fixture.fakes.messages.answers = {MessageAnswer::kNo};
+    fixture.Frame().UserClose();
+    CHECK(fixture.fakes.messages.shown.back().text == u"ARE YOU SURE?");
+    CHECK(fixture.renderer.exitStatus == -1);
   }
   SUBCASE("Yes ends it") {
-    desk.fakes.messages.answers = {MessageAnswer::kYes};
-    desk.Frame().UserClose();
-    CHECK(desk.renderer.exitStatus == 0);
+    fixture.fakes.messages.answers = {MessageAnswer::kYes};
+    fixture.Frame().UserClose();
+    CHECK(fixture.renderer.exitStatus == 0);
   }
 }
 
@@ -301,44 +302,45 @@ TEST_CASE("the frame closes with each child window open, and none comes back on 
   struct Case {
     const char* window;
     TextView deckType;
-    std::function<void(ProgramDesk&)> open;
+    std::function<void(ProgramFixture&)> open;
   };
   const Case cases[] = {
-      {"frmEssay", u"E", [](ProgramDesk& desk) { desk.Deck().createOrEditCard.Press(); }},
-      {"frmQuestion", u"T", [](ProgramDesk& desk) { desk.Deck().createOrEditCard.Press(); }},
-      {"PrintCard", u"E", [](ProgramDesk& desk) { desk.Deck().printDeck.Press(); }},
-      {"frmInfo", u"E", [](ProgramDesk& desk) { desk.Deck().deckInfo.Press(); }},
+      {"frmEssay", u"E", [](ProgramFixture& fixture) { fixture.Deck().createOrEditCard.Press(); }},
+      {"frmQuestion", u"T",
+       [](ProgramFixture& fixture) { fixture.Deck().createOrEditCard.Press(); }},
+      {"PrintCard", u"E", [](ProgramFixture& fixture) { fixture.Deck().printDeck.Press(); }},
+      {"frmInfo", u"E", [](ProgramFixture& fixture) { fixture.Deck().deckInfo.Press(); }},
       {"FrmSetUp", u"E", OpenSetUpInFront},
-      {"frmAbout", u"E", [](ProgramDesk& desk) { desk.Deck().about.Press(); }},
+      {"frmAbout", u"E", [](ProgramFixture& fixture) { fixture.Deck().about.Press(); }},
   };
   for (const Case& c : cases) {
     CAPTURE(c.window);
-    ProgramDesk desk;
-    desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(2, c.deckType));
-    desk.Start(u"/decks/birds.tsr");
-    c.open(desk);
-    REQUIRE(desk.program.Windows().ActiveForm() != nullptr);
-    CHECK(desk.program.Windows().ActiveForm()->Name() == c.window);
-    desk.fakes.messages.shown.clear();
-    desk.fakes.messages.answers = {MessageAnswer::kYes};
-    desk.Frame().UserClose();
-    CHECK(desk.renderer.exitStatus == 0);
-    CHECK(desk.fakes.messages.shown.size() == 1);
-    CHECK(desk.program.Windows().ActiveForm() == nullptr);
+    ProgramFixture fixture;
+    fixture.fakes.files.Put(u"/decks/birds.tsr", ProgramFixture::DeckBytes(2, c.deckType));
+    fixture.Start(u"/decks/birds.tsr");
+    c.open(fixture);
+    REQUIRE(fixture.program.Windows().ActiveForm() != nullptr);
+    CHECK(fixture.program.Windows().ActiveForm()->Name() == c.window);
+    fixture.fakes.messages.shown.clear();
+    fixture.fakes.messages.answers = {MessageAnswer::kYes};
+    fixture.Frame().UserClose();
+    CHECK(fixture.renderer.exitStatus == 0);
+    CHECK(fixture.fakes.messages.shown.size() == 1);
+    CHECK(fixture.program.Windows().ActiveForm() == nullptr);
   }
 }
 
 TEST_CASE("the frame that saves a changed deck on its way takes the information window with it") {
   struct Case {
     const char* name;
-    std::function<void(ProgramDesk&)> open;
-    std::function<void(ProgramDesk&)> close;
+    std::function<void(ProgramFixture&)> open;
+    std::function<void(ProgramFixture&)> close;
   };
-  const auto changeAlone = [](ProgramDesk&) {};
-  const auto builder = [](ProgramDesk& desk) { desk.Deck().createOrEditCard.Press(); };
-  const auto closeBox = [](ProgramDesk& desk) { desk.Frame().UserClose(); };
-  const auto exit = [](ProgramDesk& desk) {
-    desk.program.Windows().Run([&] { desk.Frame().Unload(); });
+  const auto changeAlone = [](ProgramFixture&) {};
+  const auto builder = [](ProgramFixture& fixture) { fixture.Deck().createOrEditCard.Press(); };
+  const auto closeBox = [](ProgramFixture& fixture) { fixture.Frame().UserClose(); };
+  const auto exit = [](ProgramFixture& fixture) {
+    fixture.program.Windows().Run([&] { fixture.Frame().Unload(); });
   };
   const Case cases[] = {{"close box", changeAlone, closeBox},
                         {"exit", changeAlone, exit},
@@ -346,18 +348,18 @@ TEST_CASE("the frame that saves a changed deck on its way takes the information 
                         {"exit behind a builder", builder, exit}};
   for (const Case& c : cases) {
     CAPTURE(c.name);
-    ProgramDesk desk;
-    desk.fakes.files.Put(u"/decks/birds.tsr", ProgramDesk::DeckBytes(2));
-    desk.Start(u"/decks/birds.tsr");
-    desk.state.deck.cardGrid.Set(1, kCardText, u"changed");
-    desk.state.deck.changed = true;
-    c.open(desk);
-    desk.fakes.messages.answers = {MessageAnswer::kYes, MessageAnswer::kYes};
-    c.close(desk);
-    CHECK(desk.fakes.messages.shown.size() == 3);
-    CHECK(desk.program.Windows().ActiveForm() == nullptr);
-    CHECK_FALSE(desk.program.InfoWindow().IsLoaded());
-    CHECK(desk.renderer.exitStatus == 0);
+    ProgramFixture fixture;
+    fixture.fakes.files.Put(u"/decks/birds.tsr", ProgramFixture::DeckBytes(2));
+    fixture.Start(u"/decks/birds.tsr");
+    fixture.state.deck.cardGrid.Set(1, kCardText, u"changed");
+    fixture.state.deck.changed = true;
+    c.open(fixture);
+    fixture.fakes.messages.answers = {MessageAnswer::kYes, MessageAnswer::kYes};
+    c.close(fixture);
+    CHECK(fixture.fakes.messages.shown.size() == 3);
+    CHECK(fixture.program.Windows().ActiveForm() == nullptr);
+    CHECK_FALSE(fixture.program.InfoWindow().IsLoaded());
+    CHECK(fixture.renderer.exitStatus == 0);
   }
 }
 

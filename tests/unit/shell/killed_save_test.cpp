@@ -7,10 +7,10 @@
 #include <doctest/doctest.h>
 #include <set>
 
-#include "tests/support/disk_desk.h"
+#include "tests/support/disk_fixture.h"
 #include "tests/support/fakes/faulty_files.h"
 #include "tests/support/killed_process.h"
-#include "tests/support/program_desk.h"
+#include "tests/support/program_fixture.h"
 #include "tests/support/refused_call.h"
 
 namespace tessara::test {
@@ -25,7 +25,7 @@ enum class Opened { kAtTheStart, kFromTheMenu };
 constexpr Opened kBothWays[] = {Opened::kAtTheStart, Opened::kFromTheMenu};
 
 const std::string& OldDeck() {
-  static const std::string bytes = ProgramDesk::DeckBytes(kCards);
+  static const std::string bytes = ProgramFixture::DeckBytes(kCards);
   return bytes;
 }
 
@@ -34,32 +34,32 @@ struct ChangedDeck {
   ScratchFolder folder{kInMemory};
   PosixFileSystem disk;
   FaultyFiles faulty{disk};
-  DiskDesk desk;
+  DiskFixture fixture;
 
-  explicit ChangedDeck(Opened opened) : desk(OldDeckIn(folder), &faulty) {
+  explicit ChangedDeck(Opened opened) : fixture(OldDeckIn(folder), &faulty) {
     if (opened == Opened::kAtTheStart) {
-      desk.StartWithDeck();
+      fixture.StartWithDeck();
     } else {
-      desk.StartAndOpenDeck();
+      fixture.StartAndOpenDeck();
     }
-    desk.ChangeCards();
+    fixture.ChangeCards();
   }
 
-  [[nodiscard]] std::string DeckBytes() const { return folder.Read(DiskDesk::kDeckName); }
+  [[nodiscard]] std::string DeckBytes() const { return folder.Read(DiskFixture::kDeckName); }
   [[nodiscard]] bool HasDeck() const {
-    return std::filesystem::exists(folder / DiskDesk::kDeckName);
+    return std::filesystem::exists(folder / DiskFixture::kDeckName);
   }
 
  private:
   static const ScratchFolder& OldDeckIn(const ScratchFolder& folder) {
-    folder.Write(DiskDesk::kDeckName, OldDeck());
+    folder.Write(DiskFixture::kDeckName, OldDeck());
     return folder;
   }
 };
 
 std::string NewDeck(Opened opened) {
   ChangedDeck deck(opened);
-  deck.desk.Save();
+  deck.fixture.Save();
   return deck.DeckBytes();
 }
 
@@ -90,7 +90,7 @@ bool CanBeTakenBack(const ChangedDeck& deck) {
 /// What the next start with the deck shows.
 void CheckNextStart(const ChangedDeck& deck) {
   const std::size_t size = deck.DeckBytes().size();
-  DiskDesk next(deck.folder);
+  DiskFixture next(deck.folder);
   next.StartWithDeck();
   if (!deck.HasDeck()) {
     // As for any deck that is not there.
@@ -114,7 +114,7 @@ TEST_CASE("wherever a save is killed, the old deck can be taken back and the nex
     for (int stop = 1; killed; ++stop) {
       CAPTURE(stop);
       ChangedDeck deck(opened);
-      killed = KilledAt(stop, [&] { deck.desk.Save(); });
+      killed = KilledAt(stop, [&] { deck.fixture.Save(); });
       CHECK(CanBeTakenBack(deck));
       CHECK(NamesIn(deck.folder / "copies").size() <= 1);
       for (const std::string& bytes : KeptIn(deck.folder)) CHECK(bytes == OldDeck());
@@ -135,7 +135,7 @@ TEST_CASE("a copy and its folder are on the disk before the save touches the dec
     ChangedDeck deck(opened);
     std::filesystem::create_directory(deck.folder / "copies");
     std::vector<long> calls = FileCallsOf([&] {
-      deck.desk.Save();
+      deck.fixture.Save();
       return 0;
     });
     constexpr std::array kOfInterest = {SYS_fsync, SYS_linkat, SYS_unlink, SYS_pwrite64};
@@ -158,10 +158,10 @@ TEST_CASE("wherever the deck's disk is full in a save, the old deck and the new 
       deck.faulty.fault = [firstFailing](int operation) {
         return operation >= firstFailing ? std::optional(ErrorNumber::kDiskFull) : std::nullopt;
       };
-      deck.desk.Save();
+      deck.fixture.Save();
       CHECK(KeptIn(deck.folder) == std::vector<std::string>{OldDeck(), NewDeck(opened)});
-      CHECK(deck.desk.fakes.desktop.notices.size() == 1);
-      CHECK(deck.desk.fakes.messages.shown.back().title == u"Save");
+      CHECK(deck.fixture.fakes.desktop.notices.size() == 1);
+      CHECK(deck.fixture.fakes.messages.shown.back().title == u"Save");
     }
   }
 }
@@ -170,16 +170,16 @@ TEST_CASE("a save that can't keep a copy saves all the same") {
   for (const Opened opened : kBothWays) {
     ChangedDeck deck(opened);
     deck.folder.Write("copies", "no folder");
-    deck.desk.Save();
+    deck.fixture.Save();
     CHECK(deck.DeckBytes() == NewDeck(opened));
     CHECK(deck.folder.Read("copies") == "no folder");
-    CHECK(deck.desk.fakes.messages.shown.size() == 1);
+    CHECK(deck.fixture.fakes.messages.shown.size() == 1);
   }
 }
 
 TEST_CASE("a save over a deck leaves the deck and one copy, and nothing else") {
   ChangedDeck deck(Opened::kFromTheMenu);
-  deck.desk.Save();
+  deck.fixture.Save();
   CHECK(NamesIn(deck.folder.Path()) == std::vector<std::string>{"copies", "verbs.tsr"});
   CHECK(KeptIn(deck.folder) == std::vector<std::string>{OldDeck()});
 }

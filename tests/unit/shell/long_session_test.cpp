@@ -3,7 +3,7 @@
 #include <doctest/doctest.h>
 
 #include "tests/support/memory_use.h"
-#include "tests/support/program_desk.h"
+#include "tests/support/program_fixture.h"
 #include "tests/support/window_tour.h"
 
 namespace tessara::test {
@@ -13,7 +13,7 @@ namespace {
 constexpr int kRounds = 100;
 constexpr long kMegabyte = 1048576;
 
-struct LongSession : ProgramDesk {
+struct LongSession : ProgramFixture {
   WindowTour tour{program, fakes, [] {}};
 
   LongSession() {
@@ -73,7 +73,7 @@ TEST_CASE("ten thousand card moves leave nothing behind") {
 
 TEST_CASE("a hundred deck loads leave nothing behind") {
   LongSession session;
-  session.fakes.files.Put(u"/decks/other.tsr", ProgramDesk::DeckBytes(200, u"T"));
+  session.fakes.files.Put(u"/decks/other.tsr", ProgramFixture::DeckBytes(200, u"T"));
   const MemoryUse growth = GrowthOf([&] {
     for (int load = 0; load < kRounds; ++load) {
       session.fakes.dialogs.files = {load % 2 == 0 ? u"/decks/other.tsr" : u"/decks/birds.tsr"};

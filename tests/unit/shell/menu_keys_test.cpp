@@ -3,7 +3,7 @@
 #include <doctest/doctest.h>
 #include <functional>
 
-#include "tests/support/program_desk.h"
+#include "tests/support/program_fixture.h"
 
 namespace tessara::test {
 
@@ -17,8 +17,8 @@ std::string ShownKeys(const Form& form, const char* entry) {
   return ToUtf8(found->Keys());
 }
 
-struct KeysDesk : ProgramDesk {
-  explicit KeysDesk(TextView type = u"E") {
+struct KeysFixture : ProgramFixture {
+  explicit KeysFixture(TextView type = u"E") {
     fakes.files.Put(kBirds, DeckBytes(2, type));
     Start(kBirds);
   }
@@ -28,36 +28,36 @@ struct KeysDesk : ProgramDesk {
 }  // namespace
 
 TEST_CASE("the commands that everybody's fingers know have their keys") {
-  KeysDesk desk;
+  KeysFixture fixture;
   const std::pair<const char*, const char*> deckKeys[] = {
       {"mnuOCD", "Ctrl+O"},   {"mnuSave", "Ctrl+S"},  {"mnuSaveAs", "Ctrl+Shift+S"},
       {"mnuPrint", "Ctrl+P"}, {"mnuGTP", "Ctrl+G"},   {"mnuACTTD", "Ctrl+E"},
       {"mnuExit", "Ctrl+W"},  {"mnuHelpTopic", "F1"}, {"mnuDelete", ""}};
-  for (const auto& [entry, keys] : deckKeys) CHECK(ShownKeys(desk.Deck(), entry) == keys);
+  for (const auto& [entry, keys] : deckKeys) CHECK(ShownKeys(fixture.Deck(), entry) == keys);
   const std::pair<const char*, const char*> frameKeys[] = {
       {"mnuOPenExisting", "Ctrl+O"}, {"mnuExit", "Ctrl+Q"}, {"mnuHelpTopics", "F1"}};
-  for (const auto& [entry, keys] : frameKeys) CHECK(ShownKeys(desk.Frame(), entry) == keys);
+  for (const auto& [entry, keys] : frameKeys) CHECK(ShownKeys(fixture.Frame(), entry) == keys);
 }
 
 TEST_CASE("an entry that is off is off for its keys too") {
-  KeysDesk desk;
-  REQUIRE_FALSE(desk.Deck().saveDeck.Enabled());
-  desk.Deck().saveDeck.UserChoose();
-  CHECK(desk.fakes.messages.shown.empty());
-  desk.Deck().quiz.Press();
-  desk.Deck().createOrEditCard.UserChoose();
-  CHECK_FALSE(desk.program.TextBuilder().IsLoaded());
+  KeysFixture fixture;
+  REQUIRE_FALSE(fixture.Deck().saveDeck.Enabled());
+  fixture.Deck().saveDeck.UserChoose();
+  CHECK(fixture.fakes.messages.shown.empty());
+  fixture.Deck().quiz.Press();
+  fixture.Deck().createOrEditCard.UserChoose();
+  CHECK_FALSE(fixture.program.TextBuilder().IsLoaded());
 }
 
 TEST_CASE("the keys of the end close the frame, with every question that its close box asks") {
-  KeysDesk desk;
-  REQUIRE_FALSE(desk.Frame().fileMenu.Enabled());
-  desk.fakes.messages.answers = {MessageAnswer::kNo};
-  desk.Frame().exit.UserChoose();
-  CHECK(desk.Running());
-  desk.fakes.messages.answers = {MessageAnswer::kYes};
-  desk.Frame().exit.UserChoose();
-  CHECK_FALSE(desk.Running());
+  KeysFixture fixture;
+  REQUIRE_FALSE(fixture.Frame().fileMenu.Enabled());
+  fixture.fakes.messages.answers = {MessageAnswer::kNo};
+  fixture.Frame().exit.UserChoose();
+  CHECK(fixture.Running());
+  fixture.fakes.messages.answers = {MessageAnswer::kYes};
+  fixture.Frame().exit.UserChoose();
+  CHECK_FALSE(fixture.Running());
 }
 
 TEST_CASE("the keys of the end do nothing while a builder holds a text that is not in the deck") {
@@ -65,66 +65,66 @@ TEST_CASE("the keys of the end do nothing while a builder holds a text that is n
     const char* what;
     TextView type;
     bool holds;
-    std::function<void(KeysDesk&)> write;
+    std::function<void(KeysFixture&)> write;
   };
-  const auto textBox = [](KeysDesk& desk) -> TextBox& {
-    return desk.program.TextBuilder()->sides[kBackSide];
+  const auto textBox = [](KeysFixture& fixture) -> TextBox& {
+    return fixture.program.TextBuilder()->sides[kBackSide];
   };
-  const auto builder = [](KeysDesk& desk) -> QuestionBuilder& {
-    return desk.program.QuestionBuilderOf().Loaded();
+  const auto builder = [](KeysFixture& fixture) -> QuestionBuilder& {
+    return fixture.program.QuestionBuilderOf().Loaded();
   };
   const Case cases[] = {
-      {"text card as in the deck", u"E", false, [](KeysDesk&) {}},
+      {"text card as in the deck", u"E", false, [](KeysFixture&) {}},
       {"changed text card", u"E", true,
-       [&](KeysDesk& desk) {
-         textBox(desk).UserEdit({0, 0, u"x"});
+       [&](KeysFixture& fixture) {
+         textBox(fixture).UserEdit({0, 0, u"x"});
        }},
       {"text card without its front", u"E", true,
-       [&](KeysDesk& desk) {
-         const auto size = textBox(desk).TextOf().size();
-         textBox(desk).UserEdit({0, size, u""});
+       [&](KeysFixture& fixture) {
+         const auto size = textBox(fixture).TextOf().size();
+         textBox(fixture).UserEdit({0, size, u""});
        }},
       {"new text card", u"E", false,
-       [](KeysDesk& desk) { desk.program.TextBuilder()->buttons[kNewButton].Press(); }},
+       [](KeysFixture& fixture) { fixture.program.TextBuilder()->buttons[kNewButton].Press(); }},
       {"begun text card", u"E", true,
-       [&](KeysDesk& desk) {
-         desk.program.TextBuilder()->buttons[kNewButton].Press();
-         textBox(desk).UserEdit({0, 0, u"x"});
+       [&](KeysFixture& fixture) {
+         fixture.program.TextBuilder()->buttons[kNewButton].Press();
+         textBox(fixture).UserEdit({0, 0, u"x"});
        }},
-      {"question as in the deck", u"T", false, [](KeysDesk&) {}},
+      {"question as in the deck", u"T", false, [](KeysFixture&) {}},
       {"changed question", u"T", true,
-       [&](KeysDesk& desk) {
-         builder(desk).question.UserEdit({0, 0, u"x"});
+       [&](KeysFixture& fixture) {
+         builder(fixture).question.UserEdit({0, 0, u"x"});
        }},
       {"changed mark", u"T", true,
-       [&](KeysDesk& desk) { builder(desk).trueFalseMarks[kFalseMark].Press(); }},
+       [&](KeysFixture& fixture) { builder(fixture).trueFalseMarks[kFalseMark].Press(); }},
       {"begun answer", u"T", true,
-       [&](KeysDesk& desk) {
-         builder(desk).buttons[kNewButton].Press();
-         builder(desk).layouts[kMultipleChoice].Press();
-         builder(desk).answers[0].UserEdit({0, 0, u"x"});
+       [&](KeysFixture& fixture) {
+         builder(fixture).buttons[kNewButton].Press();
+         builder(fixture).layouts[kMultipleChoice].Press();
+         builder(fixture).answers[0].UserEdit({0, 0, u"x"});
        }},
   };
   for (const Case& c : cases) {
     CAPTURE(c.what);
-    KeysDesk desk(c.type);
-    desk.Deck().createOrEditCard.Press();
-    c.write(desk);
-    desk.fakes.messages.answers = {MessageAnswer::kYes};
-    desk.Frame().exit.UserChoose();
-    CHECK(desk.Running() == c.holds);
+    KeysFixture fixture(c.type);
+    fixture.Deck().createOrEditCard.Press();
+    c.write(fixture);
+    fixture.fakes.messages.answers = {MessageAnswer::kYes};
+    fixture.Frame().exit.UserChoose();
+    CHECK(fixture.Running() == c.holds);
   }
 }
 
 TEST_CASE("the keys of the end do nothing behind a modal window") {
-  KeysDesk desk;
+  KeysFixture fixture;
   bool ended = true;
-  desk.renderer.whileModal = [&](Form& form) {
-    desk.Frame().exit.UserChoose();
-    ended = !desk.Running();
+  fixture.renderer.whileModal = [&](Form& form) {
+    fixture.Frame().exit.UserChoose();
+    ended = !fixture.Running();
     form.Unload();
   };
-  desk.Frame().ShowInstructions();
+  fixture.Frame().ShowInstructions();
   CHECK_FALSE(ended);
 }
 

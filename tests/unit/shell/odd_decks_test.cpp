@@ -2,7 +2,7 @@
 
 #include <doctest/doctest.h>
 
-#include "tests/support/program_desk.h"
+#include "tests/support/program_fixture.h"
 
 namespace tessara::test {
 
@@ -16,16 +16,16 @@ struct OddDeck {
 
 const OddDeck kOddDecks[] = {
     {"an empty file", "", 0},
-    {"no card", ProgramDesk::DeckBytes(0), 0},
-    {"an unknown letter", ProgramDesk::DeckBytes(2, u"Q"), 2},
-    {"no letter", ProgramDesk::DeckBytes(2, u""), 2},
+    {"no card", ProgramFixture::DeckBytes(0), 0},
+    {"an unknown letter", ProgramFixture::DeckBytes(2, u"Q"), 2},
+    {"no letter", ProgramFixture::DeckBytes(2, u""), 2},
 };
 
 const Text kPath = u"/decks/odd.tsr";
 
 /// Comes up with the odd deck, on either road.
-struct OddDesk : ProgramDesk {
-  OddDesk(const OddDeck& odd, bool fromFrame, DeckKind before = kStandardDeck) {
+struct OddFixture : ProgramFixture {
+  OddFixture(const OddDeck& odd, bool fromFrame, DeckKind before = kStandardDeck) {
     fakes.files.Put(kPath, odd.bytes);
     if (fromFrame) {
       OpenFromFrame(before);
@@ -57,20 +57,20 @@ TEST_CASE("a deck without a known first card comes up at the usual size with its
     for (const bool fromFrame : {false, true}) {
       CAPTURE(odd.what);
       CAPTURE(fromFrame);
-      OddDesk desk(odd, fromFrame);
-      CHECK(desk.fakes.messages.shown.empty());
-      CHECK(desk.Deck().Visible());
-      CHECK(desk.Deck().Width() == 7230);
-      CHECK(desk.Deck().Height() == 6315);
-      CHECK(desk.Deck().Caption() == u"odd  [STUDY]");
-      CHECK(desk.Deck().card.CardNumber() == u"1");
-      CHECK(desk.Deck().card.CardTotal() == DecimalText(odd.cards));
-      CHECK(desk.Deck().card.CardText() == (odd.cards == 0 ? u"" : u"front 1"));
-      CHECK(desk.Deck().flip.Enabled() == (odd.cards > 0));
-      CHECK(desk.Deck().arrows[kNextCard].Enabled() == (odd.cards > 0));
-      CHECK_FALSE(desk.ShowsDesignText());
-      CHECK(desk.state.deck.kind == kStandardDeck);
-      CHECK(desk.state.deck.currentCard == 1);
+      OddFixture fixture(odd, fromFrame);
+      CHECK(fixture.fakes.messages.shown.empty());
+      CHECK(fixture.Deck().Visible());
+      CHECK(fixture.Deck().Width() == 7230);
+      CHECK(fixture.Deck().Height() == 6315);
+      CHECK(fixture.Deck().Caption() == u"odd  [STUDY]");
+      CHECK(fixture.Deck().card.CardNumber() == u"1");
+      CHECK(fixture.Deck().card.CardTotal() == DecimalText(odd.cards));
+      CHECK(fixture.Deck().card.CardText() == (odd.cards == 0 ? u"" : u"front 1"));
+      CHECK(fixture.Deck().flip.Enabled() == (odd.cards > 0));
+      CHECK(fixture.Deck().arrows[kNextCard].Enabled() == (odd.cards > 0));
+      CHECK_FALSE(fixture.ShowsDesignText());
+      CHECK(fixture.state.deck.kind == kStandardDeck);
+      CHECK(fixture.state.deck.currentCard == 1);
     }
   }
 }
@@ -78,27 +78,27 @@ TEST_CASE("a deck without a known first card comes up at the usual size with its
 TEST_CASE("behind a deck of questions such a deck comes up as one of questions") {
   for (const OddDeck& odd : kOddDecks) {
     CAPTURE(odd.what);
-    OddDesk desk(odd, true, kExtendedDeck);
-    CHECK(desk.Deck().Visible());
-    CHECK(desk.Deck().answerCard.Visible());
-    CHECK_FALSE(desk.ShowsDesignText());
-    CHECK(desk.state.deck.kind == kExtendedDeck);
+    OddFixture fixture(odd, true, kExtendedDeck);
+    CHECK(fixture.Deck().Visible());
+    CHECK(fixture.Deck().answerCard.Visible());
+    CHECK_FALSE(fixture.ShowsDesignText());
+    CHECK(fixture.state.deck.kind == kExtendedDeck);
   }
 }
 
 TEST_CASE("opened from the deck's own menu such a deck leaves the window's shape as it was") {
   for (const OddDeck& odd : kOddDecks) {
     CAPTURE(odd.what);
-    ProgramDesk desk;
-    desk.fakes.files.Put(kPath, odd.bytes);
-    desk.fakes.files.Put(u"/decks/questions.tsr", ProgramDesk::DeckBytes(3, u"T"));
-    desk.Start(u"/decks/questions.tsr");
-    desk.fakes.dialogs.files = {kPath};
-    desk.Deck().openDeck.Press();
-    CHECK(desk.Deck().Caption() == u"odd  [STUDY]");
-    CHECK(desk.Deck().answerCard.Visible());
-    CHECK(desk.Deck().flip.Caption() == u"&Hide Answer");
-    CHECK(desk.state.deck.kind == kExtendedDeck);
+    ProgramFixture fixture;
+    fixture.fakes.files.Put(kPath, odd.bytes);
+    fixture.fakes.files.Put(u"/decks/questions.tsr", ProgramFixture::DeckBytes(3, u"T"));
+    fixture.Start(u"/decks/questions.tsr");
+    fixture.fakes.dialogs.files = {kPath};
+    fixture.Deck().openDeck.Press();
+    CHECK(fixture.Deck().Caption() == u"odd  [STUDY]");
+    CHECK(fixture.Deck().answerCard.Visible());
+    CHECK(fixture.Deck().flip.Caption() == u"&Hide Answer");
+    CHECK(fixture.state.deck.kind == kExtendedDeck);
   }
 }
 

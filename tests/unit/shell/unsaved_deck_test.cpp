@@ -50,51 +50,51 @@ constexpr MessageAnswer kNo = MessageAnswer::kNo;
 }  // namespace
 
 TEST_CASE("at the end of an event that changed the table the deck is kept whole") {
-  UnsavedProgram desk;
-  desk.Build(u"to be");
-  CHECK(desk.copies.unsaved == FakeCopies::Deck{u"New Deck", FrontsOf({u"to be"})});
-  desk.Build(u"to have");
-  CHECK(desk.Kept() == FrontsOf({u"to be", u"to have"}));
-  CHECK(desk.copies.unsavedWrites == 2);
+  UnsavedProgram fixture;
+  fixture.Build(u"to be");
+  CHECK(fixture.copies.unsaved == FakeCopies::Deck{u"New Deck", FrontsOf({u"to be"})});
+  fixture.Build(u"to have");
+  CHECK(fixture.Kept() == FrontsOf({u"to be", u"to have"}));
+  CHECK(fixture.copies.unsavedWrites == 2);
 }
 
 TEST_CASE("a deck with a file is kept under its file's name, as a save would write it") {
-  UnsavedProgram desk;
-  desk.Open(kPath, 3);
-  desk.Build(u"front 4");
-  CHECK(desk.copies.unsaved->first == u"verbs.tsr");
-  const std::string kept = desk.Kept();
-  desk.Run([&] { desk.deck->SaveDeck(); });
+  UnsavedProgram fixture;
+  fixture.Open(kPath, 3);
+  fixture.Build(u"front 4");
+  CHECK(fixture.copies.unsaved->first == u"verbs.tsr");
+  const std::string kept = fixture.Kept();
+  fixture.Run([&] { fixture.deck->SaveDeck(); });
   // But for the information, to which the save adds the blanks of its window.
-  CHECK(kept.substr(kRecordSize) == desk.File(kPath).substr(kRecordSize));
+  CHECK(kept.substr(kRecordSize) == fixture.File(kPath).substr(kRecordSize));
 }
 
 TEST_CASE("an event is kept once, however often it has changed the table") {
-  UnsavedProgram desk;
-  desk.Run([&] {
-    for (int card = 1; card <= 20; ++card) BuildCard(desk.state, {.text = DecimalText(card)});
+  UnsavedProgram fixture;
+  fixture.Run([&] {
+    for (int card = 1; card <= 20; ++card) BuildCard(fixture.state, {.text = DecimalText(card)});
   });
-  CHECK(desk.copies.unsavedWrites == 1);
+  CHECK(fixture.copies.unsavedWrites == 1);
 }
 
 TEST_CASE("a deck without unsaved changes is not kept: loaded, moved through, looked at") {
-  UnsavedProgram desk;
-  desk.Open(kPath, 3);
-  desk.deck->arrows[kNextCard].Press();
-  desk.deck->flip.Press();
-  desk.Run([&] { desk.deck->EnterQuizMode(); });
-  desk.Run([&] { desk.deck->EnterStudyMode(); });
-  CHECK(desk.copies.unsavedWrites == 0);
+  UnsavedProgram fixture;
+  fixture.Open(kPath, 3);
+  fixture.deck->arrows[kNextCard].Press();
+  fixture.deck->flip.Press();
+  fixture.Run([&] { fixture.deck->EnterQuizMode(); });
+  fixture.Run([&] { fixture.deck->EnterStudyMode(); });
+  CHECK(fixture.copies.unsavedWrites == 0);
 }
 
 TEST_CASE("moving through a deck with unsaved changes writes nothing") {
-  UnsavedProgram desk;
-  desk.Open(kPath, 3);
-  desk.Build(u"front 4");
-  desk.deck->arrows[kPreviousCard].Press();
-  desk.deck->arrows[kNextCard].Press();
-  desk.deck->flip.Press();
-  CHECK(desk.copies.unsavedWrites == 1);
+  UnsavedProgram fixture;
+  fixture.Open(kPath, 3);
+  fixture.Build(u"front 4");
+  fixture.deck->arrows[kPreviousCard].Press();
+  fixture.deck->arrows[kNextCard].Press();
+  fixture.deck->flip.Press();
+  CHECK(fixture.copies.unsavedWrites == 1);
 }
 
 TEST_CASE("before a box or a dialog comes up inside an event, what it has changed is kept") {
@@ -103,45 +103,45 @@ TEST_CASE("before a box or a dialog comes up inside an event, what it has change
     Steps wait;
   };
   const Case cases[] = {
-      {"message box", [](UnsavedProgram& desk) { desk.deck->DeleteCard(); }},
-      {"file dialog", [](UnsavedProgram& desk) { desk.deck->SaveDeckAs(); }},
-      {"input box", [](UnsavedProgram& desk) { desk.deck->AskForCard(); }},
+      {"message box", [](UnsavedProgram& fixture) { fixture.deck->DeleteCard(); }},
+      {"file dialog", [](UnsavedProgram& fixture) { fixture.deck->SaveDeckAs(); }},
+      {"input box", [](UnsavedProgram& fixture) { fixture.deck->AskForCard(); }},
       {"report of a run-time error",
        [](UnsavedProgram&) { throw RunTimeError(ErrorNumber::kSubscriptOutOfRange); }},
   };
   for (const Case& c : cases) {
     CAPTURE(c.name);
-    UnsavedProgram desk;
-    desk.Answer(kNo);
-    desk.Choose(u"");
-    desk.fakes.dialogs.texts.push_back(std::nullopt);
+    UnsavedProgram fixture;
+    fixture.Answer(kNo);
+    fixture.Choose(u"");
+    fixture.fakes.dialogs.texts.push_back(std::nullopt);
     int waited = 0;
     const auto look = [&] {
       ++waited;
-      CHECK(desk.Kept() == FrontsOf({u"to be"}));
+      CHECK(fixture.Kept() == FrontsOf({u"to be"}));
     };
-    desk.fakes.messages.whileShown = [&](const FakeMessages::Shown&) { look(); };
-    desk.fakes.dialogs.whileAsked = look;
-    desk.Run([&] {
-      BuildCard(desk.state, {.text = u"to be"});
-      c.wait(desk);
+    fixture.fakes.messages.whileShown = [&](const FakeMessages::Shown&) { look(); };
+    fixture.fakes.dialogs.whileAsked = look;
+    fixture.Run([&] {
+      BuildCard(fixture.state, {.text = u"to be"});
+      c.wait(fixture);
     });
-    CHECK(desk.Kept() == FrontsOf({u"to be"}));
-    CHECK((waited > 0 || !desk.fakes.dialogs.textRequests.empty()));
+    CHECK(fixture.Kept() == FrontsOf({u"to be"}));
+    CHECK((waited > 0 || !fixture.fakes.dialogs.textRequests.empty()));
   }
 }
 
 TEST_CASE("a change that counts as one only behind a box is kept when the event ends") {
-  UnsavedProgram desk;
-  desk.Open(kPath, 1);
-  desk.fakes.dialogs.texts.push_back(std::nullopt);
-  desk.Run([&] {
-    desk.state.deck.cardGrid.Set(1, kCardText, u"told later");
-    desk.deck->AskForCard();
-    desk.state.deck.changed = true;
+  UnsavedProgram fixture;
+  fixture.Open(kPath, 1);
+  fixture.fakes.dialogs.texts.push_back(std::nullopt);
+  fixture.Run([&] {
+    fixture.state.deck.cardGrid.Set(1, kCardText, u"told later");
+    fixture.deck->AskForCard();
+    fixture.state.deck.changed = true;
   });
-  CHECK(desk.copies.unsavedWrites == 1);
-  CHECK(desk.Kept().find("told later") != std::string::npos);
+  CHECK(fixture.copies.unsavedWrites == 1);
+  CHECK(fixture.Kept().find("told later") != std::string::npos);
 }
 
 TEST_CASE("what is kept goes when the deck is saved or given up, and stays otherwise") {
@@ -151,146 +151,150 @@ TEST_CASE("what is kept goes when the deck is saved or given up, and stays other
     bool stays;  ///< for the next start
   };
   const Case cases[] = {
-      {"Save", [](UnsavedProgram& desk) { desk.Run([&] { desk.deck->SaveDeck(); }); }, false},
-      {"Save As", [](UnsavedProgram& desk) { desk.Run([&] { desk.deck->SaveDeckAs(); }); }, false},
-      {"closed, Yes", [](UnsavedProgram& desk) { desk.Close(); }, false},
+      {"Save", [](UnsavedProgram& fixture) { fixture.Run([&] { fixture.deck->SaveDeck(); }); },
+       false},
+      {"Save As", [](UnsavedProgram& fixture) { fixture.Run([&] { fixture.deck->SaveDeckAs(); }); },
+       false},
+      {"closed, Yes", [](UnsavedProgram& fixture) { fixture.Close(); }, false},
       {"closed, No",
-       [](UnsavedProgram& desk) {
-         desk.fakes.messages.answers = {kNo, kYes};
-         desk.Close();
+       [](UnsavedProgram& fixture) {
+         fixture.fakes.messages.answers = {kNo, kYes};
+         fixture.Close();
        },
        false},
       {"cleared, No",
-       [](UnsavedProgram& desk) {
-         desk.fakes.messages.answers = {kNo};
-         desk.Run([&] { desk.deck->ClearDeck(); });
+       [](UnsavedProgram& fixture) {
+         fixture.fakes.messages.answers = {kNo};
+         fixture.Run([&] { fixture.deck->ClearDeck(); });
        },
        false},
       {"closed by the menu, No",
-       [](UnsavedProgram& desk) {
-         desk.fakes.messages.answers = {kNo, kYes};
-         desk.Run([&] { desk.deck->CloseTessara(); });
+       [](UnsavedProgram& fixture) {
+         fixture.fakes.messages.answers = {kNo, kYes};
+         fixture.Run([&] { fixture.deck->CloseTessara(); });
        },
        false},
       {"another opened, No",
-       [](UnsavedProgram& desk) {
-         desk.fakes.messages.answers = {kNo};
-         desk.fakes.dialogs.files.clear();
-         desk.Open(u"/decks/other.tsr", 2);
+       [](UnsavedProgram& fixture) {
+         fixture.fakes.messages.answers = {kNo};
+         fixture.fakes.dialogs.files.clear();
+         fixture.Open(u"/decks/other.tsr", 2);
        },
        false},
       {"closed, Yes, no name",
-       [](UnsavedProgram& desk) {
-         desk.fakes.dialogs.files = {u""};
-         desk.Close();
+       [](UnsavedProgram& fixture) {
+         fixture.fakes.dialogs.files = {u""};
+         fixture.Close();
        },
        true},
       {"cleared, Yes, no name",
-       [](UnsavedProgram& desk) {
-         desk.fakes.dialogs.files = {u""};
-         desk.Run([&] { desk.deck->ClearDeck(); });
+       [](UnsavedProgram& fixture) {
+         fixture.fakes.dialogs.files = {u""};
+         fixture.Run([&] { fixture.deck->ClearDeck(); });
        },
        true},
       {"a first card without a text, cleared",
-       [](UnsavedProgram& desk) {
-         desk.Run([&] { desk.state.deck.cardGrid.Set(1, kCardText, u""); });
-         desk.Run([&] { desk.deck->ClearDeck(); });
+       [](UnsavedProgram& fixture) {
+         fixture.Run([&] { fixture.state.deck.cardGrid.Set(1, kCardText, u""); });
+         fixture.Run([&] { fixture.deck->ClearDeck(); });
        },
        true},
       {"a first card without a text, refused by the save",
-       [](UnsavedProgram& desk) {
-         desk.Run([&] { desk.state.deck.cardGrid.Set(1, kCardText, u""); });
-         desk.Run([&] { desk.deck->SaveDeck(); });
+       [](UnsavedProgram& fixture) {
+         fixture.Run([&] { fixture.state.deck.cardGrid.Set(1, kCardText, u""); });
+         fixture.Run([&] { fixture.deck->SaveDeck(); });
        },
        true},
   };
   for (const Case& c : cases) {
     CAPTURE(c.name);
-    UnsavedProgram desk;
-    desk.Build(u"to be");
-    desk.Build(u"to have");
-    desk.fakes.messages.answers = {kYes, kYes};
-    desk.Choose(kPath);
-    c.steps(desk);
-    CHECK_FALSE(desk.copies.unsaved.has_value());
-    CHECK(desk.copies.leftUnsaved.size() == (c.stays ? 1 : 0));
-    CHECK(desk.copies.notSaved.empty());
-    CHECK(desk.fakes.desktop.notices.empty());
+    UnsavedProgram fixture;
+    fixture.Build(u"to be");
+    fixture.Build(u"to have");
+    fixture.fakes.messages.answers = {kYes, kYes};
+    fixture.Choose(kPath);
+    c.steps(fixture);
+    CHECK_FALSE(fixture.copies.unsaved.has_value());
+    CHECK(fixture.copies.leftUnsaved.size() == (c.stays ? 1 : 0));
+    CHECK(fixture.copies.notSaved.empty());
+    CHECK(fixture.fakes.desktop.notices.empty());
   }
 }
 
 TEST_CASE("a save whose dialog was cancelled leaves the deck kept") {
-  UnsavedProgram desk;
-  desk.Build(u"to be");
-  desk.Choose(u"");
-  desk.Run([&] { desk.deck->SaveDeck(); });
-  CHECK(desk.Kept() == FrontsOf({u"to be"}));
+  UnsavedProgram fixture;
+  fixture.Build(u"to be");
+  fixture.Choose(u"");
+  fixture.Run([&] { fixture.deck->SaveDeck(); });
+  CHECK(fixture.Kept() == FrontsOf({u"to be"}));
 }
 
 TEST_CASE("a deck that was given up is kept again where its window stays") {
-  UnsavedProgram desk;
-  desk.Build(u"to be");
-  desk.fakes.messages.answers = {kNo, kNo};
-  desk.fakes.messages.whileShown = [&](const FakeMessages::Shown& box) {
+  UnsavedProgram fixture;
+  fixture.Build(u"to be");
+  fixture.fakes.messages.answers = {kNo, kNo};
+  fixture.fakes.messages.whileShown = [&](const FakeMessages::Shown& box) {
     const bool answered = box.title == u"Close Tessara";
-    CHECK(desk.copies.unsaved.has_value() == !answered);
+    CHECK(fixture.copies.unsaved.has_value() == !answered);
   };
-  desk.Close();
-  CHECK(desk.Kept() == FrontsOf({u"to be"}));
+  fixture.Close();
+  CHECK(fixture.Kept() == FrontsOf({u"to be"}));
 }
 
 TEST_CASE("a deck whose last card has been deleted is not kept") {
-  UnsavedProgram desk;
-  desk.Build(u"to be");
-  desk.Answer(kYes);
-  desk.Run([&] { desk.deck->DeleteCard(); });
-  CHECK_FALSE(desk.copies.unsaved.has_value());
+  UnsavedProgram fixture;
+  fixture.Build(u"to be");
+  fixture.Answer(kYes);
+  fixture.Run([&] { fixture.deck->DeleteCard(); });
+  CHECK_FALSE(fixture.copies.unsaved.has_value());
 }
 
 TEST_CASE("changes behind a save are kept anew, and so is the next deck") {
-  UnsavedProgram desk;
-  desk.Build(u"to be");
-  desk.Choose(kPath);
-  desk.Run([&] { desk.deck->SaveDeckAs(); });
-  desk.Build(u"to have");
-  CHECK(desk.copies.unsaved->first == u"verbs.tsr");
-  desk.fakes.messages.answers = {kNo};
-  desk.Run([&] { desk.deck->ClearDeck(); });
-  desk.Build(u"to do");
-  CHECK(desk.copies.unsaved == FakeCopies::Deck{u"New Deck", FrontsOf({u"to do"})});
+  UnsavedProgram fixture;
+  fixture.Build(u"to be");
+  fixture.Choose(kPath);
+  fixture.Run([&] { fixture.deck->SaveDeckAs(); });
+  fixture.Build(u"to have");
+  CHECK(fixture.copies.unsaved->first == u"verbs.tsr");
+  fixture.fakes.messages.answers = {kNo};
+  fixture.Run([&] { fixture.deck->ClearDeck(); });
+  fixture.Build(u"to do");
+  CHECK(fixture.copies.unsaved == FakeCopies::Deck{u"New Deck", FrontsOf({u"to do"})});
 }
 
 TEST_CASE("a deck that can't be read to its end is nobody's work") {
-  UnsavedProgram desk;
-  desk.Build(u"to be");
-  desk.fakes.files.Put(kPath, CardBytes(1, u"front", u"") + CardBytes(300, u"far", u""));
-  desk.Choose(kPath);
-  desk.Answer(kNo);
-  desk.Run([&] { desk.deck->OpenDeck(); });
-  CHECK(desk.program.Windows().ExitStatus() == 1);
-  CHECK_FALSE(desk.copies.unsaved.has_value());
+  UnsavedProgram fixture;
+  fixture.Build(u"to be");
+  fixture.fakes.files.Put(kPath, CardBytes(1, u"front", u"") + CardBytes(300, u"far", u""));
+  fixture.Choose(kPath);
+  fixture.Answer(kNo);
+  fixture.Run([&] { fixture.deck->OpenDeck(); });
+  CHECK(fixture.program.Windows().ExitStatus() == 1);
+  CHECK_FALSE(fixture.copies.unsaved.has_value());
 }
 
 TEST_CASE("an imported deck is kept") {
-  UnsavedProgram desk;
-  desk.Close();
-  desk.fakes.files.Put(u"/decks/text.txt", "STD\r\n1.\r\n*>F\r\nto be\r\n*>B\r\nsein\r\n*END*\r\n");
-  desk.Choose(u"/decks/text.txt");
-  desk.Run([&] { desk.Frame().ImportDeck(); });
-  CHECK(desk.copies.unsaved->first == u"New Deck");
-  CHECK(desk.Kept().substr(kRecordSize) == CardBytes(1, u"to be", u"sein") + EndBytes());
+  UnsavedProgram fixture;
+  fixture.Close();
+  fixture.fakes.files.Put(u"/decks/text.txt",
+                          "STD\r\n1.\r\n*>F\r\nto be\r\n*>B\r\nsein\r\n*END*\r\n");
+  fixture.Choose(u"/decks/text.txt");
+  fixture.Run([&] { fixture.Frame().ImportDeck(); });
+  CHECK(fixture.copies.unsaved->first == u"New Deck");
+  CHECK(fixture.Kept().substr(kRecordSize) == CardBytes(1, u"to be", u"sein") + EndBytes());
 }
 
 TEST_CASE("an import that failed is not kept, whatever happened to the deck before") {
-  UnsavedProgram desk;
-  desk.Build(u"to be");
-  desk.fakes.messages.answers = {kNo, kYes};
-  desk.Close();
-  desk.fakes.files.Put(u"/decks/text.txt", "EXT\r\n1.Question\r\n=T\r\n\r\n7.Question\r\n=T\r\n");
-  desk.Choose(u"/decks/text.txt");
-  const int writes = desk.copies.unsavedWrites;
-  desk.Run([&] { desk.Frame().ImportDeck(); });
-  CHECK(desk.copies.unsavedWrites == writes);
+  UnsavedProgram fixture;
+  fixture.Build(u"to be");
+  fixture.fakes.messages.answers = {kNo, kYes};
+  fixture.Close();
+  fixture.fakes.files.Put(u"/decks/text.txt",
+                          "EXT\r\n1.Question\r\n=T\r\n\r\n7.Question\r\n=T\r\n");
+  fixture.Choose(u"/decks/text.txt");
+  const int writes = fixture.copies.unsavedWrites;
+  fixture.Run([&] { fixture.Frame().ImportDeck(); });
+  CHECK(fixture.copies.unsavedWrites == writes);
 }
 
 TEST_CASE("a save of which any step failed keeps the new deck, and tells the user once") {
@@ -305,22 +309,22 @@ TEST_CASE("a save of which any step failed keeps the new deck, and tells the use
   };
   for (const Case& c : cases) {
     CAPTURE(c.name);
-    UnsavedProgram desk;
-    desk.Open(kPath, 2);
-    desk.Build(u"front 3");
-    desk.TakeBoxes();
-    desk.fakes.files.fault = [&](MemoryFiles::Operation operation, const Text&) {
+    UnsavedProgram fixture;
+    fixture.Open(kPath, 2);
+    fixture.Build(u"front 3");
+    fixture.TakeBoxes();
+    fixture.fakes.files.fault = [&](MemoryFiles::Operation operation, const Text&) {
       return operation == c.operation ? std::optional(ErrorNumber::kDiskFull) : std::nullopt;
     };
-    desk.Run([&] { desk.deck->SaveDeck(); });
-    CHECK(desk.TakeBoxes() == Boxes{SavedBox(kPath)});
-    REQUIRE(desk.copies.notSaved.size() == 1);
-    CHECK(desk.copies.notSaved[0].first == u"verbs.tsr");
-    CHECK(desk.copies.notSaved[0].second.size() == kRecordSize * 5);
-    CHECK(desk.copies.notSaved[0].second.find("front 3") != std::string::npos);
-    CHECK_FALSE(desk.copies.unsaved.has_value());
-    REQUIRE(desk.fakes.desktop.notices.size() == 1);
-    CHECK(desk.fakes.desktop.notices[0].second ==
+    fixture.Run([&] { fixture.deck->SaveDeck(); });
+    CHECK(fixture.TakeBoxes() == Boxes{SavedBox(kPath)});
+    REQUIRE(fixture.copies.notSaved.size() == 1);
+    CHECK(fixture.copies.notSaved[0].first == u"verbs.tsr");
+    CHECK(fixture.copies.notSaved[0].second.size() == kRecordSize * 5);
+    CHECK(fixture.copies.notSaved[0].second.find("front 3") != std::string::npos);
+    CHECK_FALSE(fixture.copies.unsaved.has_value());
+    REQUIRE(fixture.fakes.desktop.notices.size() == 1);
+    CHECK(fixture.fakes.desktop.notices[0].second ==
           u"Saving the deck verbs met an error. The deck is kept as /copies/verbs.tsr and can be "
           u"opened there.");
   }
@@ -348,68 +352,70 @@ TEST_CASE("a failed close of the file is a failed step of the save") {
 }
 
 TEST_CASE("where a deck can't be deleted, the old one is kept for being written over") {
-  UnsavedProgram desk;
-  desk.Open(kPath, 2);
-  desk.fakes.files.fault = [&](MemoryFiles::Operation operation, const Text&) {
+  UnsavedProgram fixture;
+  fixture.Open(kPath, 2);
+  fixture.fakes.files.fault = [&](MemoryFiles::Operation operation, const Text&) {
     const bool deletes = operation == MemoryFiles::Operation::kDelete;
     return deletes ? std::optional(ErrorNumber::kPermissionDenied) : std::nullopt;
   };
-  desk.Run([&] { desk.deck->SaveDeck(); });
-  CHECK(desk.copies.losses == std::vector{Loss::kDeleted, Loss::kWrittenOver});
+  fixture.Run([&] { fixture.deck->SaveDeck(); });
+  CHECK(fixture.copies.losses == std::vector{Loss::kDeleted, Loss::kWrittenOver});
 }
 
 TEST_CASE("a deck that is missing when it is to be deleted is no failure") {
-  UnsavedProgram desk;
-  desk.Open(kPath, 2);
-  desk.fakes.files.files.erase(kPath);
-  desk.Run([&] { desk.deck->SaveDeck(); });
-  CHECK(desk.copies.notSaved.empty());
-  CHECK(desk.copies.losses == std::vector{Loss::kDeleted});
+  UnsavedProgram fixture;
+  fixture.Open(kPath, 2);
+  fixture.fakes.files.files.erase(kPath);
+  fixture.Run([&] { fixture.deck->SaveDeck(); });
+  CHECK(fixture.copies.notSaved.empty());
+  CHECK(fixture.copies.losses == std::vector{Loss::kDeleted});
 }
 
 TEST_CASE("a deck that a failed save could not keep either stays as it was kept") {
-  UnsavedProgram desk;
-  desk.Open(kPath, 2);
-  desk.Build(u"front 3");
-  desk.fakes.files.fault = [](MemoryFiles::Operation, const Text&) {
+  UnsavedProgram fixture;
+  fixture.Open(kPath, 2);
+  fixture.Build(u"front 3");
+  fixture.fakes.files.fault = [](MemoryFiles::Operation, const Text&) {
     return std::optional(ErrorNumber::kDiskFull);
   };
-  desk.copies.full = true;
-  desk.Run([&] { desk.deck->SaveDeck(); });
-  CHECK(desk.copies.unsaved.has_value());
-  CHECK(desk.fakes.desktop.notices.empty());
+  fixture.copies.full = true;
+  fixture.Run([&] { fixture.deck->SaveDeck(); });
+  CHECK(fixture.copies.unsaved.has_value());
+  CHECK(fixture.fakes.desktop.notices.empty());
 }
 
 TEST_CASE("a start tells of each deck that an earlier program left") {
-  ProgramDesk desk;
-  desk.fakes.copies.leftBefore = {{u"verbs", u"/copies/verbs (unsaved 1-1).tsr", u"/copies/a.tsr"},
-                                  {u"nouns", u"/copies/nouns (unsaved 1-2).tsr", u"/copies/b.tsr"}};
-  desk.Start();
-  const auto& notices = desk.fakes.desktop.notices;
+  ProgramFixture fixture;
+  fixture.fakes.copies.leftBefore = {
+      {u"verbs", u"/copies/verbs (unsaved 1-1).tsr", u"/copies/a.tsr"},
+      {u"nouns", u"/copies/nouns (unsaved 1-2).tsr", u"/copies/b.tsr"}};
+  fixture.Start();
+  const auto& notices = fixture.fakes.desktop.notices;
   REQUIRE(notices.size() == 2);
   CHECK(notices[0].second ==
         u"The deck verbs had changes that were not saved. It is kept as /copies/a.tsr and can be "
         u"opened there.");
   CHECK(notices[1].second.starts_with(u"The deck nouns"));
-  CHECK(desk.fakes.messages.shown.empty());
+  CHECK(fixture.fakes.messages.shown.empty());
 }
 
 TEST_CASE("a start with a deck that was left opens it by its new name") {
-  ProgramDesk desk;
-  desk.fakes.files.Put(u"/copies/a.tsr", DeckBytes(2));
-  desk.fakes.copies.leftBefore = {{u"verbs", u"/copies/verbs (unsaved 1-1).tsr", u"/copies/a.tsr"}};
-  desk.Start(u"/copies/verbs (unsaved 1-1).tsr");
-  CHECK(desk.state.deck.cardCount == 2);
-  CHECK(desk.state.deck.filePath == u"/copies/a.tsr");
+  ProgramFixture fixture;
+  fixture.fakes.files.Put(u"/copies/a.tsr", DeckBytes(2));
+  fixture.fakes.copies.leftBefore = {
+      {u"verbs", u"/copies/verbs (unsaved 1-1).tsr", u"/copies/a.tsr"}};
+  fixture.Start(u"/copies/verbs (unsaved 1-1).tsr");
+  CHECK(fixture.state.deck.cardCount == 2);
+  CHECK(fixture.state.deck.filePath == u"/copies/a.tsr");
 }
 
 TEST_CASE("a second program of the session leaves the kept decks alone") {
-  ProgramDesk desk;
-  desk.fakes.desktop.previousInstance = true;
-  desk.fakes.copies.leftBefore = {{u"verbs", u"old", u"new"}};
-  desk.Start();
-  CHECK(desk.fakes.copies.leftBefore.size() == 1);
-  CHECK(desk.fakes.desktop.notices.empty());
+  ProgramFixture fixture;
+  fixture.fakes.desktop.previousInstance = true;
+  fixture.fakes.copies.leftBefore = {{u"verbs", u"old", u"new"}};
+  fixture.Start();
+  CHECK(fixture.fakes.copies.leftBefore.size() == 1);
+  CHECK(fixture.fakes.desktop.notices.empty());
 }
 
 }  // namespace tessara::test

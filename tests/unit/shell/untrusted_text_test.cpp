@@ -6,10 +6,10 @@
 #include "base/utf8.h"
 #include "deck/card_display.h"
 #include "tests/support/hostile_texts.h"
-#include "tests/support/program_desk.h"
+#include "tests/support/program_fixture.h"
 #include "tests/support/window_tour.h"
 #include "tests/unit/import/text_file.h"
-#include "tests/unit/printing/print_desk.h"
+#include "tests/unit/printing/print_fixture.h"
 
 namespace tessara::test {
 
@@ -18,11 +18,11 @@ namespace {
 const Text kDeck = u"/decks/birds.tsr";
 
 /// The program, with a note of every path that it has asked the disk about.
-struct WatchedDesk : ProgramDesk {
+struct WatchedFixture : ProgramFixture {
   std::set<Text> paths;
   WindowTour tour{program, fakes, [] {}};
 
-  WatchedDesk() {
+  WatchedFixture() {
     fakes.files.fault = [this](MemoryFiles::Operation, const Text& path) {
       paths.insert(path);
       return std::optional<ErrorNumber>();
@@ -47,66 +47,66 @@ struct WatchedDesk : ProgramDesk {
 TEST_CASE("any text of a text card is on the card as it stands, and does nothing else") {
   for (const Text& text : kHostileTexts) {
     CAPTURE(ToUtf8(text));
-    WatchedDesk desk;
-    desk.fakes.files.Put(kDeck, DeckSaying(text, u"E"));
-    desk.Start(kDeck);
+    WatchedFixture fixture;
+    fixture.fakes.files.Put(kDeck, DeckSaying(text, u"E"));
+    fixture.Start(kDeck);
     const Text shown = DoubleAmps(text);
-    CHECK(desk.Deck().card.CardText() == shown);
-    desk.Deck().flip.Press();
-    CHECK(desk.Deck().card.CardText() == shown);
-    desk.Deck().arrows[kNextCard].Press();
-    desk.Deck().quiz.Press();
-    desk.Deck().test.Press();
-    CHECK(desk.Deck().card.CardText() == shown);
-    desk.Deck().study.Press();
-    desk.tour.GoRound();
-    desk.CheckNothingElse(kDeck);
+    CHECK(fixture.Deck().card.CardText() == shown);
+    fixture.Deck().flip.Press();
+    CHECK(fixture.Deck().card.CardText() == shown);
+    fixture.Deck().arrows[kNextCard].Press();
+    fixture.Deck().quiz.Press();
+    fixture.Deck().test.Press();
+    CHECK(fixture.Deck().card.CardText() == shown);
+    fixture.Deck().study.Press();
+    fixture.tour.GoRound();
+    fixture.CheckNothingElse(kDeck);
   }
 }
 
 TEST_CASE("any text of a question is on the card, the answer and the choices as it stands") {
   for (const Text& text : kHostileTexts) {
     CAPTURE(ToUtf8(text));
-    WatchedDesk desk;
-    desk.fakes.files.Put(kDeck, DeckSaying(text, u"M"));
-    desk.Start(kDeck);
-    CHECK(desk.Deck().card.CardText() == DoubleAmps(text));
-    CHECK(desk.Deck().answer.Caption().find(DoubleAmps(text)) != Text::npos);
-    desk.Deck().test.Press();
-    for (const OptionButton& option : desk.Deck().choices) CHECK(option.Caption() == text);
-    desk.Deck().choices[1].Press();
-    desk.Deck().nextOrScore.Press();
-    desk.CheckNothingElse(kDeck);
+    WatchedFixture fixture;
+    fixture.fakes.files.Put(kDeck, DeckSaying(text, u"M"));
+    fixture.Start(kDeck);
+    CHECK(fixture.Deck().card.CardText() == DoubleAmps(text));
+    CHECK(fixture.Deck().answer.Caption().find(DoubleAmps(text)) != Text::npos);
+    fixture.Deck().test.Press();
+    for (const OptionButton& option : fixture.Deck().choices) CHECK(option.Caption() == text);
+    fixture.Deck().choices[1].Press();
+    fixture.Deck().nextOrScore.Press();
+    fixture.CheckNothingElse(kDeck);
   }
 }
 
 TEST_CASE("any text of a deck is in the builders and the information window as it stands") {
   for (const Text& text : kHostileTexts) {
     CAPTURE(ToUtf8(text));
-    WatchedDesk desk;
-    desk.fakes.files.Put(kDeck, DeckSaying(text, u"E"));
-    desk.Start(kDeck);
-    desk.Deck().deckInfo.Press();
+    WatchedFixture fixture;
+    fixture.fakes.files.Put(kDeck, DeckSaying(text, u"E"));
+    fixture.Start(kDeck);
+    fixture.Deck().deckInfo.Press();
     // A blank stands in front.
-    for (const TextBox& box : desk.program.InfoWindow()->fields)
+    for (const TextBox& box : fixture.program.InfoWindow()->fields)
       CHECK(Trimmed(box.TextOf()) == text);
-    desk.program.InfoWindow()->UserClose();
-    desk.Deck().createOrEditCard.Press();
-    CHECK(desk.program.TextBuilder()->sides[kFrontSide].TextOf() == text);
-    CHECK(desk.program.TextBuilder()->sides[kBackSide].TextOf() == text);
-    desk.CheckNothingElse(kDeck);
+    fixture.program.InfoWindow()->UserClose();
+    fixture.Deck().createOrEditCard.Press();
+    CHECK(fixture.program.TextBuilder()->sides[kFrontSide].TextOf() == text);
+    CHECK(fixture.program.TextBuilder()->sides[kBackSide].TextOf() == text);
+    fixture.CheckNothingElse(kDeck);
   }
 }
 
 TEST_CASE("any text comes through a save as it stands") {
   for (const Text& text : kHostileTexts) {
-    WatchedDesk desk;
-    desk.fakes.files.Put(kDeck, DeckSaying(text, u"E"));
-    desk.Start(kDeck);
-    desk.program.Windows().Run([&] { desk.Deck().SaveDeck(); });
-    CHECK(desk.fakes.messages.shown.back().text == u"This file has been saved to " + kDeck);
-    WatchedDesk next;
-    next.fakes.files.Put(kDeck, desk.fakes.files.Bytes(kDeck));
+    WatchedFixture fixture;
+    fixture.fakes.files.Put(kDeck, DeckSaying(text, u"E"));
+    fixture.Start(kDeck);
+    fixture.program.Windows().Run([&] { fixture.Deck().SaveDeck(); });
+    CHECK(fixture.fakes.messages.shown.back().text == u"This file has been saved to " + kDeck);
+    WatchedFixture next;
+    next.fakes.files.Put(kDeck, fixture.fakes.files.Bytes(kDeck));
     next.Start(kDeck);
     CHECK(next.state.deck.Cell(2, kCardText) == text);
     CHECK(next.state.deck.Cell(2, kBackText) == text);
@@ -121,14 +121,14 @@ TEST_CASE("any text to import is on the card as it stands, and does nothing else
     const std::string line = ToUtf8(text);
     for (const std::string& bytes : {Lines({"STD", "1.", "*>F", line, "*>B", line, "*END*"}),
                                      Lines({"EXT", "1.Q " + line, "=T"})}) {
-      WatchedDesk desk;
-      desk.fakes.files.Put(path, bytes);
-      desk.Start();
-      desk.Deck().UserClose();
-      desk.fakes.dialogs.files = {path};
-      desk.Frame().importTextFile.Press();
-      CHECK(desk.Deck().card.CardText().find(DoubleAmps(text)) != Text::npos);
-      desk.CheckNothingElse(path);
+      WatchedFixture fixture;
+      fixture.fakes.files.Put(path, bytes);
+      fixture.Start();
+      fixture.Deck().UserClose();
+      fixture.fakes.dialogs.files = {path};
+      fixture.Frame().importTextFile.Press();
+      CHECK(fixture.Deck().card.CardText().find(DoubleAmps(text)) != Text::npos);
+      fixture.CheckNothingElse(path);
     }
   }
 }
@@ -136,7 +136,7 @@ TEST_CASE("any text to import is on the card as it stands, and does nothing else
 TEST_CASE("any text goes to the sheet and to the page as it stands") {
   for (const Text& text : kHostileTexts) {
     CAPTURE(ToUtf8(text));
-    PrintDesk sheets(1);
+    PrintFixture sheets(1);
     sheets.state.deck.cardGrid.Set(1, kCardText, text);
     sheets.state.deck.cardGrid.Set(1, kBackText, text);
     sheets.ChoosePrinter();
@@ -145,7 +145,7 @@ TEST_CASE("any text goes to the sheet and to the page as it stands") {
     CHECK(sheets.server.sheets[0].at("A1") == text);
     CHECK(sheets.server.sheets[1].at("C1") == text);
 
-    PrintDesk pages(2);
+    PrintFixture pages(2);
     pages.surface.pageWidth = 1000000;
     pages.state.deck.title = text;
     // The heading of a card stands above the texts of the next one.
@@ -162,14 +162,14 @@ TEST_CASE("any text goes to the sheet and to the page as it stands") {
 TEST_CASE("any name of a deck is in the title and the boxes as it stands") {
   for (const Text& name : kHostileNames) {
     CAPTURE(ToUtf8(name));
-    WatchedDesk desk;
+    WatchedFixture fixture;
     const Text path = u"/decks/" + name;
-    desk.fakes.files.Put(path, ProgramDesk::DeckBytes(1));
-    desk.Start(path);
-    CHECK(desk.Deck().Caption() == name.substr(0, name.find(u'.')) + u"  [STUDY]");
-    desk.program.Windows().Run([&] { desk.Deck().SaveDeck(); });
-    CHECK(desk.fakes.messages.shown.back().text == u"This file has been saved to " + path);
-    desk.CheckNothingElse(path);
+    fixture.fakes.files.Put(path, ProgramFixture::DeckBytes(1));
+    fixture.Start(path);
+    CHECK(fixture.Deck().Caption() == name.substr(0, name.find(u'.')) + u"  [STUDY]");
+    fixture.program.Windows().Run([&] { fixture.Deck().SaveDeck(); });
+    CHECK(fixture.fakes.messages.shown.back().text == u"This file has been saved to " + path);
+    fixture.CheckNothingElse(path);
   }
 }
 

@@ -2,7 +2,7 @@
 
 #include <doctest/doctest.h>
 
-#include "tests/support/program_desk.h"
+#include "tests/support/program_fixture.h"
 
 namespace tessara::test {
 
@@ -10,8 +10,8 @@ namespace {
 
 const Text kDeckPath = u"/decks/birds.tsr";
 
-struct KeyDesk : ProgramDesk {
-  explicit KeyDesk(TextView type = u"E") {
+struct KeyFixture : ProgramFixture {
+  explicit KeyFixture(TextView type = u"E") {
     fakes.files.Put(kDeckPath, DeckBytes(3, type));
     Start(kDeckPath);
   }
@@ -29,41 +29,41 @@ TEST_CASE("Left and Right page and the blank turns, wherever the focus is among 
       [](DeckWindow& deck) -> Control* { return &deck.arrows[kNextCard]; },
   };
   for (const auto& place : places) {
-    KeyDesk desk;
-    place(desk.Deck())->SetFocus();
-    CHECK(desk.After(WindowKey::kSpace) == "back 1");
-    CHECK(desk.After(WindowKey::kRight) == "back 2");
-    CHECK(desk.After(WindowKey::kSpace) == "front 2");
-    CHECK(desk.After(WindowKey::kRight) == "front 3");
-    CHECK(desk.After(WindowKey::kRight) == "front 3");
-    CHECK(desk.After(WindowKey::kLeft) == "front 2");
-    CHECK(desk.After(WindowKey::kLeft) == "front 1");
-    CHECK(desk.After(WindowKey::kLeft) == "front 1");
+    KeyFixture fixture;
+    place(fixture.Deck())->SetFocus();
+    CHECK(fixture.After(WindowKey::kSpace) == "back 1");
+    CHECK(fixture.After(WindowKey::kRight) == "back 2");
+    CHECK(fixture.After(WindowKey::kSpace) == "front 2");
+    CHECK(fixture.After(WindowKey::kRight) == "front 3");
+    CHECK(fixture.After(WindowKey::kRight) == "front 3");
+    CHECK(fixture.After(WindowKey::kLeft) == "front 2");
+    CHECK(fixture.After(WindowKey::kLeft) == "front 1");
+    CHECK(fixture.After(WindowKey::kLeft) == "front 1");
   }
 }
 
 TEST_CASE("with the focus on the button that turns, the arrows page and the blank is its own") {
-  KeyDesk desk;
-  desk.Deck().flip.SetFocus();
-  CHECK(desk.After(WindowKey::kSpace).empty());
-  CHECK(desk.After(WindowKey::kRight) == "front 2");
+  KeyFixture fixture;
+  fixture.Deck().flip.SetFocus();
+  CHECK(fixture.After(WindowKey::kSpace).empty());
+  CHECK(fixture.After(WindowKey::kRight) == "front 2");
 }
 
 TEST_CASE("where nothing can be turned, the blank is the paging button's") {
-  KeyDesk desk(u"T");
-  REQUIRE_FALSE(desk.Deck().flip.Enabled());
-  desk.Deck().arrows[kNextCard].SetFocus();
-  CHECK(desk.After(WindowKey::kSpace).empty());
-  CHECK(desk.After(WindowKey::kRight) == "front 2");
+  KeyFixture fixture(u"T");
+  REQUIRE_FALSE(fixture.Deck().flip.Enabled());
+  fixture.Deck().arrows[kNextCard].SetFocus();
+  CHECK(fixture.After(WindowKey::kSpace).empty());
+  CHECK(fixture.After(WindowKey::kRight) == "front 2");
 }
 
 TEST_CASE("with the focus on another button or a choice, the keys are that control's") {
-  KeyDesk desk;
-  desk.Deck().closeDeck.SetFocus();
+  KeyFixture fixture;
+  fixture.Deck().closeDeck.SetFocus();
   for (const WindowKey key : {WindowKey::kLeft, WindowKey::kRight, WindowKey::kSpace}) {
-    CHECK(desk.After(key).empty());
+    CHECK(fixture.After(key).empty());
   }
-  KeyDesk questions(u"T");
+  KeyFixture questions(u"T");
   questions.Deck().test.Press();
   REQUIRE(questions.Deck().FocusedControl() == &questions.Deck().choices[0]);
   for (const WindowKey key : {WindowKey::kLeft, WindowKey::kRight, WindowKey::kSpace}) {

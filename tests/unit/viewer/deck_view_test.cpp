@@ -1,15 +1,15 @@
 #include <doctest/doctest.h>
 
-#include "tests/support/deck_desk.h"
+#include "tests/support/deck_fixture.h"
 #include "tests/support/sample_deck.h"
 
 namespace tessara::test {
 
 namespace {
 
-/// A desk whose disk holds a deck file, named on the command line.
-struct CommandLineDesk : DeckDesk {
-  explicit CommandLineDesk(const std::string& bytes) {
+/// A fixture whose disk holds a deck file, named on the command line.
+struct CommandLineFixture : DeckFixture {
+  explicit CommandLineFixture(const std::string& bytes) {
     fakes.files.Put(kSamplePath, bytes);
     state.start.commandLineFile = kSamplePath;
   }
@@ -33,15 +33,15 @@ std::string FileOfOneCard(const Text& type) {
 }  // namespace
 
 TEST_CASE("a deck named on the command line comes up in study mode on its first card") {
-  CommandLineDesk desk(StandardFile(3));
-  desk.Load();
-  DeckWindow& deck = desk.deck.Loaded();
+  CommandLineFixture fixture(StandardFile(3));
+  fixture.Load();
+  DeckWindow& deck = fixture.deck.Loaded();
   CHECK(deck.Visible());
   CHECK(deck.Caption() == u"sample  [STUDY]");
-  CHECK(desk.state.deck.filePath == kSamplePath);
-  CHECK(desk.state.deck.currentCard == 1);
-  CHECK(desk.state.deck.mode == kStudyMode);
-  CHECK(desk.state.deck.testPoints == 0);
+  CHECK(fixture.state.deck.filePath == kSamplePath);
+  CHECK(fixture.state.deck.currentCard == 1);
+  CHECK(fixture.state.deck.mode == kStudyMode);
+  CHECK(fixture.state.deck.testPoints == 0);
   CHECK(deck.card.CardText() == u"front 1");
   CHECK(deck.card.CardNumber() == u"1");
   CHECK(deck.card.CardTotal() == u"3");
@@ -59,81 +59,81 @@ TEST_CASE("a deck named on the command line comes up in study mode on its first 
 }
 
 TEST_CASE("a deck from the command line says so, is not on file yet, and is named no more") {
-  CommandLineDesk desk(StandardFile(3));
-  desk.state.deck.changed = true;
-  desk.state.deck.saveOffered = true;
-  desk.Load();
-  CHECK(desk.state.start.deckFromCommandLine);
-  CHECK(desk.state.start.commandLineFile.empty());
-  CHECK_FALSE(desk.state.deck.onFile);
-  CHECK_FALSE(desk.state.deck.changed);
-  CHECK_FALSE(desk.state.deck.saveOffered);
-  CHECK(desk.frame.splashClosed == 1);
-  CHECK(desk.fakes.messages.shown.empty());
+  CommandLineFixture fixture(StandardFile(3));
+  fixture.state.deck.changed = true;
+  fixture.state.deck.saveOffered = true;
+  fixture.Load();
+  CHECK(fixture.state.start.deckFromCommandLine);
+  CHECK(fixture.state.start.commandLineFile.empty());
+  CHECK_FALSE(fixture.state.deck.onFile);
+  CHECK_FALSE(fixture.state.deck.changed);
+  CHECK_FALSE(fixture.state.deck.saveOffered);
+  CHECK(fixture.frame.splashClosed == 1);
+  CHECK(fixture.fakes.messages.shown.empty());
 }
 
 TEST_CASE("a deck from the command line keeps the designed look, whatever the settings say") {
-  CommandLineDesk desk(StandardFile(1));
-  desk.state.settings.largeCardColor = u"1";
-  desk.state.settings.largeCard3D = u"0";
-  desk.state.settings.smallCardColor = u"1";
-  desk.Load();
-  CHECK(desk.deck->card.CardColor() == u"Q");
-  CHECK(desk.deck->cardShadow.Visible());
-  CHECK(desk.deck->answerCard.PictureOf().file == "skins/white_3d.png");
+  CommandLineFixture fixture(StandardFile(1));
+  fixture.state.settings.largeCardColor = u"1";
+  fixture.state.settings.largeCard3D = u"0";
+  fixture.state.settings.smallCardColor = u"1";
+  fixture.Load();
+  CHECK(fixture.deck->card.CardColor() == u"Q");
+  CHECK(fixture.deck->cardShadow.Visible());
+  CHECK(fixture.deck->answerCard.PictureOf().file == "skins/white_3d.png");
 }
 
 TEST_CASE("an extended deck from the command line comes up with the answer on show") {
   for (const TextView type : {u"M", u"T"}) {
-    CommandLineDesk desk(FileOfOneCard(Text(type)));
-    desk.Load();
-    CHECK(desk.state.deck.kind == kExtendedDeck);
-    CHECK(desk.deck->answerCard.Visible());
-    CHECK_FALSE(desk.deck->creditPanel.Visible());
-    CHECK_FALSE(desk.deck->choicePanel.Visible());
-    CHECK(desk.deck->flip.Caption() == u"&Hide Answer");
-    CHECK(desk.deck->card.CardText() == u"the text");
+    CommandLineFixture fixture(FileOfOneCard(Text(type)));
+    fixture.Load();
+    CHECK(fixture.state.deck.kind == kExtendedDeck);
+    CHECK(fixture.deck->answerCard.Visible());
+    CHECK_FALSE(fixture.deck->creditPanel.Visible());
+    CHECK_FALSE(fixture.deck->choicePanel.Visible());
+    CHECK(fixture.deck->flip.Caption() == u"&Hide Answer");
+    CHECK(fixture.deck->card.CardText() == u"the text");
   }
 }
 
 TEST_CASE("a deck of an unknown kind leaves the type as it was, and comes up as one of that") {
-  CommandLineDesk desk(FileOfOneCard(u"Q"));
-  desk.state.deck.kind = kExtendedDeck;
-  desk.Load();
-  CHECK(desk.state.deck.kind == kExtendedDeck);
-  CHECK(desk.deck->Visible());
-  CHECK(desk.deck->answerCard.Visible());
-  CHECK(desk.deck->Caption() == u"sample  [STUDY]");
-  CHECK(desk.deck->card.CardText() == u"the text");
-  CHECK(desk.deck->card.CardTotal() == u"1");
-  CHECK(desk.state.start.deckFromCommandLine);
+  CommandLineFixture fixture(FileOfOneCard(u"Q"));
+  fixture.state.deck.kind = kExtendedDeck;
+  fixture.Load();
+  CHECK(fixture.state.deck.kind == kExtendedDeck);
+  CHECK(fixture.deck->Visible());
+  CHECK(fixture.deck->answerCard.Visible());
+  CHECK(fixture.deck->Caption() == u"sample  [STUDY]");
+  CHECK(fixture.deck->card.CardText() == u"the text");
+  CHECK(fixture.deck->card.CardTotal() == u"1");
+  CHECK(fixture.state.start.deckFromCommandLine);
 }
 
 TEST_CASE("a deck on the command line that is not there ends the program with a report") {
-  DeckDesk desk;
-  desk.state.start.commandLineFile = u"/decks/none.tsr";
-  desk.windows.Run([&] { desk.deck.Loaded(); });
-  REQUIRE(desk.fakes.messages.shown.size() == 1);
-  CHECK(desk.fakes.messages.shown[0].text.starts_with(u"Run-time error '"));
-  CHECK(desk.windows.ExitStatus() == 1);
+  DeckFixture fixture;
+  fixture.state.start.commandLineFile = u"/decks/none.tsr";
+  fixture.windows.Run([&] { fixture.deck.Loaded(); });
+  REQUIRE(fixture.fakes.messages.shown.size() == 1);
+  CHECK(fixture.fakes.messages.shown[0].text.starts_with(u"Run-time error '"));
+  CHECK(fixture.windows.ExitStatus() == 1);
 }
 
 TEST_CASE("without a command line the window loads empty, by the settings, and off screen") {
-  DeckDesk desk;
-  desk.state.settings.largeCardColor = u"1";
-  desk.deck.Loaded();
-  CHECK_FALSE(desk.deck->Visible());
-  CHECK(desk.deck->Caption() == u"New Deck");
-  CHECK(desk.deck->card.CardColor() == u"A");
-  CHECK(desk.deck->card.CardText().empty());
-  CHECK(desk.deck->answer.Caption().empty());
-  CHECK_FALSE(desk.deck->creditPanel.Visible());
-  CHECK(desk.deck->creditPanel.BoundsOf().left == desk.deck->choicePanel.BoundsOf().left);
-  CHECK(desk.deck->creditPanel.BoundsOf().top == desk.deck->choicePanel.BoundsOf().top);
-  CHECK_FALSE(desk.deck->deleteCard.Enabled());
-  CHECK_FALSE(desk.deck->saveDeckAs.Enabled());
-  CHECK_FALSE(desk.state.start.deckFromCommandLine);
-  CHECK(desk.frame.splashClosed == 1);
+  DeckFixture fixture;
+  fixture.state.settings.largeCardColor = u"1";
+  fixture.deck.Loaded();
+  CHECK_FALSE(fixture.deck->Visible());
+  CHECK(fixture.deck->Caption() == u"New Deck");
+  CHECK(fixture.deck->card.CardColor() == u"A");
+  CHECK(fixture.deck->card.CardText().empty());
+  CHECK(fixture.deck->answer.Caption().empty());
+  CHECK_FALSE(fixture.deck->creditPanel.Visible());
+  CHECK(fixture.deck->creditPanel.BoundsOf().left == fixture.deck->choicePanel.BoundsOf().left);
+  CHECK(fixture.deck->creditPanel.BoundsOf().top == fixture.deck->choicePanel.BoundsOf().top);
+  CHECK_FALSE(fixture.deck->deleteCard.Enabled());
+  CHECK_FALSE(fixture.deck->saveDeckAs.Enabled());
+  CHECK_FALSE(fixture.state.start.deckFromCommandLine);
+  CHECK(fixture.frame.splashClosed == 1);
 }
 
 TEST_CASE("the mode menu follows the type of card 1, and an unknown type leaves it") {
@@ -143,9 +143,9 @@ TEST_CASE("the mode menu follows the type of card 1, and an unknown type leaves 
   };
   for (const Case& c :
        {Case{u"E", true}, {u"M", true}, {u"T", true}, {u"e", false}, {u"", false}}) {
-    DeckDesk desk;
-    DeckWindow& deck = desk.deck.Loaded();
-    desk.state.deck.cardGrid.Set(1, kCardType, Text(c.type));
+    DeckFixture fixture;
+    DeckWindow& deck = fixture.deck.Loaded();
+    fixture.state.deck.cardGrid.Set(1, kCardType, Text(c.type));
     deck.ConfigModeMenu(false, false, false);
     deck.modeMenu.SetEnabled(false);
     deck.goToCard.SetEnabled(false);
@@ -159,8 +159,8 @@ TEST_CASE("the mode menu follows the type of card 1, and an unknown type leaves 
 }
 
 TEST_CASE("each mode entry can be hidden and marked by itself") {
-  DeckDesk desk;
-  DeckWindow& deck = desk.deck.Loaded();
+  DeckFixture fixture;
+  DeckWindow& deck = fixture.deck.Loaded();
   const std::vector<MenuEntry*> entries = {&deck.study, &deck.quiz, &deck.test};
   for (int mode = 0; mode < 4; ++mode) {
     deck.ConfigModeMenu(mode == 0, mode == 1, mode == 2);
@@ -173,47 +173,47 @@ TEST_CASE("each mode entry can be hidden and marked by itself") {
 }
 
 TEST_CASE("a repaint keeps the side, and of an unknown deck type shows the numbers alone") {
-  DeckDesk desk;
-  desk.OpenStandardDeck(2);
-  desk.deck->flip.Press();
-  desk.state.deck.cardGrid.Set(1, kBackText, u"new back");
-  desk.deck->AfterEditShow(kStandardDeck);
-  CHECK(desk.deck->card.CardText() == u"new back");
-  desk.state.deck.cardGrid.Set(1, kBackText, u"newer back");
-  desk.state.deck.currentCard = 2;
-  desk.deck->AfterEditShow(static_cast<DeckKind>(7));
-  CHECK(desk.deck->card.CardText() == u"new back");
-  CHECK(desk.deck->card.CardNumber() == u"2");
+  DeckFixture fixture;
+  fixture.OpenStandardDeck(2);
+  fixture.deck->flip.Press();
+  fixture.state.deck.cardGrid.Set(1, kBackText, u"new back");
+  fixture.deck->AfterEditShow(kStandardDeck);
+  CHECK(fixture.deck->card.CardText() == u"new back");
+  fixture.state.deck.cardGrid.Set(1, kBackText, u"newer back");
+  fixture.state.deck.currentCard = 2;
+  fixture.deck->AfterEditShow(static_cast<DeckKind>(7));
+  CHECK(fixture.deck->card.CardText() == u"new back");
+  CHECK(fixture.deck->card.CardNumber() == u"2");
 }
 
 TEST_CASE("a click on the window's background closes the About box") {
-  DeckDesk desk;
-  desk.OpenStandardDeck(1);
-  desk.deck->UserClick();
-  CHECK(desk.frame.aboutClosed == 1);
+  DeckFixture fixture;
+  fixture.OpenStandardDeck(1);
+  fixture.deck->UserClick();
+  CHECK(fixture.frame.aboutClosed == 1);
 }
 
 TEST_CASE("the information command opens its window in the middle and locks the deck window") {
-  DeckDesk desk;
-  desk.OpenStandardDeck(1);
-  desk.deck->deckInfo.Press();
-  CHECK(desk.info->Visible());
-  CHECK(desk.info->Height() == 4650);
-  CHECK(desk.info->Width() == 6270);
-  CHECK(desk.info->Top() == (9000 - 4650) / 2);
-  CHECK_FALSE(desk.deck->Enabled());
-  desk.info->Unload();
-  CHECK(desk.deck->Enabled());
+  DeckFixture fixture;
+  fixture.OpenStandardDeck(1);
+  fixture.deck->deckInfo.Press();
+  CHECK(fixture.info->Visible());
+  CHECK(fixture.info->Height() == 4650);
+  CHECK(fixture.info->Width() == 6270);
+  CHECK(fixture.info->Top() == (9000 - 4650) / 2);
+  CHECK_FALSE(fixture.deck->Enabled());
+  fixture.info->Unload();
+  CHECK(fixture.deck->Enabled());
 }
 
 TEST_CASE("every control of the window has something to say to a screen reader") {
-  DeckDesk desk;
-  for (const Control* control : desk.deck->Controls()) {
+  DeckFixture fixture;
+  for (const Control* control : fixture.deck->Controls()) {
     const auto* captioned = dynamic_cast<const CaptionedControl*>(control);
     CAPTURE(control->Name());
     CHECK((!control->AccessibleName().empty() ||
            (captioned != nullptr && !captioned->Caption().empty()) ||
-           control == &desk.deck->answer));
+           control == &fixture.deck->answer));
   }
 }
 

@@ -1,6 +1,6 @@
 #include <doctest/doctest.h>
 
-#include "tests/support/deck_desk.h"
+#include "tests/support/deck_fixture.h"
 
 namespace tessara::test {
 
@@ -8,21 +8,21 @@ namespace {
 
 constexpr CardMode kModes[] = {kStudyMode, kQuizMode, kTestMode};
 
-void Enter(DeckDesk& desk, CardMode mode) {
-  MenuEntry* const entries[] = {&desk.deck->study, &desk.deck->quiz, &desk.deck->test};
+void Enter(DeckFixture& fixture, CardMode mode) {
+  MenuEntry* const entries[] = {&fixture.deck->study, &fixture.deck->quiz, &fixture.deck->test};
   entries[static_cast<std::size_t>(mode)]->Press();
 }
 
 /// Leaves traces of a mode: another card or side, a banner, points.
-void GoOn(DeckDesk& desk, CardMode mode, bool extended) {
+void GoOn(DeckFixture& fixture, CardMode mode, bool extended) {
   if (mode != kTestMode) {
-    desk.deck->arrows[kNextCard].Press();
-    desk.deck->flip.Press();
+    fixture.deck->arrows[kNextCard].Press();
+    fixture.deck->flip.Press();
   } else if (extended) {
-    desk.deck->choices[0].Press();
+    fixture.deck->choices[0].Press();
   } else {
-    desk.deck->flip.Press();
-    desk.deck->credits[kPartialCredit].Press();
+    fixture.deck->flip.Press();
+    fixture.deck->credits[kPartialCredit].Press();
   }
 }
 
@@ -57,11 +57,11 @@ constexpr Entry kEntries[] = {
      u"Next Question", false},
 };
 
-void CheckEntered(DeckDesk& desk, const Entry& entry) {
-  const DeckWindow& deck = desk.deck.Loaded();
-  CHECK(desk.state.deck.mode == entry.mode);
-  CHECK(desk.state.deck.currentCard == 1);
-  CHECK(desk.state.deck.testPoints == 0);
+void CheckEntered(DeckFixture& fixture, const Entry& entry) {
+  const DeckWindow& deck = fixture.deck.Loaded();
+  CHECK(fixture.state.deck.mode == entry.mode);
+  CHECK(fixture.state.deck.currentCard == 1);
+  CHECK(fixture.state.deck.testPoints == 0);
   CHECK(deck.card.CardNumber() == u"1");
   CHECK(deck.card.CardText() == (entry.extended ? u"question 1" : u"front 1"));
   CHECK(deck.card.CardBanner().empty());
@@ -96,16 +96,16 @@ TEST_CASE("every mode can be entered from every mode, and starts over on card 1"
         CAPTURE(from);
         CAPTURE(entry.mode);
         CAPTURE(afterSteps);
-        DeckDesk desk;
-        entry.extended ? desk.OpenExtendedDeck(3) : desk.OpenStandardDeck(3);
-        Enter(desk, from);
-        if (afterSteps) GoOn(desk, from, entry.extended);
-        Enter(desk, entry.mode);
-        CheckEntered(desk, entry);
+        DeckFixture fixture;
+        entry.extended ? fixture.OpenExtendedDeck(3) : fixture.OpenStandardDeck(3);
+        Enter(fixture, from);
+        if (afterSteps) GoOn(fixture, from, entry.extended);
+        Enter(fixture, entry.mode);
+        CheckEntered(fixture, entry);
         // The one button that a test does not reset: it is on after an answered question.
         const bool answered = from == kTestMode && afterSteps && entry.extended;
         const bool leftOn = answered && entry.mode == kTestMode;
-        CHECK(desk.deck->nextOrScore.Enabled() == leftOn);
+        CHECK(fixture.deck->nextOrScore.Enabled() == leftOn);
       }
     }
   }
@@ -113,60 +113,60 @@ TEST_CASE("every mode can be entered from every mode, and starts over on card 1"
 
 TEST_CASE("a change of mode leaves the deck and its flags alone") {
   for (const CardMode mode : kModes) {
-    DeckDesk desk;
-    desk.OpenStandardDeck(2);
-    desk.state.deck.filePath = u"/decks/birds.tsr";
-    desk.state.deck.changed = true;
-    desk.state.deck.saveOffered = true;
-    Enter(desk, mode);
-    CHECK(desk.state.deck.filePath == u"/decks/birds.tsr");
-    CHECK(desk.state.deck.changed);
-    CHECK(desk.state.deck.saveOffered);
-    CHECK(desk.state.deck.cardCount == 2);
-    CHECK(desk.state.deck.Cell(2, kBackText) == u"back 2");
-    CHECK(desk.deck->Caption().starts_with(u"birds  ["));
+    DeckFixture fixture;
+    fixture.OpenStandardDeck(2);
+    fixture.state.deck.filePath = u"/decks/birds.tsr";
+    fixture.state.deck.changed = true;
+    fixture.state.deck.saveOffered = true;
+    Enter(fixture, mode);
+    CHECK(fixture.state.deck.filePath == u"/decks/birds.tsr");
+    CHECK(fixture.state.deck.changed);
+    CHECK(fixture.state.deck.saveOffered);
+    CHECK(fixture.state.deck.cardCount == 2);
+    CHECK(fixture.state.deck.Cell(2, kBackText) == u"back 2");
+    CHECK(fixture.deck->Caption().starts_with(u"birds  ["));
   }
 }
 
 TEST_CASE("the window can't be closed outside study, and says why") {
   for (const CardMode mode : {kQuizMode, kTestMode}) {
-    DeckDesk desk;
-    desk.OpenStandardDeck(2);
-    Enter(desk, mode);
-    desk.deck->closeDeck.Press();
-    desk.deck->UserClose();
-    CHECK(desk.deck.IsLoaded());
-    CHECK(desk.deck->Visible());
+    DeckFixture fixture;
+    fixture.OpenStandardDeck(2);
+    Enter(fixture, mode);
+    fixture.deck->closeDeck.Press();
+    fixture.deck->UserClose();
+    CHECK(fixture.deck.IsLoaded());
+    CHECK(fixture.deck->Visible());
     const FakeMessages::Shown refusal = {u"Tessara must be in study mode before quiting.", 0,
                                          u"Quit"};
-    CHECK(desk.fakes.messages.shown == std::vector<FakeMessages::Shown>{refusal, refusal});
+    CHECK(fixture.fakes.messages.shown == std::vector<FakeMessages::Shown>{refusal, refusal});
   }
 }
 
 TEST_CASE("in study the close button closes a deck after a question") {
-  DeckDesk desk;
-  desk.OpenStandardDeck(2);
-  desk.fakes.messages.answers = {MessageAnswer::kYes};
-  desk.deck->closeDeck.Press();
-  CHECK_FALSE(desk.deck.IsLoaded());
-  CHECK(desk.state.deck.cardCount == 0);
+  DeckFixture fixture;
+  fixture.OpenStandardDeck(2);
+  fixture.fakes.messages.answers = {MessageAnswer::kYes};
+  fixture.deck->closeDeck.Press();
+  CHECK_FALSE(fixture.deck.IsLoaded());
+  CHECK(fixture.state.deck.cardCount == 0);
 }
 
 TEST_CASE("an activation in a quiz or a test sets the arrows by the place in the deck") {
   for (const CardMode mode : {kQuizMode, kTestMode}) {
-    DeckDesk desk;
-    desk.OpenExtendedDeck(3);
-    Enter(desk, mode);
-    desk.deck->arrows[kNextCard].Press();
-    desk.deck->Hide();
-    desk.deck->Show();
+    DeckFixture fixture;
+    fixture.OpenExtendedDeck(3);
+    Enter(fixture, mode);
+    fixture.deck->arrows[kNextCard].Press();
+    fixture.deck->Hide();
+    fixture.deck->Show();
     const bool moved = mode == kQuizMode;
-    CHECK(desk.state.deck.currentCard == (moved ? 2 : 1));
-    CHECK(desk.deck->arrows[kPreviousCard].Enabled() == moved);
-    CHECK(desk.deck->arrows[kNextCard].Enabled());
-    CHECK(desk.state.deck.mode == mode);
-    CHECK_FALSE(desk.deck->fileMenu.Enabled());
-    CHECK(desk.deck->answerCard.Visible() == false);
+    CHECK(fixture.state.deck.currentCard == (moved ? 2 : 1));
+    CHECK(fixture.deck->arrows[kPreviousCard].Enabled() == moved);
+    CHECK(fixture.deck->arrows[kNextCard].Enabled());
+    CHECK(fixture.state.deck.mode == mode);
+    CHECK_FALSE(fixture.deck->fileMenu.Enabled());
+    CHECK(fixture.deck->answerCard.Visible() == false);
   }
 }
 

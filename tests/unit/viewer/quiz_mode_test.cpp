@@ -1,6 +1,6 @@
 #include <doctest/doctest.h>
 
-#include "tests/support/deck_desk.h"
+#include "tests/support/deck_fixture.h"
 
 namespace tessara::test {
 
@@ -13,28 +13,28 @@ constexpr TextView kExtendedEnd = u"You have completed this quiz, please return 
 
 TEST_CASE("a quiz starts on the question of card 1, forward only") {
   for (const bool extended : {false, true}) {
-    DeckDesk desk;
-    extended ? desk.OpenExtendedDeck(3) : desk.OpenStandardDeck(3);
-    desk.deck->arrows[kNextCard].Press();
-    desk.deck->quiz.Press();
-    CHECK(desk.state.deck.mode == kQuizMode);
-    CHECK(desk.state.deck.currentCard == 1);
-    CHECK(desk.deck->card.CardNumber() == u"1");
-    CHECK_FALSE(desk.deck->arrows[kPreviousCard].Enabled());
-    CHECK(desk.deck->arrows[kNextCard].Enabled());
-    CHECK(desk.deck->Caption() == u"  [QUIZ]");
-    CHECK_FALSE(desk.deck->fileMenu.Enabled());
-    CHECK_FALSE(desk.deck->utilityMenu.Enabled());
-    CHECK(desk.deck->modeMenu.Enabled());
-    CHECK(desk.deck->quiz.Checked());
-    CHECK_FALSE(desk.deck->study.Checked());
-    CHECK_FALSE(desk.deck->answerCard.Visible());
-    CHECK(desk.deck->flip.Caption() == (extended ? u"&Show Answer" : u"&Show Back"));
+    DeckFixture fixture;
+    extended ? fixture.OpenExtendedDeck(3) : fixture.OpenStandardDeck(3);
+    fixture.deck->arrows[kNextCard].Press();
+    fixture.deck->quiz.Press();
+    CHECK(fixture.state.deck.mode == kQuizMode);
+    CHECK(fixture.state.deck.currentCard == 1);
+    CHECK(fixture.deck->card.CardNumber() == u"1");
+    CHECK_FALSE(fixture.deck->arrows[kPreviousCard].Enabled());
+    CHECK(fixture.deck->arrows[kNextCard].Enabled());
+    CHECK(fixture.deck->Caption() == u"  [QUIZ]");
+    CHECK_FALSE(fixture.deck->fileMenu.Enabled());
+    CHECK_FALSE(fixture.deck->utilityMenu.Enabled());
+    CHECK(fixture.deck->modeMenu.Enabled());
+    CHECK(fixture.deck->quiz.Checked());
+    CHECK_FALSE(fixture.deck->study.Checked());
+    CHECK_FALSE(fixture.deck->answerCard.Visible());
+    CHECK(fixture.deck->flip.Caption() == (extended ? u"&Show Answer" : u"&Show Back"));
   }
 }
 
 TEST_CASE("each new card of a quiz starts on its question") {
-  DeckDesk standard;
+  DeckFixture standard;
   standard.OpenStandardDeck(3);
   standard.deck->quiz.Press();
   standard.deck->flip.Press();
@@ -42,7 +42,7 @@ TEST_CASE("each new card of a quiz starts on its question") {
   standard.deck->arrows[kNextCard].Press();
   CHECK(standard.deck->card.CardText() == u"front 2");
   CHECK(standard.deck->card.FrontLines());
-  DeckDesk extended;
+  DeckFixture extended;
   extended.OpenExtendedDeck(3);
   extended.deck->quiz.Press();
   extended.deck->flip.Press();
@@ -55,22 +55,22 @@ TEST_CASE("each new card of a quiz starts on its question") {
 
 TEST_CASE("the end of a quiz is noticed by a flip of the last card, worded by deck type") {
   for (const bool extended : {false, true}) {
-    DeckDesk desk;
-    extended ? desk.OpenExtendedDeck(2) : desk.OpenStandardDeck(2);
-    desk.deck->quiz.Press();
-    desk.deck->flip.Press();
-    CHECK(desk.deck->card.CardBanner().empty());
-    desk.deck->arrows[kNextCard].Press();
-    CHECK(desk.deck->card.CardBanner().empty());
-    CHECK_FALSE(desk.deck->arrows[kNextCard].Enabled());
+    DeckFixture fixture;
+    extended ? fixture.OpenExtendedDeck(2) : fixture.OpenStandardDeck(2);
+    fixture.deck->quiz.Press();
+    fixture.deck->flip.Press();
+    CHECK(fixture.deck->card.CardBanner().empty());
+    fixture.deck->arrows[kNextCard].Press();
+    CHECK(fixture.deck->card.CardBanner().empty());
+    CHECK_FALSE(fixture.deck->arrows[kNextCard].Enabled());
     for (int flip = 0; flip < 2; ++flip) {
-      desk.deck->flip.Press();
-      CHECK(desk.deck->card.CardBanner() == (extended ? kExtendedEnd : kStandardEnd));
+      fixture.deck->flip.Press();
+      CHECK(fixture.deck->card.CardBanner() == (extended ? kExtendedEnd : kStandardEnd));
     }
-    CHECK(desk.state.deck.mode == kQuizMode);
-    desk.deck->quiz.Press();
-    CHECK(desk.deck->card.CardBanner().empty());
-    CHECK(desk.state.deck.currentCard == 1);
+    CHECK(fixture.state.deck.mode == kQuizMode);
+    fixture.deck->quiz.Press();
+    CHECK(fixture.deck->card.CardBanner().empty());
+    CHECK(fixture.state.deck.currentCard == 1);
   }
 }
 
@@ -92,96 +92,96 @@ TEST_CASE("the states of a quiz, step by step") {
       {kStart, 1, false, true, false},
   };
   for (const bool extended : {false, true}) {
-    DeckDesk desk;
-    extended ? desk.OpenExtendedDeck(3) : desk.OpenStandardDeck(3);
+    DeckFixture fixture;
+    extended ? fixture.OpenExtendedDeck(3) : fixture.OpenStandardDeck(3);
     for (const Step& step : kWalk) {
-      if (step.event == kStart) desk.deck->quiz.Press();
-      if (step.event == kFlip) desk.deck->flip.Press();
-      if (step.event == kNext) desk.deck->arrows[kNextCard].Press();
+      if (step.event == kStart) fixture.deck->quiz.Press();
+      if (step.event == kFlip) fixture.deck->flip.Press();
+      if (step.event == kNext) fixture.deck->arrows[kNextCard].Press();
       CAPTURE(&step - kWalk);
-      CHECK(desk.state.deck.currentCard == step.card);
-      CHECK(desk.deck->card.CardNumber() == DecimalText(step.card));
-      const Text caption = desk.deck->flip.Caption();
+      CHECK(fixture.state.deck.currentCard == step.card);
+      CHECK(fixture.deck->card.CardNumber() == DecimalText(step.card));
+      const Text caption = fixture.deck->flip.Caption();
       CHECK((caption == u"&Show Front" || caption == u"&Hide Answer") == step.answerOnShow);
-      CHECK(desk.deck->arrows[kNextCard].Enabled() == step.nextEnabled);
-      CHECK_FALSE(desk.deck->arrows[kPreviousCard].Enabled());
-      CHECK(desk.deck->flip.Enabled());
-      CHECK(desk.deck->card.CardBanner().empty() != step.bannerShown);
+      CHECK(fixture.deck->arrows[kNextCard].Enabled() == step.nextEnabled);
+      CHECK_FALSE(fixture.deck->arrows[kPreviousCard].Enabled());
+      CHECK(fixture.deck->flip.Enabled());
+      CHECK(fixture.deck->card.CardBanner().empty() != step.bannerShown);
     }
   }
 }
 
 TEST_CASE("a quiz of a deck whose first card is empty can't be flipped and has no end") {
-  DeckDesk desk;
-  desk.AddTextCard(u"", u"back 1");
-  desk.AddTextCard(u"front 2", u"back 2");
-  desk.Open(kStandardDeck);
-  desk.deck->EnterQuizMode();
-  desk.deck->arrows[kNextCard].Press();
-  desk.deck->flip.Press();
-  CHECK(desk.deck->card.CardText() == u"front 2");
-  CHECK(desk.deck->card.CardBanner().empty());
+  DeckFixture fixture;
+  fixture.AddTextCard(u"", u"back 1");
+  fixture.AddTextCard(u"front 2", u"back 2");
+  fixture.Open(kStandardDeck);
+  fixture.deck->EnterQuizMode();
+  fixture.deck->arrows[kNextCard].Press();
+  fixture.deck->flip.Press();
+  CHECK(fixture.deck->card.CardText() == u"front 2");
+  CHECK(fixture.deck->card.CardBanner().empty());
 }
 
 TEST_CASE("an answer is written when it is asked for, not before") {
-  DeckDesk desk;
-  desk.OpenExtendedDeck(2);
-  desk.deck->quiz.Press();
-  desk.deck->arrows[kNextCard].Press();
-  CHECK(desk.deck->answer.Caption() == u"TRUE");
-  desk.deck->flip.Press();
-  CHECK(desk.deck->answer.Caption() == u"two");
+  DeckFixture fixture;
+  fixture.OpenExtendedDeck(2);
+  fixture.deck->quiz.Press();
+  fixture.deck->arrows[kNextCard].Press();
+  CHECK(fixture.deck->answer.Caption() == u"TRUE");
+  fixture.deck->flip.Press();
+  CHECK(fixture.deck->answer.Caption() == u"two");
 }
 
 TEST_CASE("the focus follows the steps of a quiz") {
   for (const bool extended : {false, true}) {
-    DeckDesk desk;
-    extended ? desk.OpenExtendedDeck(2) : desk.OpenStandardDeck(2);
-    desk.deck->quiz.Press();
-    CHECK(desk.deck->FocusedControl() == &desk.deck->flip);
-    desk.deck->flip.Press();
-    CHECK(desk.deck->FocusedControl() == &desk.deck->arrows[kNextCard]);
-    desk.deck->arrows[kNextCard].Press();
-    CHECK(desk.deck->FocusedControl() == &desk.deck->flip);
-    desk.deck->flip.Press();
-    CHECK(desk.deck->FocusedControl() == &desk.deck->flip);
+    DeckFixture fixture;
+    extended ? fixture.OpenExtendedDeck(2) : fixture.OpenStandardDeck(2);
+    fixture.deck->quiz.Press();
+    CHECK(fixture.deck->FocusedControl() == &fixture.deck->flip);
+    fixture.deck->flip.Press();
+    CHECK(fixture.deck->FocusedControl() == &fixture.deck->arrows[kNextCard]);
+    fixture.deck->arrows[kNextCard].Press();
+    CHECK(fixture.deck->FocusedControl() == &fixture.deck->flip);
+    fixture.deck->flip.Press();
+    CHECK(fixture.deck->FocusedControl() == &fixture.deck->flip);
   }
 }
 
 TEST_CASE("a deck of one card can be walked past its end before a flip") {
-  DeckDesk desk;
-  desk.OpenStandardDeck(1);
-  desk.deck->quiz.Press();
-  CHECK(desk.deck->arrows[kNextCard].Enabled());
-  desk.deck->arrows[kNextCard].Press();
-  CHECK(desk.state.deck.currentCard == 2);
-  CHECK(desk.deck->card.CardText().empty());
-  CHECK(desk.deck->card.CardNumber() == u"2");
-  CHECK_FALSE(desk.deck->arrows[kNextCard].Enabled());
-  desk.deck->flip.Press();
-  CHECK(desk.deck->card.CardBanner().empty());
+  DeckFixture fixture;
+  fixture.OpenStandardDeck(1);
+  fixture.deck->quiz.Press();
+  CHECK(fixture.deck->arrows[kNextCard].Enabled());
+  fixture.deck->arrows[kNextCard].Press();
+  CHECK(fixture.state.deck.currentCard == 2);
+  CHECK(fixture.deck->card.CardText().empty());
+  CHECK(fixture.deck->card.CardNumber() == u"2");
+  CHECK_FALSE(fixture.deck->arrows[kNextCard].Enabled());
+  fixture.deck->flip.Press();
+  CHECK(fixture.deck->card.CardBanner().empty());
 }
 
 TEST_CASE("an activation may enable the back arrow, which then moves forward") {
-  DeckDesk desk;
-  desk.OpenStandardDeck(4);
-  desk.deck->quiz.Press();
-  desk.deck->arrows[kNextCard].Press();
-  desk.deck->Hide();
-  desk.deck->Show();
-  CHECK(desk.deck->arrows[kPreviousCard].Enabled());
-  desk.deck->arrows[kPreviousCard].Press();
-  CHECK(desk.state.deck.currentCard == 3);
-  CHECK_FALSE(desk.deck->arrows[kPreviousCard].Enabled());
+  DeckFixture fixture;
+  fixture.OpenStandardDeck(4);
+  fixture.deck->quiz.Press();
+  fixture.deck->arrows[kNextCard].Press();
+  fixture.deck->Hide();
+  fixture.deck->Show();
+  CHECK(fixture.deck->arrows[kPreviousCard].Enabled());
+  fixture.deck->arrows[kPreviousCard].Press();
+  CHECK(fixture.state.deck.currentCard == 3);
+  CHECK_FALSE(fixture.deck->arrows[kPreviousCard].Enabled());
 }
 
 TEST_CASE("a quiz keeps no score") {
-  DeckDesk desk;
-  desk.OpenExtendedDeck(2);
-  desk.state.deck.testPoints = 7;
-  desk.deck->quiz.Press();
-  desk.deck->flip.Press();
-  CHECK(desk.state.deck.testPoints == 0);
+  DeckFixture fixture;
+  fixture.OpenExtendedDeck(2);
+  fixture.state.deck.testPoints = 7;
+  fixture.deck->quiz.Press();
+  fixture.deck->flip.Press();
+  CHECK(fixture.state.deck.testPoints == 0);
 }
 
 }  // namespace tessara::test

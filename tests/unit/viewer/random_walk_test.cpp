@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "deck/card_display.h"
-#include "tests/support/deck_desk.h"
+#include "tests/support/deck_fixture.h"
 #include "viewer/answer_text.h"
 
 namespace tessara::test {
@@ -19,8 +19,8 @@ constexpr int kSteps = 5000;
 class Walk {
  public:
   Walk(bool extended, int cards, unsigned seed) : random_(seed), cards_(cards) {
-    extended ? desk_.OpenExtendedDeck(cards) : desk_.OpenStandardDeck(cards);
-    desk_.deck->study.Press();
+    extended ? fixture_.OpenExtendedDeck(cards) : fixture_.OpenStandardDeck(cards);
+    fixture_.deck->study.Press();
     ListSteps();
   }
 
@@ -29,14 +29,14 @@ class Walk {
     trace_ += step.name + " ";
     if (trace_.size() > 300) trace_.erase(0, trace_.size() - 300);
     step.action();
-    desk_.fakes.messages.answers.clear();
-    desk_.fakes.messages.shown.clear();
-    desk_.fakes.dialogs.texts.clear();
+    fixture_.fakes.messages.answers.clear();
+    fixture_.fakes.messages.shown.clear();
+    fixture_.fakes.dialogs.texts.clear();
     CAPTURE(trace_);
     CheckAll();
   }
 
-  [[nodiscard]] bool Over() const { return desk_.state.deck.cardCount == 0; }
+  [[nodiscard]] bool Over() const { return fixture_.state.deck.cardCount == 0; }
 
  private:
   struct Step {
@@ -47,7 +47,7 @@ class Walk {
   std::size_t Random(int count) { return random_() % static_cast<unsigned>(count); }
 
   void ListSteps() {
-    DeckWindow& deck = desk_.deck.Loaded();
+    DeckWindow& deck = fixture_.deck.Loaded();
     const auto press = [this](auto& control, int times) {
       for (int at = 0; at < times; ++at) {
         steps_.push_back({control.Name(), [&control] { control.Press(); }});
@@ -64,22 +64,22 @@ class Walk {
                         deck.Show();
                       }});
     steps_.push_back({"close", [this, &deck] {
-                        desk_.fakes.messages.answers = {MessageAnswer::kNo, MessageAnswer::kNo};
+                        fixture_.fakes.messages.answers = {MessageAnswer::kNo, MessageAnswer::kNo};
                         deck.closeDeck.Press();
                       }});
     steps_.push_back({"delete", [this] { Delete(); }});
     steps_.push_back({"go-to", [this, &deck] {
                         const int number = static_cast<int>(Random(cards_ + 4)) - 2;
-                        desk_.fakes.dialogs.texts = {DecimalText(number)};
+                        fixture_.fakes.dialogs.texts = {DecimalText(number)};
                         deck.goToCard.Press();
                       }});
   }
 
   void Delete() {
     const bool agreed = Random(12) == 0;
-    desk_.fakes.messages.answers = {agreed ? MessageAnswer::kYes : MessageAnswer::kNo};
-    desk_.deck->deleteCard.Press();
-    frontOnShow_ = frontOnShow_ || !desk_.fakes.messages.shown.empty();
+    fixture_.fakes.messages.answers = {agreed ? MessageAnswer::kYes : MessageAnswer::kNo};
+    fixture_.deck->deleteCard.Press();
+    frontOnShow_ = frontOnShow_ || !fixture_.fakes.messages.shown.empty();
   }
 
   void CheckAll() {
@@ -102,7 +102,7 @@ class Walk {
   /// A delete shows the front under either caption, until the card is painted anew.
   void CheckSide() {
     const TextView caption = Deck().flip.Caption();
-    const ProgramState& state = desk_.state;
+    const ProgramState& state = fixture_.state;
     const auto shows = [&](int column) {
       return Deck().card.CardText() == DoubleAmps(state.deck.Cell(state.deck.currentCard, column));
     };
@@ -127,43 +127,43 @@ class Walk {
   }
 
   void CheckPoints() const {
-    const double points = desk_.state.deck.testPoints;
+    const double points = fixture_.state.deck.testPoints;
     CHECK(points >= 0);
-    CHECK(points <= desk_.state.deck.cardCount);
+    CHECK(points <= fixture_.state.deck.cardCount);
     CHECK(points * 2 == static_cast<int>(points * 2));
     if (!Testing()) CHECK(points == 0);
   }
 
   void CheckMenus() const {
     const DeckWindow& deck = Deck();
-    const CardMode mode = desk_.state.deck.mode;
+    const CardMode mode = fixture_.state.deck.mode;
     CHECK(deck.study.Checked() == (mode == kStudyMode));
     CHECK(deck.quiz.Checked() == (mode == kQuizMode));
     CHECK(deck.test.Checked() == (mode == kTestMode));
     CHECK(deck.fileMenu.Enabled() == (mode == kStudyMode));
     CHECK(deck.utilityMenu.Enabled() == (mode == kStudyMode));
-    CHECK(deck.deleteCard.Enabled() == (desk_.state.deck.cardCount > 0));
+    CHECK(deck.deleteCard.Enabled() == (fixture_.state.deck.cardCount > 0));
     constexpr TextView kMarks[] = {u"[STUDY]", u"[QUIZ]", u"[TEST]"};
     CHECK(deck.Caption() == u"  " + Text(kMarks[static_cast<std::size_t>(mode)]));
     if (!Testing() || !Extended()) CHECK_FALSE(deck.nextOrScore.Enabled());
   }
 
   void CheckPlace() const {
-    const ProgramState& state = desk_.state;
+    const ProgramState& state = fixture_.state;
     CHECK(Deck().Visible());
     CHECK(state.deck.currentCard >= (state.deck.cardCount == 0 ? 0 : 1));
     if (state.deck.mode != kQuizMode) CHECK(state.deck.currentCard <= state.deck.cardCount);
     CHECK(Deck().card.CardNumber() == DecimalText(state.deck.currentCard));
     CHECK(Deck().card.CardTotal() == DecimalText(state.deck.cardCount));
-    CHECK_FALSE(desk_.windows.ExitStatus());
+    CHECK_FALSE(fixture_.windows.ExitStatus());
   }
 
-  [[nodiscard]] const DeckWindow& Deck() const { return desk_.deck.Instance(); }
-  [[nodiscard]] bool Testing() const { return desk_.state.deck.mode == kTestMode; }
-  [[nodiscard]] bool Extended() const { return desk_.state.deck.kind == kExtendedDeck; }
+  [[nodiscard]] const DeckWindow& Deck() const { return fixture_.deck.Instance(); }
+  [[nodiscard]] bool Testing() const { return fixture_.state.deck.mode == kTestMode; }
+  [[nodiscard]] bool Extended() const { return fixture_.state.deck.kind == kExtendedDeck; }
 
   std::mt19937 random_;
-  DeckDesk desk_;
+  DeckFixture fixture_;
   int cards_;
   std::vector<Step> steps_;
   std::string trace_;

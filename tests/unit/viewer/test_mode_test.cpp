@@ -3,7 +3,7 @@
 #include <random>
 #include <vector>
 
-#include "tests/support/deck_desk.h"
+#include "tests/support/deck_fixture.h"
 
 namespace tessara::test {
 
@@ -11,33 +11,33 @@ namespace {
 
 enum Credit { kNone = 0, kFull = 1, kPartial = 2 };
 
-void Grade(DeckDesk& desk, Credit credit) {
-  desk.deck->flip.Press();
-  desk.deck->credits[credit].Press();
+void Grade(DeckFixture& fixture, Credit credit) {
+  fixture.deck->flip.Press();
+  fixture.deck->credits[credit].Press();
 }
 
 }  // namespace
 
 TEST_CASE("a standard test opens grading with a flip and closes it with a grade") {
-  DeckDesk desk;
-  desk.OpenStandardDeck(2);
-  desk.deck->test.Press();
-  CHECK(desk.deck->creditPanel.Visible());
-  CHECK_FALSE(desk.deck->creditPanel.Enabled());
-  CHECK_FALSE(desk.deck->choicePanel.Visible());
-  CHECK(desk.deck->nextOrScore.Caption().empty());
-  desk.deck->credits[kFull].Press();
-  CHECK(desk.state.deck.testPoints == 0);
-  desk.deck->flip.Press();
-  CHECK(desk.deck->creditPanel.Enabled());
-  CHECK(desk.deck->card.CardText() == u"back 1");
-  desk.deck->flip.Press();
-  CHECK(desk.deck->creditPanel.Enabled());
-  desk.deck->credits[kPartial].Press();
-  CHECK(desk.state.deck.testPoints == 0.5);
-  CHECK_FALSE(desk.deck->creditPanel.Enabled());
-  CHECK(desk.deck->card.CardText() == u"front 2");
-  CHECK(desk.deck->flip.Caption() == u"&Show Back");
+  DeckFixture fixture;
+  fixture.OpenStandardDeck(2);
+  fixture.deck->test.Press();
+  CHECK(fixture.deck->creditPanel.Visible());
+  CHECK_FALSE(fixture.deck->creditPanel.Enabled());
+  CHECK_FALSE(fixture.deck->choicePanel.Visible());
+  CHECK(fixture.deck->nextOrScore.Caption().empty());
+  fixture.deck->credits[kFull].Press();
+  CHECK(fixture.state.deck.testPoints == 0);
+  fixture.deck->flip.Press();
+  CHECK(fixture.deck->creditPanel.Enabled());
+  CHECK(fixture.deck->card.CardText() == u"back 1");
+  fixture.deck->flip.Press();
+  CHECK(fixture.deck->creditPanel.Enabled());
+  fixture.deck->credits[kPartial].Press();
+  CHECK(fixture.state.deck.testPoints == 0.5);
+  CHECK_FALSE(fixture.deck->creditPanel.Enabled());
+  CHECK(fixture.deck->card.CardText() == u"front 2");
+  CHECK(fixture.deck->flip.Caption() == u"&Show Back");
 }
 
 TEST_CASE("the score of a standard test counts points in halves") {
@@ -52,12 +52,12 @@ TEST_CASE("the score of a standard test counts points in halves") {
       {{kNone}, u"Complete: You scored 0 points out of a possible 1"},
   };
   for (const Case& c : cases) {
-    DeckDesk desk;
-    desk.OpenStandardDeck(static_cast<int>(c.credits.size()));
-    desk.deck->test.Press();
-    for (const Credit credit : c.credits) Grade(desk, credit);
-    CHECK(desk.deck->card.CardBanner() == c.banner);
-    CHECK(desk.fakes.messages.shown ==
+    DeckFixture fixture;
+    fixture.OpenStandardDeck(static_cast<int>(c.credits.size()));
+    fixture.deck->test.Press();
+    for (const Credit credit : c.credits) Grade(fixture, credit);
+    CHECK(fixture.deck->card.CardBanner() == c.banner);
+    CHECK(fixture.fakes.messages.shown ==
           std::vector<FakeMessages::Shown>{
               {u"You have completed this test. After viewing your score at the top of the last "
                u"card, please return to STUDY mode.",
@@ -66,51 +66,51 @@ TEST_CASE("the score of a standard test counts points in halves") {
 }
 
 TEST_CASE("the last card can't be graded twice, and its banner stays while it is turned") {
-  DeckDesk desk;
-  desk.OpenStandardDeck(1);
-  desk.deck->test.Press();
-  Grade(desk, kFull);
-  const Text banner = desk.deck->card.CardBanner();
-  desk.deck->flip.Press();
-  CHECK_FALSE(desk.deck->creditPanel.Enabled());
-  CHECK(desk.deck->card.CardBanner() == banner);
+  DeckFixture fixture;
+  fixture.OpenStandardDeck(1);
+  fixture.deck->test.Press();
+  Grade(fixture, kFull);
+  const Text banner = fixture.deck->card.CardBanner();
+  fixture.deck->flip.Press();
+  CHECK_FALSE(fixture.deck->creditPanel.Enabled());
+  CHECK(fixture.deck->card.CardBanner() == banner);
   SUBCASE("a new test clears the banner and grading opens again") {
-    desk.deck->test.Press();
-    CHECK(desk.deck->card.CardBanner().empty());
-    desk.deck->flip.Press();
-    CHECK(desk.deck->creditPanel.Enabled());
+    fixture.deck->test.Press();
+    CHECK(fixture.deck->card.CardBanner().empty());
+    fixture.deck->flip.Press();
+    CHECK(fixture.deck->creditPanel.Enabled());
   }
 }
 
 TEST_CASE("choices are judged by the key") {
-  DeckDesk desk;
-  desk.OpenExtendedDeck(2);
-  desk.deck->test.Press();
-  CHECK(desk.deck->choicePanel.Visible());
-  CHECK(desk.deck->choices[0].Caption() == u"TRUE");
-  CHECK(desk.deck->choices[1].Caption() == u"FALSE");
-  CHECK_FALSE(desk.deck->choices[2].Visible());
-  CHECK_FALSE(desk.deck->nextOrScore.Enabled());
-  desk.deck->choices[0].Press();
-  CHECK(desk.deck->card.CardBanner() == u"CORRECT");
-  CHECK_FALSE(desk.deck->choicePanel.Enabled());
-  CHECK(desk.deck->nextOrScore.Caption() == u"Next Question");
-  desk.deck->nextOrScore.Press();
-  CHECK(desk.deck->card.CardBanner().empty());
-  CHECK(desk.deck->choicePanel.Enabled());
-  CHECK_FALSE(desk.deck->choices[0].Selected());
-  CHECK(desk.deck->choices[3].Caption() == u"four");
-  desk.deck->choices[2].Press();
-  CHECK(desk.deck->card.CardBanner() == u"WRONG");
-  CHECK(desk.deck->choices[1].ForeColor() == FixedColor(0, 0, 255));
-  CHECK(desk.deck->nextOrScore.Caption() == u"Show Score");
-  desk.deck->nextOrScore.Press();
-  CHECK(desk.deck->choices[1].ForeColor() == Color{});
-  CHECK(desk.deck->card.CardBanner() == u"SCORE: 50% ... RETURN TO STUDY MODE");
-  CHECK(desk.fakes.messages.shown ==
+  DeckFixture fixture;
+  fixture.OpenExtendedDeck(2);
+  fixture.deck->test.Press();
+  CHECK(fixture.deck->choicePanel.Visible());
+  CHECK(fixture.deck->choices[0].Caption() == u"TRUE");
+  CHECK(fixture.deck->choices[1].Caption() == u"FALSE");
+  CHECK_FALSE(fixture.deck->choices[2].Visible());
+  CHECK_FALSE(fixture.deck->nextOrScore.Enabled());
+  fixture.deck->choices[0].Press();
+  CHECK(fixture.deck->card.CardBanner() == u"CORRECT");
+  CHECK_FALSE(fixture.deck->choicePanel.Enabled());
+  CHECK(fixture.deck->nextOrScore.Caption() == u"Next Question");
+  fixture.deck->nextOrScore.Press();
+  CHECK(fixture.deck->card.CardBanner().empty());
+  CHECK(fixture.deck->choicePanel.Enabled());
+  CHECK_FALSE(fixture.deck->choices[0].Selected());
+  CHECK(fixture.deck->choices[3].Caption() == u"four");
+  fixture.deck->choices[2].Press();
+  CHECK(fixture.deck->card.CardBanner() == u"WRONG");
+  CHECK(fixture.deck->choices[1].ForeColor() == FixedColor(0, 0, 255));
+  CHECK(fixture.deck->nextOrScore.Caption() == u"Show Score");
+  fixture.deck->nextOrScore.Press();
+  CHECK(fixture.deck->choices[1].ForeColor() == Color{});
+  CHECK(fixture.deck->card.CardBanner() == u"SCORE: 50% ... RETURN TO STUDY MODE");
+  CHECK(fixture.fakes.messages.shown ==
         std::vector<FakeMessages::Shown>{
             {u" Your score is 50% please return to STUDY mode.", 0, u"Test Complete"}});
-  CHECK_FALSE(desk.deck->nextOrScore.Enabled());
+  CHECK_FALSE(fixture.deck->nextOrScore.Enabled());
 }
 
 TEST_CASE("percentages are whole, a half rounded up") {
@@ -122,15 +122,15 @@ TEST_CASE("percentages are whole, a half rounded up") {
   const Case cases[] = {{2, 3, u"67"}, {1, 3, u"33"},  {0, 4, u"0"},
                         {1, 8, u"13"}, {5, 5, u"100"}, {23, 40, u"58"}};
   for (const Case& c : cases) {
-    DeckDesk desk;
-    for (int card = 0; card < c.cards; ++card) desk.AddTrueFalse(u"?", u"T");
-    desk.Open(kExtendedDeck);
-    desk.deck->test.Press();
+    DeckFixture fixture;
+    for (int card = 0; card < c.cards; ++card) fixture.AddTrueFalse(u"?", u"T");
+    fixture.Open(kExtendedDeck);
+    fixture.deck->test.Press();
     for (int card = 0; card < c.cards; ++card) {
-      desk.deck->choices[card < c.right ? 0 : 1].Press();
-      desk.deck->nextOrScore.Press();
+      fixture.deck->choices[card < c.right ? 0 : 1].Press();
+      fixture.deck->nextOrScore.Press();
     }
-    CHECK(desk.deck->card.CardBanner() ==
+    CHECK(fixture.deck->card.CardBanner() ==
           u"SCORE: " + Text(c.text) + u"% ... RETURN TO STUDY MODE");
   }
 }
@@ -141,11 +141,11 @@ TEST_CASE("scores of random tests are those of a count by hand") {
   for (int test = 0; test < 100; ++test) {
     const int cards = static_cast<int>(1 + roll(12));
     CAPTURE(test);
-    DeckDesk text;
+    DeckFixture text;
     text.OpenStandardDeck(cards);
     text.deck->test.Press();
     int halves = 0;
-    DeckDesk questions;
+    DeckFixture questions;
     questions.OpenExtendedDeck(cards);
     questions.deck->test.Press();
     int right = 0;
@@ -169,27 +169,27 @@ TEST_CASE("scores of random tests are those of a count by hand") {
 }
 
 TEST_CASE("a new test from an answered card leaves the next button on, and it skips card 1") {
-  DeckDesk desk;
-  desk.OpenExtendedDeck(3);
-  desk.deck->test.Press();
-  desk.deck->choices[0].Press();
-  desk.deck->test.Press();
-  CHECK(desk.deck->nextOrScore.Enabled());
-  CHECK(desk.deck->nextOrScore.Caption() == u"Next Question");
-  desk.deck->nextOrScore.Press();
-  CHECK(desk.state.deck.currentCard == 2);
-  CHECK(desk.state.deck.testPoints == 0);
+  DeckFixture fixture;
+  fixture.OpenExtendedDeck(3);
+  fixture.deck->test.Press();
+  fixture.deck->choices[0].Press();
+  fixture.deck->test.Press();
+  CHECK(fixture.deck->nextOrScore.Enabled());
+  CHECK(fixture.deck->nextOrScore.Caption() == u"Next Question");
+  fixture.deck->nextOrScore.Press();
+  CHECK(fixture.state.deck.currentCard == 2);
+  CHECK(fixture.state.deck.testPoints == 0);
 }
 
 TEST_CASE("a key that fits no choice is always wrong, an empty key of a third type right") {
-  DeckDesk desk;
-  desk.AddChoice(u"?", {u"one", u"two"}, u"X");
-  desk.Open(kExtendedDeck);
-  desk.deck->test.Press();
-  desk.deck->choices[1].Press();
-  CHECK(desk.deck->card.CardBanner() == u"WRONG");
-  CHECK(desk.deck->choices[0].ForeColor() == FixedColor(0, 0, 255));
-  DeckDesk third;
+  DeckFixture fixture;
+  fixture.AddChoice(u"?", {u"one", u"two"}, u"X");
+  fixture.Open(kExtendedDeck);
+  fixture.deck->test.Press();
+  fixture.deck->choices[1].Press();
+  CHECK(fixture.deck->card.CardBanner() == u"WRONG");
+  CHECK(fixture.deck->choices[0].ForeColor() == FixedColor(0, 0, 255));
+  DeckFixture third;
   third.AddTrueFalse(u"?", u"");
   third.Open(kExtendedDeck);
   third.deck->test.Press();
@@ -199,15 +199,15 @@ TEST_CASE("a key that fits no choice is always wrong, an empty key of a third ty
 }
 
 TEST_CASE("choices with a gap show a gap, and their ampersands mark accelerators") {
-  DeckDesk desk;
-  desk.AddChoice(u"?", {u"salt & pepper", u"", u"three"}, u"A");
-  desk.Open(kExtendedDeck);
-  desk.deck->test.Press();
-  CHECK(desk.deck->choices[0].Caption() == u"salt & pepper");
-  CHECK(desk.deck->choices[0].Visible());
-  CHECK_FALSE(desk.deck->choices[1].Visible());
-  CHECK(desk.deck->choices[2].Visible());
-  CHECK_FALSE(desk.deck->choices[3].Visible());
+  DeckFixture fixture;
+  fixture.AddChoice(u"?", {u"salt & pepper", u"", u"three"}, u"A");
+  fixture.Open(kExtendedDeck);
+  fixture.deck->test.Press();
+  CHECK(fixture.deck->choices[0].Caption() == u"salt & pepper");
+  CHECK(fixture.deck->choices[0].Visible());
+  CHECK_FALSE(fixture.deck->choices[1].Visible());
+  CHECK(fixture.deck->choices[2].Visible());
+  CHECK_FALSE(fixture.deck->choices[3].Visible());
 }
 
 TEST_CASE("choices in any script are judged, by the mouse and by their letters") {
@@ -216,38 +216,38 @@ TEST_CASE("choices in any script are judged, by the mouse and by their letters")
   const TextView letters = u"\u0416\u05DE\u6C34";
   for (int right = 0; right < 4; ++right) {
     const auto place = static_cast<std::size_t>(right);
-    DeckDesk desk;
-    desk.AddChoice(u"\u4EC0\u4E48?", choices, Text(1, TextView(u"ABCD")[place]));
-    desk.Open(kExtendedDeck);
-    desk.deck->test.Press();
-    CHECK(desk.deck->choices[right].Caption() == choices[place]);
+    DeckFixture fixture;
+    fixture.AddChoice(u"\u4EC0\u4E48?", choices, Text(1, TextView(u"ABCD")[place]));
+    fixture.Open(kExtendedDeck);
+    fixture.deck->test.Press();
+    CHECK(fixture.deck->choices[right].Caption() == choices[place]);
     if (place < letters.size()) {
-      CHECK(desk.deck->UserAccelerator(letters[place]));
+      CHECK(fixture.deck->UserAccelerator(letters[place]));
     } else {
-      desk.deck->choices[right].Press();
+      fixture.deck->choices[right].Press();
     }
-    CHECK(desk.deck->card.CardBanner() == u"CORRECT");
+    CHECK(fixture.deck->card.CardBanner() == u"CORRECT");
   }
 }
 
 TEST_CASE("choices mean nothing outside a test, arrows nothing inside one") {
-  DeckDesk desk;
-  desk.OpenExtendedDeck(3);
-  desk.deck->JudgeChoice(0);
-  CHECK(desk.deck->card.CardBanner().empty());
-  desk.deck->test.Press();
-  desk.deck->Hide();
-  desk.deck->Show();
-  CHECK(desk.deck->arrows[kNextCard].Enabled());
-  desk.deck->arrows[kNextCard].Press();
-  CHECK(desk.state.deck.currentCard == 1);
+  DeckFixture fixture;
+  fixture.OpenExtendedDeck(3);
+  fixture.deck->JudgeChoice(0);
+  CHECK(fixture.deck->card.CardBanner().empty());
+  fixture.deck->test.Press();
+  fixture.deck->Hide();
+  fixture.deck->Show();
+  CHECK(fixture.deck->arrows[kNextCard].Enabled());
+  fixture.deck->arrows[kNextCard].Press();
+  CHECK(fixture.state.deck.currentCard == 1);
 }
 
 TEST_CASE("a standard test makes all choices invisible") {
-  DeckDesk desk;
-  desk.OpenStandardDeck(1);
-  desk.deck->test.Press();
-  for (const OptionButton& option : desk.deck->choices) CHECK_FALSE(option.Visible());
+  DeckFixture fixture;
+  fixture.OpenStandardDeck(1);
+  fixture.deck->test.Press();
+  for (const OptionButton& option : fixture.deck->choices) CHECK_FALSE(option.Visible());
 }
 
 TEST_CASE("the states of a standard test, step by step") {
@@ -269,23 +269,23 @@ TEST_CASE("the states of a standard test, step by step") {
       {kGrade, 2, true, false, 2, true},   {kStart, 1, false, false, 0, false},
       {kFlip, 1, true, true, 0, false},
   };
-  DeckDesk desk;
-  desk.OpenStandardDeck(2);
+  DeckFixture fixture;
+  fixture.OpenStandardDeck(2);
   for (const Step& step : kWalk) {
-    if (step.event == kStart) desk.deck->test.Press();
-    if (step.event == kFlip) desk.deck->flip.Press();
-    if (step.event == kGrade) desk.deck->credits[kFull].Press();
+    if (step.event == kStart) fixture.deck->test.Press();
+    if (step.event == kFlip) fixture.deck->flip.Press();
+    if (step.event == kGrade) fixture.deck->credits[kFull].Press();
     CAPTURE(&step - kWalk);
-    CHECK(desk.state.deck.currentCard == step.card);
-    CHECK(desk.deck->card.CardText() ==
+    CHECK(fixture.state.deck.currentCard == step.card);
+    CHECK(fixture.deck->card.CardText() ==
           (step.backOnShow ? u"back " : u"front ") + DecimalText(step.card));
-    CHECK(desk.deck->creditPanel.Visible());
-    CHECK(desk.deck->creditPanel.Enabled() == step.gradable);
-    CHECK(desk.state.deck.testPoints == step.points);
-    CHECK(desk.deck->flip.Enabled());
-    CHECK(desk.deck->card.CardBanner().empty() != step.finished);
+    CHECK(fixture.deck->creditPanel.Visible());
+    CHECK(fixture.deck->creditPanel.Enabled() == step.gradable);
+    CHECK(fixture.state.deck.testPoints == step.points);
+    CHECK(fixture.deck->flip.Enabled());
+    CHECK(fixture.deck->card.CardBanner().empty() != step.finished);
   }
-  CHECK(desk.fakes.messages.shown.size() == 1);
+  CHECK(fixture.fakes.messages.shown.size() == 1);
 }
 
 TEST_CASE("the states of an extended test, step by step") {
@@ -314,27 +314,27 @@ TEST_CASE("the states of an extended test, step by step") {
       {kNext, 2, false, false, kShowScore, kScore, 1},
       {kStart, 1, true, false, kNextQuestion, u"", 0},
   };
-  DeckDesk desk;
-  desk.AddTrueFalse(u"?", u"T");
-  desk.AddTrueFalse(u"?", u"T");
-  desk.Open(kExtendedDeck);
+  DeckFixture fixture;
+  fixture.AddTrueFalse(u"?", u"T");
+  fixture.AddTrueFalse(u"?", u"T");
+  fixture.Open(kExtendedDeck);
   for (const Step& step : kWalk) {
-    if (step.event == kStart) desk.deck->test.Press();
-    if (step.event == kRight) desk.deck->choices[0].Press();
-    if (step.event == kWrong) desk.deck->choices[1].Press();
-    if (step.event == kNext) desk.deck->nextOrScore.Press();
+    if (step.event == kStart) fixture.deck->test.Press();
+    if (step.event == kRight) fixture.deck->choices[0].Press();
+    if (step.event == kWrong) fixture.deck->choices[1].Press();
+    if (step.event == kNext) fixture.deck->nextOrScore.Press();
     CAPTURE(&step - kWalk);
-    CHECK(desk.state.deck.currentCard == step.card);
-    CHECK(desk.deck->choicePanel.Visible());
-    CHECK(desk.deck->choicePanel.Enabled() == step.waiting);
-    CHECK(desk.deck->nextOrScore.Enabled() == step.nextEnabled);
-    CHECK(desk.deck->nextOrScore.Caption() == step.next);
-    CHECK(desk.deck->card.CardBanner() == step.banner);
-    CHECK(desk.state.deck.testPoints == step.points);
-    const bool chosen = desk.deck->choices[0].Selected() || desk.deck->choices[1].Selected();
+    CHECK(fixture.state.deck.currentCard == step.card);
+    CHECK(fixture.deck->choicePanel.Visible());
+    CHECK(fixture.deck->choicePanel.Enabled() == step.waiting);
+    CHECK(fixture.deck->nextOrScore.Enabled() == step.nextEnabled);
+    CHECK(fixture.deck->nextOrScore.Caption() == step.next);
+    CHECK(fixture.deck->card.CardBanner() == step.banner);
+    CHECK(fixture.state.deck.testPoints == step.points);
+    const bool chosen = fixture.deck->choices[0].Selected() || fixture.deck->choices[1].Selected();
     CHECK(chosen != step.waiting);
   }
-  CHECK(desk.fakes.messages.shown.size() == 1);
+  CHECK(fixture.fakes.messages.shown.size() == 1);
 }
 
 TEST_CASE("each choice of each type stands for a key") {
@@ -345,60 +345,60 @@ TEST_CASE("each choice of each type stands for a key") {
   for (const Case& c : {Case{u"M", {u"A", u"B", u"C", u"D"}}, Case{u"T", {u"T", u"F", u"C", u"D"}},
                         Case{u"Z", {u"", u"", u"C", u"D"}}}) {
     for (int choice = 0; choice < 4; ++choice) {
-      DeckDesk desk;
-      desk.AddChoice(u"?", {u"one", u"two", u"three", u"four"}, u"A");
-      desk.Open(kExtendedDeck);
-      desk.deck->test.Press();
-      desk.state.deck.cardGrid.Set(1, kCardType, Text(c.type));
-      desk.state.deck.cardGrid.Set(1, kAnswer,
-                                   u" " + Text(c.keys[static_cast<std::size_t>(choice)]) + u" ");
-      desk.deck->JudgeChoice(choice);
-      CHECK(desk.deck->card.CardBanner() == u"CORRECT");
+      DeckFixture fixture;
+      fixture.AddChoice(u"?", {u"one", u"two", u"three", u"four"}, u"A");
+      fixture.Open(kExtendedDeck);
+      fixture.deck->test.Press();
+      fixture.state.deck.cardGrid.Set(1, kCardType, Text(c.type));
+      fixture.state.deck.cardGrid.Set(1, kAnswer,
+                                      u" " + Text(c.keys[static_cast<std::size_t>(choice)]) + u" ");
+      fixture.deck->JudgeChoice(choice);
+      CHECK(fixture.deck->card.CardBanner() == u"CORRECT");
     }
   }
 }
 
 TEST_CASE("a grade of the last card counts before the test is said to be over") {
-  DeckDesk desk;
-  desk.OpenStandardDeck(1);
-  desk.deck->test.Press();
-  desk.fakes.messages.whileShown = [&desk](const FakeMessages::Shown&) {
-    CHECK(desk.state.deck.testPoints == 0.5);
-    CHECK(desk.deck->card.CardBanner().empty());
+  DeckFixture fixture;
+  fixture.OpenStandardDeck(1);
+  fixture.deck->test.Press();
+  fixture.fakes.messages.whileShown = [&fixture](const FakeMessages::Shown&) {
+    CHECK(fixture.state.deck.testPoints == 0.5);
+    CHECK(fixture.deck->card.CardBanner().empty());
   };
-  Grade(desk, kPartial);
-  CHECK(desk.fakes.messages.shown.size() == 1);
+  Grade(fixture, kPartial);
+  CHECK(fixture.fakes.messages.shown.size() == 1);
 }
 
 TEST_CASE("the mark of the right choice stays when a test is left, until the next one") {
-  DeckDesk desk;
-  desk.OpenExtendedDeck(2);
-  desk.deck->test.Press();
-  desk.deck->choices[1].Press();
-  desk.deck->study.Press();
-  CHECK(desk.deck->choices[0].ForeColor() == FixedColor(0, 0, 255));
-  CHECK(desk.deck->choices[1].Selected());
-  desk.deck->test.Press();
-  CHECK(desk.deck->choices[0].ForeColor() == Color{});
-  CHECK_FALSE(desk.deck->choices[1].Selected());
+  DeckFixture fixture;
+  fixture.OpenExtendedDeck(2);
+  fixture.deck->test.Press();
+  fixture.deck->choices[1].Press();
+  fixture.deck->study.Press();
+  CHECK(fixture.deck->choices[0].ForeColor() == FixedColor(0, 0, 255));
+  CHECK(fixture.deck->choices[1].Selected());
+  fixture.deck->test.Press();
+  CHECK(fixture.deck->choices[0].ForeColor() == Color{});
+  CHECK_FALSE(fixture.deck->choices[1].Selected());
 }
 
 TEST_CASE("the focus of a question is on its first choice that is there") {
-  DeckDesk desk;
-  desk.AddChoice(u"?", {u"", u"two", u"three"}, u"B");
-  desk.Open(kExtendedDeck);
-  desk.deck->test.Press();
-  CHECK(desk.deck->FocusedControl() == &desk.deck->choices[1]);
+  DeckFixture fixture;
+  fixture.AddChoice(u"?", {u"", u"two", u"three"}, u"B");
+  fixture.Open(kExtendedDeck);
+  fixture.deck->test.Press();
+  CHECK(fixture.deck->FocusedControl() == &fixture.deck->choices[1]);
 }
 
 TEST_CASE("after the score the focus is where the score can be read, or on what still works") {
-  DeckDesk extended;
+  DeckFixture extended;
   extended.OpenExtendedDeck(1);
   extended.deck->test.Press();
   extended.deck->choices[0].Press();
   extended.deck->nextOrScore.Press();
   CHECK(extended.deck->FocusedControl() == &extended.deck->card);
-  DeckDesk standard;
+  DeckFixture standard;
   standard.OpenStandardDeck(2);
   standard.deck->test.Press();
   Grade(standard, kFull);
@@ -411,7 +411,7 @@ TEST_CASE("after the score the focus is where the score can be read, or on what 
 }
 
 TEST_CASE("the focus follows the steps of a test") {
-  DeckDesk standard;
+  DeckFixture standard;
   standard.OpenStandardDeck(2);
   standard.deck->test.Press();
   CHECK(standard.deck->FocusedControl() == &standard.deck->flip);
@@ -419,7 +419,7 @@ TEST_CASE("the focus follows the steps of a test") {
   CHECK(standard.deck->FocusedControl() == &standard.deck->credits[kFullCredit]);
   standard.deck->credits[kFullCredit].Press();
   CHECK(standard.deck->FocusedControl() == &standard.deck->flip);
-  DeckDesk extended;
+  DeckFixture extended;
   extended.OpenExtendedDeck(2);
   extended.deck->test.Press();
   CHECK(extended.deck->FocusedControl() == &extended.deck->choices[0]);

@@ -1,20 +1,20 @@
 #include <doctest/doctest.h>
 
-#include "tests/support/deck_desk.h"
+#include "tests/support/deck_fixture.h"
 #include "tests/support/error_of.h"
 #include "viewer/card_skins.h"
 
 namespace tessara::test {
 
 TEST_CASE("the window holds its size whatever is asked of it") {
-  DeckDesk desk;
-  desk.OpenStandardDeck(1);
-  CHECK(desk.deck->Width() == 7230);
-  CHECK(desk.deck->Height() == 6315);
-  CHECK(desk.deck->ScaleWidth() == 7110);
-  CHECK(desk.deck->ScaleHeight() == 5925);
-  CHECK(desk.deck->Left() == (12000 - 7230) / 2);
-  CHECK(desk.deck->Top() == (9000 - 6315) / 2);
+  DeckFixture fixture;
+  fixture.OpenStandardDeck(1);
+  CHECK(fixture.deck->Width() == 7230);
+  CHECK(fixture.deck->Height() == 6315);
+  CHECK(fixture.deck->ScaleWidth() == 7110);
+  CHECK(fixture.deck->ScaleHeight() == 5925);
+  CHECK(fixture.deck->Left() == (12000 - 7230) / 2);
+  CHECK(fixture.deck->Top() == (9000 - 6315) / 2);
 }
 
 TEST_CASE("the settings choose the colours, the shadow and the skin") {
@@ -33,25 +33,25 @@ TEST_CASE("the settings choose the colours, the shadow and the skin") {
       {u"0", u"1", u"0.0", u"0", u"Q", true, "skins/white_3d.png"},  // compared as text
   };
   for (const Case& c : cases) {
-    DeckDesk desk;
-    desk.state.settings.largeCardColor = c.largeColor;
-    desk.state.settings.largeCard3D = c.large3D;
-    desk.state.settings.smallCardColor = c.smallColor;
-    desk.state.settings.smallCard3D = c.small3D;
-    desk.deck.Loaded();
-    CHECK(desk.deck->card.CardColor() == c.cardColor);
-    CHECK(desk.deck->cardShadow.Visible() == c.shadow);
-    CHECK(desk.deck->answerCard.PictureOf().file == c.skin);
-    CHECK(desk.deck->card.BoundsOf() == Bounds{120, 120, 6855, 3615});
+    DeckFixture fixture;
+    fixture.state.settings.largeCardColor = c.largeColor;
+    fixture.state.settings.largeCard3D = c.large3D;
+    fixture.state.settings.smallCardColor = c.smallColor;
+    fixture.state.settings.smallCard3D = c.small3D;
+    fixture.deck.Loaded();
+    CHECK(fixture.deck->card.CardColor() == c.cardColor);
+    CHECK(fixture.deck->cardShadow.Visible() == c.shadow);
+    CHECK(fixture.deck->answerCard.PictureOf().file == c.skin);
+    CHECK(fixture.deck->card.BoundsOf() == Bounds{120, 120, 6855, 3615});
   }
 }
 
 TEST_CASE("a setting that holds no number ends the program at the load") {
-  DeckDesk desk;
-  desk.state.settings.largeCard3D = u"deep";
-  desk.windows.Run([&] { desk.deck.Loaded(); });
-  CHECK(desk.fakes.messages.shown.back().text == u"Run-time error '13':\r\n\r\nType mismatch");
-  CHECK(desk.windows.ExitStatus() == 1);
+  DeckFixture fixture;
+  fixture.state.settings.largeCard3D = u"deep";
+  fixture.windows.Run([&] { fixture.deck.Loaded(); });
+  CHECK(fixture.fakes.messages.shown.back().text == u"Run-time error '13':\r\n\r\nType mismatch");
+  CHECK(fixture.windows.ExitStatus() == 1);
 }
 
 TEST_CASE("pictures are found by key in either list, and the missing ones are errors") {
@@ -83,33 +83,33 @@ TEST_CASE("the shapes of a deck type and a mode") {
   for (const Case& c : cases) {
     CAPTURE(c.extended);
     CAPTURE(c.mode);
-    DeckDesk desk;
+    DeckFixture fixture;
     if (c.extended) {
-      desk.OpenExtendedDeck(3);
-      desk.deck->ConfigureExtendedCard(c.mode);
+      fixture.OpenExtendedDeck(3);
+      fixture.deck->ConfigureExtendedCard(c.mode);
     } else {
-      desk.OpenStandardDeck(3);
-      desk.deck->ConfigureStandardCard(c.mode);
+      fixture.OpenStandardDeck(3);
+      fixture.deck->ConfigureStandardCard(c.mode);
     }
-    CHECK(desk.deck->creditPanel.Visible() == c.credit);
-    CHECK(desk.deck->choicePanel.Visible() == c.choices);
-    CHECK(desk.deck->answerCard.Visible() == c.answer);
-    CHECK(desk.deck->flip.Caption() == c.flip);
-    CHECK(desk.deck->flip.Enabled() == c.flipEnabled);
-    CHECK(desk.deck->arrows[kPreviousCard].Enabled() == c.back);
-    CHECK(desk.deck->arrows[kNextCard].Enabled() == c.next);
+    CHECK(fixture.deck->creditPanel.Visible() == c.credit);
+    CHECK(fixture.deck->choicePanel.Visible() == c.choices);
+    CHECK(fixture.deck->answerCard.Visible() == c.answer);
+    CHECK(fixture.deck->flip.Caption() == c.flip);
+    CHECK(fixture.deck->flip.Enabled() == c.flipEnabled);
+    CHECK(fixture.deck->arrows[kPreviousCard].Enabled() == c.back);
+    CHECK(fixture.deck->arrows[kNextCard].Enabled() == c.next);
   }
 }
 
 TEST_CASE("a quiz shows the front of card 1 undoubled for a moment, a test hides nothing first") {
-  DeckDesk desk;
-  desk.AddTextCard(u"a & b", u"");
-  desk.Open(kStandardDeck);
-  desk.deck->ConfigureStandardCard(kQuizMode);
-  CHECK(desk.deck->card.CardText() == u"a & b");
-  desk.deck->answerCard.SetVisible(true);
-  desk.deck->ConfigureStandardCard(kTestMode);
-  CHECK(desk.deck->answerCard.Visible());
+  DeckFixture fixture;
+  fixture.AddTextCard(u"a & b", u"");
+  fixture.Open(kStandardDeck);
+  fixture.deck->ConfigureStandardCard(kQuizMode);
+  CHECK(fixture.deck->card.CardText() == u"a & b");
+  fixture.deck->answerCard.SetVisible(true);
+  fixture.deck->ConfigureStandardCard(kTestMode);
+  CHECK(fixture.deck->answerCard.Visible());
 }
 
 }  // namespace tessara::test

@@ -4,7 +4,7 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 
-#include "tests/support/disk_desk.h"
+#include "tests/support/disk_fixture.h"
 #include "tests/support/killed_process.h"
 #include "tests/support/refused_call.h"
 

@@ -4,11 +4,11 @@
 #include <doctest/doctest.h>
 
 #include "adapters/freedesktop/user_document_types.h"
-#include "tests/support/disk_desk.h"
+#include "tests/support/disk_fixture.h"
 #include "tests/support/limited_process.h"
 #include "tests/support/open_files.h"
 #include "tests/support/packaged_type.h"
-#include "tests/support/program_desk.h"
+#include "tests/support/program_fixture.h"
 
 namespace tessara::test {
 
@@ -33,20 +33,20 @@ TEST_CASE(
   for (rlim_t bytes = 0; bytes <= (kCards + 3) * kRecordSize; bytes += kRecordSize / 2) {
     CAPTURE(bytes);
     const ScratchFolder folder;
-    const std::string old = ProgramDesk::DeckBytes(kCards);
-    folder.Write(DiskDesk::kDeckName, old);
-    DiskDesk desk(folder);
-    desk.StartAndOpenDeck();
-    desk.ChangeCards();
+    const std::string old = ProgramFixture::DeckBytes(kCards);
+    folder.Write(DiskFixture::kDeckName, old);
+    DiskFixture fixture(folder);
+    fixture.StartAndOpenDeck();
+    fixture.ChangeCards();
     CHECK(EndsWithLimit(RLIMIT_FSIZE, bytes, [&] {
-      desk.Save();
-      if (desk.renderer.exitStatus != -1 || desk.fakes.messages.shown.size() != 1) _exit(1);
+      fixture.Save();
+      if (fixture.renderer.exitStatus != -1 || fixture.fakes.messages.shown.size() != 1) _exit(1);
     }));
     // A deck that is deleted needs no space to be kept.
     CHECK(KeptIn(folder) == std::vector<std::string>{old});
-    CHECK(folder.Read(DiskDesk::kDeckName).size() == std::min<std::size_t>(bytes, old.size()));
-    desk.Save();
-    CHECK(folder.Read(DiskDesk::kDeckName).size() == old.size());
+    CHECK(folder.Read(DiskFixture::kDeckName).size() == std::min<std::size_t>(bytes, old.size()));
+    fixture.Save();
+    CHECK(folder.Read(DiskFixture::kDeckName).size() == old.size());
   }
 }
 
@@ -55,15 +55,16 @@ TEST_CASE("a process that may open only so many files saves what it can") {
   for (int files = 0; files <= 6; ++files) {
     CAPTURE(files);
     const ScratchFolder folder;
-    folder.Write(DiskDesk::kDeckName, ProgramDesk::DeckBytes(kCards));
-    DiskDesk desk(folder);
-    desk.StartAndOpenDeck();
-    desk.ChangeCards();
+    folder.Write(DiskFixture::kDeckName, ProgramFixture::DeckBytes(kCards));
+    DiskFixture fixture(folder);
+    fixture.StartAndOpenDeck();
+    fixture.ChangeCards();
     CHECK(EndsWithLimit(RLIMIT_NOFILE, static_cast<rlim_t>(LowestFreeDescriptor() + files),
-                        [&] { desk.Save(); }));
-    for (const std::string& bytes : KeptIn(folder)) CHECK(bytes == ProgramDesk::DeckBytes(kCards));
-    desk.Save();
-    CHECK(folder.Read(DiskDesk::kDeckName).size() == (kCards + 2) * kRecordSize);
+                        [&] { fixture.Save(); }));
+    for (const std::string& bytes : KeptIn(folder))
+      CHECK(bytes == ProgramFixture::DeckBytes(kCards));
+    fixture.Save();
+    CHECK(folder.Read(DiskFixture::kDeckName).size() == (kCards + 2) * kRecordSize);
   }
 }
 

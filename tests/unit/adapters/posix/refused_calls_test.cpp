@@ -8,9 +8,9 @@
 #include <set>
 
 #include "adapters/freedesktop/user_document_types.h"
-#include "tests/support/disk_desk.h"
+#include "tests/support/disk_fixture.h"
 #include "tests/support/packaged_type.h"
-#include "tests/support/program_desk.h"
+#include "tests/support/program_fixture.h"
 #include "tests/support/refused_call.h"
 #include "tests/unit/import/text_file.h"
 
@@ -21,28 +21,28 @@ namespace {
 constexpr int kCards = 3;
 
 const std::string& OldDeck() {
-  static const std::string bytes = ProgramDesk::DeckBytes(kCards);
+  static const std::string bytes = ProgramFixture::DeckBytes(kCards);
   return bytes;
 }
 
 void PutOldDeck(const ScratchFolder& folder) {
   std::filesystem::remove_all(folder / "copies");
-  folder.Write(DiskDesk::kDeckName, OldDeck());
+  folder.Write(DiskFixture::kDeckName, OldDeck());
 }
 
 /// A program with the old deck changed. The deck was opened from the menu, where a save deletes its
 /// file first, or came with the start.
-struct ChangedDesk {
+struct ChangedFixture {
   ScratchFolder folder{kInMemory};
-  DiskDesk desk;
+  DiskFixture fixture;
 
-  explicit ChangedDesk(bool fromMenu) : desk(OldDeckIn(folder)) {
+  explicit ChangedFixture(bool fromMenu) : fixture(OldDeckIn(folder)) {
     if (fromMenu) {
-      desk.StartAndOpenDeck();
+      fixture.StartAndOpenDeck();
     } else {
-      desk.StartWithDeck();
+      fixture.StartWithDeck();
     }
-    desk.ChangeCards();
+    fixture.ChangeCards();
   }
 
  private:
@@ -55,52 +55,52 @@ struct ChangedDesk {
 /// How a command has ended, as a number that a process can return.
 enum Outcome { kWhole = 0, kReported = 1, kWrong = 2 };
 
-bool HasReported(const DiskDesk& desk) {
-  return desk.renderer.exitStatus == 1 && desk.fakes.messages.shown.size() == 1 &&
-         desk.fakes.messages.shown[0].text.starts_with(u"Run-time error '");
+bool HasReported(const DiskFixture& fixture) {
+  return fixture.renderer.exitStatus == 1 && fixture.fakes.messages.shown.size() == 1 &&
+         fixture.fakes.messages.shown[0].text.starts_with(u"Run-time error '");
 }
 
 /// All cards are there and nothing has been told, or the program has ended with its report.
-Outcome OutcomeOfLoad(const DiskDesk& desk) {
-  if (HasReported(desk)) return kReported;
-  bool whole = desk.fakes.messages.shown.empty() && desk.renderer.exitStatus == -1 &&
-               desk.state.deck.cardCount == kCards;
+Outcome OutcomeOfLoad(const DiskFixture& fixture) {
+  if (HasReported(fixture)) return kReported;
+  bool whole = fixture.fakes.messages.shown.empty() && fixture.renderer.exitStatus == -1 &&
+               fixture.state.deck.cardCount == kCards;
   for (int row = 1; row <= kCards; ++row) {
-    whole = whole && desk.state.deck.Cell(row, kCardText) == u"front " + DecimalText(row);
+    whole = whole && fixture.state.deck.Cell(row, kCardText) == u"front " + DecimalText(row);
   }
   return whole ? kWhole : kWrong;
 }
 
 /// Like a load; or the import has told that it failed, and left no card.
-Outcome OutcomeOfImport(const DiskDesk& desk) {
-  const auto& shown = desk.fakes.messages.shown;
+Outcome OutcomeOfImport(const DiskFixture& fixture) {
+  const auto& shown = fixture.fakes.messages.shown;
   const bool failed = !shown.empty() && shown[0].title == u"Import Error";
-  if (!failed) return OutcomeOfLoad(desk);
-  return desk.renderer.exitStatus == -1 && desk.state.deck.cardPresent.At(1) == 0 ? kReported
-                                                                                  : kWrong;
+  if (!failed) return OutcomeOfLoad(fixture);
+  return fixture.renderer.exitStatus == -1 && fixture.state.deck.cardPresent.At(1) == 0 ? kReported
+                                                                                        : kWrong;
 }
 
 }  // namespace
 
 TEST_CASE("whichever call of a save is refused, success is told, and neither deck is lost") {
   for (const bool fromMenu : {true, false}) {
-    ChangedDesk changed(fromMenu);
-    changed.desk.Save();
-    const std::string newDeck = changed.folder.Read(DiskDesk::kDeckName);
-    ChangedDesk again(fromMenu);
+    ChangedFixture changed(fromMenu);
+    changed.fixture.Save();
+    const std::string newDeck = changed.folder.Read(DiskFixture::kDeckName);
+    ChangedFixture again(fromMenu);
     const ScratchFolder& folder = again.folder;
     const int calls = RefuseEachInTurn(
         [&] { PutOldDeck(folder); },
         [&] {
-          again.desk.Save();
-          const auto& shown = again.desk.fakes.messages.shown;
+          again.fixture.Save();
+          const auto& shown = again.fixture.fakes.messages.shown;
           const bool told = shown.size() == 1 && shown[0].title == u"Save";
-          return told && again.desk.renderer.exitStatus == -1 ? kReported : kWrong;
+          return told && again.fixture.renderer.exitStatus == -1 ? kReported : kWrong;
         },
         [&](int result) {
           CHECK(result == kReported);
           const std::vector<std::string> kept = KeptIn(folder);
-          const std::string deck = folder.Read(DiskDesk::kDeckName);
+          const std::string deck = folder.Read(DiskFixture::kDeckName);
           const auto isKept = [&](const std::string& bytes) {
             return std::count(kept.begin(), kept.end(), bytes) > 0;
           };
@@ -116,22 +116,22 @@ TEST_CASE("whichever call of a save is refused, success is told, and neither dec
 }
 
 TEST_CASE("a call of a save that a signal cuts short is made again") {
-  ChangedDesk changed(false);
+  ChangedFixture changed(false);
   const auto save = [&] {
-    changed.desk.Save();
+    changed.fixture.Save();
     return 0;
   };
   constexpr std::array kCutShort = {SYS_pread64, SYS_write, SYS_pwrite64, SYS_fsync};
   std::set<long> met;
   const std::vector<long> calls = FileCallsOf(save);
-  const std::string newDeck = changed.folder.Read(DiskDesk::kDeckName);
+  const std::string newDeck = changed.folder.Read(DiskFixture::kDeckName);
   for (std::size_t at = 0; at < calls.size(); ++at) {
     if (std::count(kCutShort.begin(), kCutShort.end(), calls[at]) == 0) continue;
     CAPTURE(at);
     met.insert(calls[at]);
     PutOldDeck(changed.folder);
     CHECK(ResultWithRefusal(static_cast<int>(at) + 1, EINTR, save) == 0);
-    CHECK(changed.folder.Read(DiskDesk::kDeckName) == newDeck);
+    CHECK(changed.folder.Read(DiskFixture::kDeckName) == newDeck);
     CHECK(KeptIn(changed.folder) == std::vector<std::string>{OldDeck()});
   }
   CHECK(met.size() == kCutShort.size());
@@ -141,20 +141,20 @@ TEST_CASE("whichever call of a load is refused, the deck is there whole or its e
   const ScratchFolder folder(kInMemory);
   PutOldDeck(folder);
   for (const bool fromMenu : {true, false}) {
-    DiskDesk desk(folder);
+    DiskFixture fixture(folder);
     const int calls =
         RefuseEachInTurn([] {},
                          [&] {
                            if (fromMenu) {
-                             desk.StartAndOpenDeck();
+                             fixture.StartAndOpenDeck();
                            } else {
-                             desk.StartWithDeck();
+                             fixture.StartWithDeck();
                            }
-                           return OutcomeOfLoad(desk);
+                           return OutcomeOfLoad(fixture);
                          },
                          [&](int result) { CHECK((result == kWhole || result == kReported)); });
     CHECK(calls >= 3);
-    CHECK(folder.Read(DiskDesk::kDeckName) == OldDeck());
+    CHECK(folder.Read(DiskFixture::kDeckName) == OldDeck());
   }
 }
 
@@ -167,15 +167,15 @@ TEST_CASE("whichever call of an import is refused, all cards are there or none, 
   for (const std::string& text : texts) {
     const ScratchFolder folder(kInMemory);
     folder.Write("text.txt", text);
-    DiskDesk desk(folder);
-    desk.program.Main(u"");
-    desk.fakes.messages.answers = {MessageAnswer::kYes};
-    desk.Run([&] { desk.Deck().Unload(); });
-    desk.fakes.messages.shown.clear();
-    desk.fakes.dialogs.files.push_back(folder.TextPath(u"text.txt"));
+    DiskFixture fixture(folder);
+    fixture.program.Main(u"");
+    fixture.fakes.messages.answers = {MessageAnswer::kYes};
+    fixture.Run([&] { fixture.Deck().Unload(); });
+    fixture.fakes.messages.shown.clear();
+    fixture.fakes.dialogs.files.push_back(folder.TextPath(u"text.txt"));
     const auto import = [&] {
-      desk.Run([&] { desk.program.FrameWindow()->ImportDeck(); });
-      return OutcomeOfImport(desk);
+      fixture.Run([&] { fixture.program.FrameWindow()->ImportDeck(); });
+      return OutcomeOfImport(fixture);
     };
     // Each run leaves the copy of its unsaved deck, and looks through those that are there.
     const auto prepare = [&] { std::filesystem::remove_all(folder / "copies"); };

@@ -4,7 +4,7 @@
 #include <sys/stat.h>
 
 #include "adapters/posix/posix_file_system.h"
-#include "tests/support/disk_desk.h"
+#include "tests/support/disk_fixture.h"
 #include "tests/support/error_of.h"
 #include "tests/support/limited_process.h"
 #include "tests/support/scratch_folder.h"

@@ -10,7 +10,7 @@
 
 #include "adapters/posix/copies/copy_name.h"
 #include "adapters/posix/copies/posix_safety_copies.h"
-#include "tests/support/disk_desk.h"
+#include "tests/support/disk_fixture.h"
 #include "tests/support/killed_process.h"
 #include "tests/support/open_files.h"
 #include "tests/support/process_end.h"
@@ -22,7 +22,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct UnsavedDesk {
+struct UnsavedFixture {
   ScratchFolder folder{kInMemory};
   fs::path copiesFolder = folder / "copies";
   PosixSafetyCopies copies{copiesFolder};
@@ -62,36 +62,36 @@ using Decks = std::vector<std::string>;
 }  // namespace
 
 TEST_CASE("the unsaved deck is one file that ends as a deck does, replaced by each change") {
-  UnsavedDesk desk;
-  desk.copies.KeepUnsaved(u"verbs.tsr", "one");
-  desk.copies.KeepUnsaved(u"other name.tsr", "two");
-  REQUIRE(desk.Names().size() == 1);
-  CHECK(desk.Names()[0] == "verbs (unsaved " + std::to_string(getpid()) + "-1).tsr");
-  CHECK(desk.Kept() == Decks{"two"});
-  const auto permissions = fs::status(desk.copiesFolder / desk.Names()[0]).permissions();
+  UnsavedFixture fixture;
+  fixture.copies.KeepUnsaved(u"verbs.tsr", "one");
+  fixture.copies.KeepUnsaved(u"other name.tsr", "two");
+  REQUIRE(fixture.Names().size() == 1);
+  CHECK(fixture.Names()[0] == "verbs (unsaved " + std::to_string(getpid()) + "-1).tsr");
+  CHECK(fixture.Kept() == Decks{"two"});
+  const auto permissions = fs::status(fixture.copiesFolder / fixture.Names()[0]).permissions();
   CHECK(permissions == static_cast<fs::perms>(0600));
 }
 
 TEST_CASE("a shorter or a longer deck takes the place of the one before, whole") {
-  UnsavedDesk desk;
+  UnsavedFixture fixture;
   for (const std::size_t length : {9U, 2U, 5U, 1U, 7U}) {
     const std::string deck(length, static_cast<char>('0' + length));
-    desk.copies.KeepUnsaved(u"verbs.tsr", deck);
-    CHECK(desk.Kept() == Decks{deck});
+    fixture.copies.KeepUnsaved(u"verbs.tsr", deck);
+    CHECK(fixture.Kept() == Decks{deck});
   }
 }
 
 TEST_CASE("changes use two files in turn, and make no other") {
-  UnsavedDesk desk;
+  UnsavedFixture fixture;
   std::vector<ino_t> files;
   for (const char* const deck : {"one", "two", "three", "four", "five"}) {
-    desk.copies.KeepUnsaved(u"verbs.tsr", deck);
-    files.push_back(FileOf(desk.copiesFolder / desk.Names().at(0)));
+    fixture.copies.KeepUnsaved(u"verbs.tsr", deck);
+    files.push_back(FileOf(fixture.copiesFolder / fixture.Names().at(0)));
   }
   CHECK(files[0] == files[2]);
   CHECK(files[1] == files[3]);
   CHECK(files[2] == files[4]);
-  CHECK(desk.HiddenFiles() == 1);
+  CHECK(fixture.HiddenFiles() == 1);
 }
 
 TEST_CASE("the spare file goes with the deck that is dropped, left, or kept for good") {
@@ -100,62 +100,62 @@ TEST_CASE("the spare file goes with the deck that is dropped, left, or kept for 
        [](PosixSafetyCopies& copies) { copies.LeaveUnsaved(); },
        [](PosixSafetyCopies& copies) { copies.KeepNotSaved(u"verbs.tsr", "three"); }});
   for (const auto way : ways) {
-    UnsavedDesk desk;
-    desk.copies.KeepUnsaved(u"verbs.tsr", "one");
-    desk.copies.KeepUnsaved(u"verbs.tsr", "two");
-    REQUIRE(desk.HiddenFiles() == 1);
-    way(desk.copies);
-    CHECK(desk.HiddenFiles() == 0);
+    UnsavedFixture fixture;
+    fixture.copies.KeepUnsaved(u"verbs.tsr", "one");
+    fixture.copies.KeepUnsaved(u"verbs.tsr", "two");
+    REQUIRE(fixture.HiddenFiles() == 1);
+    way(fixture.copies);
+    CHECK(fixture.HiddenFiles() == 0);
   }
 }
 
 TEST_CASE("the spare file of a process that lives stays, that of a killed one goes") {
-  UnsavedDesk desk;
-  LeaveByAnotherProcess(desk.copiesFolder, u"nouns.tsr", "unsaved");
-  desk.copies.KeepUnsaved(u"verbs.tsr", "one");
-  desk.copies.KeepUnsaved(u"verbs.tsr", "two");
-  REQUIRE(desk.HiddenFiles() == 2);
-  PosixSafetyCopies(desk.copiesFolder).TakeLeftDecks();
-  CHECK(desk.HiddenFiles() == 1);
-  desk.copies.KeepUnsaved(u"verbs.tsr", "three");
-  CHECK(desk.Kept() == Decks{"unsaved", "three"});
+  UnsavedFixture fixture;
+  LeaveByAnotherProcess(fixture.copiesFolder, u"nouns.tsr", "unsaved");
+  fixture.copies.KeepUnsaved(u"verbs.tsr", "one");
+  fixture.copies.KeepUnsaved(u"verbs.tsr", "two");
+  REQUIRE(fixture.HiddenFiles() == 2);
+  PosixSafetyCopies(fixture.copiesFolder).TakeLeftDecks();
+  CHECK(fixture.HiddenFiles() == 1);
+  fixture.copies.KeepUnsaved(u"verbs.tsr", "three");
+  CHECK(fixture.Kept() == Decks{"unsaved", "three"});
 }
 
 TEST_CASE("a deck is kept where the spare file or the deck's own has been taken away") {
   for (const bool hidden : {true, false}) {
     CAPTURE(hidden);
-    UnsavedDesk desk;
-    desk.copies.KeepUnsaved(u"verbs.tsr", "one");
-    desk.copies.KeepUnsaved(u"verbs.tsr", "two");
-    for (const std::string& name : NamesIn(desk.copiesFolder)) {
-      if (name.starts_with('.') == hidden) fs::remove(desk.copiesFolder / name);
+    UnsavedFixture fixture;
+    fixture.copies.KeepUnsaved(u"verbs.tsr", "one");
+    fixture.copies.KeepUnsaved(u"verbs.tsr", "two");
+    for (const std::string& name : NamesIn(fixture.copiesFolder)) {
+      if (name.starts_with('.') == hidden) fs::remove(fixture.copiesFolder / name);
     }
-    desk.copies.KeepUnsaved(u"verbs.tsr", "three");
-    CHECK(desk.Kept() == Decks{"three"});
+    fixture.copies.KeepUnsaved(u"verbs.tsr", "three");
+    CHECK(fixture.Kept() == Decks{"three"});
   }
 }
 
 TEST_CASE("another file that has taken the deck's name, or is linked to it, is never written to") {
-  UnsavedDesk desk;
-  desk.copies.KeepUnsaved(u"verbs.tsr", "one");
-  const fs::path kept = desk.copiesFolder / desk.Names().at(0);
-  fs::create_hard_link(kept, desk.folder / "link");
-  fs::rename(kept, desk.folder / "moved");
-  desk.folder.Write("of another", "of another");
-  fs::create_hard_link(desk.folder / "of another", kept);
+  UnsavedFixture fixture;
+  fixture.copies.KeepUnsaved(u"verbs.tsr", "one");
+  const fs::path kept = fixture.copiesFolder / fixture.Names().at(0);
+  fs::create_hard_link(kept, fixture.folder / "link");
+  fs::rename(kept, fixture.folder / "moved");
+  fixture.folder.Write("of another", "of another");
+  fs::create_hard_link(fixture.folder / "of another", kept);
   for (const char* const deck : {"two", "three", "four"}) {
-    desk.copies.KeepUnsaved(u"verbs.tsr", deck);
-    CHECK(desk.Kept() == Decks{deck});
+    fixture.copies.KeepUnsaved(u"verbs.tsr", deck);
+    CHECK(fixture.Kept() == Decks{deck});
   }
-  CHECK(desk.folder.Read("link") == "one");
-  CHECK(desk.folder.Read("of another") == "of another");
+  CHECK(fixture.folder.Read("link") == "one");
+  CHECK(fixture.folder.Read("of another") == "of another");
 }
 
 TEST_CASE("where files can't swap their names, each deck comes into the place of the one before") {
-  UnsavedDesk desk;
+  UnsavedFixture fixture;
   StoppedAtCalls child([&] {
     for (const char* const deck : {"one", "two", "three"}) {
-      desk.copies.KeepUnsaved(u"verbs.tsr", deck);
+      fixture.copies.KeepUnsaved(u"verbs.tsr", deck);
     }
     return 0;
   });
@@ -168,90 +168,90 @@ TEST_CASE("where files can't swap their names, each deck comes into the place of
     refused += swap ? 1 : 0;
   }
   CHECK(refused == 2);
-  CHECK(desk.Kept() == Decks{"three"});
-  CHECK(desk.HiddenFiles() == 0);
+  CHECK(fixture.Kept() == Decks{"three"});
+  CHECK(fixture.HiddenFiles() == 0);
 }
 
 TEST_CASE("the unsaved deck goes when it is dropped, and stays when it is left") {
-  UnsavedDesk desk;
-  desk.copies.KeepUnsaved(u"verbs.tsr", "one");
-  desk.copies.DropUnsaved();
-  desk.copies.DropUnsaved();
-  CHECK(desk.Names().empty());
-  desk.copies.KeepUnsaved(u"verbs.tsr", "two");
-  desk.copies.LeaveUnsaved();
-  desk.copies.DropUnsaved();
-  desk.copies.KeepUnsaved(u"verbs.tsr", "three");
-  CHECK(desk.Kept() == Decks{"two", "three"});
+  UnsavedFixture fixture;
+  fixture.copies.KeepUnsaved(u"verbs.tsr", "one");
+  fixture.copies.DropUnsaved();
+  fixture.copies.DropUnsaved();
+  CHECK(fixture.Names().empty());
+  fixture.copies.KeepUnsaved(u"verbs.tsr", "two");
+  fixture.copies.LeaveUnsaved();
+  fixture.copies.DropUnsaved();
+  fixture.copies.KeepUnsaved(u"verbs.tsr", "three");
+  CHECK(fixture.Kept() == Decks{"two", "three"});
 }
 
 TEST_CASE("decks of a process that lives are not taken, not even those that it has left") {
-  UnsavedDesk desk;
-  desk.copies.KeepUnsaved(u"verbs.tsr", "one");
-  desk.copies.KeepUnsaved(u"verbs.tsr", "two");
-  desk.copies.LeaveUnsaved();
-  desk.copies.KeepUnsaved(u"nouns.tsr", "three");
-  CHECK(PosixSafetyCopies(desk.copiesFolder).TakeLeftDecks().empty());
-  CHECK(desk.Names().size() == 2);
+  UnsavedFixture fixture;
+  fixture.copies.KeepUnsaved(u"verbs.tsr", "one");
+  fixture.copies.KeepUnsaved(u"verbs.tsr", "two");
+  fixture.copies.LeaveUnsaved();
+  fixture.copies.KeepUnsaved(u"nouns.tsr", "three");
+  CHECK(PosixSafetyCopies(fixture.copiesFolder).TakeLeftDecks().empty());
+  CHECK(fixture.Names().size() == 2);
 }
 
 TEST_CASE("what a killed process has left is taken once, and is a copy like any other then") {
-  UnsavedDesk desk;
-  LeaveByAnotherProcess(desk.copiesFolder, u"verbs.tsr", "unsaved");
-  const std::string before = desk.Names().at(0);
-  const std::vector<LeftDeck> taken = desk.copies.TakeLeftDecks();
+  UnsavedFixture fixture;
+  LeaveByAnotherProcess(fixture.copiesFolder, u"verbs.tsr", "unsaved");
+  const std::string before = fixture.Names().at(0);
+  const std::vector<LeftDeck> taken = fixture.copies.TakeLeftDecks();
   REQUIRE(taken.size() == 1);
   CHECK(taken[0].name == u"verbs");
-  CHECK(taken[0].oldPath == FromUtf8((desk.copiesFolder / before).string()));
-  REQUIRE(desk.Names().size() == 1);
-  CHECK(taken[0].path == FromUtf8((desk.copiesFolder / desk.Names()[0]).string()));
-  CHECK(ReadCopyName(desk.Names()[0])->fileName == "verbs not saved.tsr");
-  CHECK(desk.Kept() == Decks{"unsaved"});
-  CHECK(desk.copies.TakeLeftDecks().empty());
+  CHECK(taken[0].oldPath == FromUtf8((fixture.copiesFolder / before).string()));
+  REQUIRE(fixture.Names().size() == 1);
+  CHECK(taken[0].path == FromUtf8((fixture.copiesFolder / fixture.Names()[0]).string()));
+  CHECK(ReadCopyName(fixture.Names()[0])->fileName == "verbs not saved.tsr");
+  CHECK(fixture.Kept() == Decks{"unsaved"});
+  CHECK(fixture.copies.TakeLeftDecks().empty());
 }
 
 TEST_CASE("a clean end leaves the deck too, for the next start") {
-  UnsavedDesk desk;
+  UnsavedFixture fixture;
   {
-    PosixSafetyCopies ended(desk.copiesFolder);
+    PosixSafetyCopies ended(fixture.copiesFolder);
     ended.KeepUnsaved(u"verbs.tsr", "unsaved");
     ended.LeaveUnsaved();
   }
-  CHECK(desk.copies.TakeLeftDecks().size() == 1);
+  CHECK(fixture.copies.TakeLeftDecks().size() == 1);
 }
 
 TEST_CASE("a process's own file is never one that another has left") {
-  UnsavedDesk desk;
-  fs::create_directory(desk.copiesFolder);
+  UnsavedFixture fixture;
+  fs::create_directory(fixture.copiesFolder);
   const std::string taken = UnsavedName("verbs.tsr", getpid(), 1);
-  desk.folder.Write("copies/" + taken, "of another");
-  desk.copies.KeepUnsaved(u"verbs.tsr", "mine");
-  CHECK(desk.Kept() == Decks{"of another", "mine"});
+  fixture.folder.Write("copies/" + taken, "of another");
+  fixture.copies.KeepUnsaved(u"verbs.tsr", "mine");
+  CHECK(fixture.Kept() == Decks{"of another", "mine"});
 }
 
 TEST_CASE("only regular files are taken, and nothing waits for a peer") {
-  UnsavedDesk desk;
-  fs::create_directories(desk.copiesFolder / "a (unsaved 1-1).tsr");
-  REQUIRE(mkfifo((desk.copiesFolder / "b (unsaved 1-1).tsr").c_str(), 0600) == 0);
-  fs::create_symlink("/etc/passwd", desk.copiesFolder / "c (unsaved 1-1).tsr");
-  CHECK(desk.copies.TakeLeftDecks().empty());
-  CHECK(desk.Names().size() == 3);
+  UnsavedFixture fixture;
+  fs::create_directories(fixture.copiesFolder / "a (unsaved 1-1).tsr");
+  REQUIRE(mkfifo((fixture.copiesFolder / "b (unsaved 1-1).tsr").c_str(), 0600) == 0);
+  fs::create_symlink("/etc/passwd", fixture.copiesFolder / "c (unsaved 1-1).tsr");
+  CHECK(fixture.copies.TakeLeftDecks().empty());
+  CHECK(fixture.Names().size() == 3);
 }
 
 TEST_CASE("where there is no folder, no start makes one and nothing is taken") {
-  UnsavedDesk desk;
-  CHECK(desk.copies.TakeLeftDecks().empty());
-  CHECK_FALSE(fs::exists(desk.copiesFolder));
+  UnsavedFixture fixture;
+  CHECK(fixture.copies.TakeLeftDecks().empty());
+  CHECK_FALSE(fs::exists(fixture.copiesFolder));
   CHECK(PosixSafetyCopies("").TakeLeftDecks().empty());
 }
 
 TEST_CASE("a name that no file can have is made into one that can") {
-  UnsavedDesk desk;
-  desk.copies.KeepUnsaved(Text(u"a\0b.tsr", 7), "one");
-  CHECK(desk.Names().at(0).starts_with("a_b (unsaved "));
-  desk.copies.DropUnsaved();
-  desk.copies.KeepUnsaved(Text(300, u'v'), "two");
-  CHECK(desk.Kept() == Decks{"two"});
+  UnsavedFixture fixture;
+  fixture.copies.KeepUnsaved(Text(u"a\0b.tsr", 7), "one");
+  CHECK(fixture.Names().at(0).starts_with("a_b (unsaved "));
+  fixture.copies.DropUnsaved();
+  fixture.copies.KeepUnsaved(Text(300, u'v'), "two");
+  CHECK(fixture.Kept() == Decks{"two"});
 }
 
 TEST_CASE("wherever a process is killed, what it has kept is whole") {
@@ -260,32 +260,32 @@ TEST_CASE("wherever a process is killed, what it has kept is whole") {
   bool killed = true;
   for (int stop = 1; killed; ++stop) {
     CAPTURE(stop);
-    UnsavedDesk desk;
+    UnsavedFixture fixture;
     killed = KilledAt(stop, [&] {
-      PosixSafetyCopies copies(desk.copiesFolder);
+      PosixSafetyCopies copies(fixture.copiesFolder);
       for (const std::string& deck : inTurn) copies.KeepUnsaved(u"verbs.tsr", deck);
     });
-    const std::size_t decks = desk.copies.TakeLeftDecks().size();
+    const std::size_t decks = fixture.copies.TakeLeftDecks().size();
     CHECK(decks <= 1);
     Decks whole;
-    for (const std::string& name : desk.Names()) {
-      if (ReadCopyName(name)) whole.push_back(BytesOf(desk.copiesFolder / name));
+    for (const std::string& name : fixture.Names()) {
+      if (ReadCopyName(name)) whole.push_back(BytesOf(fixture.copiesFolder / name));
     }
     CHECK(whole.size() == decks);
     met.insert(whole.begin(), whole.end());
-    CHECK(desk.HiddenFiles() == 0);
+    CHECK(fixture.HiddenFiles() == 0);
   }
   CHECK(met == std::set<std::string>(inTurn.begin(), inTurn.end()));
 }
 
 TEST_CASE("nothing stays open behind a deck that is dropped or taken") {
-  UnsavedDesk desk;
-  LeaveByAnotherProcess(desk.copiesFolder, u"verbs.tsr", "unsaved");
+  UnsavedFixture fixture;
+  LeaveByAnotherProcess(fixture.copiesFolder, u"verbs.tsr", "unsaved");
   const int lowest = LowestFreeDescriptor();
-  desk.copies.KeepUnsaved(u"verbs.tsr", "one");
-  desk.copies.KeepUnsaved(u"verbs.tsr", "two");
-  desk.copies.DropUnsaved();
-  desk.copies.TakeLeftDecks();
+  fixture.copies.KeepUnsaved(u"verbs.tsr", "one");
+  fixture.copies.KeepUnsaved(u"verbs.tsr", "two");
+  fixture.copies.DropUnsaved();
+  fixture.copies.TakeLeftDecks();
   CHECK(LowestFreeDescriptor() == lowest);
 }
 

@@ -2,7 +2,7 @@
 
 #include "companion/formats/deck_format.h"
 #include "tests/support/deck_bytes.h"
-#include "tests/unit/companion/formats/format_desk.h"
+#include "tests/unit/companion/formats/format_fixture.h"
 #include "tests/unit/companion/formats/told_findings.h"
 
 namespace tessara::test {

@@ -2,7 +2,7 @@
 
 #include "companion/cards/complaints.h"
 #include "companion/formats/texts/import_text_format.h"
-#include "tests/unit/companion/formats/format_desk.h"
+#include "tests/unit/companion/formats/format_fixture.h"
 #include "tests/unit/companion/formats/told_findings.h"
 
 namespace tessara::test {
@@ -111,23 +111,23 @@ TEST_CASE("a text longer than an import reads is found, in both formats") {
 }
 
 TEST_CASE("cards know the lines on which they begin") {
-  FormatDesk desk;
-  const CardSet set = desk.Read(FileFormat::kText, "EXT\n1.q\n=T\n\n2.r\nA.x\n=A\n");
+  FormatFixture fixture;
+  const CardSet set = fixture.Read(FileFormat::kText, "EXT\n1.q\n=T\n\n2.r\nA.x\n=A\n");
   REQUIRE(set.cards.size() == 2);
   CHECK(MessageAt(set.cards[1].place, "what") == "file:5: card 2: what");
 }
 
 TEST_CASE("a text that the program would not import is refused, with all its errors") {
-  FormatDesk desk;
-  CHECK_THROWS_AS(static_cast<void>(desk.Read(FileFormat::kText, "EXT\n2.q\n=T\n\n3.r\n=X\n")),
+  FormatFixture fixture;
+  CHECK_THROWS_AS(static_cast<void>(fixture.Read(FileFormat::kText, "EXT\n2.q\n=T\n\n3.r\n=X\n")),
                   Refused);
-  CHECK(desk.Told().size() == 2);
+  CHECK(fixture.Told().size() == 2);
 }
 
 TEST_CASE("a text is written in the code page where that holds it and is not taken for UTF-8") {
-  FormatDesk desk;
-  const auto textOf = [&desk](const Text& front) {
-    return desk.Written(FileFormat::kText, SetOf(kStandardDeck, {TextCard(front, u"b")}));
+  FormatFixture fixture;
+  const auto textOf = [&fixture](const Text& front) {
+    return fixture.Written(FileFormat::kText, SetOf(kStandardDeck, {TextCard(front, u"b")}));
   };
   CHECK(textOf(u"\u00E9") == "STD\r\n1.\r\n*>F\r\n\xE9\r\n*>B\r\nb\r\n");
   CHECK(textOf(u"\u00C3\u00A9").starts_with("\xEF\xBB\xBFSTD\r\n"));
@@ -135,14 +135,14 @@ TEST_CASE("a text is written in the code page where that holds it and is not tak
 }
 
 TEST_CASE("what an import text can't hold is told") {
-  FormatDesk desk;
+  FormatFixture fixture;
   DeckRecord odd = Question(u"q", {u"x", u"", u"", u""}, u"");
   const std::string text =
-      desk.Written(FileFormat::kText, SetOf(kStandardDeck, {TextCard(u"a\r\nb", u"c")}));
+      fixture.Written(FileFormat::kText, SetOf(kStandardDeck, {TextCard(u"a\r\nb", u"c")}));
   CHECK(text.find("a b\r\n") != text.npos);
-  static_cast<void>(desk.Written(FileFormat::kText, SetOf(kExtendedDeck, {odd})));
-  CHECK(desk.Told() == Lines{"deck:1: the line breaks of the front become blanks",
-                             "deck:1: without an answer it has no type in an import text"});
+  static_cast<void>(fixture.Written(FileFormat::kText, SetOf(kExtendedDeck, {odd})));
+  CHECK(fixture.Told() == Lines{"deck:1: the line breaks of the front become blanks",
+                                "deck:1: without an answer it has no type in an import text"});
 }
 
 }  // namespace tessara::test

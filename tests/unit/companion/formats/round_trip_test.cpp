@@ -5,7 +5,7 @@
 
 #include "adapters/posix/code_page_of_locale.h"
 #include "companion/formats/tables/delimited_reader.h"
-#include "tests/unit/companion/formats/format_desk.h"
+#include "tests/unit/companion/formats/format_fixture.h"
 
 namespace tessara::test {
 
@@ -117,10 +117,10 @@ TEST_CASE("a deck comes back from each format as it was, in all scripts") {
       if (isXml && kind == kExtendedDeck) continue;
       for (Chance chance : {OfCodePage(isXml ? kOfXml : kOfCodePage), OfAllScripts()}) {
         for (const std::size_t cards : {1U, 2U, 200U}) {
-          FormatDesk desk;
+          FormatFixture fixture;
           const CardSet written = RandomSet(kind, cards, chance);
-          CheckSame(desk.Read(format, desk.Written(format, written)), written);
-          CHECK(desk.Told() == Lines());
+          CheckSame(fixture.Read(format, fixture.Written(format, written)), written);
+          CHECK(fixture.Told() == Lines());
         }
       }
     }
@@ -130,11 +130,11 @@ TEST_CASE("a deck comes back from each format as it was, in all scripts") {
 TEST_CASE("texts of all scripts come back under each code page") {
   for (const char* const name : {"WINDOWS-1251", "WINDOWS-1253", "WINDOWS-1250"}) {
     Chance chance = OfAllScripts();
-    FormatDesk desk(CodePageNamed(name));
+    FormatFixture fixture(CodePageNamed(name));
     const CardSet written = RandomSet(kStandardDeck, 50, chance);
     for (const FileFormat format : {FileFormat::kDeck, FileFormat::kText}) {
-      CheckSame(desk.Read(format, desk.Written(format, written)), written);
-      CHECK(desk.Told() == Lines());
+      CheckSame(fixture.Read(format, fixture.Written(format, written)), written);
+      CHECK(fixture.Told() == Lines());
     }
   }
 }
@@ -142,20 +142,20 @@ TEST_CASE("texts of all scripts come back under each code page") {
 TEST_CASE("line breaks come back from each format but import texts") {
   for (const FileFormat format :
        {FileFormat::kDeck, FileFormat::kCsv, FileFormat::kTsv, FileFormat::kKvtml}) {
-    FormatDesk desk;
+    FormatFixture fixture;
     const CardSet written = SetOf(kStandardDeck, {TextCard(u"a\r\nb\r\n", u"\r\n\r\nc")});
-    CheckSame(desk.Read(format, desk.Written(format, written)), written);
-    CHECK(desk.Told() == Lines());
+    CheckSame(fixture.Read(format, fixture.Written(format, written)), written);
+    CHECK(fixture.Told() == Lines());
   }
 }
 
 TEST_CASE("cards of empty texts come back from each format") {
   for (const FileFormat format : {FileFormat::kDeck, FileFormat::kText, FileFormat::kCsv,
                                   FileFormat::kTsv, FileFormat::kKvtml}) {
-    FormatDesk desk;
+    FormatFixture fixture;
     const CardSet written = SetOf(kStandardDeck, {TextCard(u"", u""), TextCard(u"", u"b"),
                                                   TextCard(u"a", u""), TextCard(u"", u"")});
-    CheckSame(desk.Read(format, desk.Written(format, written)), written);
+    CheckSame(fixture.Read(format, fixture.Written(format, written)), written);
   }
 }
 
@@ -168,26 +168,26 @@ TEST_CASE("texts that look like the lines of a format come back from each format
        {FileFormat::kText, FileFormat::kCsv, FileFormat::kTsv, FileFormat::kKvtml}) {
     for (const Text& text : texts) {
       CAPTURE(ToUtf8(text));
-      FormatDesk desk;
+      FormatFixture fixture;
       const CardSet written = SetOf(kStandardDeck, {TextCard(text, u"back"), TextCard(u"x", text)});
-      CheckSame(desk.Read(format, desk.Written(format, written)), written);
-      CHECK(desk.Told() == Lines());
+      CheckSame(fixture.Read(format, fixture.Written(format, written)), written);
+      CHECK(fixture.Told() == Lines());
     }
   }
 }
 
 TEST_CASE("a table without names whose first card looks like names is still read as cards") {
-  FormatDesk desk;
+  FormatFixture fixture;
   const CardSet written = SetOf(kStandardDeck, {TextCard(u"Front", u"Back")});
-  CheckSame(desk.Read(FileFormat::kTsv, desk.Written(FileFormat::kTsv, written)), written);
+  CheckSame(fixture.Read(FileFormat::kTsv, fixture.Written(FileFormat::kTsv, written)), written);
 }
 
 TEST_CASE("the information comes back from a deck and from a vocabulary file") {
   for (const FileFormat format : {FileFormat::kDeck, FileFormat::kKvtml}) {
-    FormatDesk desk;
+    FormatFixture fixture;
     CardSet written = SetOf(kStandardDeck, {TextCard(u"a", u"b")});
     written.info = {u"Title", u"Author", u"What\r\nit is", u"1/5/2026"};
-    const CardSet read = desk.Read(format, desk.Written(format, written));
+    const CardSet read = fixture.Read(format, fixture.Written(format, written));
     CHECK(read.info.title == u"Title");
     CHECK(read.info.author == u"Author");
     CHECK(read.info.description == u"What\r\nit is");
@@ -196,11 +196,11 @@ TEST_CASE("the information comes back from a deck and from a vocabulary file") {
 }
 
 TEST_CASE("a question without an answer comes back from a table") {
-  FormatDesk desk;
+  FormatFixture fixture;
   const CardSet written = SetOf(kExtendedDeck, {Question(u"q", {u"x", u"", u"", u""}, u"")});
   for (const FileFormat format : {FileFormat::kDeck, FileFormat::kCsv, FileFormat::kTsv}) {
-    CheckSame(desk.Read(format, desk.Written(format, written)), written);
-    CHECK(desk.Told() == Lines());
+    CheckSame(fixture.Read(format, fixture.Written(format, written)), written);
+    CHECK(fixture.Told() == Lines());
   }
 }
 

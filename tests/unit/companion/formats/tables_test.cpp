@@ -1,7 +1,7 @@
 #include <doctest/doctest.h>
 
 #include "companion/cards/complaints.h"
-#include "tests/unit/companion/formats/format_desk.h"
+#include "tests/unit/companion/formats/format_fixture.h"
 
 namespace tessara::test {
 
@@ -16,9 +16,9 @@ struct TableCase {
 
 void CheckReads(FileFormat format, const TableCase& one) {
   CAPTURE(one.title);
-  FormatDesk desk;
-  CHECK(CardsOf(desk.Read(format, one.bytes)) == one.cards);
-  CHECK(desk.Told() == one.told);
+  FormatFixture fixture;
+  CHECK(CardsOf(fixture.Read(format, one.bytes)) == one.cards);
+  CHECK(fixture.Told() == one.told);
 }
 
 }  // namespace
@@ -108,45 +108,45 @@ TEST_CASE("a table of tabs becomes cards as its comment lines tell") {
 }
 
 TEST_CASE("tables are written as other programs read them") {
-  FormatDesk desk;
+  FormatFixture fixture;
   const CardSet set =
       SetOf(kStandardDeck, {TextCard(u"a\tb", u"c,\"d\""), TextCard(u"#e", u"f\r\ng")});
-  CHECK(desk.Written(FileFormat::kCsv, set) ==
+  CHECK(fixture.Written(FileFormat::kCsv, set) ==
         "\xEF\xBB\xBF"
         "front,back\r\na\tb,\"c,\"\"d\"\"\"\r\n\"#e\",\"f\r\ng\"\r\n");
   const std::string lines = "\"a\tb\"\t\"c,\"\"d\"\"\"\n\"#e\"\t\"f\r\ng\"\n";
-  CHECK(desk.Written(FileFormat::kTsv, set) == lines);
-  CHECK(desk.Written(FileFormat::kTsv, set, TsvComments::kWritten) ==
+  CHECK(fixture.Written(FileFormat::kTsv, set) == lines);
+  CHECK(fixture.Written(FileFormat::kTsv, set, TsvComments::kWritten) ==
         "#separator:tab\n#html:false\n#columns:front\tback\n" + lines);
 }
 
 TEST_CASE("what a table can't hold of a card is told") {
-  FormatDesk desk;
+  FormatFixture fixture;
   DeckRecord odd = Question(u"q", {u"x", u"", u"", u""}, u"T");
   DeckRecord silent = Question(u"r", {}, u"F");
   silent.answer.clear();
-  static_cast<void>(desk.Written(FileFormat::kCsv,
-                                 SetOf(kExtendedDeck, {odd, silent, Question(u"a\nb", {}, u"T")})));
-  CHECK(desk.Told() ==
+  static_cast<void>(fixture.Written(
+      FileFormat::kCsv, SetOf(kExtendedDeck, {odd, silent, Question(u"a\nb", {}, u"T")})));
+  CHECK(fixture.Told() ==
         Lines{"deck:1: the choices of a true/false question are not kept",
               "deck:2: without an answer it is not kept as a true/false question",
               "deck:3: a carriage return or line feed of its own becomes a line break"});
 }
 
 TEST_CASE("a field over 1 MB is refused in words") {
-  FormatDesk desk;
+  FormatFixture fixture;
   const std::string field(kLargestField + 1, 'x');
   for (const FileFormat format : {FileFormat::kCsv, FileFormat::kTsv}) {
-    CHECK_THROWS_WITH_AS(static_cast<void>(desk.Read(format, "a,b\n\"c" + field + "\",d\n")),
+    CHECK_THROWS_WITH_AS(static_cast<void>(fixture.Read(format, "a,b\n\"c" + field + "\",d\n")),
                          "file:2: a field is larger than 1 MB", Refused);
   }
 }
 
 TEST_CASE("more cards than fit into memory are refused in words") {
-  FormatDesk desk;
+  FormatFixture fixture;
   std::string bytes;
   for (std::size_t at = 0; at <= kMostSetCards; ++at) bytes += "a,b\n";
-  CHECK_THROWS_AS(static_cast<void>(desk.Read(FileFormat::kCsv, bytes)), Refused);
+  CHECK_THROWS_AS(static_cast<void>(fixture.Read(FileFormat::kCsv, bytes)), Refused);
 }
 
 }  // namespace tessara::test

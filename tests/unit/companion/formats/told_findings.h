@@ -1,7 +1,7 @@
 #pragma once
 
 #include "companion/cards/complaints.h"
-#include "tests/unit/companion/formats/format_desk.h"
+#include "tests/unit/companion/formats/format_fixture.h"
 
 namespace tessara::test {
 

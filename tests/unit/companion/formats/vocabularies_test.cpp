@@ -1,7 +1,7 @@
 #include <doctest/doctest.h>
 
 #include "companion/cards/complaints.h"
-#include "tests/unit/companion/formats/format_desk.h"
+#include "tests/unit/companion/formats/format_fixture.h"
 
 namespace tessara::test {
 
@@ -18,8 +18,8 @@ const std::string kTwoLanguages = "<identifier id=\"0\"/><identifier id=\"1\"/>"
 }  // namespace
 
 TEST_CASE("the two languages of a vocabulary are the sides of the cards") {
-  FormatDesk desk;
-  const CardSet set = desk.Read(
+  FormatFixture fixture;
+  const CardSet set = fixture.Read(
       FileFormat::kKvtml,
       Vocabulary(kTwoLanguages,
                  "<entry id=\"0\"><translation id=\"1\"><text>b &amp; \xC3\xA9</text></translation>"
@@ -27,29 +27,30 @@ TEST_CASE("the two languages of a vocabulary are the sides of the cards") {
                  "<entry id=\"1\"><translation id=\"0\"><text>c</text></translation></entry>\n"));
   CHECK(CardsOf(set) == Lines{"E|a<i>|b & \xC3\xA9", "E|c|"});
   CHECK(MessageAt(set.cards[1].place, "what") == "file:6: card 2: what");
-  CHECK(desk.Told().empty());
+  CHECK(fixture.Told().empty());
 }
 
 TEST_CASE("a text of a vocabulary that is no UTF-8 is one of the code page") {
-  FormatDesk desk;
-  CHECK(CardsOf(
-            desk.Read(FileFormat::kKvtml,
-                      Vocabulary(kTwoLanguages,
-                                 "<entry><translation id=\"0\"><text>bj\xF6rn</text></translation>"
-                                 "<translation id=\"1\"><text>\xC3\xB6</text></translation>"
-                                 "</entry>"))) == Lines{"E|bj\xC3\xB6rn|\xC3\xB6"});
+  FormatFixture fixture;
+  CHECK(CardsOf(fixture.Read(
+            FileFormat::kKvtml,
+            Vocabulary(kTwoLanguages,
+                       "<entry><translation id=\"0\"><text>bj\xF6rn</text></translation>"
+                       "<translation id=\"1\"><text>\xC3\xB6</text></translation>"
+                       "</entry>"))) == Lines{"E|bj\xC3\xB6rn|\xC3\xB6"});
 }
 
 TEST_CASE("one language, or more than two, is told") {
-  FormatDesk desk;
+  FormatFixture fixture;
   const std::string entry =
       "<entry id=\"0\"><translation id=\"0\"><text>a</text></translation></entry>";
-  CHECK(CardsOf(desk.Read(FileFormat::kKvtml, Vocabulary("<identifier id=\"0\"/>", entry))) ==
+  CHECK(CardsOf(fixture.Read(FileFormat::kKvtml, Vocabulary("<identifier id=\"0\"/>", entry))) ==
         Lines{"E|a|"});
-  CHECK(CardsOf(desk.Read(FileFormat::kKvtml, Vocabulary(kTwoLanguages + "<identifier id=\"2\"/>",
-                                                         entry))) == Lines{"E|a|"});
-  CHECK(desk.Told() == Lines{"file: it has one language: the backs are empty",
-                             "file: of its languages the first two are kept"});
+  CHECK(CardsOf(fixture.Read(FileFormat::kKvtml,
+                             Vocabulary(kTwoLanguages + "<identifier id=\"2\"/>", entry))) ==
+        Lines{"E|a|"});
+  CHECK(fixture.Told() == Lines{"file: it has one language: the backs are empty",
+                                "file: of its languages the first two are kept"});
 }
 
 TEST_CASE("what is no vocabulary of version 2 is refused in words") {
@@ -60,14 +61,14 @@ TEST_CASE("what is no vocabulary of version 2 is refused in words") {
                               "<kvtml version=\"2.0\"></kvtml>",
                               std::string(1000, '<')};
   for (const std::string& bytes : kNot) {
-    FormatDesk desk;
-    CHECK_THROWS_AS(static_cast<void>(desk.Read(FileFormat::kKvtml, bytes)), Refused);
+    FormatFixture fixture;
+    CHECK_THROWS_AS(static_cast<void>(fixture.Read(FileFormat::kKvtml, bytes)), Refused);
   }
 }
 
 TEST_CASE("entities that a file declares are not expanded") {
-  FormatDesk desk;
-  const CardSet set = desk.Read(
+  FormatFixture fixture;
+  const CardSet set = fixture.Read(
       FileFormat::kKvtml,
       "<!DOCTYPE kvtml [<!ENTITY a \"aaaaaaaaaa\"><!ENTITY b \"&a;&a;&a;\">]>"
       "<kvtml version=\"2.0\"><identifiers>" +
@@ -78,21 +79,21 @@ TEST_CASE("entities that a file declares are not expanded") {
 }
 
 TEST_CASE("a vocabulary file with more tags than memory is refused in words") {
-  FormatDesk desk;
+  FormatFixture fixture;
   std::string bytes;
   for (int at = 0; at < 400'001; ++at) bytes += "<a>";
-  CHECK_THROWS_WITH_AS(static_cast<void>(desk.Read(FileFormat::kKvtml, bytes)),
+  CHECK_THROWS_WITH_AS(static_cast<void>(fixture.Read(FileFormat::kKvtml, bytes)),
                        "file: it has more than 400000 tags", Refused);
 }
 
 TEST_CASE("questions are no vocabulary, and control characters do not stand in XML") {
-  FormatDesk desk;
-  CHECK_THROWS_AS(static_cast<void>(desk.Written(FileFormat::kKvtml,
-                                                 SetOf(kExtendedDeck, {Question(u"q", {}, u"T")}))),
+  FormatFixture fixture;
+  CHECK_THROWS_AS(static_cast<void>(fixture.Written(
+                      FileFormat::kKvtml, SetOf(kExtendedDeck, {Question(u"q", {}, u"T")}))),
                   Refused);
   static_cast<void>(
-      desk.Written(FileFormat::kKvtml, SetOf(kStandardDeck, {TextCard(u"a\u0001", u"b")})));
-  CHECK(desk.Told() == Lines{"deck:1: control characters are not kept"});
+      fixture.Written(FileFormat::kKvtml, SetOf(kStandardDeck, {TextCard(u"a\u0001", u"b")})));
+  CHECK(fixture.Told() == Lines{"deck:1: control characters are not kept"});
 }
 
 }  // namespace tessara::test

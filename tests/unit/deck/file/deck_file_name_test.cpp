@@ -2,7 +2,7 @@
 
 #include <doctest/doctest.h>
 
-#include "tests/support/life_desk.h"
+#include "tests/support/life_fixture.h"
 
 namespace tessara::test {
 

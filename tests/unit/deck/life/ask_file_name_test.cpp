@@ -3,17 +3,17 @@
 #include <doctest/doctest.h>
 
 #include "deck/life/dialog_places.h"
-#include "tests/support/test_desk.h"
+#include "tests/support/test_fixture.h"
 
 namespace tessara::test {
 
 TEST_CASE("the file dialog gets its filter and asks for nothing before overwriting") {
   for (const FileDialogMode mode : {FileDialogMode::kOpen, FileDialogMode::kSave}) {
-    TestDesk desk;
-    FakeMachine& fakes = desk.fakes;
+    TestFixture fixture;
+    FakeMachine& fakes = fixture.fakes;
     fakes.files.folders.insert(u"/decks");
     fakes.dialogs.files = {u"/decks/a.tsr"};
-    CHECK(AskFileName(mode, u"Text File|*.txt", desk.app) == u"/decks/a.tsr");
+    CHECK(AskFileName(mode, u"Text File|*.txt", fixture.app) == u"/decks/a.tsr");
     REQUIRE(fakes.dialogs.fileRequests.size() == 1);
     const FileDialogRequest& request = fakes.dialogs.fileRequests[0];
     CHECK(request.mode == mode);
@@ -25,62 +25,62 @@ TEST_CASE("the file dialog gets its filter and asks for nothing before overwriti
 }
 
 TEST_CASE("a cancelled file dialog gives empty text") {
-  TestDesk desk;
-  desk.fakes.dialogs.files = {u""};
-  CHECK(AskFileName(FileDialogMode::kOpen, kDeckFilter, desk.app).empty());
+  TestFixture fixture;
+  fixture.fakes.dialogs.files = {u""};
+  CHECK(AskFileName(FileDialogMode::kOpen, kDeckFilter, fixture.app).empty());
 }
 
 TEST_CASE("the window that holds the file dialog is there for as long as the dialog is") {
-  TestDesk desk;
-  desk.fakes.dialogs.files = {u"/decks/a.tsr"};
+  TestFixture fixture;
+  fixture.fakes.dialogs.files = {u"/decks/a.tsr"};
   std::vector<std::string> loaded;
-  desk.fakes.dialogs.whileAsked = [&] {
-    for (const Form* form : desk.windows.LoadedForms()) loaded.push_back(form->Name());
+  fixture.fakes.dialogs.whileAsked = [&] {
+    for (const Form* form : fixture.windows.LoadedForms()) loaded.push_back(form->Name());
   };
-  (void)AskFileName(FileDialogMode::kOpen, kDeckFilter, desk.app);
+  (void)AskFileName(FileDialogMode::kOpen, kDeckFilter, fixture.app);
   CHECK(loaded == std::vector<std::string>{"frmSaveBox"});
-  CHECK(desk.windows.LoadedForms().empty());
-  CHECK(desk.windows.ActiveForm() == nullptr);
+  CHECK(fixture.windows.LoadedForms().empty());
+  CHECK(fixture.windows.ActiveForm() == nullptr);
 }
 
 TEST_CASE("a program that ends while the file dialog is up leaves no window behind") {
-  TestDesk desk;
-  desk.fakes.dialogs.files = {u""};
-  desk.fakes.dialogs.whileAsked = [&] {
-    desk.windows.EndProgram(1);
-    desk.windows.LeaveIfEnded();
+  TestFixture fixture;
+  fixture.fakes.dialogs.files = {u""};
+  fixture.fakes.dialogs.whileAsked = [&] {
+    fixture.windows.EndProgram(1);
+    fixture.windows.LeaveIfEnded();
   };
-  desk.windows.Run([&] { (void)AskFileName(FileDialogMode::kOpen, kDeckFilter, desk.app); });
-  CHECK(desk.windows.LoadedForms().empty());
+  fixture.windows.Run([&] { (void)AskFileName(FileDialogMode::kOpen, kDeckFilter, fixture.app); });
+  CHECK(fixture.windows.LoadedForms().empty());
 }
 
 TEST_CASE("a save dialog goes on until a file can be made at the place, an open dialog takes any") {
   const Text nowhere = u"/gone/a.tsr";
-  TestDesk desk;
-  desk.fakes.files.folders.insert(u"/decks");
-  desk.fakes.dialogs.files = {nowhere, u"/decks/a", nowhere};
-  CHECK(AskFileName(FileDialogMode::kSave, kDeckFilter, desk.app) == u"/decks/a");
-  CHECK(desk.fakes.dialogs.refusals == std::vector{SaveRefusal(nowhere, desk.fakes.files)});
-  CHECK(AskFileName(FileDialogMode::kOpen, kDeckFilter, desk.app) == nowhere);
-  CHECK(desk.fakes.dialogs.refusals.size() == 1);
+  TestFixture fixture;
+  fixture.fakes.files.folders.insert(u"/decks");
+  fixture.fakes.dialogs.files = {nowhere, u"/decks/a", nowhere};
+  CHECK(AskFileName(FileDialogMode::kSave, kDeckFilter, fixture.app) == u"/decks/a");
+  CHECK(fixture.fakes.dialogs.refusals == std::vector{SaveRefusal(nowhere, fixture.fakes.files)});
+  CHECK(AskFileName(FileDialogMode::kOpen, kDeckFilter, fixture.app) == nowhere);
+  CHECK(fixture.fakes.dialogs.refusals.size() == 1);
 }
 
 TEST_CASE("the bare pattern is no place to save to and is not refused as one") {
-  TestDesk desk;
-  desk.fakes.dialogs.files = {u"*.tsr"};
-  CHECK(AskFileName(FileDialogMode::kSave, kDeckFilter, desk.app) == u"*.tsr");
-  CHECK(desk.fakes.dialogs.refusals.empty());
+  TestFixture fixture;
+  fixture.fakes.dialogs.files = {u"*.tsr"};
+  CHECK(AskFileName(FileDialogMode::kSave, kDeckFilter, fixture.app) == u"*.tsr");
+  CHECK(fixture.fakes.dialogs.refusals.empty());
 }
 
 TEST_CASE("the next dialog begins in the folder of the file chosen last, a cancel apart") {
-  TestDesk desk;
-  desk.fakes.files.Put(u"/decks/birds/a.tsr", "");
-  desk.fakes.dialogs.files = {u"/decks/birds/a.tsr", u"", u""};
+  TestFixture fixture;
+  fixture.fakes.files.Put(u"/decks/birds/a.tsr", "");
+  fixture.fakes.dialogs.files = {u"/decks/birds/a.tsr", u"", u""};
   for (int dialog = 0; dialog < 3; ++dialog) {
-    (void)AskFileName(FileDialogMode::kOpen, kDeckFilter, desk.app);
+    (void)AskFileName(FileDialogMode::kOpen, kDeckFilter, fixture.app);
   }
-  const std::vector<FileDialogRequest>& asked = desk.fakes.dialogs.fileRequests;
-  CHECK(asked[0].initialFolder == desk.fakes.desktop.documentsFolder);
+  const std::vector<FileDialogRequest>& asked = fixture.fakes.dialogs.fileRequests;
+  CHECK(asked[0].initialFolder == fixture.fakes.desktop.documentsFolder);
   CHECK(asked[1].initialFolder == u"/decks/birds");
   CHECK(asked[2].initialFolder == u"/decks/birds");
 }

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "base/utf8.h"
-#include "tests/support/life_desk.h"
+#include "tests/support/life_fixture.h"
 
 namespace tessara::test {
 

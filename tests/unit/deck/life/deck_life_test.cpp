@@ -9,86 +9,88 @@ namespace tessara::test {
 TEST_CASE("the flags tell the states of the deck window apart") {
   struct Case {
     const char* state;
-    std::function<void(LifeDesk&)> reach;
+    std::function<void(LifeFixture&)> reach;
     DeckFlags flags;
   };
   const Case cases[] = {
       {"no deck window, after a close",
-       [](LifeDesk& desk) {
-         desk.OpenFile(kA);
-         desk.Answer(MessageAnswer::kYes);
-         desk.Exit();
+       [](LifeFixture& fixture) {
+         fixture.OpenFile(kA);
+         fixture.Answer(MessageAnswer::kYes);
+         fixture.Exit();
        },
        {u"", false, false, false}},
-      {"new and empty", [](LifeDesk&) {}, {u"", false, false, false}},
+      {"new and empty", [](LifeFixture&) {}, {u"", false, false, false}},
       {"cleared",
-       [](LifeDesk& desk) {
-         desk.OpenFile(kA);
-         desk.Clear();
+       [](LifeFixture& fixture) {
+         fixture.OpenFile(kA);
+         fixture.Clear();
        },
        {u"", false, false, false}},
-      {"new with cards", [](LifeDesk& desk) { desk.BuildDeck(1); }, {u"", true, true, false}},
-      {"opened", [](LifeDesk& desk) { desk.OpenFile(kA); }, {kA, false, false, true}},
+      {"new with cards",
+       [](LifeFixture& fixture) { fixture.BuildDeck(1); },
+       {u"", true, true, false}},
+      {"opened", [](LifeFixture& fixture) { fixture.OpenFile(kA); }, {kA, false, false, true}},
       {"saved for the first time",
-       [](LifeDesk& desk) {
-         desk.BuildDeck(1);
-         desk.Choose(kB);
-         desk.Save();
+       [](LifeFixture& fixture) {
+         fixture.BuildDeck(1);
+         fixture.Choose(kB);
+         fixture.Save();
        },
        {kB, false, false, true}},
       {"saved again",
-       [](LifeDesk& desk) {
-         desk.OpenFile(kA);
-         desk.BuildCard(u"more", u"");
-         desk.Save();
+       [](LifeFixture& fixture) {
+         fixture.OpenFile(kA);
+         fixture.BuildCard(u"more", u"");
+         fixture.Save();
        },
        // A builder's card offers a save, and a save that needs no name leaves the offer.
        {kA, false, true, true}},
       {"saved under a name, new",
-       [](LifeDesk& desk) {
-         desk.BuildDeck(1);
-         desk.SaveAs(kB);
+       [](LifeFixture& fixture) {
+         fixture.BuildDeck(1);
+         fixture.SaveAs(kB);
        },
        {kB, false, false, false}},
       {"saved under a name, opened",
-       [](LifeDesk& desk) {
-         desk.OpenFile(kA);
-         desk.SaveAs(kB);
+       [](LifeFixture& fixture) {
+         fixture.OpenFile(kA);
+         fixture.SaveAs(kB);
        },
        {kB, false, false, true}},
       {"changed by a deletion",
-       [](LifeDesk& desk) {
-         desk.OpenFile(kA);
-         desk.DeleteCard();
+       [](LifeFixture& fixture) {
+         fixture.OpenFile(kA);
+         fixture.DeleteCard();
        },
        {kA, true, false, true}},
       {"changed by a builder",
-       [](LifeDesk& desk) {
-         desk.OpenFile(kA);
-         desk.BuildCard(u"more", u"");
+       [](LifeFixture& fixture) {
+         fixture.OpenFile(kA);
+         fixture.BuildCard(u"more", u"");
        },
        {kA, true, true, true}},
   };
   for (const Case& c : cases) {
     CAPTURE(c.state);
-    TwoFiles desk;
-    c.reach(desk);
-    CHECK(desk.FlagsNow() == c.flags);
+    TwoFiles fixture;
+    c.reach(fixture);
+    CHECK(fixture.FlagsNow() == c.flags);
   }
 }
 
 TEST_CASE("a deck from the command line is not on file until it is saved") {
-  LifeDesk desk;
-  desk.PutDeck(kA, 2);
-  desk.OpenFromCommandLine(kA);
-  CHECK(desk.FlagsNow() == DeckFlags{kA, false, false, false});
-  CHECK(desk.deck->Caption() == u"a  [STUDY]");
-  desk.DeleteCard();
-  desk.Save();
-  CHECK(desk.FlagsNow() == DeckFlags{kA, false, false, true});
-  CHECK(desk.File(kA).size() == 4 * kRecordSize);
-  desk.Save();
-  CHECK(desk.File(kA).size() == 3 * kRecordSize);
+  LifeFixture fixture;
+  fixture.PutDeck(kA, 2);
+  fixture.OpenFromCommandLine(kA);
+  CHECK(fixture.FlagsNow() == DeckFlags{kA, false, false, false});
+  CHECK(fixture.deck->Caption() == u"a  [STUDY]");
+  fixture.DeleteCard();
+  fixture.Save();
+  CHECK(fixture.FlagsNow() == DeckFlags{kA, false, false, true});
+  CHECK(fixture.File(kA).size() == 4 * kRecordSize);
+  fixture.Save();
+  CHECK(fixture.File(kA).size() == 3 * kRecordSize);
 }
 
 TEST_CASE("the arrows of the deck window look at the ends of the deck") {
@@ -101,21 +103,21 @@ TEST_CASE("the arrows of the deck window look at the ends of the deck") {
   const Case cases[] = {{1, 0, false, false}, {1, 1, false, false}, {1, 2, false, true},
                         {2, 2, true, false},  {0, 2, true, true},   {3, 2, true, true}};
   for (const Case& c : cases) {
-    LifeDesk desk;
-    desk.state.deck.currentCard = c.current;
-    desk.state.deck.cardCount = c.count;
-    desk.deck->UpdateMoveButtons();
-    CHECK(desk.deck->arrows[kPreviousCard].Enabled() == c.back);
-    CHECK(desk.deck->arrows[kNextCard].Enabled() == c.on);
+    LifeFixture fixture;
+    fixture.state.deck.currentCard = c.current;
+    fixture.state.deck.cardCount = c.count;
+    fixture.deck->UpdateMoveButtons();
+    CHECK(fixture.deck->arrows[kPreviousCard].Enabled() == c.back);
+    CHECK(fixture.deck->arrows[kNextCard].Enabled() == c.on);
   }
 }
 
 TEST_CASE("going to a card needs more than one") {
-  LifeDesk desk;
+  LifeFixture fixture;
   for (const std::int16_t count : {std::int16_t{0}, std::int16_t{1}, std::int16_t{2}}) {
-    desk.state.deck.cardCount = count;
-    desk.deck->SetGoToMenu();
-    CHECK(desk.deck->goToCard.Enabled() == (count > 1));
+    fixture.state.deck.cardCount = count;
+    fixture.deck->SetGoToMenu();
+    CHECK(fixture.deck->goToCard.Enabled() == (count > 1));
   }
 }
 
@@ -126,10 +128,10 @@ TEST_CASE("the first of two texts is taken unless it is empty") {
 }
 
 TEST_CASE("the delete command is switched on and off") {
-  LifeDesk desk;
+  LifeFixture fixture;
   for (const bool on : {true, false}) {
-    desk.deck->MenuOp(on);
-    CHECK(desk.deck->deleteCard.Enabled() == on);
+    fixture.deck->MenuOp(on);
+    CHECK(fixture.deck->deleteCard.Enabled() == on);
   }
 }
 

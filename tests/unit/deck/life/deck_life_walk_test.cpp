@@ -40,7 +40,7 @@ const ImportedText kTexts[] = {
 class Walk {
  public:
   explicit Walk(unsigned seed) : dice_(seed) {
-    desk_.fakes.dialogs.takesEveryPlace = true;
+    fixture_.fakes.dialogs.takesEveryPlace = true;
     PutFile(u"/decks/a.tsr", DeckBytes(2, {.title = u"a title"}));
     PutFile(u"/decks/b.tsr", DeckBytes(5, {.date = u" 2/3/1999", .author = u"Me"}));
     PutFile(u"/decks/none.tsr", DeckBytes(0));
@@ -57,17 +57,17 @@ class Walk {
   std::string Step() {
     PrepareAnswers();
     std::string done = Command();
-    desk_.fakes.dialogs.files.clear();
-    desk_.fakes.messages.answers.clear();
+    fixture_.fakes.dialogs.files.clear();
+    fixture_.fakes.messages.answers.clear();
     return done;
   }
 
   /// What of the program is not as the model has it; empty where all is.
   std::string Differences() {
-    const ProgramState& state = desk_.state;
+    const ProgramState& state = fixture_.state;
     differences_.clear();
-    Expect(desk_.TakeBoxes() == std::exchange(model_.boxes, {}), "boxes");
-    Expect(desk_.program.Windows().ExitStatus().has_value() == model_.ended, "end");
+    Expect(fixture_.TakeBoxes() == std::exchange(model_.boxes, {}), "boxes");
+    Expect(fixture_.program.Windows().ExitStatus().has_value() == model_.ended, "end");
     Expect(state.deck.filePath == model_.path, "path");
     Expect(state.deck.changed == model_.changed, "changed");
     Expect(state.deck.saveOffered == model_.offered, "save offered");
@@ -76,10 +76,10 @@ class Walk {
     Expect(state.deck.currentCard == model_.current, "card on show");
     // A frame that ends leaves windows that were loaded meanwhile: by a save, by its own question.
     if (!model_.ended) {
-      Expect(desk_.deck.IsLoaded() == model_.window, "deck window");
-      Expect(desk_.info.IsLoaded() == model_.info.has_value(), "information window");
+      Expect(fixture_.deck.IsLoaded() == model_.window, "deck window");
+      Expect(fixture_.info.IsLoaded() == model_.info.has_value(), "information window");
     }
-    Expect(!model_.window || desk_.deck->Caption() == model_.title, "caption");
+    Expect(!model_.window || fixture_.deck->Caption() == model_.title, "caption");
     CompareStrings();
     CompareCards();
     CompareDisk();
@@ -88,7 +88,7 @@ class Walk {
 
  private:
   void PutFile(const Text& path, const std::string& bytes) {
-    desk_.fakes.files.Put(path, bytes);
+    fixture_.fakes.files.Put(path, bytes);
     model_.disk[path] = bytes;
   }
 
@@ -121,8 +121,8 @@ class Walk {
 
   /// The user has made up his mind: the program is told the same as the model.
   void Tell() {
-    desk_.fakes.messages.answers = model_.answers;
-    desk_.fakes.dialogs.files = model_.dialogs;
+    fixture_.fakes.messages.answers = model_.answers;
+    fixture_.fakes.dialogs.files = model_.dialogs;
   }
 
   std::string Command() {
@@ -163,7 +163,7 @@ class Walk {
     if (command % 4 == 1) return OpenFromFrame();
     const bool extended = command % 4 == 2;
     model_.Reopen(extended);
-    (extended ? desk_.Frame().newExtendedDeck : desk_.Frame().newStandardDeck).Press();
+    (extended ? fixture_.Frame().newExtendedDeck : fixture_.Frame().newStandardDeck).Press();
     return extended ? "new extended" : "new standard";
   }
 
@@ -171,7 +171,7 @@ class Walk {
     model_.dialogs.push_front(NameToOpen());
     Tell();
     model_.OpenFromFrame();
-    desk_.Frame().openExistingDeck.Press();
+    fixture_.Frame().openExistingDeck.Press();
     return "open from the frame";
   }
 
@@ -180,21 +180,21 @@ class Walk {
     model_.dialogs.push_front(text.path);
     Tell();
     model_.Import(text.cards);
-    desk_.Frame().importTextFile.Press();
+    fixture_.Frame().importTextFile.Press();
     return "import";
   }
 
   std::string CloseFrame() {
     Tell();
     model_.CloseFrame();
-    desk_.Frame().UserClose();
+    fixture_.Frame().UserClose();
     return "close the frame";
   }
 
   std::string InQuiz() {
     if (Roll(2) == 0) return Leave();
     model_.Study();
-    desk_.Run([this] { desk_.deck->EnterStudyMode(); });
+    fixture_.Run([this] { fixture_.deck->EnterStudyMode(); });
     return "study";
   }
 
@@ -204,10 +204,10 @@ class Walk {
     const DeckLifeModel::Card card = {AnyText(), model_.extended ? Text() : AnyText(),
                                       model_.extended};
     model_.Build(card);
-    BuildCard(desk_.state, {.type = card.question ? u"T" : u"E",
-                            .text = card.front,
-                            .back = card.back,
-                            .key = card.question ? u"T" : u""});
+    BuildCard(fixture_.state, {.type = card.question ? u"T" : u"E",
+                               .text = card.front,
+                               .back = card.back,
+                               .key = card.question ? u"T" : u""});
     return "build";
   }
 
@@ -216,14 +216,14 @@ class Walk {
     if (!model_.Consistent() || !onCard) return "nothing";
     Tell();
     model_.Delete();
-    desk_.Run([this] { desk_.deck->DeleteCard(); });
+    fixture_.Run([this] { fixture_.deck->DeleteCard(); });
     return "delete";
   }
 
   std::string Clear() {
     Tell();
     model_.Clear();
-    desk_.Run([this] { desk_.deck->ClearDeck(); });
+    fixture_.Run([this] { fixture_.deck->ClearDeck(); });
     return "clear";
   }
 
@@ -231,21 +231,21 @@ class Walk {
     model_.dialogs.push_front(NameToOpen());
     Tell();
     model_.Open();
-    desk_.Run([this] { desk_.deck->OpenDeck(); });
+    fixture_.Run([this] { fixture_.deck->OpenDeck(); });
     return "open";
   }
 
   std::string Save() {
     Tell();
     model_.Save();
-    desk_.Run([this] { desk_.deck->SaveDeck(); });
+    fixture_.Run([this] { fixture_.deck->SaveDeck(); });
     return "save";
   }
 
   std::string SaveAs() {
     Tell();
     model_.SaveAs();
-    desk_.Run([this] { desk_.deck->SaveDeckAs(); });
+    fixture_.Run([this] { fixture_.deck->SaveDeckAs(); });
     return "save as";
   }
 
@@ -256,18 +256,18 @@ class Walk {
     Tell();
     if (way % 2 == 0) {
       model_.Exit();
-      desk_.Run([this] { desk_.deck->CloseTessara(); });
+      fixture_.Run([this] { fixture_.deck->CloseTessara(); });
       return "exit";
     }
     model_.Close();
-    desk_.Run([this] { desk_.deck->Unload(); });
+    fixture_.Run([this] { fixture_.deck->Unload(); });
     return "close";
   }
 
   std::string Quiz() {
     if (!model_.HasCards()) return "nothing";
     model_.Quiz();
-    desk_.Run([this] { desk_.deck->EnterQuizMode(); });
+    fixture_.Run([this] { fixture_.deck->EnterQuizMode(); });
     return "quiz";
   }
 
@@ -275,18 +275,18 @@ class Walk {
     const Text typed = Roll(3) == 0 ? u"" : u"title " + DecimalText(Roll(100));
     if (model_.info && model_.info->title == typed) return "nothing";
     model_.EditTitle(typed);
-    desk_.Run([this] { desk_.deck->ShowDeckInfo(); });
-    TextBox& box = desk_.info->fields[kTitleField];
+    fixture_.Run([this] { fixture_.deck->ShowDeckInfo(); });
+    TextBox& box = fixture_.info->fields[kTitleField];
     box.UserEdit({0, box.TextOf().size(), typed});
-    desk_.info->save.Press();
-    desk_.info->close.Press();
+    fixture_.info->save.Press();
+    fixture_.info->close.Press();
     return "edit title";
   }
 
   std::string CloseInfo() {
     if (!model_.info) return "nothing";
     model_.CloseInfo();
-    desk_.info->close.Press();
+    fixture_.info->close.Press();
     return "close information";
   }
 
@@ -295,7 +295,7 @@ class Walk {
   }
 
   void CompareStrings() {
-    const ProgramState& state = desk_.state;
+    const ProgramState& state = fixture_.state;
     Expect(state.deck.date == model_.strings.date, "date");
     Expect(state.deck.title == model_.strings.title, "title");
     Expect(state.deck.author == model_.strings.author, "author");
@@ -307,24 +307,24 @@ class Walk {
       const auto at = static_cast<std::size_t>(row) - 1;
       const bool there = at < model_.cards.size();
       const auto card = there ? model_.cards[at] : DeckLifeModel::Card{};
-      Expect(desk_.state.deck.Cell(row, kCardText) == card.front &&
-                 desk_.state.deck.Cell(row, kBackText) == card.back &&
-                 (desk_.state.deck.Cell(row, kAnswer) == u"T") == card.question &&
-                 (desk_.state.deck.cardPresent.At(row) != 0) == there,
+      Expect(fixture_.state.deck.Cell(row, kCardText) == card.front &&
+                 fixture_.state.deck.Cell(row, kBackText) == card.back &&
+                 (fixture_.state.deck.Cell(row, kAnswer) == u"T") == card.question &&
+                 (fixture_.state.deck.cardPresent.At(row) != 0) == there,
              "row " + std::to_string(row));
     }
   }
 
   void CompareDisk() {
-    Expect(desk_.fakes.files.files.size() == model_.disk.size(), "number of files");
+    Expect(fixture_.fakes.files.files.size() == model_.disk.size(), "number of files");
     for (const auto& [path, bytes] : model_.disk) {
-      Expect(desk_.File(path) == bytes, ToUtf8(path));
+      Expect(fixture_.File(path) == bytes, ToUtf8(path));
     }
   }
 
   std::string differences_;
   std::mt19937 dice_;
-  LifeProgram desk_;
+  LifeProgram fixture_;
   DeckLifeModel model_;
 };
 

@@ -17,7 +17,7 @@
 namespace tessara::test {
 
 /// A frame on screen, and windows to open in it.
-struct Desk {
+struct Fixture {
   FakeMessages messages;
   WindowSystem windows{messages};
   QtRenderer renderer{windows, TESSARA_TEST_PICTURES};
@@ -34,7 +34,7 @@ struct Desk {
   Window<SampleForm> other{otherSlot};
   Window<SampleForm> dialog{dialogSlot};
 
-  Desk() {
+  Fixture() {
     StartAnew();
     windows.SetRenderer(renderer);
     frame->Show();

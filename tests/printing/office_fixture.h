@@ -20,14 +20,14 @@
 
 namespace tessara::test {
 
-/// What a desk uses in place of a dialog that is answered beforehand and a recording surface.
+/// What a fixture uses in place of a dialog that is answered beforehand and a recording surface.
 struct Devices {
   Dialogs* dialogs = nullptr;
   Printer* printer = nullptr;
 };
 
 /// A print window on the real spreadsheet server. Card 1 reads "F1" and "B1", and so on.
-class OfficeDesk {
+class OfficeFixture {
  public:
   ScratchFolder folder;
   LoadedSpreadsheet office{FromUtf8(PROGRAM_FOLDER)};
@@ -50,7 +50,7 @@ class OfficeDesk {
       windows, [this] { return std::make_unique<PrintWindow>(app, job, Window<Form>(deckSlot)); }};
   Window<PrintWindow> window{slot};
 
-  explicit OfficeDesk(int cards, const Devices& devices = {}) : machine(WithServer(devices)) {
+  explicit OfficeFixture(int cards, const Devices& devices = {}) : machine(WithServer(devices)) {
     windows.SetRenderer(renderer);
     machine.programFolder = FromUtf8(PROGRAM_FOLDER);
     state.printing.canPrintCards = true;

@@ -9,14 +9,14 @@ namespace tessara::test {
 
 /// The whole program on a machine of fakes. The settings keep the splash and the association out
 /// of the way unless a test wants them.
-struct ProgramDesk {
+struct ProgramFixture {
   FakeMachine fakes;
   Machine machine = fakes.Get();
   HeadlessRenderer renderer;
   Program program{machine};
   ProgramState& state = program.State();
 
-  ProgramDesk() {
+  ProgramFixture() {
     program.Windows().SetRenderer(renderer);
     fakes.settings.values = {{u"ShowSplash", u"0"}, {u"FirstLoad", u"False"}};
   }

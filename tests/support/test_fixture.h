@@ -10,7 +10,7 @@
 namespace tessara::test {
 
 /// Everything that a window is given, made of fakes.
-struct TestDesk {
+struct TestFixture {
   FakeMachine fakes;
   Machine machine = fakes.Get();
   WindowSystem windows{fakes.messages};
@@ -21,7 +21,7 @@ struct TestDesk {
   UnsavedDeck unsaved{state, machine};
   AppContext app{windows, machine, state, frame, unsaved};
 
-  TestDesk() { windows.SetRenderer(renderer); }
+  TestFixture() { windows.SetRenderer(renderer); }
 };
 
 }  // namespace tessara::test

@@ -18,7 +18,7 @@ namespace tessara::test {
 
 /// A print window on a recording spreadsheet server and a recording print surface. The record of
 /// each also has the message boxes, as "Box TITLE".
-class PrintDesk {
+class PrintFixture {
  public:
   FakeMachine fakes;
   RecordingSpreadsheet server;
@@ -39,7 +39,7 @@ class PrintDesk {
       windows, [this] { return std::make_unique<PrintWindow>(app, job, Window<Form>(deckSlot)); }};
   Window<PrintWindow> window{slot};
 
-  explicit PrintDesk(int cards = 3) {
+  explicit PrintFixture(int cards = 3) {
     windows.SetRenderer(renderer);
     state.printing.canPrintCards = true;
     FillDeck(cards);

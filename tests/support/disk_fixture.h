@@ -37,7 +37,7 @@ inline std::string BytesOf(const std::filesystem::path& path) {
 
 /// The whole program over real files in a folder that outlives it: "verbs.tsr" is the deck,
 /// "copies" holds what saves have kept.
-struct DiskDesk {
+struct DiskFixture {
   static constexpr const char* kDeckName = "verbs.tsr";
 
   const ScratchFolder& folder;
@@ -50,7 +50,7 @@ struct DiskDesk {
   ProgramState& state = program.State();
 
   /// A test can put its own file system in front of the real one.
-  explicit DiskDesk(const ScratchFolder& scratch, FileSystem* inFront = nullptr)
+  explicit DiskFixture(const ScratchFolder& scratch, FileSystem* inFront = nullptr)
       : folder(scratch), machine(WithDisk(inFront)) {
     program.Windows().SetRenderer(renderer);
     fakes.settings.values = {{u"ShowSplash", u"0"}, {u"FirstLoad", u"False"}};

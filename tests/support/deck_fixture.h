@@ -6,13 +6,13 @@
 #include "deck/deck_info_window.h"
 #include "forms/window.h"
 #include "tests/support/cards.h"
-#include "tests/support/test_desk.h"
+#include "tests/support/test_fixture.h"
 #include "viewer/deck_window.h"
 
 namespace tessara::test {
 
-/// A desk with the deck window and the information window.
-struct DeckDesk : TestDesk {
+/// A fixture with the deck window and the information window.
+struct DeckFixture : TestFixture {
   WindowSlot<DeckWindow> deckSlot{windows, [this] {
                                     return std::make_unique<DeckWindow>(
                                         app, fileNumber, Window<DeckInfoWindow>(infoSlot));
@@ -23,7 +23,7 @@ struct DeckDesk : TestDesk {
   Window<DeckWindow> deck{deckSlot};
   Window<DeckInfoWindow> info{infoSlot};
 
-  DeckDesk() {
+  DeckFixture() {
     state.settings.largeCardColor = u"0";
     state.settings.largeCard3D = u"1";
     state.settings.smallCardColor = u"0";

@@ -4,12 +4,12 @@
 #include <vector>
 
 #include "authoring/open_builder.h"
-#include "tests/support/deck_desk.h"
+#include "tests/support/deck_fixture.h"
 
 namespace tessara::test {
 
-/// A desk with the deck window and both builders, and the hand of the user at them.
-struct BuilderDesk : DeckDesk {
+/// A fixture with the deck window and both builders, and the hand of the user at them.
+struct BuilderFixture : DeckFixture {
   WindowSlot<TextCardBuilder> essaySlot{
       windows,
       [this] { return std::make_unique<TextCardBuilder>(app, Window<DeckWindow>(deckSlot)); }};

@@ -64,7 +64,7 @@ inline std::ostream& operator<<(std::ostream& stream, const CardRow& card) {
 }
 
 /// Imports of texts, one after the other in one run of the program, without a window.
-struct ImportDesk {
+struct ImportFixture {
   MemoryFiles files;
   FakeMessages messages;
   ProgramState state;

@@ -35,8 +35,8 @@ class StringSink : public ByteSink {
 };
 
 /// Reads and writes files of any format in memory, and keeps what could not be kept.
-struct FormatDesk {
-  explicit FormatDesk(CodePage page = CodePage::Western()) : codePage(std::move(page)) {}
+struct FormatFixture {
+  explicit FormatFixture(CodePage page = CodePage::Western()) : codePage(std::move(page)) {}
 
   CardSet Read(FileFormat format, std::string bytes) {
     source = {"file", std::move(bytes)};

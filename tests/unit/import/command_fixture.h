@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "import/import_text_file.h"
-#include "tests/support/deck_desk.h"
-#include "tests/unit/import/import_desk.h"
+#include "tests/support/deck_fixture.h"
+#include "tests/unit/import/import_fixture.h"
 
 namespace tessara::test {
 
@@ -15,7 +15,7 @@ inline const FakeMessages::Shown kUnknownFormat{
     kStopIcon, u"Error In Import File"};
 
 /// The command as the frame runs it, in an event.
-struct CommandDesk : DeckDesk {
+struct CommandFixture : DeckFixture {
   void Import(std::string bytes) {
     fakes.files.Put(kTextPath, std::move(bytes));
     ImportPath(kTextPath);

@@ -3,7 +3,7 @@
 #include <vector>
 
 #include "tests/support/deck_bytes.h"
-#include "tests/support/deck_desk.h"
+#include "tests/support/deck_fixture.h"
 
 namespace tessara::test {
 
@@ -18,9 +18,9 @@ struct DeckFlags {
   friend bool operator==(const DeckFlags&, const DeckFlags&) = default;
 };
 
-/// A desk for the life of a deck: a folder /decks, dialogs answered in short, boxes compared.
-struct LifeDesk : DeckDesk {
-  LifeDesk() { fakes.files.folders.insert(u"/decks"); }
+/// A fixture for the life of a deck: a folder /decks, dialogs answered in short, boxes compared.
+struct LifeFixture : DeckFixture {
+  LifeFixture() { fakes.files.folders.insert(u"/decks"); }
 
   void PutDeck(const Text& path, int cards, const InfoTexts& texts = {}) {
     fakes.files.Put(path, DeckBytes(cards, texts));
