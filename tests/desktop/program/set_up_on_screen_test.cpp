@@ -243,7 +243,7 @@ TEST_CASE("In the open list of backdrops only Return or a click chooses") {
        "DESERT"},
   };
   for (const Case& c : cases) {
-    CAPTURE(c.how);
+    CAPTURE(std::string(c.how));
     ProgramOnScreen fixture;
     fixture.Start();
     OpenSetUp();

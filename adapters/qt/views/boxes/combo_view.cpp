@@ -42,10 +42,12 @@ class ComboWidget : public QComboBox {
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override {
-    const bool closes =
-        event->type() == QEvent::KeyPress && Closes(static_cast<QKeyEvent&>(*event));
+    const bool pressed = event->type() == QEvent::KeyPress;
+    // Newer versions of Qt choose when the key is offered as a shortcut, before it is pressed.
+    const bool offered = event->type() == QEvent::ShortcutOverride;
+    const bool closes = (pressed || offered) && Closes(static_cast<QKeyEvent&>(*event));
     if (!closes) return QComboBox::eventFilter(watched, event);
-    hidePopup();
+    if (pressed) hidePopup();
     return true;
   }
   void initStyleOption(QStyleOptionComboBox* option) const override {
