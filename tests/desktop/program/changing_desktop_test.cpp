@@ -2,9 +2,12 @@
 
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QScreen>
+#include <QWindow>
 #include <doctest/doctest.h>
 
 #include "adapters/qt/look/contrast.h"
+#include "adapters/qt/windows/desktop_watch.h"
 #include "tests/desktop/support/desktop_font.h"
 #include "tests/desktop/support/fixture.h"
 
@@ -60,4 +63,17 @@ TEST_CASE("Windows that are open follow the desktop into the dark, with readable
   Fixture::Settle();
   Fixture::Settle();
   CHECK(Fixture::Of("Label1").palette().color(QPalette::WindowText) == QColor(0, 0, 255));
+}
+
+TEST_CASE("A window hears once that it has come to another screen, of another density") {
+  QWidget window;
+  int heard = 0;
+  const DesktopWatch watch(window, [&heard] { ++heard; });
+  Fixture::Settle();
+  heard = 0;
+  emit window.windowHandle()->screenChanged(window.screen());
+  emit window.screen()->logicalDotsPerInchChanged(192);
+  CHECK(heard == 0);
+  Fixture::Settle();
+  CHECK(heard == 1);
 }
