@@ -1,8 +1,7 @@
 #!/usr/bin/python3
 """Counts the test cases of a ctest run from its JUnit file.
 
-usage: count_tests.py RESULTS     prints "PASSED FAILED"; the output of failed tests goes to stderr, and after all of
-                                  it their names
+usage: count_tests.py RESULTS     prints "PASSED FAILED"; names and output of failed tests go to stderr
 
 A doctest program counts with its own cases, any other test as one.
 """
@@ -41,16 +40,13 @@ def failed_cases(test):
 
 def main():
     passed = failed = 0
-    names = []
     for test in xml.etree.ElementTree.parse(sys.argv[1]).iter("testcase"):
         good, bad = count(test)
         passed += good
         failed += bad
         if bad:
-            print(f"   FAILED: {test.get('name')}\n{output(test)}", file=sys.stderr)
-            names += [f"{test.get('name')}: {', '.join(failed_cases(test)) or 'see its output'}"]
-    for name in names:
-        print(f"   FAILED: {name}", file=sys.stderr)
+            name = ": ".join([test.get("name"), *failed_cases(test)])
+            print(f"   FAILED: {name}\n{output(test)}", file=sys.stderr)
     print(passed, failed)
 
 
