@@ -29,6 +29,9 @@ elseif(TESSARA_FUZZ)
 endif()
 if(sanitizers)
   target_compile_definitions(tessara_sanitizers INTERFACE TESSARA_SANITIZED)
+  set(isProgram $<STREQUAL:$<TARGET_PROPERTY:TYPE>,EXECUTABLE>)
+  target_sources(tessara_sanitizers INTERFACE
+    $<${isProgram}:${CMAKE_CURRENT_LIST_DIR}/sanitizer_defaults.cpp>)
   target_compile_options(tessara_sanitizers INTERFACE
     -fsanitize=${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
 endif()

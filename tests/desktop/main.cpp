@@ -3,7 +3,6 @@
 
 #include "adapters/qt/look/visible_outlines.h"
 #include "adapters/qt/windows/guarded_application.h"
-#include "tests/support/leak_check.h"
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -11,7 +10,5 @@ int main(int argc, char** argv) {
   qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
   tessara::GuardedApplication application(argc, argv);
   tessara::ShowOutlines();
-  const int failed = doctest::Context(argc, argv).run();
-  tessara::test::LookForLeaks();
-  return failed;
+  return doctest::Context(argc, argv).run();
 }

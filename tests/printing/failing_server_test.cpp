@@ -48,7 +48,7 @@ TEST_CASE("a server that was killed raises an error when it is asked and closes 
   CheckRefused([&] { open.sheet->PrintOut(); });
   CheckRefused([&] { open.book->ActiveSheet(); });
   open.book->Close();
-  CHECK(ServerProcesses().empty());
+  test::WaitForServersToEnd();
   CHECK(test::FilesLeftBehind().empty());
 }
 
@@ -91,7 +91,7 @@ TEST_CASE("a job whose server dies before any operation ends as told, and the ne
       if (operation == c.operation) SignalServers(SIGKILL);
     };
     CHECK(fixture.Print() == c.title);
-    CHECK(ServerProcesses().empty());
+    test::WaitForServersToEnd();
   }
   fixture.server.before = [](const std::string&) {};
   CHECK(fixture.Print() == "PRINT");
@@ -137,7 +137,7 @@ TEST_CASE(
     fixture.fakes.messages.whileShown = nullptr;
     CHECK(fixture.Print() == "PRINT");
   }
-  CHECK(ServerProcesses().empty());
+  test::WaitForServersToEnd();
   CHECK(test::FilesLeftBehind().empty());
 }
 
@@ -154,7 +154,7 @@ TEST_CASE("the sheets before a server's death stay in the PDF file") {
   CHECK(pages[1].Has("F16"));
   CHECK(pages[2].Has("F19 below"));
   CHECK_FALSE(pages[2].Has("F9"));
-  CHECK(ServerProcesses().empty());
+  test::WaitForServersToEnd();
 }
 
 TEST_CASE("a sheet that the server refuses is not in the PDF file, and those before it are") {
@@ -217,7 +217,7 @@ TEST_CASE("a server that dies or hangs while it starts fails the job within 30 s
           u"An unspecified printing error has occured. Ensure that the printer is ready.");
     CHECK_FALSE(fixture.window->print.Enabled());
     CHECK(std::chrono::steady_clock::now() - start < kLongest);
-    CHECK(ServerProcesses().empty());
+    test::WaitForServersToEnd();
     CHECK(test::FilesLeftBehind().empty());
   }
 }

@@ -4,7 +4,6 @@
 
 #include "adapters/posix/process/prepare_process.h"
 #include "tests/printing/print_server.h"
-#include "tests/support/leak_check.h"
 
 int main(int argc, char** argv) {
   // As the program does: a server that dies leaves a pipe that nobody reads.
@@ -15,7 +14,5 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("QT_LOGGING_RULES", "qt.qpa.*=false");
   const QApplication application(argc, argv);
-  const int failed = doctest::Context(argc, argv).run();
-  tessara::test::LookForLeaks();
-  return failed;
+  return doctest::Context(argc, argv).run();
 }

@@ -105,6 +105,10 @@ pid_t WaitForServer(pid_t program) {
   return servers.front();
 }
 
+void WaitForServersToEnd() {
+  WaitFor("the servers to end", [] { return ServerProcesses().empty(); });
+}
+
 bool Runs(pid_t process) {
   return ProcessState("/proc/" + std::to_string(process)).Runs();
 }

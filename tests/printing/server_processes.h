@@ -12,6 +12,8 @@ std::vector<pid_t> ServersOf(pid_t program);
 std::vector<pid_t> ServerProcesses();
 /// Waits until one is there.
 pid_t WaitForServer(pid_t program = getpid());
+/// Waits until this process has none: a killed one takes a moment to end.
+void WaitForServersToEnd();
 /// The shell that is to remove what a job leaves.
 pid_t CleanerOf(pid_t program);
 /// False for a process that has ended, waited for or not.

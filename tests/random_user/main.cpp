@@ -4,7 +4,6 @@
 
 #include "adapters/qt/look/visible_outlines.h"
 #include "tests/random_user/session.h"
-#include "tests/support/leak_check.h"
 
 namespace tessara::test {
 namespace {
@@ -45,8 +44,6 @@ int main(int argc, char** argv) {
   options.addOption({QStringLiteral("steps"), QStringLiteral("How many."), QStringLiteral("M"),
                      QStringLiteral("250")});
   options.process(application);
-  const int failed = tessara::test::RunRandomUser(options.value(QStringLiteral("seed")).toUInt(),
-                                                  options.value(QStringLiteral("steps")).toInt());
-  tessara::test::LookForLeaks();
-  return failed;
+  return tessara::test::RunRandomUser(options.value(QStringLiteral("seed")).toUInt(),
+                                      options.value(QStringLiteral("steps")).toInt());
 }
