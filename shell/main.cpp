@@ -23,6 +23,7 @@
 #include "adapters/qt/devices/qt_dialogs.h"
 #include "adapters/qt/devices/qt_message_boxes.h"
 #include "adapters/qt/devices/qt_settings_store.h"
+#include "adapters/qt/look/png_picture.h"
 #include "adapters/qt/look/visible_outlines.h"
 #include "adapters/qt/text/fonts_ahead.h"
 #include "adapters/qt/text/qt_text.h"
@@ -53,8 +54,9 @@ void NameApplication(const fs::path& folder) {
   QApplication::setApplicationVersion(TESSARA_VERSION);
   // The desktop entry's name: every desktop finds icon and name by it.
   QGuiApplication::setDesktopFileName("tessara");
+  const fs::path icon = folder / "icons/hicolor/48x48/apps/tessara.png";
   QApplication::setWindowIcon(
-      QIcon(QString::fromStdString((folder / "icons/hicolor/48x48/apps/tessara.png").string())));
+      QIcon(QPixmap::fromImage(ReadPng(QString::fromStdString(icon.string())))));
 }
 
 int RunTessara(int argc, char** argv) {

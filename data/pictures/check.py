@@ -85,6 +85,18 @@ def seam_faults(path):
     return faults
 
 
+def other_form_faults(path):
+    """The PNG beside it shows the same."""
+    png = path.with_suffix(".png")
+    with Image.open(path) as named:
+        faults = size_faults(png, *named.size, "PNG")
+        if not faults:
+            with Image.open(png) as read:
+                same = list(read.convert("RGB").getdata()) == list(named.convert("RGB").getdata())
+            faults = [] if same else [f"{png}: not what {path.name} shows"]
+    return faults
+
+
 def backdrop_faults():
     faults = []
     for key, width, height, _ in BACKDROPS:
@@ -92,7 +104,7 @@ def backdrop_faults():
         for scale in (1, 2):
             path = backdrop_file(key, scale == 2)
             wrong = size_faults(path, width * scale, height * scale, kind)
-            faults += wrong or seam_faults(path)
+            faults += wrong or seam_faults(path) + other_form_faults(path)
     return faults
 
 

@@ -1,8 +1,12 @@
+#include <QDir>
 #include <QLabel>
 #include <QScrollBar>
+#include <QStyle>
 #include <QWheelEvent>
 #include <doctest/doctest.h>
 
+#include "adapters/qt/look/icon_at_first_use.h"
+#include "adapters/qt/look/png_picture.h"
 #include "tests/desktop/support/fixture.h"
 
 using namespace tessara;
@@ -62,6 +66,66 @@ TEST_CASE("An image takes its picture's size, a missing file shows nothing") {
   form.image.SetPicture({"no such file.png", 20, 10});
   CHECK(Fixture::Of("Image1").size() == QSize(20, 10));
   CHECK(PictureOf("Image1").pixelColor(5, 5) == PictureOf("Image1").pixelColor(15, 5));
+}
+
+TEST_CASE("A picture that is not on screen is read when it comes there") {
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  form.image.SetVisible(false);
+  form.image.SetPicture({"info.png", 64, 64});
+  CHECK(Fixture::Of<QLabel>("Image1").pixmap(Qt::ReturnByValue).width() != 64);
+  form.image.SetVisible(true);
+  CHECK(Fixture::Of<QLabel>("Image1").pixmap(Qt::ReturnByValue).width() == 64);
+}
+
+TEST_CASE(
+    "A caption that is not on screen is fitted when it comes there, in a hidden container too") {
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  form.group.SetVisible(false);
+  const int before = Fixture::Of("Option1(0)").font().pixelSize();
+  form.options[0].SetCaption(u"a text that is much too long for an option of hundred pixels");
+  CHECK(Fixture::Of("Option1(0)").font().pixelSize() == before);
+  form.group.SetVisible(true);
+  CHECK(Fixture::Of("Option1(0)").font().pixelSize() < before);
+}
+
+TEST_CASE("Each backdrop has beside it, as PNG, what it shows") {
+  int found = 0;
+  for (const QFileInfo& named :
+       QDir(TESSARA_TEST_PICTURES "/backdrops").entryInfoList({"*.jpg", "*.gif"})) {
+    CAPTURE(named.fileName().toStdString());
+    const QImage png = ReadPng(named.path() + u'/' + named.completeBaseName() + ".png");
+    CHECK(png.convertToFormat(QImage::Format_RGB32) ==
+          QImage(named.filePath()).convertToFormat(QImage::Format_RGB32));
+    ++found;
+  }
+  CHECK(found == 40);
+}
+
+TEST_CASE("What is no PNG is no picture") {
+  CHECK(ReadPng(TESSARA_TEST_PICTURES "/no such file.png").isNull());
+  CHECK(ReadPng(TESSARA_TEST_PICTURES "/backdrops/DEFAULT.jpg").isNull());
+  CHECK(ReadPng(TESSARA_TEST_PICTURES "/backdrops").isNull());
+}
+
+TEST_CASE("A PNG is read with its transparent parts") {
+  const QString skin = TESSARA_TEST_PICTURES "/skins/white_3d.png";
+  CHECK(ReadPng(skin) == QImage(skin).convertToFormat(QImage::Format_RGBA8888));
+}
+
+TEST_CASE("A style's icon is made once, when it is shown") {
+  int made = 0;
+  const QIcon own = QApplication::style()->standardIcon(QStyle::SP_TitleBarCloseButton);
+  const QIcon late = IconAtFirstUse([&] {
+    ++made;
+    return own;
+  });
+  const QIcon other(late);
+  CHECK(made == 0);
+  CHECK(late.pixmap(16).toImage() == own.pixmap(16).toImage());
+  CHECK(other.availableSizes() == own.availableSizes());
+  CHECK(made == 1);
 }
 
 TEST_CASE("A shape is filled with its colour, a line without a height still shows") {

@@ -3,6 +3,8 @@
 #include <QFileInfo>
 #include <utility>
 
+#include "adapters/qt/look/png_picture.h"
+
 namespace tessara {
 
 namespace {
@@ -12,6 +14,11 @@ QRect PlaceOf(const PaintedPicture& painted, const PixelScale& scale) {
   return scale.FromTwips(Bounds{painted.x * kTwipsPerPixel, painted.y * kTwipsPerPixel,
                                 painted.picture.width * kTwipsPerPixel,
                                 painted.picture.height * kTwipsPerPixel});
+}
+
+/// The part of the name before the ending, its point included.
+QString StemOf(const QString& file) {
+  return file.left(file.size() - QFileInfo(file).suffix().size());
 }
 
 }  // namespace
@@ -32,14 +39,18 @@ const QPixmap& PictureCache::PixmapOf(const Picture& picture) {
 
 QPixmap PictureCache::Read(const QString& file) const {
   if (file.isEmpty()) return {};
-  const QFileInfo name(file);
-  const QString dense =
-      QString(file).insert(file.size() - name.suffix().size() - 1, QLatin1String("@2x"));
   if (density_ > 1) {
-    QPixmap pixmap(folder_ + u'/' + dense);
+    QPixmap pixmap = ReadOne(QString(file).insert(StemOf(file).size() - 1, QLatin1String("@2x")));
     if (!pixmap.isNull()) return pixmap;
   }
-  return {folder_ + u'/' + file};
+  return ReadOne(file);
+}
+
+/// Each picture of another format has beside it what it shows, as PNG.
+QPixmap PictureCache::ReadOne(const QString& file) const {
+  const QString path = folder_ + u'/' + file;
+  const QImage png = ReadPng(StemOf(path) + QLatin1String("png"));
+  return png.isNull() ? QPixmap(path) : QPixmap::fromImage(png);
 }
 
 void PaintPictures(QPainter& painter, const std::vector<PaintedPicture>& pictures,

@@ -26,6 +26,7 @@ class PictureCache {
 
  private:
   [[nodiscard]] QPixmap Read(const QString& file) const;
+  [[nodiscard]] QPixmap ReadOne(const QString& file) const;
 
   QString folder_;
   double density_;

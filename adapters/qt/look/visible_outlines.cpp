@@ -4,12 +4,14 @@
 #include <QCache>
 #include <QGroupBox>
 #include <QPainter>
+#include <QPointer>
 #include <QProxyStyle>
 #include <QStyleOption>
 #include <algorithm>
 #include <utility>
 
 #include "adapters/qt/look/contrast.h"
+#include "adapters/qt/look/icon_at_first_use.h"
 
 namespace tessara {
 
@@ -143,6 +145,21 @@ bool DrawOutlined(const QStyleOption& option, int darkening, OutliningPalettes& 
   return true;
 }
 
+/// What a menu bar that is too narrow and the menu of a child's title have. Each is read from a
+/// file, and Qt loads its plug-ins of all formats for the first one.
+bool IsSeldomSeen(QStyle::StandardPixmap icon) {
+  switch (icon) {
+    case QStyle::SP_ToolBarHorizontalExtensionButton:
+    case QStyle::SP_TitleBarMinButton:
+    case QStyle::SP_TitleBarMaxButton:
+    case QStyle::SP_TitleBarNormalButton:
+    case QStyle::SP_TitleBarCloseButton:
+      return true;
+    default:
+      return false;
+  }
+}
+
 class OutlineStyle : public QProxyStyle {
  public:
   using QProxyStyle::QProxyStyle;
@@ -184,6 +201,14 @@ class OutlineStyle : public QProxyStyle {
     DrawDarkTitleInWhite(readable);
     readable.palette = TitlePalette(readable.palette);
     QProxyStyle::drawComplexControl(control, &readable, painter, widget);
+  }
+
+  [[nodiscard]] QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
+                                   const QWidget* widget) const override {
+    if (!IsSeldomSeen(icon)) return QProxyStyle::standardIcon(icon, option, widget);
+    return IconAtFirstUse([base = QPointer<const QStyle>(baseStyle()), icon] {
+      return base == nullptr ? QIcon() : base->standardIcon(icon);
+    });
   }
 
  private:

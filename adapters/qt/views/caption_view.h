@@ -37,7 +37,9 @@ class CaptionView : public ControlView {
     if (aspect == Aspect::kCaption || aspect == Aspect::kBounds) FollowFont();
   }
 
-  void FollowFont() override {
+  void FollowFont() override { PrepareWhenSeen(); }
+
+  void Prepare() override {
     Shown().Fit(Context().scale.ControlFont(As<CaptionedControl>().FontOf()), CaptionRoom());
   }
 

@@ -2,6 +2,7 @@
 
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <utility>
 
 #include "adapters/qt/look/control_palette.h"
 #include "adapters/qt/text/qt_text.h"
@@ -67,6 +68,11 @@ void ControlView::FollowFont() {
   }
 }
 
+void ControlView::PrepareWhenSeen() {
+  preparesAtShow_ = !widget_.isVisible();
+  if (!preparesAtShow_) Prepare();
+}
+
 void ControlView::FollowColors() {
   if (NeedsPalette(*control_)) {
     widget_.setPalette(PaletteOf(*control_));
@@ -82,6 +88,9 @@ bool ControlView::eventFilter(QObject* watched, QEvent* event) {
 
 bool ControlView::PassOn(QEvent& event) {
   switch (event.type()) {
+    case QEvent::Show:
+      if (std::exchange(preparesAtShow_, false)) Prepare();
+      return false;
     case QEvent::FocusIn:
       control_->Owner().UserFocus(*control_);
       return false;

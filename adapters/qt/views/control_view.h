@@ -27,6 +27,11 @@ class ControlView : public QObject {
   /// What the kind of control has beyond place, visibility, enabling, font and colours.
   virtual void FollowOwn(Aspect aspect) { (void)aspect; }
   virtual void FollowFont();
+  /// Calls Prepare: now where the widget is on screen, else once when it comes there, however much
+  /// of the control changes before that.
+  void PrepareWhenSeen();
+  /// What takes time, and only shows: a caption fitted to its room, a picture read from its file.
+  virtual void Prepare() {}
   /// The left button went down and up on the widget.
   virtual void Clicked() {}
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -48,6 +53,7 @@ class ControlView : public QObject {
   Control* control_;
   QWidget& widget_;
   const ViewContext& context_;
+  bool preparesAtShow_ = false;
 };
 
 }  // namespace tessara

@@ -83,7 +83,7 @@ void LabelView::FollowOwn(Aspect aspect) {
   if (aspect == Aspect::kCaption || aspect == Aspect::kBounds) FollowFont();
 }
 
-void LabelView::FollowFont() {
+void LabelView::Prepare() {
   const auto& label = As<Label>();
   const PixelScale& scale = Context().scale;
   const QSize whole = scale.FromTwips(label.BoundsOf()).size();

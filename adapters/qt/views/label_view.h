@@ -11,7 +11,8 @@ class LabelView : public ControlView {
 
  protected:
   void FollowOwn(Aspect aspect) override;
-  void FollowFont() override;
+  void FollowFont() override { PrepareWhenSeen(); }
+  void Prepare() override;
   void Clicked() override { As<Label>().UserClick(); }
 };
 

@@ -47,11 +47,13 @@ void PaintedView::ShowContent() {
   Widget().setAccessibleDescription(LinesForQt(control.Description()));
   if (scrollBar_ != nullptr) scrollBar_->setValue(0);
   Widget().update();
-  // Once for all the properties that a card's move changes, and before the paint.
-  if (!std::exchange(fitsScrollBar_, true)) {
-    QCoreApplication::postEvent(&Widget(), new QEvent(QEvent::LayoutRequest),
-                                Qt::HighEventPriority);
-  }
+  FitScrollBarSoon();
+}
+
+/// Once for all the properties that a card's move changes, and before the paint.
+void PaintedView::FitScrollBarSoon() {
+  if (std::exchange(fitsScrollBar_, true)) return;
+  QCoreApplication::postEvent(&Widget(), new QEvent(QEvent::LayoutRequest), Qt::HighEventPriority);
 }
 
 bool PaintedView::eventFilter(QObject* watched, QEvent* event) {
@@ -61,8 +63,10 @@ bool PaintedView::eventFilter(QObject* watched, QEvent* event) {
       Paint();
       return true;
     case QEvent::LayoutRequest:
-    case QEvent::Resize:
       FitScrollBar();
+      return false;
+    case QEvent::Resize:
+      FitScrollBarSoon();
       return false;
     case QEvent::Wheel:
       if (scrollBar_ == nullptr || scrollBar_->isHidden()) return false;

@@ -23,6 +23,7 @@ class PaintedView : public ControlView {
  private:
   void ShowContent();
   void Paint();
+  void FitScrollBarSoon();
   /// Brings the scroll bar in line with the text.
   void FitScrollBar();
   [[nodiscard]] QScrollBar& ScrollBar();

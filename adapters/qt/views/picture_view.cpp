@@ -17,9 +17,13 @@ PictureBoxView::PictureBoxView(PictureBox& box, QWidget& parent, const ViewConte
     : ControlView(box, *new PictureWidget(&parent), context) {}
 
 void PictureBoxView::FollowOwn(Aspect aspect) {
-  if (aspect == Aspect::kPicture) Show(As<PictureBox>().PictureOf(), Widget(), Context());
+  if (aspect == Aspect::kPicture) PrepareWhenSeen();
   if (aspect == Aspect::kColor)
     Widget().setAutoFillBackground(As<PictureBox>().BackColor() != Color{});
+}
+
+void PictureBoxView::Prepare() {
+  Show(As<PictureBox>().PictureOf(), Widget(), Context());
 }
 
 ImageView::ImageView(Image& image, QWidget& parent, const ViewContext& context)
@@ -28,7 +32,10 @@ ImageView::ImageView(Image& image, QWidget& parent, const ViewContext& context)
 }
 
 void ImageView::FollowOwn(Aspect aspect) {
-  if (aspect != Aspect::kPicture) return;
+  if (aspect == Aspect::kPicture) PrepareWhenSeen();
+}
+
+void ImageView::Prepare() {
   Show(As<Image>().PictureOf(), Widget(), Context());
 }
 

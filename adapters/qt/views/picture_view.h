@@ -12,6 +12,7 @@ class PictureBoxView : public ControlView {
 
  protected:
   void FollowOwn(Aspect aspect) override;
+  void Prepare() override;
 };
 
 /// Shows a picture alone.
@@ -21,6 +22,7 @@ class ImageView : public ControlView {
 
  protected:
   void FollowOwn(Aspect aspect) override;
+  void Prepare() override;
   void Clicked() override { As<Image>().UserClick(); }
 };
 

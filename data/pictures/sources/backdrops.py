@@ -41,5 +41,6 @@ def draw(folder):
     for key, width, height, tile in BACKDROPS:
         write, ending = (output.jpeg, "jpg") if key in PHOTOGRAPHIC else (output.gif, "gif")
         target = folder / f"{key}.{ending}"
-        write(tile(width, height, 1), target)
-        write(tile(width, height, 2), output.doubled(target))
+        for path, scale in ((target, 1), (output.doubled(target), 2)):
+            write(tile(width, height, scale), path)
+            output.as_png(path)

@@ -2,6 +2,8 @@
 
 from pathlib import Path
 
+from PIL import Image
+
 from . import svg
 
 
@@ -20,6 +22,12 @@ def gif(image, target):
     target.parent.mkdir(parents=True, exist_ok=True)
     few = image.convert("RGB").quantize(128, method=0, dither=0)
     few.save(target, "GIF", optimize=True)
+
+
+def as_png(target):
+    """Beside a picture of another format, what it shows: the program reads PNG without a plug-in."""
+    with Image.open(target) as image:
+        png(image if image.mode == "P" else image.convert("RGB"), target.with_suffix(".png"))
 
 
 def doubled(target):
