@@ -46,6 +46,10 @@ class Canvas {
   /// Height of the text, wrapped at the width where the style says so.
   [[nodiscard]] virtual double TextHeight(const Text& text, double width,
                                           const TextStyle& style) = 0;
+  /// Whether the text, wrapped at the width, has a line that ends inside a word: neither at a blank
+  /// nor at a line break.
+  [[nodiscard]] virtual bool BreaksWords(const Text& text, double width,
+                                         const TextStyle& style) = 0;
   /// Width of the text's widest line, not wrapped.
   [[nodiscard]] virtual double TextWidth(const Text& text, const TextStyle& style) = 0;
   [[nodiscard]] virtual double LineHeight(const TextStyle& style) = 0;

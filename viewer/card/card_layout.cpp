@@ -42,7 +42,9 @@ TextStyle StyleThatFits(Canvas& canvas, const Text& text, const Rect& body) {
   const auto tooLarge = [&](double points) {
     const TextStyle style = BodyStyle(points);
     if (canvas.TextHeight(text, body.width, style) > body.height) return true;
-    return points > kSmallestWithWholeWords && WidestWord(canvas, text, style) > body.width;
+    // Where all lines end between words, all words have room.
+    return points > kSmallestWithWholeWords && canvas.BreaksWords(text, body.width, style) &&
+           WidestWord(canvas, text, style) > body.width;
   };
   // Most cards are short, and a size that is not tried needs no font.
   if (!tooLarge(kLargestBody)) return BodyStyle(kLargestBody);

@@ -23,8 +23,7 @@ QColor ForQt(const Color& color) {
 
 }  // namespace
 
-QtCanvas::QtCanvas(TextMeasures& measures, QPainter* painter)
-    : measures_(measures), painter_(painter) {
+QtCanvas::QtCanvas(CanvasMemory& memory, QPainter* painter) : memory_(memory), painter_(painter) {
   if (painter_ != nullptr) painter_->setRenderHint(QPainter::Antialiasing);
 }
 
@@ -34,11 +33,7 @@ void QtCanvas::FillRect(const Rect& rect, const Color& color) {
 
 void QtCanvas::FillRoundedRect(const Rect& rect, double radius, const Color& fill,
                                const Color& border) {
-  constexpr double kHalfPen = 0.5;
-  painter_->setPen(ForQt(border));
-  painter_->setBrush(ForQt(fill));
-  painter_->drawRoundedRect(ForQt(rect).adjusted(kHalfPen, kHalfPen, -kHalfPen, -kHalfPen), radius,
-                            radius);
+  memory_.edges.Paint(*painter_, {ForQt(rect), radius, ForQt(fill), ForQt(border)});
 }
 
 void QtCanvas::DrawLine(Point from, Point to, double width, const Color& color) {
@@ -77,16 +72,20 @@ void QtCanvas::DrawText(const Rect& rect, const Text& text, const TextStyle& sty
   if (text.empty()) return;
   Clip(rect);
   painter_->setPen(ForQt(style.color));
-  LaidOutText(text, rect.width, style).Draw(*painter_, {rect.left, rect.top});
+  memory_.texts.LaidOut(text, rect.width, style).Draw(*painter_, {rect.left, rect.top});
   Unclip();
 }
 
 double QtCanvas::TextHeight(const Text& text, double width, const TextStyle& style) {
-  return measures_.HeightOf(text, width, style);
+  return memory_.texts.HeightOf(text, width, style);
+}
+
+bool QtCanvas::BreaksWords(const Text& text, double width, const TextStyle& style) {
+  return memory_.texts.BreaksWords(text, width, style);
 }
 
 double QtCanvas::TextWidth(const Text& text, const TextStyle& style) {
-  return measures_.WidthOf(text, style);
+  return memory_.texts.WidthOf(text, style);
 }
 
 double QtCanvas::LineHeight(const TextStyle& style) {

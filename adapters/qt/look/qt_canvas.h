@@ -2,15 +2,22 @@
 
 #include <QPainter>
 
+#include "adapters/qt/look/rounded_edges.h"
 #include "adapters/qt/text/text_measures.h"
 #include "forms/canvas.h"
 
 namespace tessara {
 
+/// What is kept from one paint to the next.
+struct CanvasMemory {
+  TextMeasures texts;
+  RoundedEdges edges;
+};
+
 /// A canvas on a painter that counts in pixels of the program. Without a painter it measures.
 class QtCanvas : public Canvas {
  public:
-  QtCanvas(TextMeasures& measures, QPainter* painter);
+  QtCanvas(CanvasMemory& memory, QPainter* painter);
 
   void FillRect(const Rect& rect, const Color& color) override;
   void FillRoundedRect(const Rect& rect, double radius, const Color& fill,
@@ -20,6 +27,7 @@ class QtCanvas : public Canvas {
   void Unclip() override;
   void DrawText(const Rect& rect, const Text& text, const TextStyle& style) override;
   [[nodiscard]] double TextHeight(const Text& text, double width, const TextStyle& style) override;
+  [[nodiscard]] bool BreaksWords(const Text& text, double width, const TextStyle& style) override;
   [[nodiscard]] double TextWidth(const Text& text, const TextStyle& style) override;
   [[nodiscard]] double LineHeight(const TextStyle& style) override;
   [[nodiscard]] double Ascent(const TextStyle& style) override;
@@ -27,7 +35,7 @@ class QtCanvas : public Canvas {
  private:
   [[nodiscard]] QRectF OnDevicePixels(const QRectF& rect) const;
 
-  TextMeasures& measures_;
+  CanvasMemory& memory_;
   QPainter* painter_;
 };
 

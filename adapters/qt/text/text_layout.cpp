@@ -60,6 +60,8 @@ LaidOutText::LaidOutText(const Text& text, double width, const TextStyle& style)
       lineHeight_(LineHeight(style)),
       ascent_(Ascent(style)) {
   layout_.setTextOption(OptionOf(layout_.text(), style));
+  // Else the letters' shapes are worked out once more for each time that they are drawn.
+  layout_.setCacheEnabled(true);
   LayOut(width);
 }
 
@@ -81,6 +83,15 @@ double LaidOutText::Width() const {
     widest = std::max(widest, layout_.lineAt(at).naturalTextWidth());
   }
   return widest;
+}
+
+bool LaidOutText::BreaksWords() const {
+  for (int at = 0; at + 1 < layout_.lineCount(); ++at) {
+    const QTextLine line = layout_.lineAt(at);
+    const QChar last = layout_.text().at(line.textStart() + line.textLength() - 1);
+    if (last != u' ' && last != QChar::LineSeparator) return true;
+  }
+  return false;
 }
 
 void LaidOutText::Draw(QPainter& painter, const QPointF& topLeft) const {

@@ -20,6 +20,8 @@ class LaidOutText {
   [[nodiscard]] double Height() const { return layout_.lineCount() * lineHeight_; }
   /// Width of the widest line.
   [[nodiscard]] double Width() const;
+  /// Whether a line ends inside a word: neither at a blank nor at a line break.
+  [[nodiscard]] bool BreaksWords() const;
   void Draw(QPainter& painter, const QPointF& topLeft) const;
 
   [[nodiscard]] static double LineHeight(const TextStyle& style);

@@ -1,26 +1,12 @@
 #include "adapters/qt/text/text_measures.h"
 
-#include "adapters/qt/text/qt_text.h"
-#include "adapters/qt/text/text_layout.h"
-
 namespace tessara {
 
 namespace {
 
-/// Everything that a size depends on; the text comes last, so that no two keys are alike.
-QString KeyOf(const Text& text, double width, const TextStyle& style) {
-  return QStringLiteral("%1 %2 %3 %4 %5\n")
-             .arg(width)
-             .arg(style.points)
-             .arg(style.bold)
-             .arg(style.wrap)
-             .arg(ToQString(style.family)) +
-         ToQString(text);
-}
-
 /// What is known by that key, or else what the measuring tells.
-template <class Cache, class Measure>
-double Remembered(Cache& known, const QString& key, const Measure& measure) {
+template <class Cache, class Key, class Measure>
+double Remembered(Cache& known, const Key& key, const Measure& measure) {
   if (const double* size = known.object(key)) return *size;
   const double size = measure();
   known.insert(key, new double(size));
@@ -29,9 +15,23 @@ double Remembered(Cache& known, const QString& key, const Measure& measure) {
 
 }  // namespace
 
+TextMeasures::Key TextMeasures::KeyOf(const Text& text, double width, const TextStyle& style) {
+  return {text, width, style.family, style.points, style.bold, style.alignment, style.wrap};
+}
+
+const LaidOutText& TextMeasures::LaidOut(const Text& text, double width, const TextStyle& style) {
+  const Key key = KeyOf(text, width, style);
+  if (!laidOut_.contains(key)) laidOut_.insert(key, new LaidOutText(text, width, style));
+  return *laidOut_.object(key);
+}
+
+bool TextMeasures::BreaksWords(const Text& text, double width, const TextStyle& style) {
+  return LaidOut(text, width, style).BreaksWords();
+}
+
 double TextMeasures::HeightOf(const Text& text, double width, const TextStyle& style) {
   return Remembered(heights_, KeyOf(text, width, style),
-                    [&] { return LaidOutText(text, width, style).Height(); });
+                    [&] { return LaidOut(text, width, style).Height(); });
 }
 
 double TextMeasures::WidthOf(const Text& text, const TextStyle& style) {
@@ -45,6 +45,7 @@ double TextMeasures::WidthOf(const Text& text, const TextStyle& style) {
 void TextMeasures::Forget() {
   heights_.clear();
   widths_.clear();
+  laidOut_.clear();
 }
 
 }  // namespace tessara

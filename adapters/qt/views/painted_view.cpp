@@ -8,7 +8,6 @@
 #include <variant>
 
 #include "adapters/qt/look/accessible_role.h"
-#include "adapters/qt/look/qt_canvas.h"
 #include "adapters/qt/look/visible_focus.h"
 #include "adapters/qt/text/qt_text.h"
 
@@ -34,7 +33,7 @@ void PaintedView::FollowOwn(Aspect aspect) {
 }
 
 void PaintedView::FollowDesktop() {
-  measures_.Forget();
+  memory_.texts.Forget();
   ControlView::FollowDesktop();
   FitScrollBar();
 }
@@ -94,7 +93,7 @@ void PaintedView::Paint() {
   QPainter painter(&Widget());
   painter.save();
   painter.scale(Context().scale.Factor(), Context().scale.Factor());
-  QtCanvas canvas(measures_, &painter);
+  QtCanvas canvas(memory_, &painter);
   const double scroll = scrollBar_ == nullptr ? 0 : scrollBar_->value();
   As<PaintedControl>().Paint(canvas, SizeInPixels(), scroll);
   painter.restore();
@@ -106,7 +105,7 @@ void PaintedView::Paint() {
 
 void PaintedView::FitScrollBar() {
   fitsScrollBar_ = false;
-  QtCanvas canvas(measures_, nullptr);
+  QtCanvas canvas(memory_, nullptr);
   const Rect size = SizeInPixels();
   const int range = static_cast<int>(std::ceil(As<PaintedControl>().ScrollRange(canvas, size)));
   if (range == 0 && scrollBar_ == nullptr) return;

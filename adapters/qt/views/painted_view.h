@@ -3,7 +3,7 @@
 #include <QPointer>
 #include <QScrollBar>
 
-#include "adapters/qt/text/text_measures.h"
+#include "adapters/qt/look/qt_canvas.h"
 #include "adapters/qt/views/control_view.h"
 #include "forms/controls/painted_control.h"
 
@@ -30,7 +30,7 @@ class PaintedView : public ControlView {
   bool ScrollByKey(int key);
   [[nodiscard]] Rect SizeInPixels() const;
 
-  TextMeasures measures_;
+  CanvasMemory memory_;
   QPointer<QScrollBar> scrollBar_;
   bool fitsScrollBar_ = false;
 };

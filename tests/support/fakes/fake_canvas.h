@@ -50,6 +50,11 @@ class FakeCanvas : public Canvas {
   double TextHeight(const Text& text, double width, const TextStyle& style) override {
     return CountLines(text, width, style) * LineHeight(style);
   }
+  bool BreaksWords(const Text& text, double width, const TextStyle& style) override {
+    Text words = text;
+    std::replace(words.begin(), words.end(), u' ', u'\n');
+    return TextWidth(words, style) > width;
+  }
   double TextWidth(const Text& text, const TextStyle& style) override {
     double widest = 0;
     double width = 0;

@@ -50,6 +50,22 @@ void CheckCanBeRead(const Text& text) {
   }
 }
 
+/// Counts how often it is asked for a text's width.
+class CountingCanvas : public FakeCanvas {
+ public:
+  int widths = 0;
+  double TextWidth(const Text& text, const TextStyle& style) override {
+    ++widths;
+    return FakeCanvas::TextWidth(text, style);
+  }
+  bool BreaksWords(const Text& text, double width, const TextStyle& style) override {
+    const int before = widths;
+    const bool breaks = FakeCanvas::BreaksWords(text, width, style);
+    widths = before;
+    return breaks;
+  }
+};
+
 }  // namespace
 
 TEST_CASE("banner, body and number have places of their own on the card") {
@@ -71,6 +87,15 @@ TEST_CASE("a card elsewhere is laid out in the same way") {
   CHECK(there.body.top == here.body.top + 50);
   CHECK(there.headingRule == here.headingRule + 50);
   CHECK(there.number.Right() == here.number.Right() + 100);
+}
+
+TEST_CASE("words are measured one by one only where a line ends inside one") {
+  CountingCanvas canvas;
+  const Rect body = LayoutOf(kCard).body;
+  CHECK(LayoutBody(canvas, Repeated(u"word ", 12), body).style.points == kLargestBody);
+  CHECK(canvas.widths == 0);
+  CHECK(LayoutBody(canvas, Repeated(u"W", 40), body).style.points < kLargestBody);
+  CHECK(canvas.widths > 0);
 }
 
 TEST_CASE("any text of up to 444 characters can be read whole, at 8 points or more") {
