@@ -14,8 +14,10 @@ namespace tessara {
 
 namespace {
 
-/// From the top of the first line to the bottom of the last, and what of it is ink. Pixels.
-struct Heights {
+/// Width of the widest line; from the top of the first line to the bottom of the last, and what of
+/// that is ink. Pixels.
+struct Measures {
+  double width;
   double block;
   double inkTop;
   double inkBottom;
@@ -25,30 +27,34 @@ QSizeF SizeOf(const QString& lines, const QFont& font) {
   return QFontMetricsF(font).size(Qt::TextShowMnemonic, lines);
 }
 
-Heights HeightsOf(const QString& lines, const QFont& font, CaptionPlace place) {
+/// Most captions have one line, which is measured once.
+Measures MeasuresOf(const QString& lines, const QFont& font, CaptionPlace place) {
   const QFontMetricsF metrics(font);
   const QString read = ToQString(PlainCaption(FromQString(lines)));
   const QStringList parts = read.split(u'\n');
+  const bool oneLine = parts.size() == 1;
   // Letters that begin at a whole pixel stand on one.
   const double firstBaseline =
       place == CaptionPlace::kFromTop ? std::round(metrics.ascent()) : metrics.ascent();
+  const QSizeF whole = SizeOf(lines, font);
+  const QRectF firstInk = metrics.tightBoundingRect(parts.front());
+  const QRectF lastInk = oneLine ? firstInk : metrics.tightBoundingRect(parts.back());
   // Painted lines begin at whole pixels, and are further apart than the font's spacing says.
-  const double block = SizeOf(lines, font).height();
-  const double lastBaseline = firstBaseline + block - SizeOf(parts.back(), font).height();
-  return {block, firstBaseline + metrics.tightBoundingRect(parts.front()).top(),
-          lastBaseline + metrics.tightBoundingRect(parts.back()).bottom()};
+  const double aboveLast = oneLine ? 0 : whole.height() - SizeOf(parts.back(), font).height();
+  return {whole.width(), whole.height(), firstBaseline + firstInk.top(),
+          firstBaseline + aboveLast + lastInk.bottom()};
 }
 
 /// Brings the ink into the room. True where it has room.
-bool FitHeight(FittedCaption& caption, double room, CaptionPlace place, double mostOverhang) {
-  const Heights heights = HeightsOf(caption.text, caption.font, place);
-  const double top = place == CaptionPlace::kInMiddle ? (room - heights.block) / 2 : 0;
-  const double below = std::max(0.0, top + heights.inkBottom - room);
+bool FitHeight(FittedCaption& caption, const Measures& measures, double room, CaptionPlace place,
+               double mostOverhang) {
+  const double top = place == CaptionPlace::kInMiddle ? (room - measures.block) / 2 : 0;
+  const double below = std::max(0.0, top + measures.inkBottom - room);
   // In the middle, the style draws it.
-  if (place == CaptionPlace::kInMiddle) return below == 0 && top + heights.inkTop >= 0;
-  caption.rise = std::min(std::ceil(below), std::max(0.0, std::floor(heights.inkTop)));
+  if (place == CaptionPlace::kInMiddle) return below == 0 && top + measures.inkTop >= 0;
+  caption.rise = std::min(std::ceil(below), std::max(0.0, std::floor(measures.inkTop)));
   caption.overhang = std::max(0.0, std::ceil(below - caption.rise));
-  return heights.inkTop >= 0 && caption.overhang <= mostOverhang;
+  return measures.inkTop >= 0 && caption.overhang <= mostOverhang;
 }
 
 bool FitsOnOneLine(const QString& caption, const QFont& font, double width) {
@@ -103,8 +109,9 @@ class Fitting {
  private:
   bool Try(const QString& text, const QFont& font) {
     fitted_ = {text, font};
-    return FitHeight(fitted_, room_.height(), place_, mostOverhang_) &&
-           FitsOnOneLine(text, font, room_.width());
+    const Measures measures = MeasuresOf(text, font, place_);
+    return FitHeight(fitted_, measures, room_.height(), place_, mostOverhang_) &&
+           measures.width <= room_.width();
   }
 
   const QString& caption_;

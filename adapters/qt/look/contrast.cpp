@@ -20,18 +20,24 @@ double LuminanceOf(const QColor& color) {
          0.0722 * Linear(color.blueF());
 }
 
-}  // namespace
-
-double ContrastOf(const QColor& one, const QColor& other) {
-  const auto [darker, lighter] = std::minmax({LuminanceOf(one), LuminanceOf(other)});
+double ContrastOfLuminances(double one, double other) {
+  const auto [darker, lighter] = std::minmax(one, other);
   return (lighter + 0.05) / (darker + 0.05);
 }
 
+}  // namespace
+
+double ContrastOf(const QColor& one, const QColor& other) {
+  return ContrastOfLuminances(LuminanceOf(one), LuminanceOf(other));
+}
+
 QColor ReadableOn(const QColor& ground, const QColor& color, double contrast) {
-  const int step = LuminanceOf(ground) < kMiddleLuminance ? 1 : -1;
+  const double luminance = LuminanceOf(ground);
+  const int step = luminance < kMiddleLuminance ? 1 : -1;
   QColor readable = color;
   for (int lightness = color.lightness() + step;
-       ContrastOf(ground, readable) < contrast && lightness >= 0 && lightness <= kLightest;
+       ContrastOfLuminances(luminance, LuminanceOf(readable)) < contrast && lightness >= 0 &&
+       lightness <= kLightest;
        lightness += step) {
     readable = QColor::fromHsl(color.hslHue(), color.hslSaturation(), lightness);
   }

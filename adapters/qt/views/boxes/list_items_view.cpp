@@ -10,10 +10,16 @@ namespace tessara {
 
 namespace {
 
+Qt::CheckState TickOf(const ListItem& item) {
+  return item.checked ? Qt::Checked : Qt::Unchecked;
+}
+
 QTreeWidgetItem* MakeItem(const ListItem& item) {
   QStringList texts(OneLineForQt(item.text));
   for (const Text& text : item.subItems) texts += OneLineForQt(text);
   auto* made = new QTreeWidgetItem(texts);
+  // Each tick that changes in the list is told to all that look at it.
+  made->setCheckState(0, TickOf(item));
   made->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren);
   return made;
 }
@@ -72,8 +78,7 @@ void ListItemsView::ShowItems() {
 
 void ListItemsView::ShowTicks() {
   for (int index = 1; index <= As<ListView>().Count(); ++index) {
-    const bool checked = As<ListView>().Item(index).checked;
-    Shown().topLevelItem(index - 1)->setCheckState(0, checked ? Qt::Checked : Qt::Unchecked);
+    Shown().topLevelItem(index - 1)->setCheckState(0, TickOf(As<ListView>().Item(index)));
   }
 }
 
