@@ -86,12 +86,12 @@ TEST_CASE("A line that ends inside a word is told from one that ends at a blank 
     Text text;
     bool breaks;
   };
-  for (const auto& [text, breaks] :
+  for (const Case& tried :
        {Case{u"", false}, Case{u"short", false}, Case{u"words that stand on several lines", false},
         Case{u"a\r\n\r\nbreak", false}, Case{u"Donaudampfschifffahrtsgesellschaft", true},
         Case{u"Donaudampf-Schifffahrt", true}}) {
-    CAPTURE(ToUtf8(text));
-    const LaidOutText laidOut(text, 200, style);
-    CHECK(laidOut.BreaksWords() == breaks);
+    CAPTURE(ToUtf8(tried.text));
+    const LaidOutText laidOut(tried.text, 200, style);
+    CHECK(laidOut.BreaksWords() == tried.breaks);
   }
 }
