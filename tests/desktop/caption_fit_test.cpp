@@ -1,5 +1,3 @@
-#include "adapters/qt/look/caption_fit.h"
-
 #include <QFontInfo>
 #include <QFontMetricsF>
 #include <QImage>
@@ -8,6 +6,7 @@
 #include <algorithm>
 #include <doctest/doctest.h>
 
+#include "adapters/qt/look/caption_fits.h"
 #include "adapters/qt/text/pixel_scale.h"
 #include "tests/desktop/support/desktop_font.h"
 #include "tests/desktop/support/program_on_screen.h"
@@ -140,4 +139,25 @@ TEST_CASE("The answer card and the title of the About box stand at their full si
     ProgramOnScreen::Settle();
     CheckFullSize(ProgramOnScreen::Of<QLabel>("Label1(0)", "frmAbout"), 15.75);
   }
+}
+
+TEST_CASE("A caption that was fitted before is fitted in the same way, and not again") {
+  CaptionFits fits;
+  QFont font = QApplication::font();
+  font.setPixelSize(12);
+  const auto same = [](const FittedCaption& one, const FittedCaption& other) {
+    return one.text == other.text && one.font == other.font && one.rise == other.rise &&
+           one.overhang == other.overhang;
+  };
+  for (const QSizeF room : {QSizeF(200, 20), QSizeF(40, 20), QSizeF(40, 40)}) {
+    for (const CaptionPlace place : {CaptionPlace::kFromTop, CaptionPlace::kInMiddle}) {
+      const FittedCaption fitted = FitCaption("&Typing forty", font, room, place, 3);
+      CHECK(same(fits.Fit("&Typing forty", font, room, place, 3), fitted));
+      CHECK(same(fits.Fit("&Typing forty", font, room, place, 3), fitted));
+    }
+  }
+  const FittedCaption* const before = &fits.Fit("kept", font, {200, 20}, CaptionPlace::kInMiddle);
+  CHECK(&fits.Fit("kept", font, {200, 20}, CaptionPlace::kInMiddle) == before);
+  font.setPixelSize(13);
+  CHECK(fits.Fit("kept", font, {200, 20}, CaptionPlace::kInMiddle).font == font);
 }

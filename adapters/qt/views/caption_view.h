@@ -40,7 +40,9 @@ class CaptionView : public ControlView {
   void FollowFont() override { PrepareWhenSeen(); }
 
   void Prepare() override {
-    Shown().Fit(Context().scale.ControlFont(As<CaptionedControl>().FontOf()), CaptionRoom());
+    const QFont font = Context().scale.ControlFont(As<CaptionedControl>().FontOf());
+    Shown().Show(
+        Context().captions.Fit(Shown().text(), font, CaptionRoom(), CaptionPlace::kInMiddle));
   }
 
   [[nodiscard]] QSizeF CaptionRoom() const {

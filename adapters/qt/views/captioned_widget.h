@@ -15,9 +15,7 @@ class CaptionedWidget : public ButtonWidget {
  public:
   using ButtonWidget::ButtonWidget;
 
-  /// `font` is the one that the caption has where it fits.
-  void Fit(const QFont& font, QSizeF room) {
-    const FittedCaption fitted = FitCaption(this->text(), font, room, CaptionPlace::kInMiddle);
+  void Show(const FittedCaption& fitted) {
     shown_ = fitted.text;
     if (this->font() != fitted.font) this->setFont(fitted.font);
     this->update();

@@ -18,11 +18,8 @@ class CaptionLabel : public QLabel {
  public:
   explicit CaptionLabel(QWidget* parent) : QLabel(parent) { setTextFormat(Qt::PlainText); }
 
-  /// Makes the caption fit the room, and the label as high as its ink goes on below that, by
-  /// `mostOverhang` pixels at most.
-  void Fit(const QFont& font, QSize room, int mostOverhang) {
-    const FittedCaption fitted =
-        FitCaption(text(), font, room, CaptionPlace::kFromTop, mostOverhang);
+  /// Makes the label as high as the caption's ink goes on below the room.
+  void Show(const FittedCaption& fitted, QSize room) {
     resize(width(), room.height() + static_cast<int>(fitted.overhang));
     shown_ = fitted.text;
     rise_ = static_cast<int>(fitted.rise);
@@ -88,8 +85,11 @@ void LabelView::Prepare() {
   const PixelScale& scale = Context().scale;
   const QSize whole = scale.FromTwips(label.BoundsOf()).size();
   const QSize room = whole - QSize(scale.FromTwips(CoveredWidth(label)), 0);
-  static_cast<CaptionLabel&>(Widget()).Fit(scale.ControlFont(label.FontOf()), room,
-                                           scale.FromTwips(FreeHeightBelow(label)));
+  auto& shown = static_cast<CaptionLabel&>(Widget());
+  shown.Show(
+      Context().captions.Fit(shown.text(), scale.ControlFont(label.FontOf()), room,
+                             CaptionPlace::kFromTop, scale.FromTwips(FreeHeightBelow(label))),
+      room);
 }
 
 }  // namespace tessara

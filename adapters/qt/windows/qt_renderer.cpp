@@ -47,7 +47,7 @@ QtRenderer::QtRenderer(WindowSystem& windows, const QString& pictureFolder)
     : windows_(windows),
       scale_(PixelScale::OfDesktop()),
       pictures_(pictureFolder, Density()),
-      context_{scale_, pictures_},
+      context_{scale_, pictures_, captions_},
       keyboard_(windows, [this] { return frame_; }) {
   // The program ends with its frame, whatever else is on screen.
   QApplication::setQuitOnLastWindowClosed(false);
@@ -91,6 +91,7 @@ void QtRenderer::FollowDesktop() {
   const Following following(following_);
   scale_ = PixelScale::OfDesktop();
   pictures_.SetDensity(Density());
+  captions_.Forget();
   for (const auto& [form, window] : shown_) window->FollowDesktop();
 }
 

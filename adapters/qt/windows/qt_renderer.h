@@ -50,6 +50,7 @@ class QtRenderer : public Renderer {
   WindowSystem& windows_;
   PixelScale scale_;
   PictureCache pictures_;
+  CaptionFits captions_;
   ViewContext context_;
   Keyboard keyboard_;
   FrameWindow* frame_ = nullptr;
