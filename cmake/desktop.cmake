@@ -15,6 +15,7 @@ file(GLOB qtSources CONFIGURE_DEPENDS ${qtGlobs})
 add_library(tessara_qt STATIC ${qtSources})
 target_link_libraries(tessara_qt PRIVATE tessara_warnings
   PUBLIC Qt6::Core Qt6::Gui Qt6::Widgets PkgConfig::GLIB PRIVATE Fontconfig::Fontconfig PNG::PNG)
+precompile(tessara_qt qtHeaders)
 # Printing, which needs the print queues, is a module of its own.
 foreach(used base machine forms viewer posix)
   target_link_libraries(tessara_qt PUBLIC tessara_${used})
@@ -32,6 +33,7 @@ file(GLOB qtPrintSources CONFIGURE_DEPENDS adapters/qt/print/*.cpp)
 add_library(tessara_qt_print MODULE ${qtPrintSources})
 set_target_properties(tessara_qt_print PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR})
 target_link_libraries(tessara_qt_print PRIVATE tessara_warnings tessara_qt tessara_cups tessara_posix Qt6::PrintSupport)
+precompile(tessara_qt_print qtHeaders)
 
 add_executable(tessara shell/main.cpp)
 include(cmake/program_files.cmake)

@@ -50,12 +50,17 @@ def dependencies(build):
     return found
 
 
+# The linter cannot read the headers that another compiler has precompiled. The sources name what they use.
+PRECOMPILED = re.compile(r" -Winvalid-pch| -include \S+/cmake_pch\.hxx")
+
+
 def own_commands(build):
     """The compile commands of tracked sources; those that pull in Qt, the slow ones, first."""
     tracked = set(subprocess.run(["git", "-C", ROOT, "ls-files", "*.cpp", ":!tests"], capture_output=True, text=True,
                                  check=True).stdout.splitlines())
     commands = json.loads((build / "compile_commands.json").read_text())
-    own = {c["file"]: c for c in commands if os.path.relpath(c["file"], ROOT) in tracked}
+    own = {c["file"]: {**c, "command": PRECOMPILED.sub("", c["command"])} for c in commands
+           if os.path.relpath(c["file"], ROOT) in tracked}
     return sorted(own.values(), key=lambda c: ("qt6" not in c["command"], c["file"]))
 
 
@@ -107,10 +112,16 @@ def bundles(commands):
             for bundle in source_bundles.bundles(same, SOURCES_IN_A_BUNDLE, lambda command: command["file"])]
 
 
-def run_tidy(build, files, *options):
-    """The complaints about files, or None."""
-    run = subprocess.run([TIDY, "--quiet", "-p", build, *options, *files], capture_output=True, text=True)
+def run_tidy(folder, command, *options):
+    """The complaints about a source, or None. The folder takes the command's file."""
+    (folder / "compile_commands.json").write_text(json.dumps([command]), encoding="utf-8")
+    run = subprocess.run([TIDY, "--quiet", "-p", folder, *options, command["file"]], capture_output=True, text=True)
     return None if run.returncode == 0 else run.stdout + run.stderr
+
+
+def tidy_alone(command):
+    with tempfile.TemporaryDirectory() as folder:
+        return run_tidy(pathlib.Path(folder), command)
 
 
 def tidy_as_one(bundle):
@@ -121,17 +132,16 @@ def tidy_as_one(bundle):
         one.write_text("\n".join(lines), encoding="utf-8")
         words = shlex.split(bundle[0]["command"])
         words[words.index("-c") + 1] = str(one)
-        database = [{**bundle[0], "file": str(one), "command": shlex.join(words)}]
-        (pathlib.Path(folder) / "compile_commands.json").write_text(json.dumps(database), encoding="utf-8")
-        return run_tidy(folder, [str(one)], *OWN_RULES, f"--header-filter={OWN_FILES}")
+        command = {**bundle[0], "file": str(one), "command": shlex.join(words)}
+        return run_tidy(pathlib.Path(folder), command, *OWN_RULES, f"--header-filter={OWN_FILES}")
 
 
-def complaints_about(build, bundle):
+def complaints_about(bundle):
     """What there is to say of the sources of a bundle: (command, complaints or None) of each."""
     if len(bundle) > 1 and tidy_as_one(bundle) is None:
         return [(command, None) for command in bundle]
     # Alone, a complaint is its source's own.
-    return [(command, run_tidy(build, [command["file"]])) for command in bundle]
+    return [(command, tidy_alone(command)) for command in bundle]
 
 
 def main():
@@ -142,7 +152,7 @@ def main():
     pending = [command for command in own_commands(build) if not clean[command["file"]].exists()]
     failed = 0
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        for results in pool.map(lambda bundle: complaints_about(build, bundle), bundles(pending)):
+        for results in pool.map(complaints_about, bundles(pending)):
             for command, complaints in results:
                 if complaints is None:
                     clean[command["file"]].touch()
