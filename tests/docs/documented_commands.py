@@ -73,5 +73,5 @@ RUN_BY = {
         ("test", "scripts/packages.sh \"${groups[@]}\""),
     "scripts/tidy.py build/release": ("test", "scripts/tidy.py build/release"),
     "fuzz/run [SECONDS [NAME...]]": ("test", "fuzz/run $fuzzSeconds"),
-    "build/fuzz/fuzz_NAME FILE": ("fuzz/run", "build/fuzz/fuzz_$name"),
+    "build/fuzz/fuzz_NAME FILE": ("fuzz/run", "$built/fuzz_$name"),
 }
