@@ -113,7 +113,7 @@ TEST_CASE("A store that can't be written stays as it is, silently") {
 TEST_CASE("A store whose writer is killed has the old value or the new one, and can be written") {
   // In memory: each write waits for its disk.
   const ConfigFolder config(kInMemory);
-  for (int stop = 1, ended = 0; ended == 0; ++stop) {
+  for (int stop = 1, ended = 0; ended == 0; stop += test::kStopsApart) {
     CAPTURE(stop);
     QtSettingsStore(config.File()).Write(u"BackDrop", u"DESERT");
     ended =

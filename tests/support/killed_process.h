@@ -10,6 +10,14 @@
 
 namespace tessara::test {
 
+/// From one stop at which a process is killed to the next. Under the sanitizers, where a process
+/// takes long to start, not every one of them is tried.
+#ifdef TESSARA_SANITIZED
+inline constexpr int kStopsApart = 7;
+#else
+inline constexpr int kStopsApart = 1;
+#endif
+
 /// Runs the action in a process of its own and kills that at its `which`-th stop, counted from 1.
 /// A system call has two stops: before it has done anything, and after it has done all.
 /// False where the action came to its end before.

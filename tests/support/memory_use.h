@@ -29,6 +29,16 @@ inline long ResidentBytes() {
 #endif
 }
 
+/// How often that is done which is to leave nothing behind. The report of leaks needs it a few
+/// times.
+constexpr int Repeated(int times) {
+#ifdef TESSARA_SANITIZED
+  return times / 10;
+#else
+  return times;
+#endif
+}
+
 /// Bytes of addresses that the process has taken.
 inline long AddressBytes() {
   long all = 0;

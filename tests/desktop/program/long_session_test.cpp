@@ -104,7 +104,7 @@ long GrowthOf(const Work& work) {
 }  // namespace
 
 TEST_CASE("Every window opened and closed a hundred times leaves no widget behind") {
-  constexpr int kRounds = 100;
+  constexpr int kRounds = Repeated(100);
   SessionOnScreen session;
   const auto goRounds = [&session] {
     for (int round = 0; round < kRounds / 2; ++round) {
@@ -139,7 +139,7 @@ TEST_CASE("Every box and the help opened and closed over and over leave no widge
 
 TEST_CASE("A program with its splash started and ended a hundred times leaves nothing behind") {
   const auto start = [] {
-    for (int count = 0; count < 50; ++count) {
+    for (int count = 0; count < Repeated(50); ++count) {
       SessionOnScreen session(u"1");
       CHECK(session.fakes.desktop.yields > 0);
     }
@@ -150,7 +150,7 @@ TEST_CASE("A program with its splash started and ended a hundred times leaves no
 TEST_CASE("Ten thousand card moves on screen leave nothing behind") {
   SessionOnScreen session;
   const auto move = [&session] {
-    for (int step = 0; step < 500; ++step) {
+    for (int step = 0; step < Repeated(500); ++step) {
       MoveThroughDeck(session.Deck(), 10);
       QApplication::processEvents();
     }
