@@ -30,7 +30,6 @@ if(CHM_INCLUDE_DIR AND CHM_LIBRARY)
   target_include_directories(tessara_help_viewer PUBLIC ${CMAKE_SOURCE_DIR} PRIVATE ${CHM_INCLUDE_DIR})
   target_link_libraries(tessara_help_viewer PRIVATE tessara_warnings
     PUBLIC Qt6::Widgets tessara_sanitizers ${CHM_LIBRARY})
-  precompile(tessara_help_viewer qtHeaders)
 
   add_library(tessara_help MODULE)
   target_link_libraries(tessara_help PRIVATE tessara_help_viewer)

@@ -1,12 +1,12 @@
-# The headers of others that most sources read are compiled once for all targets whose compiler is told the same.
+# Headers of others that most sources of a target read are compiled once.
 # A source names what it uses all the same: -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON builds without.
-# Not in the core: its headers are few, and the optimiser of GCC 12 takes fright at strings that come from here.
+# Not in the core: its headers are few, and the optimiser of GCC 12 takes fright at strings that come from here. Nor where
+# each target's compiler is told something else, as with Qt's test library.
 set(standardHeaders <algorithm> <functional> <memory> <optional> <string> <utility> <vector>)
 set(qtHeaders ${standardHeaders} <QApplication> <QKeyEvent> <QPainter> <QStyle> <QWidget>)
 set(testHeaders ${standardHeaders} <doctest/doctest.h>)
-set(qtTestHeaders ${qtHeaders} <doctest/doctest.h>)
 
-# precompile(TARGET HEADERS): by the name of a list above. The first target that asks makes them for all.
+# precompile(TARGET HEADERS): by the name of a list above. The first target that asks makes them for those behind it.
 function(precompile target headers)
   get_property(maker GLOBAL PROPERTY makerOf_${headers})
   if(maker)
