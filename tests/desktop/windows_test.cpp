@@ -230,6 +230,16 @@ TEST_CASE("An error that a handler lets out is reported and ends the program") {
   CHECK(fixture.windows.ExitStatus() == 1);
 }
 
+TEST_CASE("Waiting for a window that has been painted already is not in vain") {
+  Fixture fixture;
+  fixture.dialog->Show();
+  QApplication::processEvents();
+  PaintCount paints;
+  Fixture::Of("Painting1", "frmDialog").installEventFilter(&paints);
+  fixture.renderer.WaitUntilSeen(*fixture.dialog.operator->());
+  CHECK(paints.count > 0);
+}
+
 TEST_CASE("Waiting for a window to be seen lasts until it has been painted") {
   Fixture fixture;
   fixture.dialog->Show();

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QTimer>
+#include <QWindow>
 
 #include "adapters/qt/views/boxes/text_area_view.h"
 #include "adapters/qt/windows/child_window.h"
@@ -162,8 +163,15 @@ void QtRenderer::WaitUntilSeen(Form& form) {
   QEventLoop loop;
   FirstPaint paint(loop);
   // What is covered whole by what it holds is not painted itself.
-  window->Top().installEventFilter(&paint);
-  for (QWidget* part : window->Top().findChildren<QWidget*>()) part->installEventFilter(&paint);
+  QList<QWidget*> parts = window->Top().findChildren<QWidget*>();
+  parts.append(&window->Top());
+  // Where it has been painted as it came up, once more is soon enough.
+  const QWindow* shown = window->Top().window()->windowHandle();
+  const bool painted = shown != nullptr && shown->isExposed();
+  for (QWidget* part : parts) {
+    part->installEventFilter(&paint);
+    if (painted) part->update();
+  }
   QTimer::singleShot(kLongestWait, &loop, &QEventLoop::quit);
   loop.exec(QEventLoop::ExcludeUserInputEvents);
   QGuiApplication::sync();
