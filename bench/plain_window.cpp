@@ -16,6 +16,8 @@
 #include <QTextEdit>
 #include <QToolButton>
 #include <QTreeWidget>
+#include <cstddef>
+#include <memory>
 
 namespace {
 
@@ -30,9 +32,72 @@ Make WithText(const QString& text) {
   };
 }
 
-template <class W>
-Make Empty() {
-  return [](QWidget* parent) { return new W(parent); };
+Make LabelLike(const QLabel& label) {
+  if (label.pixmap().isNull()) return WithText<QLabel>(label.text());
+  return [picture = label.pixmap()](QWidget* parent) {
+    auto* plain = new QLabel(parent);
+    plain->setPixmap(picture);
+    return plain;
+  };
+}
+
+Make AreaLike(const QPlainTextEdit& area) {
+  return [text = area.toPlainText()](QWidget* parent) { return new QPlainTextEdit(text, parent); };
+}
+
+Make ComboLike(const QComboBox& combo) {
+  QStringList entries;
+  for (int entry = 0; entry < combo.count(); ++entry) entries << combo.itemText(entry);
+  return [entries, chosen = combo.currentIndex()](QWidget* parent) {
+    auto* plain = new QComboBox(parent);
+    plain->addItems(entries);
+    plain->setCurrentIndex(chosen);
+    return plain;
+  };
+}
+
+template <class Item>
+using Entries = std::vector<std::shared_ptr<Item>>;
+
+template <class Item>
+QList<Item*> CopiesOf(const Entries<Item>& entries) {
+  QList<Item*> copies;
+  for (const auto& entry : entries) copies << entry->clone();
+  return copies;
+}
+
+Make ListLike(const QListWidget& list) {
+  Entries<QListWidgetItem> entries;
+  for (int row = 0; row < list.count(); ++row) entries.emplace_back(list.item(row)->clone());
+  return [entries](QWidget* parent) {
+    auto* plain = new QListWidget(parent);
+    for (QListWidgetItem* entry : CopiesOf(entries)) plain->addItem(entry);
+    return plain;
+  };
+}
+
+/// With the ticks of its entries, and the widths of its columns.
+Make TreeLike(const QTreeWidget& tree) {
+  Entries<QTreeWidgetItem> entries;
+  for (int row = 0; row < tree.topLevelItemCount(); ++row) {
+    entries.emplace_back(tree.topLevelItem(row)->clone());
+  }
+  std::vector<int> widths;
+  for (int column = 0; column < tree.columnCount(); ++column) {
+    widths.push_back(tree.columnWidth(column));
+  }
+  const Entries<QTreeWidgetItem> header{
+      std::shared_ptr<QTreeWidgetItem>(tree.headerItem()->clone())};
+  return [=, headless = tree.isHeaderHidden()](QWidget* parent) {
+    auto* plain = new QTreeWidget(parent);
+    plain->setHeaderItem(CopiesOf(header).front());
+    plain->setHeaderHidden(headless);
+    plain->addTopLevelItems(CopiesOf(entries));
+    for (std::size_t column = 0; column < widths.size(); ++column) {
+      plain->setColumnWidth(static_cast<int>(column), widths[column]);
+    }
+    return plain;
+  };
 }
 
 /// How to make a plain widget of the same kind; nothing for what only holds others or paints
@@ -46,15 +111,15 @@ Make MakerOf(const QWidget& widget) {
     return WithText<QCheckBox>(check->text());
   if (auto* tool = qobject_cast<const QToolButton*>(&widget))
     return WithText<QToolButton>(tool->text());
-  if (auto* label = qobject_cast<const QLabel*>(&widget)) return WithText<QLabel>(label->text());
   if (auto* line = qobject_cast<const QLineEdit*>(&widget))
     return WithText<QLineEdit>(line->text());
   if (auto* text = qobject_cast<const QTextEdit*>(&widget))
     return WithText<QTextEdit>(text->toHtml());
-  if (widget.inherits("QPlainTextEdit")) return Empty<QPlainTextEdit>();
-  if (widget.inherits("QComboBox")) return Empty<QComboBox>();
-  if (widget.inherits("QTreeView")) return Empty<QTreeWidget>();
-  if (widget.inherits("QListView")) return Empty<QListWidget>();
+  if (auto* label = qobject_cast<const QLabel*>(&widget)) return LabelLike(*label);
+  if (auto* area = qobject_cast<const QPlainTextEdit*>(&widget)) return AreaLike(*area);
+  if (auto* combo = qobject_cast<const QComboBox*>(&widget)) return ComboLike(*combo);
+  if (auto* list = qobject_cast<const QListWidget*>(&widget)) return ListLike(*list);
+  if (auto* tree = qobject_cast<const QTreeWidget*>(&widget)) return TreeLike(*tree);
   return nullptr;
 }
 
@@ -62,7 +127,7 @@ Make ContainerOf(const QWidget& widget) {
   if (auto* box = qobject_cast<const QGroupBox*>(&widget)) {
     return [title = box->title()](QWidget* parent) { return new QGroupBox(title, parent); };
   }
-  return Empty<QWidget>();
+  return [](QWidget* parent) { return new QWidget(parent); };
 }
 
 }  // namespace

@@ -11,7 +11,7 @@
 class QMdiArea;
 
 /// The floor that the opening of a window is measured against: the same number and kinds of plain
-/// widgets with the same texts, in the same places.
+/// widgets with the same texts, entries and pictures, in the same places.
 class PlainWindow {
  public:
   /// Learns the window, which is on screen.

@@ -28,7 +28,8 @@ RUN_AS = {
         " && pdftotext {scratch}/verbs.pdf - | grep drunk",
     "build/release/tests/tests_unit -tc='*deck*'":
         "build/release/tests/tests_unit -tc='*deck*' | grep 'test cases: *[1-9]'",
-    "scripts/format.sh": "scripts/format.sh --check",
+    # The rules are that version's, which not every system has.
+    "scripts/format.sh": "! command -v clang-format-14 || scripts/format.sh --check",
     "bench/run": "bench/run once",
     "bench/run --check": "test -x bench/check_figures.py",
     "scripts/random_user [STEPS [SEED]]": "PRESET=release scripts/random_user 20 1",

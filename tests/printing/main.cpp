@@ -1,4 +1,3 @@
-#define DOCTEST_CONFIG_IMPLEMENT
 #include <QApplication>
 #include <doctest/doctest.h>
 

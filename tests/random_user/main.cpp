@@ -37,6 +37,8 @@ int RunRandomUser(std::uint32_t seed, int steps) {
 int main(int argc, char** argv) {
   // With this event loop the program waits only where nothing is left to be done.
   qputenv("QT_NO_GLIB", "1");
+  // Qt leaves behind what it has asked a desktop portal and got no answer to.
+  qputenv("QT_NO_XDG_DESKTOP_PORTAL", "1");
   QApplication application(argc, argv);
   tessara::ShowOutlines();
   QCommandLineParser options;

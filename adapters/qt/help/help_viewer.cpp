@@ -117,6 +117,8 @@ QAction* HelpViewer::AddAction(QWidget& bar, const QString& text, int icon,
 
 void HelpViewer::AddActions() {
   QToolBar* bar = addToolBar(tr("Pages"));
+  // Not every version of Qt tells of a bar by its title.
+  bar->setAccessibleName(bar->windowTitle());
   bar->setMovable(false);
   bar->setContextMenuPolicy(Qt::PreventContextMenu);
   bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
