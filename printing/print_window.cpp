@@ -98,7 +98,6 @@ void PrintWindow::OnLoad() {
   cards.SetColumnWidth(kTextColumn, besideNumbers);
   FillList();
   cards.SetColumnWidth(kTextColumn, besideNumbers - kScrollBarWidth);
-  SetCaption(u"Print Cards");
   deck_->Hide();
   ShowAvailable();
   flatOnly.SetVisible(!app_.state.printing.canPrintCards);

@@ -16,6 +16,7 @@ TEST_CASE("UTF-8 is read into units and written again") {
       {"\xC3\xA9", u"\u00E9"},
       {"\xE2\x82\xAC", u"\u20AC"},
       {"\xF0\x9F\x98\x80", u"\xD83D\xDE00"},
+      {"\xF4\x8F\xBF\xBF", u"\xDBFF\xDFFF"},
   };
   for (const Case& c : cases) {
     CHECK(FromUtf8(c.bytes) == c.text);
