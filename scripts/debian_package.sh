@@ -5,12 +5,16 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 target=$(mkdir -p "${1:?the folder for the packages}" && cd "$1" && pwd)
 
-scripts/packages.sh build debian-package
+scripts/packages.sh debian-package
 source=$target/tessara-$(dpkg-parsechangelog --file packaging/debian/changelog --show-field Version)
 rm -rf "$source"
 mkdir "$source"
 git archive HEAD | tar -x -C "$source"
 cp -r "$source/packaging/debian" "$source/debian"
-(cd "$source" && dpkg-buildpackage --no-sign)
+cd "$source"
+# Only what the package itself names: in a bare root it shows what it does not.
+dpkg-checkbuilddeps || apt-get -qq build-dep --yes --no-install-recommends .
+dpkg-buildpackage --no-sign
+cd "$target"
 rm -rf "$source"
-lintian --allow-root --fail-on error,warning "$target"/tessara_*.changes
+lintian --allow-root --fail-on error,warning tessara_*.changes
