@@ -3,6 +3,7 @@
 
 usage: check_installation.py BUILD [TEST...]     on the display that DISPLAY names
 """
+import fnmatch
 import os
 import pathlib
 import re
@@ -51,6 +52,12 @@ def remove(folder):
         shutil.rmtree(folder, ignore_errors=True)
         return not folder.exists()
     wait_for("The end of the scratch folder", removed)
+
+
+def debian_patterns():
+    """What the packages made of the source package take of an installation."""
+    lists = (SOURCE / "packaging" / "debian").glob("*.install")
+    return [pattern for path in lists for pattern in path.read_text(encoding="utf-8").split()]
 
 
 def titles_on_screen():
@@ -140,6 +147,16 @@ class Files(Scratch):
         again = self.folder / "again.chm"
         said(SOURCE / "scripts" / "make_help.py", compiler, again)
         self.assertEqual(again.read_bytes(), (self.usr / "lib" / "tessara" / "TessaraHelp.chm").read_bytes())
+
+    def test_debians_source_package_takes_each_file_and_names_no_other(self):
+        installed = {str(path.relative_to(self.root)) for path in self.root.rglob("*") if not path.is_dir()}
+        taken, nowhere = set(), []
+        for pattern in debian_patterns():
+            # A folder is taken with all that is in it.
+            found = set(fnmatch.filter(installed, pattern)) | set(fnmatch.filter(installed, f"{pattern}/*"))
+            nowhere += [] if found else [pattern]
+            taken |= found
+        self.assertEqual((installed - taken, nowhere), (set(), []))
 
     def test_what_the_desktop_reads_stands_by_its_rules(self):
         share = self.usr / "share"
