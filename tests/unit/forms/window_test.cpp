@@ -116,6 +116,7 @@ TEST_CASE("a window may unload itself and run its later lines") {
   form.close.onClick = [&] {
     form.Unload();
     CHECK_FALSE(fixture.first.IsLoaded());
+    CHECK_FALSE(form.Visible());
     form.textBox.SetText(u"still there");
     laterLines = form.textBox.TextOf() == u"still there";
   };
