@@ -35,6 +35,8 @@ OWN_RULES = [f"--config-file={ROOT / '.clang-tidy'}"]
 BUNDLE_NAME = "UnifiedSource.cpp"
 # More of them save little and leave one processor waiting at the end.
 SOURCES_IN_A_BUNDLE = 16
+# The linter cannot read the headers that another compiler has precompiled. The sources name what they use.
+PRECOMPILED = re.compile(r" -Winvalid-pch| -include \S+/cmake_pch\.hxx")
 
 
 def dependencies(build):
@@ -48,10 +50,6 @@ def dependencies(build):
         elif ":" in line:
             target = line.split(":")[0]
     return found
-
-
-# The linter cannot read the headers that another compiler has precompiled. The sources name what they use.
-PRECOMPILED = re.compile(r" -Winvalid-pch| -include \S+/cmake_pch\.hxx")
 
 
 def own_commands(build):

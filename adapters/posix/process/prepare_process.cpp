@@ -14,7 +14,7 @@ namespace {
 /// The write that caused the signal fails by itself.
 void DoNothing(int /*signal*/) {}
 
-constexpr const char* kVariable = "PATH";
+constexpr const char* kSearchPath = "PATH";
 
 std::string PathOfSystem() {
   std::string path(confstr(_CS_PATH, nullptr, 0), '\0');
@@ -40,9 +40,9 @@ void SurviveFileSizeLimit() {
 }
 
 void KeepWholePathsOnly() {
-  const char* path = std::getenv(kVariable);
+  const char* path = std::getenv(kSearchPath);
   const std::string whole = WholePathsOf(path == nullptr ? "" : path);
-  setenv(kVariable, (whole.empty() ? PathOfSystem() : whole).c_str(), 1);
+  setenv(kSearchPath, (whole.empty() ? PathOfSystem() : whole).c_str(), 1);
 }
 
 void ForgetRelativeFolders() {
