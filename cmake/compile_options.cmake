@@ -31,11 +31,6 @@ if(TESSARA_SANITIZE OR TESSARA_FUZZ)
   target_compile_options(tessara_sanitizers INTERFACE
     -fsanitize=${sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
 endif()
-if(TESSARA_FUZZ)
-  # A fuzzer sees by it which ways an input goes.
-  set(isLibrary $<STREQUAL:$<TARGET_PROPERTY:TYPE>,STATIC_LIBRARY>)
-  target_compile_options(tessara_sanitizers INTERFACE $<${isLibrary}:-fsanitize=fuzzer-no-link>)
-endif()
 
 # What is released is hardened: docs/performance.md tells what that costs. The sanitizers' builds are not.
 if(NOT sanitizers)

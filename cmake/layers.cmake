@@ -5,6 +5,11 @@ set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${CMAKE_SOURCE_DI
 
 # link_layer(TARGET FOLDER): what the folder may use, those that are built.
 function(link_layer target folder)
+  get_target_property(type ${target} TYPE)
+  if(TESSARA_FUZZ AND type STREQUAL "STATIC_LIBRARY")
+    # A fuzzer sees by it which ways an input goes.
+    target_compile_options(${target} PRIVATE -fsanitize=fuzzer-no-link)
+  endif()
   set(uses "")
   foreach(line ${layerLines})
     if(line MATCHES "^${folder}:(.*)$")
