@@ -17,6 +17,10 @@ TEST_CASE("a plain start brings up the frame and an empty deck window") {
   CHECK(fixture.Deck().flip.Caption() == u"&Show Back");
   CHECK_FALSE(fixture.Deck().flip.Enabled());
   CHECK_FALSE(fixture.Deck().modeMenu.Enabled());
+  for (const MenuEntry* mode :
+       {&fixture.Deck().study, &fixture.Deck().quiz, &fixture.Deck().test}) {
+    CHECK(mode->Visible());
+  }
   CHECK_FALSE(fixture.Deck().goToCard.Enabled());
   CHECK(fixture.Deck().study.Checked());
   CHECK(fixture.state.deck.cardPresent.At(0) == 1);
