@@ -54,6 +54,17 @@ TEST_CASE("the text builder over a deck shows the card that the deck window show
   }
 }
 
+TEST_CASE("the page keys turn to the card before and the card behind") {
+  BuilderFixture fixture;
+  fixture.OpenStandardDeck(3);
+  fixture.OpenBuilder();
+  TextCardBuilder& window = fixture.essay.Loaded();
+  CHECK(window.UserPage(PageKey::kDown));
+  CHECK(window.number.Caption() == u"Card: 2");
+  CHECK(window.UserPage(PageKey::kUp));
+  CHECK(window.number.Caption() == u"Card: 1");
+}
+
 TEST_CASE("a text card needs a front and a back, a cancel any text") {
   struct Case {
     TextView front, back;

@@ -225,4 +225,13 @@ TEST_CASE("a menu entry runs only where it and all above it are enabled and visi
   CHECK(clicks == 1);
 }
 
+TEST_CASE("a menu that has entries runs nothing itself") {
+  RulesFixture fixture;
+  fixture.first->Show();
+  int clicks = 0;
+  fixture.first->fileMenu.onClick = [&] { ++clicks; };
+  fixture.first->fileMenu.Press();
+  CHECK(clicks == 0);
+}
+
 }  // namespace tessara::test

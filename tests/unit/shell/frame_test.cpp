@@ -157,6 +157,18 @@ TEST_CASE("a path in capitals is refused by both open commands") {
   CHECK_FALSE(fixture.program.DeckWindowOf().IsLoaded());
 }
 
+TEST_CASE("the frame's open command empties the table before it asks for a file") {
+  ProgramFixture fixture;
+  fixture.Start();
+  CloseDeckWindow(fixture);
+  fixture.state.deck.cardPresent.Set(7, 1);
+  fixture.state.deck.cardGrid.Set(7, kCardText, u"left over");
+  fixture.fakes.dialogs.files = {u""};
+  fixture.Frame().openExistingDeck.Press();
+  CHECK(fixture.state.deck.cardPresent.At(7) == 0);
+  CHECK(fixture.state.deck.Cell(7, kCardText).empty());
+}
+
 TEST_CASE("help opens the help file of the program's folder from both menus") {
   ProgramFixture fixture;
   fixture.Start();
@@ -173,6 +185,11 @@ TEST_CASE("the About box closes by its button, a click, the loss of the focus an
   REQUIRE(fixture.program.AboutBoxOf().IsLoaded());
   AboutBox& about = fixture.program.AboutBoxOf().Loaded();
   CHECK(fixture.program.Windows().ActiveForm() == &about);
+  CHECK(about.Width() == 5220);
+  CHECK(about.Height() == 3690);
+  // In the frame as it stands on the screen, its border and caption included.
+  CHECK(about.Left() == (fixture.renderer.frameScaleWidth + 120 - about.Width()) / 2);
+  CHECK(about.Top() == (fixture.renderer.frameScaleHeight + 390 - about.Height()) / 2);
   SUBCASE("button") {
     about.ok.Press();
   }
