@@ -103,6 +103,7 @@ TEST_CASE("a change of an older question keeps the count and the other state") {
   window.arrows[kNextCard].Press();
   Type(window.answers[3], u"!");
   fixture.state.deck.cardPresent.Set(2, 0);
+  fixture.state.deck.cardGrid.Set(2, kBackText, u"left over");
   window.buttons[kAddButton].Press();
   CHECK(Row(fixture, 2) == std::vector<Text>{u"", u"M", u"question 2", u"2", u"one", u"two",
                                              u"three", u"four!", u"B", u""});

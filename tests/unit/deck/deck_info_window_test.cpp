@@ -253,6 +253,15 @@ TEST_CASE("brought up by a save, the window stands beside the deck where the fra
   }
 }
 
+TEST_CASE("beside a deck that is not on show the window stands nowhere in particular") {
+  InfoFixture fixture;
+  fixture.frame.width = 30000;
+  fixture.deck->Hide();
+  fixture.info.Loaded();
+  CHECK(fixture.info->Left() == 0);
+  CHECK(fixture.info->Top() == 0);
+}
+
 TEST_CASE("the menu's command brings the window up in the middle of the frame") {
   InfoFixture fixture;
   fixture.frame.width = 30000;

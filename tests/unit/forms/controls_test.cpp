@@ -211,6 +211,17 @@ TEST_CASE("image lists know their pictures by key and by index from 1") {
   CHECK(ErrorOf([&] { static_cast<void>(list.At(u"A")); }) == 35601);
 }
 
+TEST_CASE("a list knows the widths of the columns that it has, from 1") {
+  ListView list("List1");
+  list.AddColumn(u"One", 100);
+  list.SetColumnWidth(1, 300);
+  CHECK(list.ColumnWidth(1) == 300);
+  for (const int column : {0, 2}) {
+    CHECK(ErrorOf([&] { static_cast<void>(list.ColumnWidth(column)); }) == 35600);
+    CHECK(ErrorOf([&] { list.SetColumnWidth(column, 1); }) == 35600);
+  }
+}
+
 TEST_CASE("a menu entry runs only where it and all above it are enabled and visible") {
   RulesFixture fixture;
   fixture.first->Show();

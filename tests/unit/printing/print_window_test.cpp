@@ -54,6 +54,7 @@ TEST_CASE("the window lists the cards and hides the deck window") {
   CHECK(window.cards.Item(12).subItems == std::vector<Text>{u"front 12"});
   CHECK(window.cards.ColumnWidth(1) == 1764);
   CHECK(window.cards.ColumnWidth(2) == 8175 - 1764 - 300);
+  CHECK(window.flatSheet.ForeColor() == FixedColor(128, 64, 0));
   CHECK(window.available.Caption() == u"Available Cards: 12");
   CHECK(window.selected.Caption() == u"Number of cards selected for print: 0");
   CHECK_FALSE(fixture.deckSlot.Instance().Visible());

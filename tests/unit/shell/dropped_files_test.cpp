@@ -35,7 +35,10 @@ struct DropFixture : ProgramFixture {
 TEST_CASE("a deck dropped on the empty frame opens") {
   DropFixture fixture;
   fixture.StartEmpty();
+  fixture.state.deck.cardPresent.Set(7, 1);
+  fixture.state.deck.cardGrid.Set(7, kCardText, u"left over");
   fixture.Drop(kOther);
+  CHECK(fixture.state.deck.Cell(7, kCardText).empty());
   CHECK(fixture.Deck().Visible());
   CHECK(fixture.Deck().Caption() == u"other  [STUDY]");
   CHECK(fixture.state.deck.filePath == kOther);

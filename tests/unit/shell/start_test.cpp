@@ -22,6 +22,9 @@ TEST_CASE("a plain start brings up the frame and an empty deck window") {
     CHECK(mode->Visible());
   }
   CHECK_FALSE(fixture.Deck().goToCard.Enabled());
+  const Bounds choices = fixture.Deck().choicePanel.BoundsOf();
+  CHECK(fixture.Deck().creditPanel.BoundsOf().left == choices.left);
+  CHECK(fixture.Deck().creditPanel.BoundsOf().top == choices.top);
   CHECK(fixture.Deck().study.Checked());
   CHECK(fixture.state.deck.cardPresent.At(0) == 1);
   CHECK(fixture.state.deck.currentCard == 0);
