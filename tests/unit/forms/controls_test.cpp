@@ -211,6 +211,20 @@ TEST_CASE("image lists know their pictures by key and by index from 1") {
   CHECK(ErrorOf([&] { static_cast<void>(list.At(u"A")); }) == 35601);
 }
 
+TEST_CASE("a combo box gives and takes the entries that it has, from 0, and none") {
+  ComboBox box("Combo1");
+  box.AddItem(u"one");
+  box.AddItem(u"two");
+  CHECK(box.Item(1) == u"two");
+  for (const int index : {-1, 2}) {
+    CHECK(ErrorOf([&] { static_cast<void>(box.Item(index)); }) == 5);
+  }
+  box.SetListIndex(1);
+  box.SetListIndex(-1);
+  CHECK(box.TextOf().empty());
+  for (const int index : {-2, 2}) CHECK(ErrorOf([&] { box.SetListIndex(index); }) == 380);
+}
+
 TEST_CASE("a list knows the widths of the columns that it has, from 1") {
   ListView list("List1");
   list.AddColumn(u"One", 100);
