@@ -19,12 +19,13 @@ class HeadlessRenderer : public Renderer {
   int frameScaleHeight = 9000;
   int exitStatus = -1;
   std::vector<std::string> activated;  ///< names in the order of their becoming active
+  std::string changed;                 ///< name of the window that was last to be painted anew
   std::vector<std::string> seen;       ///< names of the windows that were waited for
   /// What the user does while a modal window is up; unloads it where nothing is set.
   std::function<void(Form&)> whileModal;
 
   void FormUnloaded(Form&) override {}
-  void FormChanged(Form&, FormAspect) override {}
+  void FormChanged(Form& form, FormAspect) override { changed = form.Name(); }
   void ControlChanged(Control&, Aspect) override {}
   void MenuChanged(MenuEntry&) override {}
   void ActiveFormChanged(Form* form) override {

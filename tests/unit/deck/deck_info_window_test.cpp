@@ -47,6 +47,7 @@ TEST_CASE("the information window has its captions, limits and size") {
   for (int index = 0; index < 3; ++index) {
     CHECK(fixture.info->fields[index].MaxLength() == limits[index]);
     CHECK(fixture.info->fields[index].MultiLine() == (index == 2));
+    CHECK(fixture.info->fields[index].VerticalScrollBar() == (index == 2));
   }
   CHECK(fixture.info->Height() == 4650);
   CHECK(fixture.info->Width() == 6270);

@@ -25,6 +25,15 @@ TEST_CASE("a use during OnLoad does not load again") {
   CHECK(fixture.Take() == Events{"First load"});
 }
 
+TEST_CASE("only a loaded window is told of by its changes") {
+  RulesFixture fixture;
+  RulesForm form(fixture.windows, "unloaded", fixture.log);
+  form.SetCaption(u"before");
+  CHECK(fixture.renderer.changed.empty());
+  fixture.first->SetCaption(u"after");
+  CHECK(fixture.renderer.changed == fixture.first->Name());
+}
+
 TEST_CASE("loading alone does not bring a window on screen") {
   RulesFixture fixture;
   fixture.first.Loaded();

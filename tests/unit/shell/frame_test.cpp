@@ -174,8 +174,9 @@ TEST_CASE("help opens the help file of the program's folder from both menus") {
   fixture.Start();
   fixture.Frame().helpTopics.Press();
   fixture.Deck().helpTopics.Press();
+  CHECK(fixture.Frame().UserHelp());
   const Text path = u"/opt/tessara/TessaraHelp.chm";
-  CHECK(fixture.fakes.desktop.helpShown == std::vector{path, path});
+  CHECK(fixture.fakes.desktop.helpShown == std::vector{path, path, path});
 }
 
 TEST_CASE("the About box closes by its button, a click, the loss of the focus and its link") {
