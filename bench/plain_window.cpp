@@ -83,6 +83,7 @@ Make TreeLike(const QTreeWidget& tree) {
     entries.emplace_back(tree.topLevelItem(row)->clone());
   }
   std::vector<int> widths;
+  widths.reserve(static_cast<std::size_t>(tree.columnCount()));
   for (int column = 0; column < tree.columnCount(); ++column) {
     widths.push_back(tree.columnWidth(column));
   }
