@@ -87,11 +87,10 @@ Make TreeLike(const QTreeWidget& tree) {
   for (int column = 0; column < tree.columnCount(); ++column) {
     widths.push_back(tree.columnWidth(column));
   }
-  const Entries<QTreeWidgetItem> header{
-      std::shared_ptr<QTreeWidgetItem>(tree.headerItem()->clone())};
+  const std::shared_ptr<QTreeWidgetItem> header(tree.headerItem()->clone());
   return [=, headless = tree.isHeaderHidden()](QWidget* parent) {
     auto* plain = new QTreeWidget(parent);
-    plain->setHeaderItem(CopiesOf(header).front());
+    plain->setHeaderItem(header->clone());
     plain->setHeaderHidden(headless);
     plain->addTopLevelItems(CopiesOf(entries));
     for (std::size_t column = 0; column < widths.size(); ++column) {
