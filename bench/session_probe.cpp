@@ -151,6 +151,7 @@ class SessionProbe : public QObject {
   void RunMoves() {
     QWidget& card = Named("NoteletCtl1");
     PlainCard plain(card.grab(), &Named("MDIForm1"));
+    MoveAside(plain, card);
     const long long before = tessara::test::ResidentBytes() / 1024;
     const double first = Move(0);
     Times times;
@@ -162,6 +163,14 @@ class SessionProbe : public QObject {
     }
     growth_ = tessara::test::ResidentBytes() / 1024 - before;
     Print("card-move", first, times, floor);
+  }
+
+  /// To the frame's far corner: what covers a part of the card would change how that is painted.
+  static void MoveAside(QWidget& plain, const QWidget& card) {
+    const QWidget& frame = *plain.parentWidget();
+    plain.move(frame.width() - plain.width(), frame.height() - plain.height());
+    const QRect shown(card.mapTo(&frame, QPoint()), card.size());
+    if (plain.geometry().intersects(shown)) std::abort();
   }
 
   /// To the end of the deck and back, over and over.
