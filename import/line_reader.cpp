@@ -3,29 +3,10 @@
 #include <algorithm>
 #include <string>
 
-#include "base/characters.h"
+#include "base/mostly_utf8.h"
 #include "base/run_time_error.h"
-#include "base/utf8.h"
 
 namespace tessara {
-
-namespace {
-
-/// A byte order mark makes a text UTF-8, whatever follows: a byte that is none is one of the code
-/// page.
-Text FromMostlyUtf8(std::string_view bytes, const CodePage& codePage) {
-  Text text;
-  while (true) {
-    const std::size_t length = Utf8Length(bytes);
-    text += FromUtf8(bytes.substr(0, length));
-    bytes.remove_prefix(length);
-    if (bytes.empty()) return text;
-    text += codePage.Decode(bytes.substr(0, 1));
-    bytes.remove_prefix(1);
-  }
-}
-
-}  // namespace
 
 LineReader::LineReader(FileNumber& file, const CodePage& codePage)
     : codePage_(codePage), traits_(LookThrough(file)), blocks_(file, traits_) {}

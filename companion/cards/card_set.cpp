@@ -35,6 +35,19 @@ bool HasChoices(const DeckRecord& record) {
                      [](const Text& choice) { return !choice.empty(); });
 }
 
+void TellOtherKind(const SourceCard& card, DeckKind kind, Losses& losses) {
+  const DeckRecord& record = card.record;
+  if (kind == kStandardDeck && (HasChoices(record) || !record.answer.empty()))
+    losses.Tell(card.place, "its choices and its answer are not kept");
+  if (kind == kExtendedDeck && !record.longText.empty())
+    losses.Tell(card.place, "its long text is not kept");
+}
+
+void TellEmptyDeck(const CardsToWrite& deck, Losses& losses) {
+  const SourceCard& first = deck.cards.front();
+  if (Trimmed(first.record.text).empty()) losses.Tell(first.place, kTakenForEmpty);
+}
+
 void AddCard(CardSet& set, SourceCard card) {
   if (set.cards.size() == kMostSetCards)
     throw Refused(card.place, "more than " + std::to_string(kMostSetCards) + " cards");

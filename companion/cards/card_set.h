@@ -43,11 +43,22 @@ struct CardsToWrite {
   std::span<const SourceCard> cards;  ///< at least one
 };
 
+inline constexpr const char* kTakenForEmpty =
+    "its text is empty: the program takes the deck for empty";
+
+/// Tells where the program will take the file for a deck without cards: the first one has no text.
+void TellEmptyDeck(const CardsToWrite& deck, Losses& losses);
+
 /// What messages call the short fields of a question.
 inline constexpr std::array<const char*, 4> kChoiceNames = {"choice A", "choice B", "choice C",
                                                             "choice D"};
 
 [[nodiscard]] bool HasChoices(const DeckRecord& record);
+
+/// Tells what of a card a file without a place for it can't keep: choices and answer among cards of
+/// two sides, a second side among questions.
+void TellOtherKind(const SourceCard& card, DeckKind kind, Losses& losses);
+
 /// The most cards that are taken together, and the most bytes of all inputs and of a field: what
 /// keeps the memory in bounds.
 inline constexpr std::size_t kMostSetCards = 50'000;

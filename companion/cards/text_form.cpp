@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include "base/characters.h"
+#include "base/mostly_utf8.h"
 #include "base/utf8.h"
 #include "import/text_traits.h"
 
@@ -63,12 +64,14 @@ TextDecoder::TextDecoder(std::string_view file, const CodePage& codePage)
     : converted_(FromUtf16(file)),
       contents_(converted_.empty() ? file : converted_),
       codePage_(codePage) {
-  if (contents_.starts_with(kByteOrderMark)) contents_.remove_prefix(kByteOrderMark.size());
+  hasSignature_ = contents_.starts_with(kByteOrderMark);
+  if (hasSignature_) contents_.remove_prefix(kByteOrderMark.size());
   isUtf8_ = Utf8Length(contents_) == contents_.size();
 }
 
 Text TextDecoder::Decode(std::string_view bytes) const {
-  return isUtf8_ ? FromUtf8(bytes) : codePage_.Decode(bytes);
+  if (isUtf8_) return FromUtf8(bytes);
+  return hasSignature_ ? FromMostlyUtf8(bytes, codePage_) : codePage_.Decode(bytes);
 }
 
 }  // namespace tessara

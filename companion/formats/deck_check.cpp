@@ -80,8 +80,7 @@ class DeckCheck {
     const bool question = kind == kExtendedDeck;
     CheckFilled(record, card, kChoiceNames, question ? "question" : "front",
                 question ? "long text" : "back");
-    if (card == 1 && record.text.empty())
-      Find(card, Severity::kError, "its text is empty: the program takes the deck for empty");
+    if (card == 1 && record.text.empty()) Find(card, Severity::kError, kTakenForEmpty);
   }
 
   void CheckAnswer(const DeckRecord& record, std::size_t card) {
@@ -114,7 +113,7 @@ class DeckCheck {
   }
 
   void CheckEnd() {
-    if (!ended_) Find(0, Severity::kRemark, "it ends without the record of the end");
+    if (!ended_) Find(0, Severity::kLoss, "it ends without the record of the end");
     if (!hasInformation_) Find(0, Severity::kRemark, "it has no information");
     if (cards_ == 0) Find(0, Severity::kError, "it holds no cards");
     CheckHoles();
@@ -125,7 +124,7 @@ class DeckCheck {
     for (const int row : rows_) {
       if (row == kInfoRow) continue;
       if (row > expected)
-        Find(static_cast<std::size_t>(row), Severity::kLoss,
+        Find(static_cast<std::size_t>(row), Severity::kRemark,
              "the numbers before it have a hole: what follows is not saved again");
       expected = row + 1;
     }

@@ -25,6 +25,19 @@ std::unique_ptr<ProgramState> Loaded(const Source& source, const CodePage& codeP
   return state;
 }
 
+/// Tells what is lost on the way into the table. What else is wrong comes along.
+class LossesOfLoading : public Findings {
+ public:
+  explicit LossesOfLoading(Losses& losses) : losses_(losses) {}
+
+  void Find(const Place& place, Severity severity, const std::string& what) override {
+    if (severity == Severity::kLoss) losses_.Tell(place, what);
+  }
+
+ private:
+  Losses& losses_;
+};
+
 /// The kind of the first card that has one.
 DeckKind KindOf(const Deck& deck) {
   for (int row = 1; row < kRows; ++row) {
@@ -96,6 +109,8 @@ void WriteRecord(const RecordBytes& bytes, ByteSink& sink) {
 
 CardSet ReadDeck(const Source& source, const Conversion& conversion) {
   const auto state = Loaded(source, conversion.codePage);
+  LossesOfLoading losses(conversion.losses);
+  CheckDeck(source, conversion.codePage, losses);
   const Deck& deck = state->deck;
   CardSet set;
   set.kind = KindOf(deck);
@@ -115,6 +130,7 @@ void WriteDeck(const CardsToWrite& deck, ByteSink& sink, const Conversion& conve
   TellInformationCuts(deck.info, DecodeRecord(information, codePage), deck.cards.front().place.file,
                       conversion.losses);
   WriteRecord(information, sink);
+  TellEmptyDeck(deck, conversion.losses);
   std::int16_t number = 0;
   for (const SourceCard& card : deck.cards) {
     DeckRecord record = card.record;

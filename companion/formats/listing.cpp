@@ -30,6 +30,11 @@ std::string ChoiceLines(const DeckRecord& record) {
   return lines;
 }
 
+/// A deck may hold a card of the other kind.
+DeckKind KindOf(const DeckRecord& record, DeckKind deckKind) {
+  return DeckKindOf(record.cardType).value_or(deckKind);
+}
+
 Json ChoicesOf(const DeckRecord& record) {
   Json choices = Json::array();
   if (IsType(record.cardType, CardType::kTrueFalse) && !HasChoices(record)) return choices;
@@ -47,7 +52,8 @@ std::string InformationText(const CardSet& set) {
 
 std::string CardText(const DeckRecord& record, DeckKind kind, std::size_t number) {
   const std::string head = std::to_string(number) + ". " + VisibleText(record.text) + "\n";
-  if (kind == kStandardDeck) return head + "   " + VisibleText(record.longText) + "\n";
+  if (KindOf(record, kind) == kStandardDeck)
+    return head + "   " + VisibleText(record.longText) + "\n";
   return head + ChoiceLines(record) + Line("   answer", record.answer);
 }
 
@@ -62,7 +68,7 @@ std::string InformationJson(const CardSet& set) {
 
 std::string CardJson(const DeckRecord& record, DeckKind kind) {
   const std::string text = WellFormedUtf8(record.text);
-  if (kind == kStandardDeck)
+  if (KindOf(record, kind) == kStandardDeck)
     return Json{{"front", text}, {"back", WellFormedUtf8(record.longText)}}.dump();
   return Json{
       {"question", text}, {"choices", ChoicesOf(record)}, {"answer", WellFormedUtf8(record.answer)}}

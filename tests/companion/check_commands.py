@@ -8,6 +8,7 @@ import os
 import pathlib
 import re
 import resource
+import signal
 import stat
 import subprocess
 import sys
@@ -263,6 +264,38 @@ class Print(Command):
         self.expect(0, "print", SAMPLES / "capitals.tsr", "a.pdf", "--listing", "--cards", "1-2")
         self.assertIn("TITLE: Capitals of the world", self.text_of("a.pdf"))
 
+    def begin(self, scratch):
+        """A job that is at its work, with its temporary files in the folder."""
+        job = subprocess.Popen([PROGRAM, "print", SAMPLES / "capitals.tsr", "a.pdf"], cwd=self.folder,
+                               stderr=subprocess.DEVNULL, env={**self.environment, "TMPDIR": str(scratch)})
+        self.wait_until(lambda: any(scratch.glob("*/deck.tsr")))
+        return job
+
+    def wait_until(self, holds):
+        end = time.monotonic() + 60
+        while not holds() and time.monotonic() < end:
+            time.sleep(0.05)
+        self.assertTrue(holds())
+
+    def test_one_that_is_ended_by_a_signal_leaves_nothing(self):
+        for ending in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
+            with self.subTest(ending), tempfile.TemporaryDirectory() as scratch:
+                job = self.begin(pathlib.Path(scratch))
+                job.send_signal(ending)
+                self.assertNotEqual(job.wait(60), 0)
+                self.wait_until(lambda: not os.listdir(scratch))
+        self.assertEqual(self.names(), [])
+
+    def test_what_a_killed_one_leaves_goes_with_the_next(self):
+        with tempfile.TemporaryDirectory() as scratch:
+            job = self.begin(pathlib.Path(scratch))
+            job.kill()
+            job.wait(60)
+            self.assertTrue(os.listdir(scratch))
+            self.environment["TMPDIR"] = scratch
+            self.expect(0, "print", SAMPLES / "capitals.tsr", "a.pdf")
+            self.wait_until(lambda: not os.listdir(scratch))
+
     def test_cards_that_are_not_there_are_refused(self):
         self.write("a.csv", rows(3))
         for cards in ("4", "0", "2-1", "x", "1,"):
@@ -288,6 +321,8 @@ class Memory(Command):
             "attributes.kvtml": b"<a " + b'a="" ' * (size // 6) + b"/>",
             "text.kvtml": b"<kvtml version='2'><a>" + b"x" * (size - 40) + b"</a></kvtml>",
             "comments.tsv": b"#a:b\n" * (size // 5),
+            "columns.tsv": b"# column:1\n" * (size // 11),
+            "tags.tsv": b"#html:true\n" + (b"<a" * 500_000 + b"\t") * 16,
             "html.tsv": b"#html:true\n" + b"<&" * (size // 2 - 8),
         }
         for name, content in hostile.items():

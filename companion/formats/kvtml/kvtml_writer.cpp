@@ -75,6 +75,7 @@ class KvtmlWriter {
   }
 
   void AddEntry(pugi::xml_node entry, std::size_t id, const SourceCard& card) {
+    TellOtherKind(card, kStandardDeck, losses_);
     entry.append_attribute("id") = std::to_string(id).c_str();
     AddSide(entry, "0", card.record.text, card.place);
     AddSide(entry, "1", card.record.longText, card.place);

@@ -104,7 +104,6 @@ std::vector<Text> QuestionFields(const SourceCard& card, Losses& losses) {
                                 : "its answer is none of its choices");
     kept.answer.clear();
   }
-  if (!kept.longText.empty()) losses.Tell(card.place, "its long text is not kept");
   std::vector<Text> fields = {kept.text};
   fields.insert(fields.end(), kept.shortFields.begin(), kept.shortFields.end());
   fields.push_back(kept.answer);
@@ -155,6 +154,7 @@ DeckRecord CardOfFields(const std::vector<Text>& fields, const CardColumns& colu
 }
 
 std::vector<Text> FieldsOfCard(const SourceCard& card, DeckKind kind, Losses& losses) {
+  TellOtherKind(card, kind, losses);
   std::vector<Text> fields =
       kind == kStandardDeck ? StandardFields(card.record) : QuestionFields(card, losses);
   if (std::any_of(fields.begin(), fields.end(), HasLoneBreak))

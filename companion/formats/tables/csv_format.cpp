@@ -10,25 +10,38 @@ namespace tessara {
 
 namespace {
 
-/// Outside quotation marks.
-std::ptrdiff_t CountOf(char separator, std::string_view line) {
-  std::ptrdiff_t count = 0;
-  bool quoted = false;
-  for (const char character : line) {
-    if (character == '"') quoted = !quoted;
-    if (character == separator && !quoted) ++count;
-  }
-  return count;
+struct SeparatorCounts {
+  std::size_t commas = 0;
+  std::size_t semicolons = 0;
+};
+
+bool EndsField(char character) {
+  return character == ',' || character == ';';
 }
 
-std::string_view FirstFilledLine(std::string_view bytes) {
-  const std::size_t start = std::min(bytes.find_first_not_of("\r\n"), bytes.size());
-  return FirstLineOf(bytes.substr(start));
+/// Of the first record, outside quotation marks. A mark opens a field where one begins, and opens
+/// it again where it stands behind another mark.
+SeparatorCounts CountSeparators(std::string_view record) {
+  SeparatorCounts counts;
+  bool quoted = false;
+  char before = ',';
+  for (const char character : record) {
+    if (character == '"') {
+      quoted = !quoted && (EndsField(before) || before == '"');
+    } else if (!quoted) {
+      if (character == '\r' || character == '\n') break;
+      if (character == ',') ++counts.commas;
+      if (character == ';') ++counts.semicolons;
+    }
+    before = character;
+  }
+  return counts;
 }
 
 char SeparatorOf(std::string_view bytes) {
-  const std::string_view line = FirstFilledLine(bytes);
-  return CountOf(';', line) > CountOf(',', line) ? ';' : ',';
+  const std::size_t start = std::min(bytes.find_first_not_of("\r\n"), bytes.size());
+  const SeparatorCounts counts = CountSeparators(bytes.substr(start));
+  return counts.semicolons > counts.commas ? ';' : ',';
 }
 
 }  // namespace

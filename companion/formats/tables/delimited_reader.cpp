@@ -66,8 +66,31 @@ void DelimitedReader::Feed(std::string_view line) {
   if (begins && IsEmptyLine(line)) return;
   if (begins && dialect_.hasComments && line.starts_with('#')) return;
   if (begins) record_.line = line_;
-  csv_parse(&parser_, line.data(), line.size(), TakeField, TakeEnd, this);
+  while (!line.empty()) {
+    line.remove_prefix(Parse(line, CSV_STRICT));
+    if (line.empty()) return;
+    // A mark stands where none may, or something other than a field's end behind one.
+    OpenQuotedField();
+    line.remove_prefix(Parse(line.substr(0, 1), 0));
+  }
+}
+
+/// How many bytes are taken: fewer than there are where the strict rules forbid the next one.
+std::size_t DelimitedReader::Parse(std::string_view bytes, unsigned char options) {
+  csv_set_opts(&parser_, static_cast<unsigned char>(options | CSV_EMPTY_IS_NULL));
+  const std::size_t taken =
+      csv_parse(&parser_, bytes.data(), bytes.size(), TakeField, TakeEnd, this);
   RequireGood();
+  return taken;
+}
+
+/// As spreadsheets do: what stands behind the closing mark belongs to the field, up to its end. The
+/// library would go on as within quotation marks, over the ends of fields and records.
+void DelimitedReader::OpenQuotedField() {
+  if (parser_.quoted == 0) return;
+  parser_.quoted = 0;
+  --parser_.entry_pos;
+  record_.hasStrayMark = true;
 }
 
 void DelimitedReader::Finish() {

@@ -16,7 +16,8 @@ struct DelimitedRecord {
   std::size_t line = 0;             ///< where it begins, from 1
   std::vector<std::string> fields;  ///< the first kMostFields of them
   std::size_t fieldCount = 0;
-  bool isBlank = true;  ///< nothing stands in it but separators, no quotation marks either
+  bool isBlank = true;        ///< nothing stands in it but separators, no quotation marks either
+  bool hasStrayMark = false;  ///< a quotation mark that was to end its field did not, and is gone
 };
 
 inline constexpr std::size_t kMostFields = 256;
@@ -44,6 +45,8 @@ class DelimitedReader {
 
  private:
   void Feed(std::string_view line);
+  [[nodiscard]] std::size_t Parse(std::string_view bytes, unsigned char options);
+  void OpenQuotedField();
   void Finish();
   void RequireGood();
   static void TakeField(void* bytes, std::size_t size, void* self);

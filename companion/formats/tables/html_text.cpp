@@ -20,13 +20,74 @@ bool IsLetter(char16_t character) {
   return (character >= u'a' && character <= u'z') || (character >= u'A' && character <= u'Z');
 }
 
-/// The length of the tag or comment at the front; 0 where there is none.
-std::size_t TagLength(TextView html) {
-  if (!html.starts_with(u'<') || html.size() < 2) return 0;
-  const bool opens = IsLetter(html[1]) || html[1] == u'/' || html[1] == u'!';
-  const std::size_t end = opens ? html.find(u'>') : html.npos;
-  return end == html.npos ? 0 : end + 1;
+std::size_t LengthPast(TextView html, TextView end) {
+  const std::size_t found = html.find(end);
+  return found == html.npos ? 0 : found + end.size();
 }
+
+std::size_t LengthOfComment(TextView html) {
+  return LengthPast(html, u"-->");
+}
+
+std::size_t LengthToBracket(TextView html) {
+  return LengthPast(html, u">");
+}
+
+/// A bracket in an attribute's quotation marks ends no tag.
+std::size_t LengthOfTag(TextView html) {
+  char16_t quote = 0;
+  for (std::size_t at = 1; at < html.size(); ++at) {
+    const char16_t character = html[at];
+    if (quote != 0) {
+      if (character == quote) quote = 0;
+    } else if (character == u'"' || character == u'\'') {
+      quote = character;
+    } else if (character == u'>') {
+      return at + 1;
+    }
+  }
+  return 0;
+}
+
+/// Looks for an end until it was once not found, so that a text of many beginnings without an end
+/// takes no longer than others.
+class EndSearch {
+ public:
+  explicit EndSearch(std::size_t (*length)(TextView)) : length_(length) {}
+
+  /// 0 where there is none.
+  std::size_t Length(TextView html) {
+    const std::size_t length = failed_ ? 0 : length_(html);
+    failed_ = length == 0;
+    return length;
+  }
+
+ private:
+  std::size_t (*length_)(TextView);
+  bool failed_ = false;
+};
+
+/// Finds the tags and comments of one text, from its front to its end.
+class Tags {
+ public:
+  /// The length of the one at the front; 0 where there is none.
+  std::size_t LengthAt(TextView html) {
+    if (!Opens(html)) return 0;
+    std::size_t length = html.starts_with(u"<!--") ? comment_.Length(html) : tag_.Length(html);
+    if (length == 0) length = bracket_.Length(html);
+    return length;
+  }
+
+ private:
+  static bool Opens(TextView html) {
+    if (!html.starts_with(u'<') || html.size() < 2) return false;
+    return IsLetter(html[1]) || html[1] == u'/' || html[1] == u'!';
+  }
+
+  EndSearch comment_{LengthOfComment};
+  EndSearch tag_{LengthOfTag};
+  EndSearch bracket_{LengthToBracket};
+};
 
 /// In lower case; empty for an end tag.
 std::string NameOfTag(TextView tag) {
@@ -89,8 +150,9 @@ void TakeReference(TextView& html, Text& text) {
 
 Text TextOfHtml(TextView html) {
   Text text;
+  Tags tags;
   while (!html.empty()) {
-    if (const std::size_t tag = TagLength(html); tag > 0) {
+    if (const std::size_t tag = tags.LengthAt(html); tag > 0) {
       TakeTag(html.substr(0, tag), text);
       html.remove_prefix(tag);
     } else if (html.front() == u'&') {

@@ -14,6 +14,8 @@ void TableReader::TakeNames(const std::vector<Text>& names, std::size_t line) {
 }
 
 CardSet TableReader::Read(DelimitedReader& records) {
+  if (decoder_.MixesCodePages())
+    losses_.Tell({&source_.name}, "what is no UTF-8 is read in the code page");
   std::size_t line = 0;
   while (const auto record = records.Next()) {
     line = record->line;
@@ -51,6 +53,8 @@ void TableReader::TakeCard(const DelimitedRecord& record) {
   const Place place{&source_.name, record.line, set_.cards.size() + 1};
   if (record.fieldCount > columns_->columns.size())
     losses_.Tell(place, "what stands behind its last field is not kept");
+  if (record.hasStrayMark)
+    losses_.Tell(place, "a quotation mark that does not end its field is not kept");
   AddCard(set_, {CardOfFields(TextsOf(record), *columns_, place, losses_), place});
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -10,10 +11,8 @@ namespace tessara {
 /// What the comment lines at the top of a file of separated fields tell: "#separator:", "#html:",
 /// "#columns:", and "#NAME column:NUMBER" for a column that is no text of the card.
 struct TsvHead {
-  /// A column that holds something else, from 1.
   struct OtherColumn {
-    std::string name;
-    std::size_t number;
+    std::string name;  ///< as it stands in the file
     std::size_t line;
   };
 
@@ -21,7 +20,8 @@ struct TsvHead {
   bool isHtml = false;
   std::vector<std::string> columns;  ///< empty where they are not named
   std::size_t columnsLine = 0;
-  std::vector<OtherColumn> otherColumns;
+  /// What holds something else, by its number from 1.
+  std::map<std::size_t, OtherColumn> otherColumns;
 
   std::size_t length = 0;    ///< of these lines, in bytes
   std::size_t nextLine = 1;  ///< the line behind them

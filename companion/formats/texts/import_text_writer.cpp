@@ -128,7 +128,9 @@ void WriteImportText(const CardsToWrite& deck, ByteSink& sink, const Conversion&
   const bool standard = deck.kind == kStandardDeck;
   lines.Add(standard ? kStandardWord : kExtendedWord);
   std::size_t number = 0;
+  TellEmptyDeck(deck, conversion.losses);
   for (const SourceCard& card : deck.cards) {
+    TellOtherKind(card, deck.kind, conversion.losses);
     if (number > 0) lines.Add(u"");
     ++number;
     if (standard) {

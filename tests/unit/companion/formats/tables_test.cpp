@@ -1,3 +1,4 @@
+#include <chrono>
 #include <doctest/doctest.h>
 
 #include "companion/cards/complaints.h"
@@ -53,6 +54,25 @@ TEST_CASE("a table of commas or semicolons becomes cards, and what is not kept i
        "a,b\nc,\"d\ne,f\n",
        {"E|a|b", "E|c|d\r\ne,f\r\n"},
        {"file:2: card 2: a quotation mark is not closed"}},
+      {"what stands behind a closing quotation mark belongs to its field",
+       "\"Hello\" there,Hallo\n\"dog\" ,\"Hund\"\nHe said \"no\",er\n\"a\"\"b\"c\"d,e",
+       {"E|Hello there|Hallo", "E|dog |Hund", "E|He said \"no\"|er", "E|a\"bc\"d|e"},
+       {"file:1: card 1: a quotation mark that does not end its field is not kept",
+        "file:2: card 2: a quotation mark that does not end its field is not kept",
+        "file:4: card 4: a quotation mark that does not end its field is not kept"}},
+      {"semicolons behind a first field of two lines",
+       "\r\n\"a,\nb,\";\"c\"\nd,;5\" nail\n",
+       {"E|a,\r\nb,|c", "E|d,|5\" nail"},
+       {}},
+      {"a quotation mark within a field hides no separator",
+       "5\" nail;6\" nail\n",
+       {"E|5\" nail|6\" nail"},
+       {}},
+      {"one bad byte behind the signature of UTF-8",
+       "\xEF\xBB\xBF"
+       "a,\xC3\xA9\nb,\xE9\n",
+       {"E|a|\xC3\xA9", "E|b|\xC3\xA9"},
+       {"file: what is no UTF-8 is read in the code page"}},
       {"the code page", "a,\xE9\n", {"E|a|\xC3\xA9"}, {}},
       {"UTF-8 without signature", "a,\xC3\xA9\n", {"E|a|\xC3\xA9"}, {}},
       {"UTF-16, its low bytes first",
@@ -100,6 +120,18 @@ TEST_CASE("a table of tabs becomes cards as its comment lines tell") {
        "#html:true\n<b>a</b> &amp; b<br>c\t&eacute;&#233;&#xE9; &unknown; 1 < 2\n<div>d</div>\te\n",
        {"E|a & b\r\nc|\xC3\xA9\xC3\xA9\xC3\xA9 &unknown; 1 < 2", "E|d|e"},
        {"file:2: tags go, and what stands for a character becomes it"}},
+      {"a column told twice, with a name that would command a terminal",
+       "#\x1B]0;x\x07 column:3\n#tags column:3\na\tb\tt\n",
+       {"E|a|b"},
+       {"file:1: the column \"\\u001B]0;x\\u0007\" is not kept"}},
+      {"comments and attributes of HTML that hold a bracket",
+       "#html:true\na<!-- b > c -->d\te<img alt=\"f>g\" title='h\">'>i\n",
+       {"E|ad|ei"},
+       {"file:2: tags go, and what stands for a character becomes it"}},
+      {"HTML that opens what it does not close",
+       "#html:true\na<!-- b > c\td<b e=\"f>g\nh<!-- i\tj<b\n",
+       {"E|a c|dg", "E|h<!-- i|j<b"},
+       {"file:2: tags go, and what stands for a character becomes it"}},
       {"HTML without any", "#html:true\na\tb\n", {"E|a|b"}, {}},
       {"no HTML", "#html:false\n<b>\t&amp;\n", {"E|<b>|&amp;"}, {}},
       {"questions", "q\t1\t2\t3\t4\tC\nr\t\t\t\t\tF\n", {"M|q|1|2|3|4|C", "T|r|||||F"}, {}},
@@ -140,6 +172,15 @@ TEST_CASE("a field over 1 MB is refused in words") {
     CHECK_THROWS_WITH_AS(static_cast<void>(fixture.Read(format, "a,b\n\"c" + field + "\",d\n")),
                          "file:2: a field is larger than 1 MB", Refused);
   }
+}
+
+TEST_CASE("many tags without an end take no longer than a text without tags") {
+  std::string field;
+  for (std::size_t at = 0; at < kLargestField / 5; ++at) field += at % 2 == 0 ? "<a'>" : "<!--";
+  FormatFixture fixture;
+  const auto start = std::chrono::steady_clock::now();
+  CHECK(fixture.Read(FileFormat::kTsv, "#html:true\n" + field + "\tb\n").cards.size() == 1);
+  CHECK(std::chrono::steady_clock::now() - start < std::chrono::seconds(20));
 }
 
 TEST_CASE("more cards than fit into memory are refused in words") {
