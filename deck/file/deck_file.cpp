@@ -77,6 +77,18 @@ DeckRecordView RecordOfRow(const ProgramState& state, int row) {
   return record;
 }
 
+namespace {
+
+/// True where a card stands behind the row, at which a save ends.
+bool IsGap(const ProgramState& state, int row) {
+  while (++row < kRows) {
+    if (state.deck.cardPresent.At(row) != 0) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
 bool WriteRecords(const ProgramState& state, FileNumber& file, const CodePage& codePage) {
   bool whole = true;
   for (int row = kInfoRow; row < kRows; ++row) {
@@ -84,7 +96,7 @@ bool WriteRecords(const ProgramState& state, FileNumber& file, const CodePage& c
       file.Put(static_cast<std::uint64_t>(row) + 1,
                EncodeRecord(RecordOfRow(state, row), codePage));
     });
-    if (state.deck.cardPresent.At(row) == 0) break;
+    if (state.deck.cardPresent.At(row) == 0) return whole && !IsGap(state, row);
   }
   return whole;
 }

@@ -1,6 +1,7 @@
 #include "deck/life/unsaved_deck.h"
 
 #include <exception>
+#include <utility>
 
 #include "deck/file/deck_path.h"
 #include "machine/desktop.h"
@@ -33,10 +34,11 @@ void UnsavedDeck::BeforeBox() noexcept {
 }
 
 void UnsavedDeck::EventEnds() noexcept {
-  // The deck that was given up is still there: the closing was refused.
-  const bool refused = givenUp_ && state_.deck.changed;
-  givenUp_ = false;
-  if (refused) seen_ = 0;
+  if (std::exchange(givenUp_, false)) {
+    // The deck is still there: its closing was refused.
+    unsaved_ = true;
+    seen_ = 0;
+  }
   BeforeBox();
 }
 
@@ -69,8 +71,8 @@ void UnsavedDeck::NotSaved(const Text& path) {
   unsaved_ = false;
   seen_ = image_.Changes();
   desktop_.Notify(u"A deck may not have been saved",
-                  u"Saving the deck " + WithoutDeckEnding(fileName) +
-                      u" met an error. The deck is kept as " + kept + u" and can be opened there.");
+                  u"Not all of the deck " + WithoutDeckEnding(fileName) +
+                      u" may be in its file. It is kept as " + kept + u" and can be opened there.");
 }
 
 void UnsavedDeck::GivenUp() {

@@ -22,8 +22,8 @@ class UnsavedDeck {
 
   /// The deck is in its file.
   void Saved();
-  /// It may not be there as it is, because a step of the save has failed. Tells the user where it
-  /// is kept.
+  /// It may not be there as it is: a step of the save has failed, or cards stand behind a gap, at
+  /// which a save ends. Tells the user where it is kept.
   void NotSaved(const Text& path);
   /// The user has answered that the changes are not to be saved.
   void GivenUp();

@@ -11,27 +11,12 @@
 
 namespace tessara {
 
-namespace {
-
-/// The box's text after the edit, by the box's rules.
-Text Edited(const TextBox& box, const TextEdit& edit) {
-  Text text = box.TextOf();
-  const std::size_t place = std::min(edit.place, text.size());
-  const std::size_t removed = std::min(edit.removed, text.size() - place);
-  Text inserted = box.MultiLine()
-                      ? WithLineBreaks(edit.inserted)
-                      : edit.inserted.substr(0, edit.inserted.find_first_of(kLineBreak));
-  if (box.MaxLength() > 0) {
-    const std::size_t kept = text.size() - removed;
-    const auto limit = static_cast<std::size_t>(box.MaxLength());
-    inserted.resize(WholeCharacters(inserted, limit > kept ? limit - kept : 0).size());
-  }
-  return text.replace(place, removed, inserted);
+void TextBox::SetText(const Text& text) {
+  longTexts_.clear();
+  Take(text);
 }
 
-}  // namespace
-
-void TextBox::SetText(const Text& text) {
+void TextBox::Take(const Text& text) {
   if (!Assign(text_, text)) return;
   Changed(Aspect::kText);
   Raise(onChange);
@@ -56,7 +41,28 @@ std::size_t TextBox::CharactersCut() const {
 void TextBox::UserEdit(const TextEdit& edit) {
   if (locked_ || !TakesInput()) return;
   // A part of the event: a paste may be more than the memory holds.
-  Owner().System().Run([&] { SetText(Edited(*this, edit)); });
+  Owner().System().Run([&] {
+    if (IsTooLong(text_)) longTexts_.insert(text_);
+    Take(Edited(edit));
+  });
+}
+
+bool TextBox::IsTooLong(const Text& text) const {
+  return maxLength_ > 0 && text.size() > static_cast<std::size_t>(maxLength_);
+}
+
+/// The text after the edit, by the box's rules.
+Text TextBox::Edited(const TextEdit& edit) const {
+  const std::size_t place = std::min(edit.place, text_.size());
+  const std::size_t removed = std::min(edit.removed, text_.size() - place);
+  Text inserted = multiLine_ ? WithLineBreaks(edit.inserted)
+                             : edit.inserted.substr(0, edit.inserted.find_first_of(kLineBreak));
+  Text text = Text(text_).replace(place, removed, inserted);
+  if (!IsTooLong(text) || longTexts_.contains(text)) return text;
+  const std::size_t kept = text_.size() - removed;
+  const auto limit = static_cast<std::size_t>(maxLength_);
+  inserted.resize(WholeCharacters(inserted, limit > kept ? limit - kept : 0).size());
+  return Text(text_).replace(place, removed, inserted);
 }
 
 }  // namespace tessara

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <functional>
+#include <set>
 
 #include "forms/controls/control.h"
 
@@ -38,7 +39,8 @@ class TextBox : public Control {
 
   /// What the user typed, pasted, cut or undid. Line breaks become CR LF (a single-line box takes
   /// what stands before the first one), and what goes over the limit is left out, in characters as
-  /// a reader sees them. Nothing happens where the box is locked or not reachable.
+  /// a reader sees them; an undo brings back what stood there, however long. Nothing happens where
+  /// the box is locked or not reachable.
   void UserEdit(const TextEdit& edit);
   std::function<void()> onChange;
 
@@ -48,7 +50,12 @@ class TextBox : public Control {
   [[nodiscard]] std::size_t CharactersCut() const;
 
  private:
+  void Take(const Text& text);
+  [[nodiscard]] bool IsTooLong(const Text& text) const;
+  [[nodiscard]] Text Edited(const TextEdit& edit) const;
+
   Text text_;
+  std::set<Text> longTexts_;  ///< beyond the limit, that the user's edits have begun with
   int maxLength_ = 0;
   bool multiLine_ = false;
   bool verticalScrollBar_ = false;

@@ -253,6 +253,60 @@ TEST_CASE("What was typed over the limit is not in the way of an undo") {
   CHECK(form.lineBox.TextOf().empty());
 }
 
+TEST_CASE("Undo brings back what was deleted of a text that is over the limit") {
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  for (TextBox* box : {&form.lineBox, &form.areaBox}) {
+    CAPTURE(box->Name());
+    QWidget& widget = Fixture::Of(box->Name().c_str());
+    box->SetMaxLength(4);
+    box->SetText(u"two words");
+    QTest::keySequence(&widget, QKeySequence::SelectAll);
+    QTest::keyClicks(&widget, "x");
+    CHECK(box->TextOf() == u"x");
+    constexpr int kMostSteps = 3;
+    for (int step = 0; step < kMostSteps; ++step) Undo(widget);
+    CHECK(box->TextOf() == u"two words");
+    for (int step = 0; step < kMostSteps; ++step) Redo(widget);
+    CHECK(box->TextOf() == u"x");
+  }
+}
+
+TEST_CASE("Text that is cut, copied or dragged keeps its no-break blanks and odd characters") {
+  const Text odd = u"non\u00A0breaking\r\nbell\u0007 line\u2028separator";
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  auto& area = Fixture::Of<QPlainTextEdit>("Text2");
+  form.areaBox.SetText(odd);
+  QTest::keySequence(&area, QKeySequence::SelectAll);
+  QTest::keySequence(&area, QKeySequence::Cut);
+  CHECK(form.areaBox.TextOf().empty());
+  CHECK(QApplication::clipboard()->mimeData()->formats() == QStringList{"text/plain"});
+  QTest::keySequence(&area, QKeySequence::Paste);
+  QTest::keySequence(&area, QKeySequence::Paste);
+  CHECK(form.areaBox.TextOf() == odd + odd);
+}
+
+TEST_CASE("What a composed text replaces stays in the form until it is committed") {
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  auto& line = Fixture::Of<QLineEdit>("Text1");
+  form.lineBox.SetText(u"old");
+  line.selectAll();
+  form.log.Take();
+  Compose(line, "n");
+  Compose(line, "ne");
+  CHECK(form.lineBox.TextOf() == u"old");
+  CHECK(form.log.Take().empty());
+  Compose(line, {}, "new");
+  CHECK(form.lineBox.TextOf() == u"new");
+  // One that is broken off has taken the selection away.
+  line.selectAll();
+  Compose(line, "n");
+  Compose(line, {});
+  CHECK(form.lineBox.TextOf().empty());
+}
+
 TEST_CASE("Composed text reaches the form when it is committed") {
   Fixture fixture;
   SampleForm& form = fixture.ShowChild();

@@ -101,7 +101,8 @@ std::string CopyName(const std::string& fileName, Moment moment, std::uint64_t n
 
 std::optional<NamedCopy> ReadCopyName(const std::string& copyName) {
   const std::size_t length = kMomentPattern.size();
-  if (copyName.size() < length) return std::nullopt;
+  // The deck in hand may be a copy itself.
+  if (copyName.size() < length || ReadUnsavedName(copyName)) return std::nullopt;
   const std::string_view name = copyName;
   // The last one: a copy's copy has two.
   for (std::size_t at = name.size() - length + 1; at-- > 0;) {

@@ -1,6 +1,7 @@
 #include "adapters/qt/views/edit_widgets.h"
 
 #include <QDragEnterEvent>
+#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QTextBlock>
@@ -32,6 +33,12 @@ void CharacterLine::dragEnterEvent(QDragEnterEvent* event) {
   if (HoldsFiles(*event->mimeData())) event->ignore();
 }
 
+void CharacterLine::inputMethodEvent(QInputMethodEvent* event) {
+  composes_ = !event->preeditString().isEmpty() && event->commitString().isEmpty();
+  QLineEdit::inputMethodEvent(event);
+  if (!composes_ && onComposed) onComposed();
+}
+
 void CharacterLine::keyPressEvent(QKeyEvent* event) {
   if (IsBackspace(*event) && !isReadOnly() && !hasSelectedText() && cursorPosition() > 0) {
     const auto first = static_cast<int>(CharacterBefore(text(), cursorPosition()));
@@ -43,6 +50,12 @@ void CharacterLine::keyPressEvent(QKeyEvent* event) {
 void PlainArea::dragEnterEvent(QDragEnterEvent* event) {
   QPlainTextEdit::dragEnterEvent(event);
   if (HoldsFiles(*event->mimeData())) event->ignore();
+}
+
+QMimeData* PlainArea::createMimeDataFromSelection() const {
+  auto* plain = new QMimeData;
+  plain->setText(textCursor().selectedText().replace(QChar::ParagraphSeparator, u'\n'));
+  return plain;
 }
 
 void PlainArea::insertFromMimeData(const QMimeData* source) {

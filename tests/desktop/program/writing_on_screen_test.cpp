@@ -1,5 +1,7 @@
 // Decks written in the whole program by the keyboard alone, saved, and read back byte for byte.
 
+#include <QInputMethodEvent>
+#include <QRadioButton>
 #include <algorithm>
 #include <doctest/doctest.h>
 
@@ -155,6 +157,25 @@ TEST_CASE("Typing goes on harmlessly where line D has closed itself, and drops n
   ProgramOnScreen::Type(u" y");
   CHECK(ProgramOnScreen::Of("Text1(2)", "frmQuestion").property("text") == "x y");
   CHECK(ProgramOnScreen::Of("Text1(3)", "frmQuestion").isEnabled());
+}
+
+TEST_CASE("An answer that is composed anew keeps its line open and its mark") {
+  ProgramOnScreen fixture;
+  StartQuestionDeck(fixture);
+  Write("Text2", u"Which?");
+  for (const char* line : {"Text1(0)", "Text1(1)", "Text1(2)", "Text1(3)"}) Write(line, u"x");
+  Pick("Option1(3)");
+  GoTo("Text1(3)");
+  auto& line = ProgramOnScreen::Of<QLineEdit>("Text1(3)", "frmQuestion");
+  line.selectAll();
+  QInputMethodEvent begun("z", {});
+  QApplication::sendEvent(&line, &begun);
+  QInputMethodEvent committed;
+  committed.setCommitString(QStringLiteral("\u4E2D"));
+  QApplication::sendEvent(&line, &committed);
+  CHECK(ProgramOnScreen::Focus() == "Text1(3)");
+  CHECK(line.text() == QStringLiteral("\u4E2D"));
+  CHECK(ProgramOnScreen::Of<QRadioButton>("Option1(3)", "frmQuestion").isChecked());
 }
 
 TEST_CASE("Ten cards of each kind are typed one after the other, and each is in the file") {

@@ -64,6 +64,26 @@ TEST_CASE("what the user types comes into the text by the box's rules") {
   }
 }
 
+TEST_CASE("an undo brings a text beyond the limit back, and nothing else does") {
+  RulesFixture fixture;
+  fixture.first->Show();
+  TextBox& box = fixture.first->textBox;
+  box.SetMaxLength(4);
+  box.SetText(u"abcdefg");
+  box.UserEdit({1, 2, u""});
+  box.UserEdit({0, 5, u"x"});
+  CHECK(box.TextOf() == u"x");
+  box.UserEdit({0, 1, u"adefg"});
+  CHECK(box.TextOf() == u"adefg");
+  box.UserEdit({1, 0, u"xy"});
+  CHECK(box.TextOf() == u"adefg");
+  box.UserEdit({1, 0, u"bc"});
+  CHECK(box.TextOf() == u"abcdefg");
+  box.SetText(u"");
+  box.UserEdit({0, 0, u"abcdefg"});
+  CHECK(box.TextOf() == u"abcd");
+}
+
 TEST_CASE("a lowered limit does not cut the text that is there") {
   RulesFixture fixture;
   fixture.first->textBox.SetText(u"forty-one");

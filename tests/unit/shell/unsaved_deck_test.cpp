@@ -230,15 +230,22 @@ TEST_CASE("a save whose dialog was cancelled leaves the deck kept") {
 }
 
 TEST_CASE("a deck that was given up is kept again where its window stays") {
-  UnsavedProgram fixture;
-  fixture.Build(u"to be");
-  fixture.fakes.messages.answers = {kNo, kNo};
-  fixture.fakes.messages.whileShown = [&](const FakeMessages::Shown& box) {
-    const bool answered = box.title == u"Close Tessara";
-    CHECK(fixture.copies.unsaved.has_value() == !answered);
-  };
-  fixture.Close();
-  CHECK(fixture.Kept() == FrontsOf({u"to be"}));
+  const std::pair<const char*, Steps> ways[] = {
+      {"window", [](UnsavedProgram& fixture) { fixture.Close(); }},
+      {"command",
+       [](UnsavedProgram& fixture) { fixture.Run([&] { fixture.deck->CloseTessara(); }); }}};
+  for (const auto& [name, close] : ways) {
+    CAPTURE(name);
+    UnsavedProgram fixture;
+    fixture.Build(u"to be");
+    fixture.fakes.messages.answers = {kNo, kNo};
+    fixture.fakes.messages.whileShown = [&](const FakeMessages::Shown& box) {
+      const bool answered = box.title == u"Close Tessara";
+      CHECK(fixture.copies.unsaved.has_value() == !answered);
+    };
+    close(fixture);
+    CHECK(fixture.Kept() == FrontsOf({u"to be"}));
+  }
 }
 
 TEST_CASE("a deck whose last card has been deleted is not kept") {
@@ -325,9 +332,26 @@ TEST_CASE("a save of which any step failed keeps the new deck, and tells the use
     CHECK_FALSE(fixture.copies.unsaved.has_value());
     REQUIRE(fixture.fakes.desktop.notices.size() == 1);
     CHECK(fixture.fakes.desktop.notices[0].second ==
-          u"Saving the deck verbs met an error. The deck is kept as /copies/verbs.tsr and can be "
-          u"opened there.");
+          u"Not all of the deck verbs may be in its file. It is kept as /copies/verbs.tsr and can "
+          u"be opened there.");
   }
+}
+
+TEST_CASE("a save that ends at a gap before other cards keeps the whole deck") {
+  UnsavedProgram fixture;
+  fixture.Open(kPath, 3);
+  fixture.Run([&] {
+    PutCard(fixture.state, 5, {.text = u"behind"});
+    fixture.state.deck.changed = true;
+  });
+  fixture.TakeBoxes();
+  fixture.Run([&] { fixture.deck->SaveDeck(); });
+  CHECK(fixture.TakeBoxes() == Boxes{SavedBox(kPath)});
+  CHECK(fixture.File(kPath).size() == kRecordSize * 5);
+  CHECK(fixture.File(kPath).find("behind") == std::string::npos);
+  REQUIRE(fixture.copies.notSaved.size() == 1);
+  CHECK(fixture.copies.notSaved[0].second.find("behind") != std::string::npos);
+  CHECK(fixture.fakes.desktop.notices.size() == 1);
 }
 
 TEST_CASE("a failed close of the file is a failed step of the save") {

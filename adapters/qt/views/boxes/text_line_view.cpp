@@ -4,7 +4,6 @@
 #include <limits>
 
 #include "adapters/qt/text/text_mapping.h"
-#include "adapters/qt/views/edit_widgets.h"
 
 namespace tessara {
 
@@ -13,6 +12,7 @@ TextLineView::TextLineView(TextBox& box, QWidget& parent, const ViewContext& con
   Edit().setMaxLength(std::numeric_limits<int>::max());
   AddRedoKeys(Edit());
   QObject::connect(&Edit(), &QLineEdit::textEdited, this, [this] { PassEdit(); });
+  Edit().onComposed = [this] { PassEdit(); };
 }
 
 void TextLineView::FollowOwn(Aspect aspect) {
@@ -24,7 +24,8 @@ void TextLineView::FollowOwn(Aspect aspect) {
 }
 
 void TextLineView::PassEdit() {
-  if (Detached() || correcting_) return;
+  // What is being composed is no text yet, and what it replaces is not given up.
+  if (Detached() || correcting_ || Edit().Composes()) return;
   auto& box = As<TextBox>();
   passing_ = true;
   box.UserEdit(UserChange(box.TextOf(), Edit().text(), Edit().cursorPosition(), false));

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <QLineEdit>
-
 #include "adapters/qt/views/control_view.h"
+#include "adapters/qt/views/edit_widgets.h"
 #include "adapters/qt/views/too_long_mark.h"
 #include "forms/controls/controls.h"
 
@@ -19,7 +18,7 @@ class TextLineView : public ControlView {
   void FollowOwn(Aspect aspect) override;
 
  private:
-  [[nodiscard]] QLineEdit& Edit() const { return static_cast<QLineEdit&>(Widget()); }
+  [[nodiscard]] CharacterLine& Edit() const { return static_cast<CharacterLine&>(Widget()); }
   void PassEdit();
   void ShowText();
   void CorrectTo(const QString& wanted);

@@ -66,7 +66,8 @@ TEST_CASE("a name without a moment and a number is no copy's") {
   for (const std::string name :
        {"", "verbs.tsr", "verbs 2026-11-21.tsr", "verbs 2026-11-21 08-03-07.tsr",
         "verbs2026-11-21 08-03-07-009.tsr", "verbs 2026-11-21 08-03-07-00x.tsr",
-        "verbs 2026-11-21 08-03-07-1234567890123.tsr", "verbs (unsaved 12-1).tsr", "."}) {
+        "verbs 2026-11-21 08-03-07-1234567890123.tsr", "verbs (unsaved 12-1).tsr",
+        "verbs not saved 2026-11-21 08-13-27-0042 (unsaved 12-1).tsr", "."}) {
     CAPTURE(name);
     CHECK_FALSE(ReadCopyName(name).has_value());
   }
