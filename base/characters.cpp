@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <memory>
 #include <new>
+#include <unictype.h>
 #include <unigbrk.h>
 #include <uninorm.h>
 #include <unistr.h>
@@ -67,6 +68,20 @@ Text Composed(TextView text) {
       &std::free);
   if (!composed && errno == ENOMEM) throw std::bad_alloc();
   return {reinterpret_cast<const char16_t*>(composed.get()), length};
+}
+
+bool IsRightToLeft(TextView text) {
+  const std::uint16_t* at = UnitsOf(text);
+  ucs4_t letter = 0;
+  for (std::size_t left = text.size(); left > 0;) {
+    const int length = u16_mbtouc(&letter, at, left);
+    const int direction = uc_bidi_class(letter);
+    if (direction == UC_BIDI_L) return false;
+    if (direction == UC_BIDI_R || direction == UC_BIDI_AL) return true;
+    at += length;
+    left -= static_cast<std::size_t>(length);
+  }
+  return false;
 }
 
 std::size_t Utf8Length(std::string_view bytes) {

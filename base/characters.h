@@ -21,6 +21,9 @@ namespace tessara {
 /// The same in normalization form C (UAX #15).
 [[nodiscard]] Text Composed(TextView text);
 
+/// True where the first letter with a direction is written from right to left (UAX #9, P2 and P3).
+[[nodiscard]] bool IsRightToLeft(TextView text);
+
 /// How many bytes at the front are well-formed UTF-8.
 [[nodiscard]] std::size_t Utf8Length(std::string_view bytes);
 

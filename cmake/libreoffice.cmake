@@ -23,7 +23,7 @@ if(CPPUMAKER AND QPDF_LIBRARY)
     document.MacroExecMode document.UpdateDocMode frame.Desktop frame.XComponentLoader frame.XModel
     frame.XStorable lang.DisposedException lang.XComponent sheet.XCellRangeAddressable sheet.XCellRangeData sheet.XCellRangeMovement
     sheet.XSpreadsheet sheet.XSpreadsheetDocument
-    sheet.XSpreadsheetView table.CellVertJustify2 table.XColumnRowRange text.XText uno.DeploymentException uno.XComponentContext util.XCloseable)
+    sheet.XSpreadsheetView table.CellVertJustify2 table.XColumnRowRange text.WritingMode2 text.XText uno.DeploymentException uno.XComponentContext util.XCloseable)
   list(TRANSFORM unoInterfaces PREPEND -Tcom.sun.star.)
   set(unoHeaders ${CMAKE_BINARY_DIR}/uno)
   set(unoStamp ${unoHeaders}/made)

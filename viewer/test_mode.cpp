@@ -44,6 +44,7 @@ void DeckWindow::OfferChoices() {
 }
 
 void DeckWindow::OpDefaultForeColor() {
+  card.SetSpoken(u"");
   for (OptionButton& option : choices) {
     option.SetForeColor({});  // black, or what a dark desktop has in its place
     option.SetBold(false);
@@ -117,7 +118,9 @@ void DeckWindow::JudgeChoice(int choice) {
     if (right) {
       state.deck.testPoints += 1;
     } else {
-      choices[AnswerIndex(key)].SetForeColor(kRightChoiceBlue);
+      OptionButton& rightChoice = choices[AnswerIndex(key)];
+      rightChoice.SetForeColor(kRightChoiceBlue);
+      card.SetSpoken(u"Right: " + PlainCaption(rightChoice.Caption()));
     }
   }
   nextOrScore.SetEnabled(true);

@@ -1,6 +1,7 @@
 #include "adapters/freedesktop/user_document_types.h"
 
 #include <system_error>
+#include <unistd.h>
 
 #include "adapters/freedesktop/desktop_entry.h"
 #include "adapters/posix/process/start_process.h"
@@ -30,8 +31,16 @@ void MakeFolderOf(const fs::path& file) {
   fs::create_directories(file.parent_path(), ignored);
 }
 
+/// The user's own arrangement: a file that is not to be written, or the packaged one itself.
+bool IsToStay(const fs::path& from, const fs::path& to) {
+  std::error_code ignored;
+  return fs::exists(to, ignored) &&
+         (access(to.c_str(), W_OK) != 0 || fs::equivalent(from, to, ignored));
+}
+
 /// A file that was begun and can't be written whole is gone.
 void CopyFile(const fs::path& from, const fs::path& to) {
+  if (IsToStay(from, to)) return;
   MakeFolderOf(to);
   std::error_code error;
   fs::copy_file(from, to, fs::copy_options::overwrite_existing, error);

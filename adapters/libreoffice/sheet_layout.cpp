@@ -7,9 +7,11 @@
 #include <com/sun/star/sheet/XCellRangeMovement.hpp>
 #include <com/sun/star/table/CellVertJustify2.hpp>
 #include <com/sun/star/table/XColumnRowRange.hpp>
+#include <com/sun/star/text/WritingMode2.hpp>
 #include <limits>
 
 #include "adapters/libreoffice/uno_text.h"
+#include "base/characters.h"
 #include "machine/print_surface.h"
 
 namespace tessara {
@@ -21,6 +23,7 @@ using com::sun::star::beans::XPropertySet;
 using com::sun::star::container::XNamed;
 using com::sun::star::frame::XStorable;
 using com::sun::star::text::XText;
+namespace WritingMode2 = com::sun::star::text::WritingMode2;
 namespace sheet = com::sun::star::sheet;
 namespace table = com::sun::star::table;
 
@@ -28,7 +31,8 @@ namespace table = com::sun::star::table;
 constexpr const char* kScripts[] = {"", "Asian", "Complex"};
 
 /// The text as the cell shows it: without the prefix that marks a text, its line breaks the
-/// server's own, a tab as blanks, since a cell has none.
+/// server's own, a tab as blanks, since a cell has none, and nothing that the server takes for no
+/// text.
 Text Shown(const Text& value) {
   const std::size_t begin = value.starts_with(u'\'') ? 1 : 0;
   Text shown;
@@ -40,7 +44,7 @@ Text Shown(const Text& value) {
       shown += value[at] == kCarriageReturn ? kLineFeed : value[at];
     }
   }
-  return shown;
+  return WellFormed(shown);
 }
 
 /// What all cells are given at once may have one line each.
@@ -91,6 +95,7 @@ void SheetLayout::Show(const SheetContent& content) {
       Cell& cell = CellAt(place);
       const bool changes = isNew || cell.shown != text;
       cell.shown = text;
+      if (changes) Direct(cell);
       if (changes || otherFonts) Align(place, cell);
     }
   });
@@ -162,7 +167,16 @@ SheetLayout::Cell& SheetLayout::CellAt(const CellPlace& place) {
   const auto cell = sheet_->getCellByPosition(place.column - 1, place.row - 1);
   const Reference<XText> text(cell, uno::UNO_QUERY_THROW);
   const Properties look(cell, uno::UNO_QUERY_THROW);
-  return cells_.emplace(place, Cell{text, look, {}, {}}).first->second;
+  return cells_.emplace(place, Cell{text, look, {}, {}, false}).first->second;
+}
+
+/// The server itself writes every text from left to right, whatever its first letter.
+void SheetLayout::Direct(Cell& cell) {
+  const bool rightToLeft = IsRightToLeft(cell.shown);
+  if (cell.rightToLeft == rightToLeft) return;
+  const sal_Int16 mode = rightToLeft ? WritingMode2::RL_TB : WritingMode2::LR_TB;
+  cell.look->setPropertyValue("WritingMode", uno::Any(mode));
+  cell.rightToLeft = rightToLeft;
 }
 
 /// In the middle of its cell a text with more lines than fit would lose the first ones too.

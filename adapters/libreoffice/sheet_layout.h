@@ -45,6 +45,7 @@ class SheetLayout {
     Properties look;
     Text shown;                          ///< as the program has given it
     std::optional<sal_Int32> alignment;  ///< none: the template's
+    bool rightToLeft = false;
   };
 
   /// Before the sheet changes.
@@ -60,6 +61,7 @@ class SheetLayout {
   Cell& CellAt(const CellPlace& place);
   /// False where they are shown already.
   bool ShowFonts(const std::vector<FontSetting>& fonts);
+  static void Direct(Cell& cell);
   void Align(const CellPlace& place, Cell& cell);
   [[nodiscard]] bool Fits(const CellPlace& place, const Text& text) const;
   [[nodiscard]] Properties RowAt(sal_Int32 row) const;

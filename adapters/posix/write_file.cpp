@@ -3,8 +3,11 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
+#include <memory>
 #include <system_error>
+#include <unistd.h>
 
+#include "adapters/posix/output_file.h"
 #include "adapters/posix/system_call.h"
 #include "base/foreign_error.h"
 #include "base/run_time_error.h"
@@ -21,9 +24,31 @@ void RemoveBroken(const std::string& path) {
   if (std::filesystem::is_regular_file(path, none)) std::filesystem::remove(path, none);
 }
 
-}  // namespace
+/// What takes the place of a file once it is whole; null where there is none, or where nothing can
+/// be made beside it.
+std::unique_ptr<OutputFile> PlaceTaker(const std::string& path) {
+  std::error_code unknown;
+  const std::filesystem::path target = std::filesystem::canonical(path, unknown);
+  const bool replaceable = !unknown && std::filesystem::is_regular_file(target, unknown);
+  if (!replaceable || access(target.c_str(), W_OK) != 0) return nullptr;
+  try {
+    return std::make_unique<OutputFile>(target, 0);
+  } catch (const std::system_error&) {
+    return nullptr;
+  }
+}
 
-void WriteFile(const std::string& path, const std::string& bytes) {
+void Replace(OutputFile& file, const std::string& bytes) {
+  try {
+    file.Write(bytes);
+    file.Complete();
+    file.Appear();
+  } catch (const std::system_error& error) {
+    throw RunTimeError(TransferError(error.code().value()));
+  }
+}
+
+void WriteInPlace(const std::string& path, const std::string& bytes) {
   // Without waiting for whoever may read a pipe.
   constexpr int kFlags = O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK | O_NOCTTY;
   Descriptor file(Uninterrupted([&] { return open(path.c_str(), kFlags, kReadableByAll); }));
@@ -34,6 +59,16 @@ void WriteFile(const std::string& path, const std::string& bytes) {
   } catch (const std::system_error& error) {
     RemoveBroken(path);
     throw RunTimeError(TransferError(error.code().value()));
+  }
+}
+
+}  // namespace
+
+void WriteFile(const std::string& path, const std::string& bytes) {
+  if (const auto file = PlaceTaker(path)) {
+    Replace(*file, bytes);
+  } else {
+    WriteInPlace(path, bytes);
   }
 }
 

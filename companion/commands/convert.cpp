@@ -6,7 +6,7 @@
 #include <span>
 #include <utility>
 
-#include "adapters/command_line/output_file.h"
+#include "adapters/posix/output_file.h"
 #include "base/text.h"
 #include "base/utf8.h"
 #include "companion/cards/complaints.h"

@@ -6,7 +6,7 @@
 #include <system_error>
 #include <utility>
 
-#include "adapters/command_line/output_file.h"
+#include "adapters/posix/output_file.h"
 #include "companion/cards/complaints.h"
 #include "companion/commands/input.h"
 

@@ -4,8 +4,8 @@
 #include <system_error>
 
 #include "adapters/command_line/helper_program.h"
-#include "adapters/command_line/output_file.h"
 #include "adapters/posix/executable_folder.h"
+#include "adapters/posix/output_file.h"
 #include "companion/cards/card_set.h"
 #include "companion/cards/complaints.h"
 #include "companion/commands/input.h"

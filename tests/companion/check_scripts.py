@@ -19,6 +19,9 @@ PROGRAM = pathlib.Path(sys.argv.pop(1)).resolve() / "tessara-deck"
 SEARCHED = ["θάλασσα", "книга", "źdźbło", "日本語", "שלום", "العربية", "café", "Việt"]
 # These are seen; a PDF file need not have their text in the order of reading.
 SEEN = ["हिन्दी", "ภาษาไทย", "ქართული", "한국어", "😀", "🐀", "🇳🇴", "👨‍👩‍👧", "⚽", "θɪŋk"]
+# Its words stand from right to left, whatever stands between them. They read the same both ways, as a PDF file may
+# have their letters.
+MIXED = ["צצצ", "zzz", "קקק"]
 # The listing begins with the second card.
 UNLISTED = "first"
 DIRECTIONS = re.compile("[\u200e\u200f\u202a-\u202e\u2066-\u2069]")
@@ -66,7 +69,7 @@ class Printed(unittest.TestCase):
         cls.environment = {**os.environ, "LC_ALL": "C.UTF-8", "XDG_RUNTIME_DIR": holder.name}
         # A mark behind each text shows where it ends, whatever the text itself is found as.
         words = [UNLISTED, *SEARCHED, *SEEN]
-        table = "".join(f"{word} end{number}\tb\n" for number, word in enumerate(words))
+        table = "".join(f"{word} end{number}\tb\n" for number, word in enumerate(words)) + " ".join(MIXED) + "\tb\n"
         (cls.folder / "words.tsv").write_text(table, encoding="utf-8")
         cls.files = {"cards": cls.printed("cards.pdf"), "listing": cls.printed("listing.pdf", "--listing")}
 
@@ -82,6 +85,13 @@ class Printed(unittest.TestCase):
             for word in SEARCHED:
                 with self.subTest(way, word=word):
                     self.assertIn(word, text)
+
+    def test_a_text_goes_by_its_first_letter_in_both_kinds_of_print(self):
+        for way, path in self.files.items():
+            with self.subTest(way):
+                boxes = output_of("pdftotext", "-bbox", path, "-").decode()
+                places = [float(re.search(rf'xMin="([\d.]+)"[^>]*>{word[0]}', boxes)[1]) for word in MIXED]
+                self.assertEqual(places, sorted(places, reverse=True))
 
     def before_mark(self, path, number):
         """The page and the place in front of a mark, on its line; as wide as two of its letters."""

@@ -47,6 +47,20 @@ TEST_CASE("An accelerator that no control has opens the menu, whose keys choose"
   CHECK(form.log.Take() == "study");
 }
 
+TEST_CASE("A letter of another script is left to Qt, which knows the Latin letter of its key") {
+  Fixture fixture;
+  fixture.ShowChild();
+  const auto claims = [](int key) {
+    QKeyEvent event(QEvent::ShortcutOverride, key, Qt::AltModifier, QChar(key));
+    event.ignore();
+    QApplication::sendEvent(&Focused(), &event);
+    return event.isAccepted();
+  };
+  constexpr int kCyrillicEf = 0x424;
+  CHECK(claims(Qt::Key_D));
+  CHECK_FALSE(claims(kCyrillicEf));
+}
+
 TEST_CASE("Page Up and Page Down press the buttons that turn pages") {
   Fixture fixture;
   SampleForm& form = fixture.ShowChild();

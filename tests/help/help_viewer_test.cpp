@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QScrollBar>
 #include <QTemporaryDir>
 #include <QTextBlock>
 #include <QToolBar>
@@ -14,6 +15,7 @@
 #include "adapters/qt/help/help_book.h"
 #include "adapters/qt/help/help_page.h"
 #include "adapters/qt/help/show_help_contents.h"
+#include "adapters/qt/look/contrast.h"
 #include "base/utf8.h"
 #include "tests/help/help_fixture.h"
 
@@ -100,6 +102,35 @@ TEST_CASE("a link inside the help is followed, and marked in the contents") {
   help.Follow("keys.html");
   CHECK(help.PageName() == QStringLiteral("keys.html"));
   CHECK(help.contents->currentItem()->text(0) == QStringLiteral("Keys"));
+}
+
+TEST_CASE(
+    "links are readable on the page when the desktop has turned dark, which stays where it was") {
+  const Shown shown;
+  shown.Follow("importing.html");
+  shown.window->resize(500, 200);
+  QScrollBar& bar = *shown.page->verticalScrollBar();
+  bar.setValue(bar.maximum());
+  const int place = bar.value();
+  REQUIRE(place > 0);
+  const QPalette before = QApplication::palette();
+  QPalette dark(QColor(49, 54, 59));
+  dark.setColor(QPalette::Link, Qt::cyan);
+  QApplication::setPalette(dark);
+  QTest::qWait(0);
+  const QColor ground = QApplication::palette().color(QPalette::Base);
+  int links = 0;
+  for (QTextBlock block = shown.page->document()->begin(); block.isValid(); block = block.next()) {
+    for (auto part = block.begin(); !part.atEnd(); ++part) {
+      const QTextCharFormat format = part.fragment().charFormat();
+      if (!format.isAnchor() || format.anchorHref().isEmpty()) continue;
+      ++links;
+      CHECK(ContrastOf(format.foreground().color(), ground) >= kReadableContrast);
+    }
+  }
+  CHECK(links > 0);
+  CHECK(bar.value() == place);
+  QApplication::setPalette(before);
 }
 
 TEST_CASE("a link to a place outside the help, or to nothing, is not followed") {

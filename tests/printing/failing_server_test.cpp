@@ -141,6 +141,21 @@ TEST_CASE(
   CHECK(test::FilesLeftBehind().empty());
 }
 
+TEST_CASE("who binds a server that hangs at its start ahead is free within 30 seconds too") {
+  {
+    LoadedSpreadsheet server(FromUtf8(PROGRAM_FOLDER));
+    const Text templatePath = FromUtf8(PROGRAM_FOLDER "/Notelet.xlt");
+    server.Prepare(templatePath, std::chrono::milliseconds(0));
+    while (ServerProcesses().empty()) std::this_thread::yield();
+    SignalServers(SIGSTOP);
+    const auto start = std::chrono::steady_clock::now();
+    CheckRefused([&] { server.Bind(templatePath); });
+    CHECK(std::chrono::steady_clock::now() - start < kLongest);
+  }
+  test::WaitForServersToEnd();
+  CHECK(test::FilesLeftBehind().empty());
+}
+
 TEST_CASE("the sheets before a server's death stay in the PDF file") {
   OfficeFixture fixture(19);
   fixture.SetCard(19, u"F19\r\nbelow", u"B19");

@@ -68,6 +68,10 @@ void CardControl::SetHint(const Text& hint) {
   Change(hint_, hint);
 }
 
+void CardControl::SetSpoken(const Text& spoken) {
+  Change(spoken_, spoken);
+}
+
 Text CardControl::DisplayedText() const {
   return PlainCaption(cardText_);
 }
@@ -154,7 +158,7 @@ Rect CardControl::ScrollArea(const Rect& size) const {
 
 Text CardControl::Description() const {
   Text description = frontLines_ ? u"Front" : u"Back";
-  for (const Text& part : {NumberLine(), cardBanner_, ShownText()}) {
+  for (const Text& part : {NumberLine(), cardBanner_, spoken_, ShownText()}) {
     if (!part.empty()) description += u". " + part;
   }
   return description;

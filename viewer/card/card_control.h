@@ -34,6 +34,8 @@ class CardControl : public PaintedControl, public CardDisplay {
   /// What a card of a deck without cards says instead of a text, as a text that is to be shown
   /// literally: faintly, and to a screen reader.
   void SetHint(const Text& hint);
+  /// What only a screen reader says, behind the banner, as a text that is to be shown literally.
+  void SetSpoken(const Text& spoken);
   /// The body as it reads: doubled ampersands single.
   [[nodiscard]] Text DisplayedText() const;
 
@@ -58,6 +60,7 @@ class CardControl : public PaintedControl, public CardDisplay {
   [[nodiscard]] Text NumberLine() const;
 
   Text cardBanner_;
+  Text spoken_;
   Text cardColor_{kWhiteCard};
   bool frontRule_ = true;
   bool frontLines_ = true;

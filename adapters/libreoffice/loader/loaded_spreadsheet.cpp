@@ -12,6 +12,11 @@ namespace {
 
 constexpr const char* kMakerName = "tessara_make_office_module";
 
+using Clock = std::chrono::steady_clock;
+
+/// Much longer than a server needs to fail by itself.
+constexpr std::chrono::seconds kLongWait{10};
+
 using Maker = OfficeModule* (*)(const char* officeProgramFolder);
 
 [[noreturn]] void ThrowNotFound() {
@@ -41,6 +46,7 @@ void LoadedSpreadsheet::Prepare(const Text& templatePath, std::chrono::milliseco
   // The one before has gone before this one begins.
   standby_ = std::jthread();
   startsAhead_ = false;
+  aheadFailed_ = false;
   try {
     standby_ = std::jthread([=, this](const std::stop_token& stop) {  //
       StandBy(templatePath, after, stop);
@@ -72,12 +78,17 @@ void LoadedSpreadsheet::StartAhead(const Text& templatePath, const std::stop_tok
     Module().Prepare(templatePath, stop);
   } catch (const std::exception&) {
     // Told, where it still holds then, when the server is bound.
+    aheadFailed_ = true;
   }
 }
 
 std::shared_ptr<Workbook> LoadedSpreadsheet::Bind(const Text& templatePath) {
   Probe(templatePath);
+  const auto asked = Clock::now();
   const std::lock_guard lock(mutex_);
+  // Who has waited for a start until it was given up does not wait for another one.
+  if (aheadFailed_ && Clock::now() - asked > kLongWait)
+    throw RunTimeError(ErrorNumber::kAutomationError);
   if (!startsAhead_) standby_.request_stop();
   return Module().Bind(templatePath);
 }

@@ -43,6 +43,7 @@ class LoadedSpreadsheet : public SpreadsheetServer {
   std::mutex mutex_;  ///< held while the module is asked
   std::unique_ptr<OfficeModule> module_;
   bool startsAhead_ = false;  ///< the server's start ahead of its use has begun
+  bool aheadFailed_ = false;  ///< and there was none to be had
   std::condition_variable_any toldToGo_;
   /// Starts the server ahead of its use, and then stays: that server dies with its thread. The last
   /// member: it uses the others.

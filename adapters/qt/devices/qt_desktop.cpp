@@ -10,7 +10,6 @@
 #include <QUrl>
 #include <utility>
 
-#include "adapters/qt/text/pixel_scale.h"
 #include "adapters/qt/text/qt_text.h"
 
 namespace tessara {
@@ -25,10 +24,13 @@ bool IsLink(const QString& target) {
   return kind.match(target).hasMatch();
 }
 
-QSize ScreenSize() {
-  const PixelScale scale = PixelScale::OfDesktop();
-  const QSize size = QApplication::primaryScreen()->size();
-  return {scale.ToProgramPixels(size.width()), scale.ToProgramPixels(size.height())};
+/// In pixels of the program as they are where they are smallest: the frame can come to any screen,
+/// and the desktop's font can get smaller.
+QSize LargestScreen() {
+  QSize largest;
+  for (const QScreen* screen : QGuiApplication::screens())
+    largest = largest.expandedTo(screen->size());
+  return largest;
 }
 
 }  // namespace
@@ -72,11 +74,11 @@ void QtDesktop::Yield() {
 }
 
 int QtDesktop::ScreenWidth() const {
-  return ScreenSize().width();
+  return LargestScreen().width();
 }
 
 int QtDesktop::ScreenHeight() const {
-  return ScreenSize().height();
+  return LargestScreen().height();
 }
 
 }  // namespace tessara

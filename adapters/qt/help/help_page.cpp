@@ -1,6 +1,8 @@
 #include "adapters/qt/help/help_page.h"
 
+#include <QEvent>
 #include <QImage>
+#include <QScrollBar>
 
 #include "adapters/qt/help/chm_file.h"
 #include "adapters/qt/help/help_book.h"
@@ -38,6 +40,14 @@ QVariant HelpPage::loadResource(int type, const QUrl& name) {
   if (type == QTextDocument::ImageResource) return Picture(address.path());
   const auto bytes = file_.Read(address.path());
   return bytes ? QVariant(QString::fromUtf8(*bytes)) : QVariant();
+}
+
+void HelpPage::changeEvent(QEvent* event) {
+  QTextBrowser::changeEvent(event);
+  if (event->type() != QEvent::PaletteChange || source().isEmpty()) return;
+  const int place = verticalScrollBar()->value();
+  reload();
+  verticalScrollBar()->setValue(place);
 }
 
 QVariant HelpPage::Picture(const QString& entry) const {

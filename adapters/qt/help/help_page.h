@@ -18,6 +18,10 @@ class HelpPage : public QTextBrowser {
 
   QVariant loadResource(int type, const QUrl& name) override;
 
+ protected:
+  /// A page has the colours of its links from the palette with which it is read.
+  void changeEvent(QEvent* event) override;
+
  private:
   [[nodiscard]] QVariant Picture(const QString& entry) const;
 

@@ -164,13 +164,18 @@ class OutlineStyle : public QProxyStyle {
  public:
   using QProxyStyle::QProxyStyle;
 
-  /// What is off is pale, and not lost in its ground, as a black one makes it.
+  /// What is off is pale, and not lost in its ground, as a black one makes it. A link is read on
+  /// every ground.
   void polish(QPalette& palette) override {
     QProxyStyle::polish(palette);
     const QColor ground = palette.color(QPalette::Active, QPalette::Window);
     for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text}) {
       const QColor pale = palette.color(QPalette::Disabled, role);
       palette.setColor(QPalette::Disabled, role, ReadableOn(ground, pale, kVisibleContrast));
+    }
+    const QColor page = palette.color(QPalette::Active, QPalette::Base);
+    for (const auto role : {QPalette::Link, QPalette::LinkVisited}) {
+      palette.setColor(role, ReadableOn(page, palette.color(QPalette::Active, role)));
     }
   }
   using QProxyStyle::polish;

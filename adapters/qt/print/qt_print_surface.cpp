@@ -193,6 +193,8 @@ QByteArray QtPrintSurface::PaintPages() const {
   QPdfWriter& writer = Writer();
   QPainter painter;
   if (!painter.begin(&writer)) throw RunTimeError(ErrorNumber::kPrinterError);
+  // As on screen each line goes by its first letter, not by the desktop.
+  painter.setLayoutDirection(Qt::LayoutDirectionAuto);
   const double scale = 1 / TwipsPerDot(writer);
   painter.scale(scale, scale);
   for (std::size_t at = 0; at < pages_.size(); ++at) {

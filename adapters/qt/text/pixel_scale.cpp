@@ -78,10 +78,6 @@ int PixelScale::ToTwips(int pixels) const {
   return qRound(pixels * kTwipsPerPixel / factor_);
 }
 
-int PixelScale::ToProgramPixels(int pixels) const {
-  return qRound(pixels / factor_);
-}
-
 QFont PixelScale::ControlFont(const Font& font) const {
   QFont result = QApplication::font();
   SetFamily(result, font.family);

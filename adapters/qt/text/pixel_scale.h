@@ -26,7 +26,6 @@ class PixelScale {
   [[nodiscard]] QRect FromTwips(const Bounds& bounds) const;
   [[nodiscard]] QSize FromPixels(int width, int height) const;
   [[nodiscard]] int ToTwips(int pixels) const;
-  [[nodiscard]] int ToProgramPixels(int pixels) const;
 
   /// Font of a control, in the desktop's pixels.
   [[nodiscard]] QFont ControlFont(const Font& font) const;

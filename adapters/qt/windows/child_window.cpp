@@ -76,7 +76,7 @@ void ChildWindow::FollowState() {
   }
 }
 
-void ChildWindow::FollowDesktop() {
+void ChildWindow::FollowDesktop(DesktopChange /*change*/) {
   surface_->FollowDesktop();
   Follow(FormAspect::kBounds);
 }

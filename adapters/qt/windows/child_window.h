@@ -20,7 +20,7 @@ class ChildWindow final : public QMdiSubWindow, public FormWindow {
   [[nodiscard]] FormSurface* Surface() const override { return surface_; }
   [[nodiscard]] QWidget& Top() override { return *this; }
   void Follow(FormAspect aspect) override;
-  void FollowDesktop() override;
+  void FollowDesktop(DesktopChange change) override;
   void ComeForward() override;
   void Detach() override;
   void Leave() override;

@@ -70,9 +70,10 @@ void DialogWindow::FollowVisible() {
   setVisible(form_->Visible());
 }
 
-void DialogWindow::FollowDesktop() {
+void DialogWindow::FollowDesktop(DesktopChange change) {
   surface_->FollowDesktop();
-  FollowBounds();
+  // Else it stays where the user has moved it.
+  if (change == DesktopChange::kScale) FollowBounds();
 }
 
 void DialogWindow::ComeForward() {

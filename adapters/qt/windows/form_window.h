@@ -8,6 +8,9 @@ namespace tessara {
 
 class FormSurface;
 
+/// What of the desktop is another: its palette, its screens, or how large things are, too.
+enum class DesktopChange { kLook, kScale };
+
 /// The window of one form on screen.
 class FormWindow {
  public:
@@ -18,8 +21,7 @@ class FormWindow {
   [[nodiscard]] virtual FormSurface* Surface() const = 0;
   [[nodiscard]] virtual QWidget& Top() = 0;
   virtual void Follow(FormAspect aspect) = 0;
-  /// The desktop has another palette, font or density.
-  virtual void FollowDesktop() = 0;
+  virtual void FollowDesktop(DesktopChange change) = 0;
   virtual void ComeForward() = 0;
   /// The form has been unloaded: the window knows it no more.
   virtual void Detach() = 0;

@@ -55,8 +55,9 @@ void FrameWindow::Follow(FormAspect aspect) {
 }
 
 /// Its windows may have grown. It keeps the size that the user has given it where that is larger.
-void FrameWindow::FollowDesktop() {
-  if (!isMaximized() && !isFullScreen()) resize(size().expandedTo(OpeningSize(context_.scale)));
+void FrameWindow::FollowDesktop(DesktopChange change) {
+  const bool grows = change == DesktopChange::kScale && !isMaximized() && !isFullScreen();
+  if (grows) resize(size().expandedTo(OpeningSize(context_.scale)));
   area_->viewport()->update();
 }
 

@@ -17,7 +17,7 @@ class FrameWindow final : public QMainWindow, public FormWindow {
   [[nodiscard]] FormSurface* Surface() const override { return nullptr; }
   [[nodiscard]] QWidget& Top() override { return *this; }
   void Follow(FormAspect aspect) override;
-  void FollowDesktop() override;
+  void FollowDesktop(DesktopChange change) override;
   void ComeForward() override;
   void Detach() override;
   void Leave() override;

@@ -16,6 +16,9 @@ namespace tessara {
 
 namespace {
 
+/// The captions of the program are in ASCII.
+constexpr char16_t kLastLatin = u'~';
+
 /// The letter of an accelerator; 0 for every other key.
 char16_t AcceleratorIn(const QKeyEvent& key) {
   const auto modifiers = key.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
@@ -69,8 +72,10 @@ bool Keyboard::eventFilter(QObject* watched, QEvent* event) {
   if (form == nullptr) return false;
   auto& key = static_cast<QKeyEvent&>(*event);
   if (event->type() == QEvent::KeyPress) return Take(key, receiver, *form);
-  // Claimed here, an accelerator comes as a key and not as one of Qt's.
-  if (AcceleratorIn(key) == 0) return false;
+  // Claimed here, an accelerator comes as a key and not as one of Qt's. Where the keyboard has
+  // another script, Qt knows the Latin letter of the key.
+  const char16_t letter = AcceleratorIn(key);
+  if (letter == 0 || letter > kLastLatin) return false;
   event->accept();
   return true;
 }

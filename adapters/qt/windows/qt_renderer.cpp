@@ -90,10 +90,12 @@ FrameWindow& QtRenderer::MakeFrame(Form& form) {
 /// All that is on screen follows at once: a window keeps its place in twips, and its text.
 void QtRenderer::FollowDesktop() {
   const Following following(following_);
+  const double before = scale_.Factor();
   scale_ = PixelScale::OfDesktop();
   pictures_.SetDensity(Density());
   captions_.Forget();
-  for (const auto& [form, window] : shown_) window->FollowDesktop();
+  const auto change = scale_.Factor() == before ? DesktopChange::kLook : DesktopChange::kScale;
+  for (const auto& [form, window] : shown_) window->FollowDesktop(change);
 }
 
 /// The most pixels of a screen that a picture's pixel takes.

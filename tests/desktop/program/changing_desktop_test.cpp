@@ -3,9 +3,11 @@
 #include <QLabel>
 #include <QPlainTextEdit>
 #include <QScreen>
+#include <QStyle>
 #include <QWindow>
 #include <doctest/doctest.h>
 
+#include "adapters/qt/devices/qt_desktop.h"
 #include "adapters/qt/look/contrast.h"
 #include "adapters/qt/windows/desktop_watch.h"
 #include "tests/desktop/support/desktop_font.h"
@@ -63,6 +65,42 @@ TEST_CASE("Windows that are open follow the desktop into the dark, with readable
   Fixture::Settle();
   Fixture::Settle();
   CHECK(Fixture::Of("Label1").palette().color(QPalette::WindowText) == QColor(0, 0, 255));
+}
+
+TEST_CASE("A desktop's palette gets links that are read, whatever its ground") {
+  for (const QColor& ground : {QColor(49, 54, 59), QColor(Qt::black), QColor(Qt::white)}) {
+    QPalette palette(ground);
+    QApplication::style()->polish(palette);
+    const QColor page = palette.color(QPalette::Base);
+    CHECK(ContrastOf(palette.color(QPalette::Link), page) >= kReadableContrast);
+    CHECK(ContrastOf(palette.color(QPalette::LinkVisited), page) >= kReadableContrast);
+  }
+}
+
+TEST_CASE("Windows stay where and as large as the user has made them when only colours change") {
+  Fixture fixture;
+  fixture.ShowChild();
+  fixture.dialog->Show();
+  QWidget& frame = *Fixture::Top("MDIForm1");
+  QWidget& dialog = *Fixture::Top("frmDialog");
+  frame.resize(400, 300);
+  dialog.move(dialog.pos() + QPoint(30, 20));
+  Fixture::Settle();
+  const QPoint place = dialog.pos();
+  const QPalette before = QApplication::palette();
+  QApplication::setPalette(QPalette(QColor(49, 54, 59)));
+  Fixture::Settle();
+  Fixture::Settle();
+  CHECK(frame.size() == QSize(400, 300));
+  CHECK(dialog.pos() == place);
+  QApplication::setPalette(before);
+}
+
+TEST_CASE("The backdrop is as large as the largest screen, also where things are smaller later") {
+  const DesktopFont font(20);
+  const QtDesktop desktop(nullptr);
+  CHECK(desktop.ScreenWidth() == QGuiApplication::primaryScreen()->size().width());
+  CHECK(desktop.ScreenHeight() == QGuiApplication::primaryScreen()->size().height());
 }
 
 TEST_CASE("A window hears once that it has come to another screen, of another density") {

@@ -188,6 +188,7 @@ TEST_CASE("a key that fits no choice is always wrong, an empty key of a third ty
   fixture.deck->test.Press();
   fixture.deck->choices[1].Press();
   CHECK(fixture.deck->card.CardBanner() == u"WRONG");
+  CHECK(fixture.deck->card.Description().find(u"WRONG. Right: one.") != Text::npos);
   CHECK(fixture.deck->choices[0].ForeColor() == FixedColor(0, 0, 255));
   DeckFixture third;
   third.AddTrueFalse(u"?", u"");

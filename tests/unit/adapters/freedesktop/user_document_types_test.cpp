@@ -2,7 +2,9 @@
 
 #include <doctest/doctest.h>
 #include <filesystem>
+#include <unistd.h>
 
+#include "tests/support/limited_process.h"
 #include "tests/support/packaged_type.h"
 #include "tests/support/scratch_folder.h"
 
@@ -30,6 +32,34 @@ TEST_CASE("what is declared below the user's data folder is what the package des
   CHECK(told.userData == scratch / "data");
   CHECK(told.entry == "tessara.desktop");
   CHECK(told.documentTypes == "application/x-tessara-deck;");
+}
+
+TEST_CASE("a file that is the packaged one itself stays") {
+  const ScratchFolder scratch;
+  std::filesystem::create_directories(scratch / "data/icons");
+  scratch.Write("data/icons/tessara.png", "icon");
+  UserDocumentTypes(scratch / "data", kNoTools).Declare(PackagedType(scratch / "data"));
+  CHECK(scratch.Read("data/icons/tessara.png") == "icon");
+}
+
+TEST_CASE("a file of the user's that is not to be written stays, also behind a link") {
+  namespace fs = std::filesystem;
+  const ScratchFolder scratch;
+  const fs::path packages = scratch / "data/mime/packages";
+  fs::create_directories(packages);
+  scratch.Write("store", "the user's");
+  fs::permissions(scratch / "store", fs::perms(0444));
+  fs::permissions(scratch.Path(), fs::perms::all);
+  fs::permissions(packages, fs::perms::all);
+  fs::create_symlink(scratch / "store", packages / "tessara.xml");
+  CHECK(HoldsInProcess([&] {
+    // For root every file can be written.
+    constexpr uid_t kNobody = 65534;
+    if (geteuid() == 0 && setuid(kNobody) != 0) return false;
+    UserDocumentTypes(scratch / "data", kNoTools).Declare(PackagedType("/nowhere"));
+    return fs::is_symlink(packages / "tessara.xml");
+  }));
+  CHECK(scratch.Read("store") == "the user's");
 }
 
 TEST_CASE("a deck is a Tessara File by its ending, and its program takes one") {

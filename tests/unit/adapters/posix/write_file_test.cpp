@@ -3,6 +3,7 @@
 #include <doctest/doctest.h>
 #include <fcntl.h>
 #include <filesystem>
+#include <iterator>
 #include <sys/stat.h>
 
 #include "adapters/posix/system_call.h"
@@ -39,13 +40,31 @@ TEST_CASE("what can't be written is told by its number") {
   CHECK(std::filesystem::exists("/dev/full"));
 }
 
-TEST_CASE("a file that could not be written whole is gone") {
+TEST_CASE("a new file that could not be written whole is gone, and an old one stays") {
   const ScratchFolder folder;
-  const std::string bytes(5000, 'x');
-  CHECK(EndsWithLimit(RLIMIT_FSIZE, 1000, [&] {
-    if (ErrorOf([&] { WriteFile(folder / "a", bytes); }) != 61) _exit(1);
-  }));
-  CHECK_FALSE(std::filesystem::exists(folder / "a"));
+  folder.Write("old", "old");
+  std::filesystem::create_symlink("old", folder / "link");
+  const std::string bytes(100'000, 'x');
+  for (const char* name : {"new", "old", "link"}) {
+    CAPTURE(name);
+    CHECK(EndsWithLimit(RLIMIT_FSIZE, 1000, [&] {
+      if (ErrorOf([&] { WriteFile(folder / name, bytes); }) != 61) _exit(1);
+    }));
+  }
+  CHECK_FALSE(std::filesystem::exists(folder / "new"));
+  CHECK(folder.Read("old") == "old");
+  CHECK(std::distance(std::filesystem::directory_iterator(folder.Path()), {}) == 2);
+}
+
+TEST_CASE("a file that is replaced keeps its permissions, and a link to it stays") {
+  const ScratchFolder folder;
+  folder.Write("old", "old");
+  std::filesystem::permissions(folder / "old", std::filesystem::perms(0640));
+  std::filesystem::create_symlink("old", folder / "link");
+  WriteFile(folder / "link", "new");
+  CHECK(std::filesystem::is_symlink(folder / "link"));
+  CHECK(folder.Read("old") == "new");
+  CHECK(std::filesystem::status(folder / "old").permissions() == std::filesystem::perms(0640));
 }
 
 TEST_CASE("a pipe that nobody reads, or that takes no more, is not waited for") {

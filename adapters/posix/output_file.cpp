@@ -1,4 +1,4 @@
-#include "adapters/command_line/output_file.h"
+#include "adapters/posix/output_file.h"
 
 #include <sys/stat.h>
 #include <system_error>

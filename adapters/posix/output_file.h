@@ -9,12 +9,12 @@
 
 namespace tessara {
 
-/// A file that a command makes: it appears whole or not at all, with the permissions that the
-/// user's mask leaves or those of the file it takes the place of. What fails raises
-/// std::system_error.
+/// A file that appears whole or not at all, with the permissions that the user's mask leaves or
+/// those of the file it takes the place of. What fails raises std::system_error.
 class OutputFile {
  public:
-  /// `number` tells it from others of the same command. A link stands for what it leads to.
+  /// `number` tells it from others that this process makes meanwhile. A link stands for what it
+  /// leads to.
   OutputFile(const std::filesystem::path& path, int number);
   OutputFile(const OutputFile&) = delete;
   OutputFile& operator=(const OutputFile&) = delete;
