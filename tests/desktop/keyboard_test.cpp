@@ -47,6 +47,24 @@ TEST_CASE("An accelerator that no control has opens the menu, whose keys choose"
   CHECK(form.log.Take() == "study");
 }
 
+TEST_CASE("An accelerator that nothing carries types no letter") {
+  Fixture fixture;
+  SampleForm& form = fixture.ShowChild();
+  form.deleteButton.SetEnabled(false);
+  constexpr int kCyrillicEf = 0x424;
+  for (const char* name : {"Text1", "Text2"}) {
+    CAPTURE(name);
+    QWidget& box = Fixture::Of(name);
+    box.setFocus();
+    QTest::sendKeyEvent(QTest::Click, &box, Qt::Key_D, QStringLiteral("d"), Qt::AltModifier);
+    QTest::sendKeyEvent(QTest::Click, &box, Qt::Key(kCyrillicEf), QChar(kCyrillicEf),
+                        Qt::AltModifier);
+  }
+  CHECK(form.lineBox.TextOf().empty());
+  CHECK(form.areaBox.TextOf().empty());
+  CHECK(form.log.Take().find("delete") == std::string::npos);
+}
+
 TEST_CASE("A letter of another script is left to Qt, which knows the Latin letter of its key") {
   Fixture fixture;
   fixture.ShowChild();

@@ -94,7 +94,8 @@ Form* Keyboard::FormFor(QWidget& receiver) const {
 
 bool Keyboard::Take(const QKeyEvent& key, QWidget& receiver, Form& form) {
   const char16_t letter = AcceleratorIn(key);
-  if (letter != 0) return TakeAccelerator(letter, form);
+  // One that nothing carries now is no text either.
+  if (letter != 0) return TakeAccelerator(letter, form) || IsTextBox(receiver);
   if (TakeWindowKey(key, receiver, form)) return true;
   switch (key.key()) {
     case Qt::Key_Return:
