@@ -21,7 +21,8 @@ namespace tessara {
 /// The same in normalization form C (UAX #15).
 [[nodiscard]] Text Composed(TextView text);
 
-/// True where the first letter with a direction is written from right to left (UAX #9, P2 and P3).
+/// True where the first letter with a direction is written from right to left (UAX #9, P2 and P3,
+/// but for isolates).
 [[nodiscard]] bool IsRightToLeft(TextView text);
 
 /// How many bytes at the front are well-formed UTF-8.

@@ -27,7 +27,8 @@ class Desktop {
   virtual void SetMousePointer(MousePointer pointer) = 0;
   /// Hands control to the window system's queue once.
   virtual void Yield() = 0;
-  /// Size of the screen in pixels of the program (twips divided by 15).
+  /// What is as large as any screen, in pixels of the program (twips divided by 15), however small
+  /// these are.
   [[nodiscard]] virtual int ScreenWidth() const = 0;
   [[nodiscard]] virtual int ScreenHeight() const = 0;
 };

@@ -31,21 +31,24 @@ void MakeFolderOf(const fs::path& file) {
   fs::create_directories(file.parent_path(), ignored);
 }
 
-/// The user's own arrangement: a file that is not to be written, or the packaged one itself.
-bool IsToStay(const fs::path& from, const fs::path& to) {
+/// The user's own arrangement.
+bool IsNotToBeWritten(const fs::path& file) {
   std::error_code ignored;
-  return fs::exists(to, ignored) &&
-         (access(to.c_str(), W_OK) != 0 || fs::equivalent(from, to, ignored));
+  return fs::exists(file, ignored) && access(file.c_str(), W_OK) != 0;
 }
 
-/// A file that was begun and can't be written whole is gone.
+/// A file that was begun and can't be written whole is gone. The next version writes it again.
 void CopyFile(const fs::path& from, const fs::path& to) {
-  if (IsToStay(from, to)) return;
+  std::error_code ignored;
+  if (IsNotToBeWritten(to) || fs::equivalent(from, to, ignored)) return;
   MakeFolderOf(to);
   std::error_code error;
   fs::copy_file(from, to, fs::copy_options::overwrite_existing, error);
-  std::error_code ignored;
-  if (error && fs::is_regular_file(to, ignored)) fs::remove(to, ignored);
+  if (!error) {
+    fs::permissions(to, fs::perms::owner_write, fs::perm_options::add, ignored);
+  } else if (fs::is_regular_file(to, ignored)) {
+    fs::remove(to, ignored);
+  }
 }
 
 /// Each file by itself: one that fails does not keep the others away.
@@ -70,7 +73,7 @@ UserDocumentTypes::Declared UserDocumentTypes::WriteFiles(const DocumentType& ty
     entry.SetProgram(ToUtf8(type.program));
     const fs::path file = userData_ / "applications" / packagedEntry.filename();
     MakeFolderOf(file);
-    (void)entry.Save(file);
+    if (!IsNotToBeWritten(file)) (void)entry.Save(file);
   }
   CopyFiles(PathOf(type.icons), userData_ / "icons");
   return {userData_, packagedEntry.filename().string(), entry.DocumentTypes()};

@@ -3,7 +3,6 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
-#include <memory>
 #include <system_error>
 #include <unistd.h>
 
@@ -24,26 +23,26 @@ void RemoveBroken(const std::string& path) {
   if (std::filesystem::is_regular_file(path, none)) std::filesystem::remove(path, none);
 }
 
-/// What takes the place of a file once it is whole; null where there is none, or where nothing can
-/// be made beside it.
-std::unique_ptr<OutputFile> PlaceTaker(const std::string& path) {
+bool IsForbidden(const std::error_code& error) {
+  return error == std::errc::permission_denied || error == std::errc::operation_not_permitted ||
+         error == std::errc::read_only_file_system;
+}
+
+/// Leaves a file that is there as it is until the new one is whole. False where there is none, or
+/// where nothing may be made beside it.
+bool Replaced(const std::string& path, const std::string& bytes) {
   std::error_code unknown;
   const std::filesystem::path target = std::filesystem::canonical(path, unknown);
   const bool replaceable = !unknown && std::filesystem::is_regular_file(target, unknown);
-  if (!replaceable || access(target.c_str(), W_OK) != 0) return nullptr;
+  if (!replaceable || access(target.c_str(), W_OK) != 0) return false;
   try {
-    return std::make_unique<OutputFile>(target, 0);
-  } catch (const std::system_error&) {
-    return nullptr;
-  }
-}
-
-void Replace(OutputFile& file, const std::string& bytes) {
-  try {
+    OutputFile file(target, 0);
     file.Write(bytes);
     file.Complete();
     file.Appear();
+    return true;
   } catch (const std::system_error& error) {
+    if (IsForbidden(error.code())) return false;
     throw RunTimeError(TransferError(error.code().value()));
   }
 }
@@ -65,11 +64,7 @@ void WriteInPlace(const std::string& path, const std::string& bytes) {
 }  // namespace
 
 void WriteFile(const std::string& path, const std::string& bytes) {
-  if (const auto file = PlaceTaker(path)) {
-    Replace(*file, bytes);
-  } else {
-    WriteInPlace(path, bytes);
-  }
+  if (!Replaced(path, bytes)) WriteInPlace(path, bytes);
 }
 
 }  // namespace tessara

@@ -1,6 +1,7 @@
 #include "companion/commands/print.h"
 
 #include <cstdlib>
+#include <optional>
 #include <system_error>
 
 #include "adapters/command_line/helper_program.h"
@@ -33,6 +34,7 @@ class PrintRun {
     WriteInput();
     Reporter::SayProgress("printing " + std::to_string(numbers_.size()) + " cards ...");
     if (RunAndWait(program, Arguments()) != 0) throw Refused({&options_.file}, "it is not printed");
+    signals_.reset();
     Outputs outputs;
     outputs.Add(options_.output).Write(ReadInput(Pdf(), std::string::npos).bytes);
     outputs.Appear();
@@ -46,13 +48,15 @@ class PrintRun {
       throw Refused({&options_.output}, "it exists; --force replaces it");
   }
 
-  [[nodiscard]] std::string Deck() const { return (scratch_.Path() / "deck.tsr").string(); }
-  [[nodiscard]] std::string Pdf() const { return (scratch_.Path() / "cards.pdf").string(); }
+  [[nodiscard]] std::string Deck() const { return (scratch_->Path() / "deck.tsr").string(); }
+  [[nodiscard]] std::string Pdf() const { return (scratch_->Path() / "cards.pdf").string(); }
 
   /// A deck as it stands, whatever is wrong with it; all else as the deck that it makes.
   void WriteInput() {
     const FileFormat format = FormatOf(options_.file, options_.from);
     Source source = ReadInput(options_.file);
+    signals_.emplace();
+    scratch_.emplace();
     Outputs outputs;
     ByteSink& deck = outputs.Add(Deck());
     const std::string bytes = format == FileFormat::kDeck ? source.bytes : std::string();
@@ -91,7 +95,8 @@ class PrintRun {
   const PrintOptions& options_;
   Reporter reporter_;
   Conversion conversion_;
-  PrivateScratch scratch_;
+  std::optional<EndingSignals> signals_;  ///< while the program prints, and not while it reads
+  std::optional<PrivateScratch> scratch_;
   std::vector<std::string> numbers_;
 };
 

@@ -230,6 +230,15 @@ class Show(Command):
         self.assertNotIn("cards", json.loads(self.expect(0, "info", "--json", science).stdout))
 
 
+ENDING = (signal.SIGINT, signal.SIGTERM, signal.SIGHUP)
+
+
+def take_ending_signals():
+    """Also where the tests themselves run with some of them ignored."""
+    for ending in ENDING:
+        signal.signal(ending, signal.SIG_DFL)
+
+
 class Print(Command):
     def text_of(self, name):
         return subprocess.run(["pdftotext", "-layout", name, "-"], cwd=self.folder, capture_output=True, check=True,
@@ -267,7 +276,8 @@ class Print(Command):
     def begin(self, scratch):
         """A job that is at its work, with its temporary files in the folder."""
         job = subprocess.Popen([PROGRAM, "print", SAMPLES / "capitals.tsr", "a.pdf"], cwd=self.folder,
-                               stderr=subprocess.DEVNULL, env={**self.environment, "TMPDIR": str(scratch)})
+                               stderr=subprocess.DEVNULL, env={**self.environment, "TMPDIR": str(scratch)},
+                               preexec_fn=take_ending_signals)
         self.wait_until(lambda: any(scratch.glob("*/deck.tsr")))
         return job
 
@@ -278,7 +288,7 @@ class Print(Command):
         self.assertTrue(holds())
 
     def test_one_that_is_ended_by_a_signal_leaves_nothing(self):
-        for ending in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
+        for ending in ENDING:
             with self.subTest(ending), tempfile.TemporaryDirectory() as scratch:
                 job = self.begin(pathlib.Path(scratch))
                 job.send_signal(ending)

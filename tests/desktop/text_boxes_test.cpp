@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <doctest/doctest.h>
 
+#include "adapters/qt/text/qt_text.h"
 #include "adapters/qt/views/boxes/text_area_view.h"
 #include "adapters/qt/views/too_long_mark.h"
 #include "base/utf8.h"
@@ -300,6 +301,17 @@ TEST_CASE("What a composed text replaces stays in the form until it is committed
   CHECK(form.log.Take().empty());
   Compose(line, {}, "new");
   CHECK(form.lineBox.TextOf() == u"new");
+  // An input method may tell of no end: what is typed and what has the focus do.
+  line.selectAll();
+  Compose(line, "n");
+  QTest::keyClicks(&line, "a");
+  CHECK(form.lineBox.TextOf() == FromQString(line.text()));
+  line.selectAll();
+  Compose(line, "n");
+  line.clearFocus();
+  CHECK(form.lineBox.TextOf() == FromQString(line.text()));
+  line.setFocus();
+  form.lineBox.SetText(u"new");
   // One that is broken off has taken the selection away.
   line.selectAll();
   Compose(line, "n");

@@ -157,7 +157,8 @@ void QtPrintSurface::EndDocument() {
   DropDocument();
 }
 
-/// The file is gone with what it had no room for; what it held before still finds room.
+/// A file that can only be written in place is gone with what it had no room for; what it held
+/// before still finds room.
 void QtPrintSurface::WriteEndedAgain() {
   if (ended_ == 0) return;
   SkipErrors([this] { Send(PaintPages()); });

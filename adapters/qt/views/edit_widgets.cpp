@@ -7,6 +7,7 @@
 #include <QTextBlock>
 #include <QTextBoundaryFinder>
 #include <algorithm>
+#include <utility>
 
 #include "adapters/qt/text/dropped_file.h"
 #include "adapters/qt/text/text_layout.h"
@@ -39,7 +40,18 @@ void CharacterLine::inputMethodEvent(QInputMethodEvent* event) {
   if (!composes_ && onComposed) onComposed();
 }
 
+/// Also for input methods that tell of no end.
+void CharacterLine::EndComposing() {
+  if (std::exchange(composes_, false) && onComposed) onComposed();
+}
+
+void CharacterLine::focusOutEvent(QFocusEvent* event) {
+  QLineEdit::focusOutEvent(event);
+  EndComposing();
+}
+
 void CharacterLine::keyPressEvent(QKeyEvent* event) {
+  if (!event->text().isEmpty()) EndComposing();
   if (IsBackspace(*event) && !isReadOnly() && !hasSelectedText() && cursorPosition() > 0) {
     const auto first = static_cast<int>(CharacterBefore(text(), cursorPosition()));
     if (cursorPosition() - first > 1) setSelection(first, cursorPosition() - first);

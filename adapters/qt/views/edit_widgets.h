@@ -22,10 +22,13 @@ class CharacterLine : public QLineEdit {
 
  protected:
   void dragEnterEvent(QDragEnterEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
   void inputMethodEvent(QInputMethodEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  void EndComposing();
+
   bool composes_ = false;
 };
 

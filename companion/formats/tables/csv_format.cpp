@@ -19,21 +19,23 @@ bool EndsField(char character) {
   return character == ',' || character == ';';
 }
 
-/// Of the first record, outside quotation marks. A mark opens a field where one begins, and opens
-/// it again where it stands behind another mark.
+/// Of the first record, outside quotation marks. A mark opens a field where one begins, and again
+/// where it stands behind the mark that has closed it.
 SeparatorCounts CountSeparators(std::string_view record) {
   SeparatorCounts counts;
   bool quoted = false;
-  char before = ',';
+  bool mayOpen = true;
   for (const char character : record) {
     if (character == '"') {
-      quoted = !quoted && (EndsField(before) || before == '"');
+      const bool closes = quoted;
+      quoted = !quoted && mayOpen;
+      mayOpen = closes;
     } else if (!quoted) {
       if (character == '\r' || character == '\n') break;
       if (character == ',') ++counts.commas;
       if (character == ';') ++counts.semicolons;
+      mayOpen = EndsField(character);
     }
-    before = character;
   }
   return counts;
 }

@@ -56,7 +56,7 @@ void TakeLine(TsvHead& head, std::string_view line, std::string_view& columns) {
   if (key.ends_with(kColumnEnding)) {
     const std::string name = key.substr(0, key.size() - kColumnEnding.size());
     if (const std::size_t number = NumberIn(value); number > 0 && number <= kMostFields)
-      head.otherColumns.try_emplace(number, name, head.nextLine);
+      head.otherColumns.try_emplace(number, TsvHead::OtherColumn{name, head.nextLine});
   }
 }
 

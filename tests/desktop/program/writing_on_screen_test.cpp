@@ -39,6 +39,15 @@ void PickTrueFalse() {
   ProgramOnScreen::Key(Qt::Key_Right);
 }
 
+/// A question with four answers, of which the last is the right one and has the focus.
+void GoToRightLineD(ProgramOnScreen& fixture) {
+  StartQuestionDeck(fixture);
+  Write("Text2", u"Which?");
+  for (const char* line : {"Text1(0)", "Text1(1)", "Text1(2)", "Text1(3)"}) Write(line, u"x");
+  Pick("Option1(3)");
+  GoTo("Text1(3)");
+}
+
 std::string AnswerInBuilder() {
   return ProgramOnScreen::Of("Label2").property("text").toString().toStdString();
 }
@@ -147,11 +156,7 @@ TEST_CASE(
 
 TEST_CASE("Typing goes on harmlessly where line D has closed itself, and drops no card") {
   ProgramOnScreen fixture;
-  StartQuestionDeck(fixture);
-  Write("Text2", u"Which?");
-  for (const char* line : {"Text1(0)", "Text1(1)", "Text1(2)", "Text1(3)"}) Write(line, u"x");
-  Pick("Option1(3)");
-  GoTo("Text1(3)");
+  GoToRightLineD(fixture);
   ProgramOnScreen::Key(Qt::Key_Backspace);
   CHECK(ProgramOnScreen::Focus() == "Text1(2)");
   ProgramOnScreen::Type(u" y");
@@ -161,11 +166,7 @@ TEST_CASE("Typing goes on harmlessly where line D has closed itself, and drops n
 
 TEST_CASE("An answer that is composed anew keeps its line open and its mark") {
   ProgramOnScreen fixture;
-  StartQuestionDeck(fixture);
-  Write("Text2", u"Which?");
-  for (const char* line : {"Text1(0)", "Text1(1)", "Text1(2)", "Text1(3)"}) Write(line, u"x");
-  Pick("Option1(3)");
-  GoTo("Text1(3)");
+  GoToRightLineD(fixture);
   auto& line = ProgramOnScreen::Of<QLineEdit>("Text1(3)", "frmQuestion");
   line.selectAll();
   QInputMethodEvent begun("z", {});

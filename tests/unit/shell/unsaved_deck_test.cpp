@@ -230,12 +230,16 @@ TEST_CASE("a save whose dialog was cancelled leaves the deck kept") {
 }
 
 TEST_CASE("a deck that was given up is kept again where its window stays") {
-  const std::pair<const char*, Steps> ways[] = {
-      {"window", [](UnsavedProgram& fixture) { fixture.Close(); }},
-      {"command",
-       [](UnsavedProgram& fixture) { fixture.Run([&] { fixture.deck->CloseTessara(); }); }}};
-  for (const auto& [name, close] : ways) {
-    CAPTURE(name);
+  struct Way {
+    const char* name;
+    Steps close;
+  };
+  const Way ways[] = {{"window", [](UnsavedProgram& fixture) { fixture.Close(); }},
+                      {"command", [](UnsavedProgram& fixture) {
+                         fixture.Run([&] { fixture.deck->CloseTessara(); });
+                       }}};
+  for (const Way& way : ways) {
+    CAPTURE(way.name);
     UnsavedProgram fixture;
     fixture.Build(u"to be");
     fixture.fakes.messages.answers = {kNo, kNo};
@@ -243,7 +247,7 @@ TEST_CASE("a deck that was given up is kept again where its window stays") {
       const bool answered = box.title == u"Close Tessara";
       CHECK(fixture.copies.unsaved.has_value() == !answered);
     };
-    close(fixture);
+    way.close(fixture);
     CHECK(fixture.Kept() == FrontsOf({u"to be"}));
   }
 }

@@ -68,6 +68,10 @@ TEST_CASE("a table of commas or semicolons becomes cards, and what is not kept i
        "5\" nail;6\" nail\n",
        {"E|5\" nail|6\" nail"},
        {}},
+      {"nor do two of them",
+       "the \"\" operator;leer\na,b,c;d\n",
+       {"E|the \"\" operator|leer", "E|a,b,c|d"},
+       {}},
       {"one bad byte behind the signature of UTF-8",
        "\xEF\xBB\xBF"
        "a,\xC3\xA9\nb,\xE9\n",
