@@ -6,8 +6,8 @@
 #include <cstddef>
 #include <cstdlib>
 #include <system_error>
-#include <unistd.h>
 
+#include "adapters/posix/job_folder.h"
 #include "adapters/posix/process/start_process.h"
 
 namespace tessara {
@@ -57,9 +57,7 @@ int RunAndWait(const fs::path& program, const std::vector<std::string>& argument
 }
 
 PrivateScratch::PrivateScratch() {
-  // What a killed program leaves goes with the next print job, which knows it by its name.
-  const std::string prefix = "tessara-print-" + std::to_string(getpid());
-  std::string name = (fs::temp_directory_path() / (prefix + "-XXXXXX")).string();
+  std::string name = (fs::temp_directory_path() / JobFolderPattern()).string();
   if (mkdtemp(name.data()) == nullptr) throw std::system_error(errno, std::generic_category());
   path_ = name;
 }

@@ -48,6 +48,14 @@ void TakeDeckStrings(ProgramState& state) {
   state.deck.description = state.deck.Cell(kInfoRow, kInfoDescription);
 }
 
+/// True where a card stands behind the row, at which a save ends.
+bool IsGap(const ProgramState& state, int row) {
+  while (++row < kRows) {
+    if (state.deck.cardPresent.At(row) != 0) return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 std::optional<DeckRecord> ReadRecord(FileNumber& file, const CodePage& codePage) {
@@ -76,18 +84,6 @@ DeckRecordView RecordOfRow(const ProgramState& state, int row) {
   record.number = present ? NumberInCell(state.deck.Cell(row, kRowNumber)) : std::int16_t{0};
   return record;
 }
-
-namespace {
-
-/// True where a card stands behind the row, at which a save ends.
-bool IsGap(const ProgramState& state, int row) {
-  while (++row < kRows) {
-    if (state.deck.cardPresent.At(row) != 0) return true;
-  }
-  return false;
-}
-
-}  // namespace
 
 bool WriteRecords(const ProgramState& state, FileNumber& file, const CodePage& codePage) {
   bool whole = true;

@@ -13,6 +13,11 @@ void TableReader::TakeNames(const std::vector<Text>& names, std::size_t line) {
   if (columns_) TellOtherColumns(names, line);
 }
 
+void TableReader::LeaveOut(std::size_t column, const Text& name, std::size_t line) {
+  leftOut_.insert(column);
+  TellColumn(name, line);
+}
+
 CardSet TableReader::Read(DelimitedReader& records) {
   if (decoder_.MixesCodePages())
     losses_.Tell({&source_.name}, "what is no UTF-8 is read in the code page");
@@ -77,11 +82,14 @@ Text TableReader::WithoutHtml(const Text& field, std::size_t line) {
   return text;
 }
 
+void TableReader::TellColumn(const Text& name, std::size_t line) {
+  losses_.Tell({&source_.name, line}, "the column \"" + VisibleText(name) + "\" is not kept");
+}
+
 void TableReader::TellOtherColumns(const std::vector<Text>& names, std::size_t line) {
   for (std::size_t at = 0; at < names.size(); ++at) {
     if (columns_->columns[at] == CardColumn::kOther && !leftOut_.contains(at + 1))
-      losses_.Tell({&source_.name, line},
-                   "the column \"" + VisibleText(names[at]) + "\" is not kept");
+      TellColumn(names[at], line);
   }
 }
 

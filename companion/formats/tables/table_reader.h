@@ -21,8 +21,8 @@ class TableReader {
 
   /// The names of the columns stand elsewhere, on that line. What names no columns is passed over.
   void TakeNames(const std::vector<Text>& names, std::size_t line);
-  /// The column of that number, from 1, holds no text of a card.
-  void LeaveOut(std::size_t column) { leftOut_.insert(column); }
+  /// The column of that number, from 1, holds no text of a card, as that line says: it is told.
+  void LeaveOut(std::size_t column, const Text& name, std::size_t line);
   /// The fields are HTML: what goes of it is told once.
   void TakeHtml() { isHtml_ = true; }
   /// Reads all records. Tells what belongs to no card.
@@ -34,6 +34,7 @@ class TableReader {
   void TakeCard(const DelimitedRecord& record);
   [[nodiscard]] std::vector<Text> TextsOf(const DelimitedRecord& record);
   [[nodiscard]] Text WithoutHtml(const Text& field, std::size_t line);
+  void TellColumn(const Text& name, std::size_t line);
   void TellOtherColumns(const std::vector<Text>& names, std::size_t line);
 
   const Source& source_;

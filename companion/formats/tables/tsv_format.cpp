@@ -3,7 +3,6 @@
 #include <string>
 
 #include "companion/cards/text_form.h"
-#include "companion/cards/visible_text.h"
 #include "companion/formats/tables/delimited_writer.h"
 #include "companion/formats/tables/table_reader.h"
 #include "companion/formats/tables/tsv_head.h"
@@ -17,15 +16,6 @@ std::vector<Text> Decoded(const std::vector<std::string>& names, const TextDecod
   texts.reserve(names.size());
   for (const std::string& name : names) texts.push_back(decoder.Decode(name));
   return texts;
-}
-
-void LeaveOut(const TsvHead& head, TableReader& table, const TextDecoder& decoder,
-              const Source& source, Losses& losses) {
-  for (const auto& [number, column] : head.otherColumns) {
-    const std::string name = VisibleText(decoder.Decode(column.name));
-    losses.Tell({&source.name, column.line}, "the column \"" + name + "\" is not kept");
-    table.LeaveOut(number);
-  }
 }
 
 /// Where the first card's texts are the names of the columns a reader would take them for these.
@@ -49,7 +39,8 @@ CardSet ReadTsv(const Source& source, const Conversion& conversion) {
   const TextDecoder decoder(source.bytes, conversion.codePage);
   const TsvHead head = ReadTsvHead(decoder.Contents());
   TableReader table(source, decoder, conversion.losses);
-  LeaveOut(head, table, decoder, source, conversion.losses);
+  for (const auto& [number, column] : head.otherColumns)
+    table.LeaveOut(number, decoder.Decode(column.name), column.line);
   if (head.isHtml) table.TakeHtml();
   if (!head.columns.empty()) table.TakeNames(Decoded(head.columns, decoder), head.columnsLine);
   DelimitedReader records(decoder.Contents().substr(head.length), {head.separator, true},

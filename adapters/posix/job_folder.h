@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+
+namespace tessara {
+
+// The temporary folder of a print job tells its process by its name: what a killed one has left
+// behind goes with the next job that prints cards.
+
+/// The name of a new one of this process, for mkdtemp.
+[[nodiscard]] std::string JobFolderPattern();
+
+/// True for the name of one whose process is gone.
+[[nodiscard]] bool IsLeftBehind(const std::string& name);
+
+}  // namespace tessara
