@@ -42,7 +42,13 @@ Make LabelLike(const QLabel& label) {
 }
 
 Make AreaLike(const QPlainTextEdit& area) {
-  return [text = area.toPlainText()](QWidget* parent) { return new QPlainTextEdit(text, parent); };
+  return [text = area.toPlainText(), across = area.horizontalScrollBarPolicy(),
+          down = area.verticalScrollBarPolicy()](QWidget* parent) {
+    auto* plain = new QPlainTextEdit(text, parent);
+    plain->setHorizontalScrollBarPolicy(across);
+    plain->setVerticalScrollBarPolicy(down);
+    return plain;
+  };
 }
 
 Make ComboLike(const QComboBox& combo) {

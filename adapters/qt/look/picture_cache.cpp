@@ -16,6 +16,21 @@ QRect PlaceOf(const PaintedPicture& painted, const PixelScale& scale) {
                                 painted.picture.height * kTwipsPerPixel});
 }
 
+struct PlacedPixmap {
+  QRect place;
+  QPixmap pixmap;
+};
+
+std::vector<PlacedPixmap> PixmapsIn(const QRect& part, const std::vector<PaintedPicture>& pictures,
+                                    const PixelScale& scale, PictureCache& cache) {
+  std::vector<PlacedPixmap> placed;
+  for (const PaintedPicture& painted : pictures) {
+    const QRect place = PlaceOf(painted, scale);
+    if (part.intersects(place)) placed.push_back({place, cache.PixmapOf(painted.picture)});
+  }
+  return placed;
+}
+
 /// The part of the name before the ending, its point included.
 QString StemOf(const QString& file) {
   return file.left(file.size() - QFileInfo(file).suffix().size());
@@ -55,12 +70,13 @@ QPixmap PictureCache::ReadOne(const QString& file) const {
 
 void PaintPictures(QPainter& painter, const std::vector<PaintedPicture>& pictures,
                    const QRegion& region, const PixelScale& scale, PictureCache& cache) {
+  const std::vector<PlacedPixmap> placed = PixmapsIn(region.boundingRect(), pictures, scale, cache);
   painter.setRenderHint(QPainter::SmoothPixmapTransform);
-  for (const PaintedPicture& painted : pictures) {
-    const QRect place = PlaceOf(painted, scale);
-    if (!region.intersects(place)) continue;
-    const QPixmap& pixmap = cache.PixmapOf(painted.picture);
-    if (!pixmap.isNull()) painter.drawPixmap(place, pixmap, pixmap.rect());
+  for (const QRect& part : region) {
+    painter.setClipRect(part);
+    for (const auto& [place, pixmap] : placed) {
+      if (part.intersects(place)) painter.drawPixmap(place, pixmap, pixmap.rect());
+    }
   }
 }
 

@@ -34,7 +34,8 @@ class PictureCache {
 };
 
 /// Paints the pictures that stand in the region. A backdrop is many small pictures; painting the
-/// few that were uncovered needs no bitmap of the screen's size.
+/// few that were uncovered needs no bitmap of the screen's size. They are painted by rectangles of
+/// the region: what is clipped by more than one at a time Qt paints line by line, on threads.
 void PaintPictures(QPainter& painter, const std::vector<PaintedPicture>& pictures,
                    const QRegion& region, const PixelScale& scale, PictureCache& cache);
 

@@ -1,14 +1,13 @@
 #include "adapters/qt/look/visible_outlines.h"
 
 #include <QApplication>
-#include <QCache>
 #include <QGroupBox>
 #include <QPainter>
 #include <QPointer>
 #include <QProxyStyle>
 #include <QStyleOption>
 #include <algorithm>
-#include <utility>
+#include <vector>
 
 #include "adapters/qt/look/contrast.h"
 #include "adapters/qt/look/icon_at_first_use.h"
@@ -118,19 +117,32 @@ void DrawGroupFrame(const QRectF& frame, const QPalette& palette, QPainter& pain
   painter.restore();
 }
 
-/// The same palette for the same one each time: the style keeps what it has drawn, by palette.
+/// One palette for equal ones: the style keeps what it has drawn, by palette, and each widget has a
+/// copy of its own.
 class OutliningPalettes {
  public:
   const QPalette& Of(const QPalette& palette, int darkening) {
-    const Key key{palette.cacheKey(), palette.currentColorGroup() * kMostDarkening + darkening};
-    if (!made_.contains(key)) made_.insert(key, new QPalette(OutliningPalette(palette, darkening)));
-    return *made_.object(key);
+    const auto same = [&](const Made& made) {
+      return made.darkening == darkening && made.group == palette.currentColorGroup() &&
+             made.of == palette;
+    };
+    const auto found = std::find_if(made_.begin(), made_.end(), same);
+    if (found != made_.end()) return found->outlining;
+    if (made_.size() == kMostKept) made_.clear();
+    made_.push_back(
+        {darkening, palette.currentColorGroup(), palette, OutliningPalette(palette, darkening)});
+    return made_.back().outlining;
   }
 
  private:
-  using Key = std::pair<qint64, int>;
-  static constexpr int kMostDarkening = 1000;
-  QCache<Key, QPalette> made_;
+  struct Made {
+    int darkening;
+    QPalette::ColorGroup group;
+    QPalette of;
+    QPalette outlining;
+  };
+  static constexpr std::size_t kMostKept = 64;
+  std::vector<Made> made_;
 };
 
 /// Draws elements with a copy of the option, if it is one of the kind.
@@ -206,6 +218,14 @@ class OutlineStyle : public QProxyStyle {
     DrawDarkTitleInWhite(readable);
     readable.palette = TitlePalette(readable.palette);
     QProxyStyle::drawComplexControl(control, &readable, painter, widget);
+  }
+
+  /// Children keep their titles, whatever their size: else Qt tells the display the frame's title
+  /// anew each time that one comes or goes.
+  [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                              QStyleHintReturn* returned) const override {
+    if (hint == SH_Workspace_FillSpaceOnMaximize) return 1;
+    return QProxyStyle::styleHint(hint, option, widget, returned);
   }
 
   [[nodiscard]] QIcon standardIcon(StandardPixmap icon, const QStyleOption* option,
