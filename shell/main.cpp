@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <system_error>
+#include <thread>
 
 #include "adapters/freedesktop/notifications.h"
 #include "adapters/freedesktop/user_document_types.h"
@@ -60,9 +61,10 @@ void NameApplication(const fs::path& folder) {
 }
 
 int RunTessara(int argc, char** argv) {
-  FontsAhead fonts;
+  std::jthread fontConfiguration(ReadFontConfiguration);
   GuardedApplication application(argc, argv);
-  fonts.Wait();
+  fontConfiguration.join();
+  const std::jthread fontList(ListFonts);
   ShowOutlines();
   const fs::path folder = ExecutableFolder();
   NameApplication(folder);

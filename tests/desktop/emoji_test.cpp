@@ -20,8 +20,7 @@ QString FontOfFirst(const QString& text) {
 }  // namespace
 
 TEST_CASE("Emoji on screen are in colour, letters in their own font") {
-  FontsAhead fonts;
-  fonts.Wait();
+  ReadFontConfiguration();
   CHECK(FontOfFirst(QStringLiteral("\U0001F400")) == "Noto Color Emoji");
   CHECK(FontOfFirst(QStringLiteral("word 7")) == "Inter");
 }

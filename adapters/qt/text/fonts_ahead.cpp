@@ -1,5 +1,6 @@
 #include "adapters/qt/text/fonts_ahead.h"
 
+#include <QFontDatabase>
 #include <fontconfig/fontconfig.h>
 
 namespace tessara {
@@ -14,18 +15,16 @@ constexpr const char* kColourEmojiFirst = R"(
   </match>
 </fontconfig>)";
 
-void ReadConfiguration() {
+}  // namespace
+
+void ReadFontConfiguration() {
   FcInit();
   FcConfigParseAndLoadFromMemory(FcConfigGetCurrent(),
                                  reinterpret_cast<const FcChar8*>(kColourEmojiFirst), FcFalse);
 }
 
-}  // namespace
-
-FontsAhead::FontsAhead() : reader_(ReadConfiguration) {}
-
-void FontsAhead::Wait() {
-  reader_.join();
+void ListFonts() {
+  QFontDatabase::families();
 }
 
 }  // namespace tessara

@@ -1,7 +1,6 @@
 #include "adapters/qt/text/pixel_scale.h"
 
 #include <QApplication>
-#include <QFontInfo>
 #include <QFontMetrics>
 #include <QScreen>
 #include <algorithm>
@@ -21,6 +20,12 @@ constexpr double kLargestUnscaledFont = 10 * kPixelsPerInch / kPointsPerInch;
 /// Height of a control's font of that size: a pixel more than 8.25 points are, for faces are wider
 /// now.
 constexpr double kControlFontPixels = 12;
+
+/// As the font tells it: finding the font itself takes longer, and a start need not wait for it.
+double PixelSizeOf(const QFont& font) {
+  if (font.pixelSize() > 0) return font.pixelSize();
+  return font.pointSizeF() * QApplication::primaryScreen()->logicalDotsPerInchY() / kPointsPerInch;
+}
 
 /// The forms' sans-serif face stands for the desktop's own; another one keeps its name.
 void SetFamily(QFont& font, TextView family) {
@@ -50,11 +55,12 @@ double MostFactor(const QFontMetrics& font, QSize screen) {
 }  // namespace
 
 PixelScale::PixelScale(const QFont& desktopFont)
-    : factor_(std::max(1.0, QFontInfo(desktopFont).pixelSize() / kLargestUnscaledFont)) {}
+    : factor_(std::max(1.0, PixelSizeOf(desktopFont) / kLargestUnscaledFont)) {}
 
-PixelScale::PixelScale(const QFont& desktopFont, QSize screen)
-    : factor_(std::max(1.0, std::min(PixelScale(desktopFont).Factor(),
-                                     MostFactor(QFontMetrics(desktopFont), screen)))) {}
+PixelScale::PixelScale(const QFont& desktopFont, QSize screen) : PixelScale(desktopFont) {
+  if (factor_ > 1)
+    factor_ = std::max(1.0, std::min(factor_, MostFactor(QFontMetrics(desktopFont), screen)));
+}
 
 PixelScale PixelScale::OfDesktop() {
   return {QApplication::font(), QApplication::primaryScreen()->availableSize()};
