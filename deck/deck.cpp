@@ -37,6 +37,7 @@ void ClearAllCards(Deck& deck) {
     EmptyCells(deck.cardGrid, row, kStray);
     deck.cardPresent.Set(row, 0);
   }
+  deck.changesAtClear = deck.cardGrid.Changes().Count();
 }
 
 void ClearDeckInfo(Deck& deck) {

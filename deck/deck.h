@@ -16,9 +16,10 @@ using enum DeckKind;
 struct Deck {
   CardTable cardGrid;
   PresentFlags cardPresent;
-  std::int16_t currentCard = 0;  ///< row on show, from 1; 0 where no deck is in the window
-  std::int16_t cardCount = 0;    ///< number of cards; ClearAllCards leaves it
-  Text filePath;                 ///< empty for a deck without a file
+  std::int16_t currentCard = 0;      ///< row on show, from 1; 0 where no deck is in the window
+  std::int16_t cardCount = 0;        ///< number of cards; ClearAllCards leaves it
+  std::uint64_t changesAtClear = 0;  ///< count of the grid's changes when it was cleared last
+  Text filePath;                     ///< empty for a deck without a file
 
   // Copies of the information row's texts.
   Text title;

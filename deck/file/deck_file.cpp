@@ -4,9 +4,11 @@
 #include <optional>
 #include <span>
 #include <utility>
+#include <vector>
 
 #include "base/conversion.h"
 #include "base/skip_errors.h"
+#include "deck/card_rows.h"
 #include "deck/card_type.h"
 #include "deck/file/stored_text.h"
 
@@ -48,12 +50,10 @@ void TakeDeckStrings(ProgramState& state) {
   state.deck.description = state.deck.Cell(kInfoRow, kInfoDescription);
 }
 
-/// True where a card stands behind the row, at which a save ends.
-bool IsGap(const ProgramState& state, int row) {
-  while (++row < kRows) {
-    if (state.deck.cardPresent.At(row) != 0) return true;
-  }
-  return false;
+/// True where a card stands in the absent row, at which a save ends, or behind it.
+bool LeavesOutCards(const Deck& deck, int row) {
+  const std::vector<int> rows = CardRows(deck);
+  return !rows.empty() && rows.back() >= row;
 }
 
 }  // namespace
@@ -92,7 +92,7 @@ bool WriteRecords(const ProgramState& state, FileNumber& file, const CodePage& c
       file.Put(static_cast<std::uint64_t>(row) + 1,
                EncodeRecord(RecordOfRow(state, row), codePage));
     });
-    if (state.deck.cardPresent.At(row) == 0) return whole && !IsGap(state, row);
+    if (state.deck.cardPresent.At(row) == 0) return whole && !LeavesOutCards(state.deck, row);
   }
   return whole;
 }

@@ -20,7 +20,8 @@ namespace tessara {
 [[nodiscard]] DeckRecordView RecordOfRow(const ProgramState& state, int row);
 
 /// Writes a record for each row down to the first absent one, whose record is the terminator.
-/// A record that can't be written is skipped; no error is raised. True where none was skipped.
+/// A record that can't be written is skipped; no error is raised. True where none was
+/// skipped and no card is left out.
 bool WriteRecords(const ProgramState& state, FileNumber& file, const CodePage& codePage);
 
 /// Reads the file into the table, the card count and the deck strings, and sets the current card

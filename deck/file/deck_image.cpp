@@ -1,5 +1,7 @@
 #include "deck/file/deck_image.h"
 
+#include <utility>
+
 #include "deck/card_type.h"
 #include "deck/file/deck_file.h"
 
@@ -7,12 +9,22 @@ namespace tessara {
 
 namespace {
 
-/// A reader goes by the number, and takes the information again where a card is missing.
-DeckRecordView RecordAt(const ProgramState& state, int row) {
-  const bool isCard = row != kInfoRow && state.deck.cardPresent.At(row) != 0;
-  DeckRecordView record = TextsOfRow(state, isCard ? row : kInfoRow);
-  record.number = static_cast<std::int16_t>(isCard ? row : kInfoRow);
-  if (!isCard) record.cardType = LetterOf(CardType::kInformation);
+DeckRecordView InformationOf(const ProgramState& state) {
+  DeckRecordView record = TextsOfRow(state, kInfoRow);
+  record.cardType = LetterOf(CardType::kInformation);
+  return record;
+}
+
+/// What was never made present may lack its letter.
+TextView LetterOfCard(const Deck& deck, int row) {
+  const Text& letter = deck.Cell(row, kCardType);
+  return letter.empty() ? LetterOf(CardType::kText) : TextView(letter);
+}
+
+DeckRecordView CardOf(const ProgramState& state, int row, std::size_t number) {
+  DeckRecordView record = TextsOfRow(state, row);
+  record.cardType = LetterOfCard(state.deck, row);
+  record.number = static_cast<std::int16_t>(number);
   return record;
 }
 
@@ -22,29 +34,26 @@ std::uint64_t DeckImage::Changes() const {
   return state_.deck.cardGrid.Changes().Count() + state_.deck.cardPresent.Changes().Count();
 }
 
-int DeckImage::LastCard() const {
-  int row = kRows - 1;
-  while (row > kInfoRow && state_.deck.cardPresent.At(row) == 0) --row;
-  return row;
-}
-
-bool DeckImage::IsEncoded(int row) const {
-  return state_.deck.cardPresent.At(row) != 0 &&
+bool DeckImage::IsEncoded(std::size_t place, int row) const {
+  return row != kInfoRow && place < rows_.size() && rows_[place] == row &&
          state_.deck.cardGrid.Changes().Of(row) <= cellsEncoded_ &&
          state_.deck.cardPresent.Changes().Of(row) <= flagsEncoded_;
 }
 
-void DeckImage::EncodeRow(int row) {
-  char* const place = bytes_.data() + kRecordSize * static_cast<std::size_t>(row);
-  EncodeRecord(RecordAt(state_, row), codePage_, std::span<char, kRecordSize>(place, kRecordSize));
+void DeckImage::Encode(std::size_t place, int row) {
+  const std::span<char, kRecordSize> bytes(bytes_.data() + kRecordSize * place, kRecordSize);
+  const bool isCard = row != kInfoRow;
+  EncodeRecord(isCard ? CardOf(state_, row, place) : InformationOf(state_), codePage_, bytes);
 }
 
 std::string_view DeckImage::Bytes() {
-  const int last = LastCard();
-  bytes_.resize(kRecordSize * (static_cast<std::size_t>(last) + 1));
-  for (int row = kInfoRow; row <= last; ++row) {
-    if (!IsEncoded(row)) EncodeRow(row);
+  std::vector<int> rows = CardRows(state_.deck);
+  rows.insert(rows.begin(), kInfoRow);
+  bytes_.resize(kRecordSize * rows.size());
+  for (std::size_t place = 0; place < rows.size(); ++place) {
+    if (!IsEncoded(place, rows[place])) Encode(place, rows[place]);
   }
+  rows_ = std::move(rows);
   cellsEncoded_ = state_.deck.cardGrid.Changes().Count();
   flagsEncoded_ = state_.deck.cardPresent.Changes().Count();
   DeckRecordView end;

@@ -1,6 +1,7 @@
 #include "tests/random_user/card_record.h"
 
 #include "base/code_page.h"
+#include "deck/card_rows.h"
 #include "deck/file/deck_file.h"
 
 namespace tessara::test {
@@ -22,9 +23,11 @@ bool IsCard(const std::string& record) {
 
 std::set<std::string> CardsOf(const ProgramState& state) {
   std::set<std::string> cards;
-  for (int row = 1; row <= kMostCards; ++row) {
+  for (const int row : CardRows(state.deck)) {
     if (state.deck.Cell(row, kCardText).empty()) continue;
-    const RecordBytes bytes = EncodeRecord(RecordOfRow(state, row), CodePage::Western());
+    DeckRecordView record = TextsOfRow(state, row);
+    record.cardType = state.deck.Cell(row, kCardType);
+    const RecordBytes bytes = EncodeRecord(record, CodePage::Western());
     cards.insert(WithoutNumber({bytes.begin(), bytes.end()}));
   }
   return cards;

@@ -358,6 +358,47 @@ TEST_CASE("a save that ends at a gap before other cards keeps the whole deck") {
   CHECK(fixture.fakes.desktop.notices.size() == 1);
 }
 
+TEST_CASE("a text that a save leaves out, for nothing has made its row present, is kept") {
+  UnsavedProgram fixture;
+  fixture.Open(kPath, 3);
+  fixture.Run([&] {
+    fixture.state.deck.cardGrid.Set(4, kCardText, u"changed in a row without a card");
+    fixture.state.deck.changed = true;
+  });
+  CHECK(fixture.Kept().find("without a card") != std::string::npos);
+  fixture.Run([&] { fixture.deck->SaveDeck(); });
+  CHECK(fixture.File(kPath).size() == kRecordSize * 5);
+  REQUIRE(fixture.copies.notSaved.size() == 1);
+  CHECK(fixture.copies.notSaved[0].second.find("without a card") != std::string::npos);
+  CHECK(fixture.fakes.desktop.notices.size() == 1);
+}
+
+TEST_CASE("in a kept deck, opened, each card is reached, also those that a save left out") {
+  UnsavedProgram fixture;
+  fixture.Open(kPath, 3);
+  fixture.Run([&] {
+    PutCard(fixture.state, 5, {.text = u"behind"});
+    fixture.state.deck.changed = true;
+  });
+  UnsavedProgram next;
+  next.fakes.files.Put(u"/copies/verbs.tsr", fixture.Kept());
+  next.Choose(u"/copies/verbs.tsr");
+  next.Run([&] { next.deck->OpenDeck(); });
+  CHECK(next.state.deck.cardCount == 4);
+  CHECK(next.state.deck.Cell(4, kCardText) == u"behind");
+}
+
+TEST_CASE("what an import has left behind row 200 is no loss of the decks that follow") {
+  UnsavedProgram fixture;
+  fixture.Run([&] { PutCard(fixture.state, kMostCards + 1, {.text = u"left"}); });
+  fixture.Open(kPath, 3);
+  fixture.Build(u"front 4");
+  CHECK(fixture.Kept().find("left") == std::string::npos);
+  fixture.Run([&] { fixture.deck->SaveDeck(); });
+  CHECK(fixture.copies.notSaved.empty());
+  CHECK(fixture.fakes.desktop.notices.empty());
+}
+
 TEST_CASE("a failed close of the file is a failed step of the save") {
   FakeMachine fakes;
   FaultyFiles faulty(fakes.files);
