@@ -8,7 +8,8 @@ namespace {
 
 bool HasText(const Deck& deck, int row) {
   constexpr Column kTexts[] = {kCardText, kChoiceA, kChoiceB, kChoiceC, kChoiceD, kBackText};
-  return std::ranges::any_of(kTexts, [&](Column column) { return !deck.Cell(row, column).empty(); });
+  return std::ranges::any_of(kTexts,
+                             [&](Column column) { return !deck.Cell(row, column).empty(); });
 }
 
 bool IsCard(const Deck& deck, int row) {

@@ -30,6 +30,7 @@ void DeckWindow::EnterMode(CardMode mode) {
   ShowCardNumber();
   ShowTitle(mode);
   card.SetCardBanner(u"");
+  card.SetSpoken(u"");
   fileMenu.SetEnabled(mode == kStudyMode);
   utilityMenu.SetEnabled(mode == kStudyMode);
 }

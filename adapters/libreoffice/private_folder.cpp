@@ -30,7 +30,7 @@ void RemoveAll(const fs::path& folder) {
 void SweepLeftBehind(const fs::path& parent) {
   std::error_code unread;
   for (const fs::directory_entry& entry : EntriesOf(parent, unread)) {
-    if (IsLeftBehind(entry.path().filename().string())) RemoveAll(entry.path());
+    if (IsLeftBehind(entry.path())) RemoveAll(entry.path());
   }
 }
 

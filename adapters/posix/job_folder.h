@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <string>
 
 namespace tessara {
@@ -10,7 +11,7 @@ namespace tessara {
 /// The name of a new one of this process, for mkdtemp.
 [[nodiscard]] std::string JobFolderPattern();
 
-/// True for the name of one whose process is gone.
-[[nodiscard]] bool IsLeftBehind(const std::string& name);
+/// True for one of this user's whose process is gone.
+[[nodiscard]] bool IsLeftBehind(const std::filesystem::path& folder);
 
 }  // namespace tessara

@@ -69,11 +69,22 @@ bool IsUser(int connected) {
          peer.uid == geteuid();
 }
 
+/// Another start that has just taken the name gets the time to listen.
+bool Connects(int caller, const Address& address) {
+  constexpr int kTries = 20;
+  constexpr useconds_t kBetweenTries = 1000;
+  for (int tries = 1;; ++tries) {
+    if (connect(caller, address.Get(), address.length) == 0) return true;
+    if (errno != ECONNREFUSED || tries == kTries) return false;
+    usleep(kBetweenTries);
+  }
+}
+
 /// Anybody can take a name: only another program of the user's counts.
 bool IsHeldByUser(const Address& address) {
   const int caller = OpenSocket();
   if (caller < 0) return false;
-  const bool connected = connect(caller, address.Get(), address.length) == 0;
+  const bool connected = Connects(caller, address);
   const bool held = connected ? IsUser(caller) : errno == EAGAIN;
   close(caller);
   return held;

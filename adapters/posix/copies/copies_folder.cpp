@@ -77,7 +77,8 @@ std::vector<std::string> CopiesFolder::Names() const {
 std::string CopiesFolder::NameOfNext(const std::string& fileName, std::uintmax_t size,
                                      Moment moment) const {
   const std::vector<Copy> copies = CopiesIn(*this);
-  const std::uint64_t number = copies.empty() ? 1 : copies.back().named.number + 1;
+  const std::uint64_t last = copies.empty() ? 0 : copies.back().named.number;
+  const std::uint64_t number = std::min(last + 1, kHighestCopyNumber);
   std::string name = CopyName(fileName, moment, number);
   // As it will be read: a long name has been shortened.
   MakeRoom(copies, ReadCopyName(name)->fileName, size);

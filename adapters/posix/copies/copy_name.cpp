@@ -12,7 +12,7 @@ namespace {
 /// The moment in a name, with 0 for any digit: day, time, and the hyphen before the number.
 constexpr std::string_view kMomentPattern = " 0000-00-00 00-00-00-";
 constexpr std::size_t kLeastDigits = 4;
-constexpr std::size_t kMostDigits = 12;
+constexpr std::size_t kMostDigits = 12;  // of kHighestCopyNumber
 constexpr std::size_t kDigitsOfThousandths = 3;
 constexpr std::size_t kLongestName = 255;
 /// What is longer behind the last point is no extension, but part of a name with points.

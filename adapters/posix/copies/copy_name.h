@@ -16,6 +16,9 @@ struct NamedCopy {
   std::uint64_t number = 0;  ///< the higher, the later it was made; 0 in names without one
 };
 
+/// Nobody makes as many; but files can be given any name.
+inline constexpr std::uint64_t kHighestCopyNumber = 999'999'999'999;
+
 /// Name of the copy of a file: its number behind the moment in local time at which it was made,
 /// "verbs 2026-11-21 08-13-27-0042.tsr" of "verbs.tsr". A name that would be too long for a file
 /// loses the end of its stem.

@@ -5,7 +5,9 @@ namespace tessara {
 namespace fs = std::filesystem;
 
 void UnsavedCopy::Replace(const std::string& fileName, std::string_view deck) {
-  if (file_) return file_->Replace(deck);
+  if (file_ && fs::is_directory(folder_.Path())) return file_->Replace(deck);
+  // It has gone with its folder, if there was one.
+  file_.reset();
   folder_.Prepare();
   file_.emplace(folder_.Path(), FreeName(fileName), deck);
 }

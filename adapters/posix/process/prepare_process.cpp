@@ -3,6 +3,7 @@
 #include <clocale>
 #include <csignal>
 #include <cstdlib>
+#include <fcntl.h>
 #include <sstream>
 #include <string>
 #include <unistd.h>
@@ -34,6 +35,14 @@ std::string WholePathsOf(const std::string& path) {
 
 }  // namespace
 
+void OccupyStandardFiles() {
+  for (int file = STDIN_FILENO; file <= STDERR_FILENO; ++file) {
+    if (fcntl(file, F_GETFD) != -1) continue;
+    // The lowest free number. Of the wrong kind, so that reading and writing go on failing.
+    open("/dev/null", file == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+  }
+}
+
 void SurviveFileSizeLimit() {
   // Caught, not ignored: a program that is started inherits what is ignored.
   std::signal(SIGXFSZ, DoNothing);
@@ -46,16 +55,19 @@ void KeepWholePathsOnly() {
 }
 
 void ForgetRelativeFolders() {
-  for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME",
-                               "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"}) {
+  for (const char* variable :
+       {"XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_STATE_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR",
+        "TMPDIR", "TMP", "TEMP", "TEMPDIR"}) {
     const char* folder = std::getenv(variable);
     if (folder != nullptr && folder[0] != '/') unsetenv(variable);
   }
 }
 
 void PrepareProcess() {
+  OccupyStandardFiles();
   std::setlocale(LC_ALL, "");
   std::signal(SIGPIPE, SIG_IGN);
+  std::signal(SIGCHLD, SIG_DFL);
   SurviveFileSizeLimit();
   KeepWholePathsOnly();
   ForgetRelativeFolders();

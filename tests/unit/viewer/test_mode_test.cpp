@@ -181,6 +181,19 @@ TEST_CASE("a new test from an answered card leaves the next button on, and it sk
   CHECK(fixture.state.deck.testPoints == 0);
 }
 
+TEST_CASE("no mode that follows tells of the right choice of the last question") {
+  for (const bool quiz : {false, true}) {
+    DeckFixture fixture;
+    fixture.AddChoice(u"?", {u"one", u"two"}, u"A");
+    fixture.Open(kExtendedDeck);
+    fixture.deck->test.Press();
+    fixture.deck->choices[1].Press();
+    REQUIRE(fixture.deck->card.Description().find(u"Right: one.") != Text::npos);
+    (quiz ? fixture.deck->quiz : fixture.deck->study).Press();
+    CHECK(fixture.deck->card.Description().find(u"Right") == Text::npos);
+  }
+}
+
 TEST_CASE("a key that fits no choice is always wrong, an empty key of a third type right") {
   DeckFixture fixture;
   fixture.AddChoice(u"?", {u"one", u"two"}, u"X");

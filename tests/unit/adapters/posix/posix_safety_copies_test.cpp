@@ -97,6 +97,16 @@ TEST_CASE("copies made in the same moment each get a name") {
   CHECK(fixture.Names().size() == 5);
 }
 
+TEST_CASE("a copy is kept beside one with the highest number that a name can have") {
+  CopyFixture fixture;
+  fs::create_directories(fixture.CopiesFolder());
+  fixture.folder.Write("verbs.tsr", "deck");
+  const fs::path highest = fixture.CopiesFolder() / "verbs 2026-01-01 00-00-00-999999999999.tsr";
+  fs::copy_file(fixture.folder / "verbs.tsr", highest);
+  fixture.Keep(u"verbs.tsr");
+  CHECK(fixture.CountOf("verbs.tsr") == 2);
+}
+
 TEST_CASE("the newest 20 of a deck are kept, whatever other decks have") {
   CopyFixture fixture;
   for (std::uintmax_t size = 1; size <= 20; ++size) {

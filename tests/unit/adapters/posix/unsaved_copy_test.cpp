@@ -135,6 +135,20 @@ TEST_CASE("a deck is kept where the spare file or the deck's own has been taken 
   }
 }
 
+TEST_CASE("a deck is kept again where the folder of the copies has been taken away") {
+  for (const bool spare : {false, true}) {
+    CAPTURE(spare);
+    UnsavedFixture fixture;
+    fixture.copies.KeepUnsaved(u"verbs.tsr", "one");
+    if (spare) fixture.copies.KeepUnsaved(u"verbs.tsr", "two");
+    fs::remove_all(fixture.copiesFolder);
+    for (const char* const deck : {"three", "four", "five"}) {
+      fixture.copies.KeepUnsaved(u"verbs.tsr", deck);
+      CHECK(fixture.Kept() == Decks{deck});
+    }
+  }
+}
+
 TEST_CASE("another file that has taken the deck's name, or is linked to it, is never written to") {
   UnsavedFixture fixture;
   fixture.copies.KeepUnsaved(u"verbs.tsr", "one");

@@ -4,6 +4,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <doctest/doctest.h>
+#include <fcntl.h>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -38,6 +39,30 @@ TEST_CASE("a prepared process outlives a reader that goes, a full file, and has 
            std::getenv("PATH") == std::string_view("/bin") &&
            std::getenv("XDG_DATA_HOME") == nullptr;
   }));
+}
+
+TEST_CASE(
+    "a prepared process can wait for its children, and has its temporary files at one place") {
+  CHECK(HoldsInProcess([] {
+    std::signal(SIGCHLD, SIG_IGN);
+    const EnvironmentVariable folder("TMPDIR", "tmp");
+    PrepareProcess();
+    return std::getenv("TMPDIR") == nullptr && std::system("exit 3") != -1;
+  }));
+}
+
+TEST_CASE("no file takes the number of a closed standard file, which stays as good as closed") {
+  for (const int closed : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+    CAPTURE(closed);
+    CHECK(HoldsInProcess([closed] {
+      close(closed);
+      OccupyStandardFiles();
+      char byte = 'x';
+      const bool failed =
+          closed == STDIN_FILENO ? read(closed, &byte, 1) == -1 : write(closed, &byte, 1) == -1;
+      return failed && open("/dev/null", O_RDWR) > STDERR_FILENO;
+    }));
+  }
 }
 
 TEST_CASE("a write past the size that a file may have is the error of a full disk") {
