@@ -19,7 +19,7 @@ set(CPACK_DEBIAN_UNSPECIFIED_PACKAGE_NAME tessara)
 set(CPACK_DEBIAN_DECK_PACKAGE_NAME tessara-deck)
 # Its first line is the program's.
 set(CPACK_COMPONENT_DECK_DESCRIPTION
-"The command tessara-deck takes decks in and out: it makes them of import
+"The command tessara-deck converts and lists decks: it makes them of import
 texts, spreadsheets' tables and vocabulary files, gives the cards back in each
 of these formats, checks decks and lists them. It prints them where the
 package tessara is installed too.")

@@ -20,7 +20,7 @@ class CardDisplay {
   /// The two decorations of a front. Always set lines first, then rule, to the same value.
   virtual void SetFrontRule(bool on) = 0;
   virtual void SetFrontLines(bool on) = 0;
-  /// The body, up to 444 characters, with every "&" doubled; "&&" shows one "&".
+  /// The body, of any length, with every "&" doubled; "&&" shows one "&".
   virtual void SetCardText(const Text& text) = 0;
   virtual void SetCardNumber(const Text& number) = 0;
   virtual void SetCardTotal(const Text& total) = 0;

@@ -6,7 +6,7 @@ set -euo pipefail
 scripts=$(dirname "${BASH_SOURCE[0]}")
 
 declare -A packages=(
-  [build]="g++ cmake ninja-build ccache pkgconf python3 qt6-base-dev libfontconfig-dev libgl1-mesa-dev libglib2.0-dev
+  [build]="g++ cmake ninja-build ccache pkgconf python3 file dpkg-dev qt6-base-dev libfontconfig-dev libgl1-mesa-dev libglib2.0-dev
     libchm-dev fp-utils-3.2.2 libreoffice-calc libreoffice-dev libcups2-dev libqpdf-dev libcli11-dev libcsv-dev
     libpugixml-dev libxml2-dev nlohmann-json3-dev libpng-dev libunistring-dev"
   [run]="fonts-dejavu-core fonts-liberation libreoffice-calc"

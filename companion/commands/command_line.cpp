@@ -79,7 +79,8 @@ class CommandLine {
     command->add_option("--title", convert_.title, "Title of the deck");
     command->add_option("--author", convert_.author, "Who made the deck");
     command->add_option("--description", convert_.description, "What the deck is about");
-    command->add_flag("--anki", convert_.ankiComments, "Tell Anki in a .tsv how to read it");
+    command->add_flag("--anki", convert_.ankiComments,
+                      "Add the lines that tell Anki how to read the .tsv");
     command->add_flag("--strict", convert_.strict, "Write nothing where something would be lost");
     command->add_flag("--force", convert_.force, "Replace an output that exists");
   }
@@ -123,7 +124,7 @@ class CommandLine {
     command->add_flag("--force", print_.force, "Replace an output that exists");
   }
 
-  CLI::App app_{"Decks of flash cards, in and out"};
+  CLI::App app_{"Convert, check, list and print decks of flash cards"};
   std::vector<std::string> files_;
   std::string from_;
   ConvertOptions convert_;

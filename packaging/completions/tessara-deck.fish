@@ -11,7 +11,7 @@ complete -c tessara-deck -n "__fish_seen_subcommand_from convert" -x -l to -a "t
 complete -c tessara-deck -n "__fish_seen_subcommand_from convert" -x -l title -d "Title of the deck"
 complete -c tessara-deck -n "__fish_seen_subcommand_from convert" -x -l author -d "Who made the deck"
 complete -c tessara-deck -n "__fish_seen_subcommand_from convert" -x -l description -d "What the deck is about"
-complete -c tessara-deck -n "__fish_seen_subcommand_from convert" -l anki -d "Tell Anki in a .tsv how to read it"
+complete -c tessara-deck -n "__fish_seen_subcommand_from convert" -l anki -d "Add the lines that tell Anki how to read the .tsv"
 complete -c tessara-deck -n "__fish_seen_subcommand_from convert" -l strict -d "Write nothing where something would be lost"
 complete -c tessara-deck -n "__fish_seen_subcommand_from convert print" -l force -d "Replace an output that exists"
 complete -c tessara-deck -n "__fish_seen_subcommand_from show info" -l json -d "As a JSON object"
