@@ -1,5 +1,6 @@
 #include "deck/life/unsaved_deck.h"
 
+#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -49,6 +50,7 @@ void UnsavedDeck::KeepIfChanged() {
   // A command can change the table first and tell of it later.
   if (!unsaved_) return;
   seen_ = changes;
+  LeaveCardsWrittenOver();
   if (image_.HasCards()) {
     copies_.KeepUnsaved(FileNameOfDeck(state_.deck.filePath), image_.Bytes());
   } else {
@@ -58,8 +60,33 @@ void UnsavedDeck::KeepIfChanged() {
   }
 }
 
+std::vector<UnsavedDeck::LooseCard> UnsavedDeck::LooseCards() const {
+  const Deck& deck = state_.deck;
+  std::vector<LooseCard> cards;
+  for (const int row : CardRows(deck)) {
+    if (deck.cardPresent.At(row) == 0)
+      cards.push_back({row, deck.Cell(row, kCardText), deck.Cell(row, kBackText)});
+  }
+  return cards;
+}
+
+bool UnsavedDeck::IsWrittenOver(const LooseCard& card) const {
+  const Deck& deck = state_.deck;
+  return deck.cardPresent.At(card.row) != 0 && (deck.Cell(card.row, kCardText) != card.front ||
+                                                deck.Cell(card.row, kBackText) != card.back);
+}
+
+/// What is kept is the last place that has them.
+void UnsavedDeck::LeaveCardsWrittenOver() {
+  const bool left = std::any_of(kept_.begin(), kept_.end(),
+                                [this](const LooseCard& card) { return IsWrittenOver(card); });
+  if (left) copies_.LeaveUnsaved();
+  kept_ = LooseCards();
+}
+
 void UnsavedDeck::Saved() {
   copies_.DropUnsaved();
+  kept_.clear();
   unsaved_ = false;
   seen_ = image_.Changes();
 }
@@ -68,6 +95,7 @@ void UnsavedDeck::NotSaved(const Text& path) {
   const Text fileName = FileNameOfDeck(path);
   const Text kept = copies_.KeepNotSaved(fileName, image_.Bytes());
   if (kept.empty()) return;
+  kept_.clear();
   unsaved_ = false;
   seen_ = image_.Changes();
   desktop_.Notify(u"A deck may not have been saved",
@@ -82,6 +110,7 @@ void UnsavedDeck::GivenUp() {
 
 void UnsavedDeck::Leave() {
   if (unsaved_) copies_.LeaveUnsaved();
+  kept_.clear();
   following_ = false;
   unsaved_ = false;
   givenUp_ = false;

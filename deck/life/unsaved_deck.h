@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <vector>
 
 #include "deck/file/deck_image.h"
 #include "machine/machine.h"
@@ -35,13 +36,24 @@ class UnsavedDeck {
   void Follow(Table table);
 
  private:
+  /// A card in a row that nothing has made present: the next one that is added comes there.
+  struct LooseCard {
+    int row;
+    Text front;
+    Text back;
+  };
+
   void KeepIfChanged();
+  void LeaveCardsWrittenOver();
+  [[nodiscard]] std::vector<LooseCard> LooseCards() const;
+  [[nodiscard]] bool IsWrittenOver(const LooseCard& card) const;
 
   const ProgramState& state_;
   SafetyCopies& copies_;
   Desktop& desktop_;
   DeckImage image_;
-  std::uint64_t seen_ = 0;  ///< changes of the table that have been looked at
+  std::vector<LooseCard> kept_;  ///< those among what is kept
+  std::uint64_t seen_ = 0;       ///< changes of the table that have been looked at
   bool following_ = true;
   bool unsaved_ = false;  ///< cards have changed since the deck was loaded, saved or given up
   bool givenUp_ = false;  ///< in this event

@@ -373,6 +373,22 @@ TEST_CASE("a text that a save leaves out, for nothing has made its row present, 
   CHECK(fixture.fakes.desktop.notices.size() == 1);
 }
 
+TEST_CASE(
+    "a text in a row without a card is left to the next start when a new card takes the row") {
+  UnsavedProgram fixture;
+  fixture.Open(kPath, 3);
+  fixture.Run([&] {
+    fixture.state.deck.cardGrid.Set(4, kCardText, u"changed in a row without a card");
+    fixture.state.deck.changed = true;
+  });
+  fixture.Run([&] { fixture.state.deck.cardGrid.Set(4, kBackText, u"and changed again"); });
+  CHECK(fixture.copies.leftUnsaved.empty());
+  fixture.Build(u"new");
+  REQUIRE(fixture.copies.leftUnsaved.size() == 1);
+  CHECK(fixture.copies.leftUnsaved[0].second.find("and changed again") != std::string::npos);
+  CHECK(fixture.Kept().find("new") != std::string::npos);
+}
+
 TEST_CASE("in a kept deck, opened, each card is reached, also those that a save left out") {
   UnsavedProgram fixture;
   fixture.Open(kPath, 3);
