@@ -55,7 +55,7 @@ void QuestionBuilder::SyncAnswerLines() {
   }
 }
 
-void QuestionBuilder::EnableResponceLine(int line) {
+void QuestionBuilder::FollowAnswerLine(int line) {
   const bool enable = HasText(answers[line]);
   if (!enable) marks[line].SetSelected(false);
   if (line < kLastLine && HasText(answers[line + 1])) return;
@@ -81,43 +81,30 @@ Control* QuestionBuilder::TabTarget(const Control& from) {
 }
 
 void QuestionBuilder::CardChange() {
-  bool canAdd = false;
-  bool canCancel = false;
-  CanAddCard(canAdd);
-  CanCancelCard(canCancel);
-  buttons[kAddButton].SetEnabled(canAdd);
-  buttons[kCancelButton].SetEnabled(canCancel);
+  buttons[kAddButton].SetEnabled(CanAdd());
+  buttons[kCancelButton].SetEnabled(CanCancel());
 }
 
-void QuestionBuilder::CanAddCard(bool& result) const {
-  ChkOptions(result);
-  result = result && HasText(question);
+bool QuestionBuilder::CanAdd() const {
+  return HasAnswer() && HasText(question);
 }
 
-void QuestionBuilder::CanCancelCard(bool& result) const {
-  result = HasText(question) || HasText(answers[0]) || AnySelected(trueFalseMarks);
+bool QuestionBuilder::CanCancel() const {
+  return HasText(question) || HasText(answers[0]) || AnySelected(trueFalseMarks);
 }
 
-void QuestionBuilder::ChkOptions(bool& result) const {
-  if (layouts[kMultipleChoice].Selected()) {
-    result = std::any_of(answers.begin(), answers.end(), HasText) && AnySelected(marks);
-  } else {
-    result = layouts[kTrueOrFalse].Selected() && AnySelected(trueFalseMarks);
-  }
-}
-
-void QuestionBuilder::AnsSelected(bool& result) const {
-  result = AnySelected(marks);
+bool QuestionBuilder::HasAnswer() const {
+  if (layouts[kMultipleChoice].Selected())
+    return std::any_of(answers.begin(), answers.end(), HasText) && AnySelected(marks);
+  return layouts[kTrueOrFalse].Selected() && AnySelected(trueFalseMarks);
 }
 
 void QuestionBuilder::FollowAnswer(int line) {
   if (!State().building.fillingBoxes) CardChange();
-  EnableResponceLine(line);
+  FollowAnswerLine(line);
   if (State().building.fillingBoxes) return;
   // The mark alone decides here, whatever the question holds.
-  bool selected = false;
-  AnsSelected(selected);
-  buttons[kAddButton].SetEnabled(selected);
+  buttons[kAddButton].SetEnabled(AnySelected(marks));
   LeaveClosedLine(line);
 }
 

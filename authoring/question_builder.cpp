@@ -79,7 +79,7 @@ void QuestionBuilder::WireControls() {
 }
 
 void QuestionBuilder::OnLoad() {
-  ClrForm();
+  ClearForm();
   if (State().deck.HasCards()) {
     ShowBuilderCard(State().deck.currentCard);
     SetBuilderState(BuilderState::kOld);
@@ -129,7 +129,7 @@ void QuestionBuilder::SwitchLayout(int layout) {
   });
 }
 
-void QuestionBuilder::ClrForm() {
+void QuestionBuilder::ClearForm() {
   for (TextBox& line : answers) {
     line.SetText(u"");
     marks[line.Index()].SetSelected(false);
@@ -140,10 +140,10 @@ void QuestionBuilder::ClrForm() {
 
 void QuestionBuilder::ShowBuilderCard(int row) {
   const ProgramState& state = State();
-  MarkQuestType(state.deck.Cell(row, kCardType));
+  MarkLayout(state.deck.Cell(row, kCardType));
   question.SetText(state.deck.Cell(row, kCardText));
   for (TextBox& line : answers) line.SetText(state.deck.Cell(row, kChoiceA + line.Index()));
-  MarkCorrAns(state.deck.Cell(row, kAnswer));
+  MarkAnswer(state.deck.Cell(row, kAnswer));
   ShowNumber(state.deck.Cell(row, kRowNumber));
   SetMoveButtons(arrows, state);
 }
@@ -158,7 +158,7 @@ void QuestionBuilder::SetBuilderState(BuilderState state) {
 
 void QuestionBuilder::AskSaveChanged() {
   if (!buttons[kAddButton].Enabled() || !AskAboutChangedCard()) return;
-  SaveCard_Gen();
+  SaveAsNewCard();
   buttons[kAddButton].SetEnabled(false);
 }
 
@@ -195,13 +195,11 @@ void QuestionBuilder::Cancel() {
 }
 
 void QuestionBuilder::AddOrChange() {
-  bool refused = false;
-  CheckAnswerLines(refused);
-  if (!refused) BuilderWindow::AddOrChange();
+  if (!RefusesAnswerLines()) BuilderWindow::AddOrChange();
 }
 
 void QuestionBuilder::AddCard() {
-  SaveCard_Gen();
+  SaveAsNewCard();
 }
 
 void QuestionBuilder::ChangeCard() {

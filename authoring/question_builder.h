@@ -38,21 +38,18 @@ class QuestionBuilder : public BuilderWindow {
   // The two layouts.
   void TrueFalseForm();
   void ChoiceForm();
-  void ClrForm();
   void CardChange();
   /// A line with text opens the next one and its own mark; an empty one closes them.
-  void EnableResponceLine(int line);
-  void ChkOptions(bool& result) const;
-  void AnsSelected(bool& result) const;
+  void FollowAnswerLine(int line);
+  /// True where an answer of the layout is marked, and a multiple choice has a text for one.
+  [[nodiscard]] bool HasAnswer() const;
 
   // Into the table and back.
-  /// Does nothing: true/false cards are saved as multiple choice ones are.
-  void SaveTrueFalse();
-  void SelChoice(Text& result) const;
-  void SelTF(Text& result) const;
-  void SaveCard_Gen();
-  void MarkCorrAns(const Text& key);
-  void MarkQuestType(const Text& cardType);
+  /// The key of the marked answer, in the layout that the form shows; empty where none is marked.
+  [[nodiscard]] Text MarkedKey() const;
+  void SaveAsNewCard();
+  void MarkAnswer(const Text& key);
+  void MarkLayout(const Text& cardType);
   /// The type that the form shows: "M" or, where it is not multiple choice, "T".
   [[nodiscard]] Text ChosenType() const;
   void ChangeCurrentCard(int row, const Text& cardType);
@@ -73,7 +70,7 @@ class QuestionBuilder : public BuilderWindow {
   Label& NumberLabel() override { return number; }
   TextBox& FirstBox() override { return question; }
   [[nodiscard]] std::vector<std::pair<const TextBox*, int>> Boxes() const override;
-  void ClearForm() override { ClrForm(); }
+  void ClearForm() override;
   void ShowBuilderCard(int row) override;
   void AskSaveChanged() override;
   void SetBuilderState(BuilderState state) override;
@@ -93,13 +90,14 @@ class QuestionBuilder : public BuilderWindow {
   void DressControls();
   void WireControls();
 
-  void CanAddCard(bool& result) const;
-  void CanCancelCard(bool& result) const;
+  [[nodiscard]] bool CanAdd() const;
+  [[nodiscard]] bool CanCancel() const;
   void ResetAnswerLines();
   void SyncAnswerLines();
   void OpenLine(int line, bool open);
   void LeaveClosedLine(int line);
-  void CheckAnswerLines(bool& result);
+  /// True where the card is refused; a box has told why.
+  [[nodiscard]] bool RefusesAnswerLines();
   [[nodiscard]] bool TextOnClosedLine();
   [[nodiscard]] bool PlaceholderLeft();
 

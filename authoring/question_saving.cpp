@@ -19,23 +19,14 @@ const OptionButton* FirstSelected(const Options& options) {
 
 }  // namespace
 
-void QuestionBuilder::SaveTrueFalse() {}
-
-void QuestionBuilder::SelChoice(Text& result) const {
-  result.clear();
+Text QuestionBuilder::MarkedKey() const {
   if (layouts[kMultipleChoice].Selected()) {
     const OptionButton* mark = FirstSelected(marks);
-    if (mark != nullptr) result = mark->Caption();
-  } else if (layouts[kTrueOrFalse].Selected()) {
-    const OptionButton* mark = FirstSelected(trueFalseMarks);
-    if (mark != nullptr) result = mark->Caption().substr(0, 1);
+    return mark == nullptr ? Text() : mark->Caption();
   }
-}
-
-void QuestionBuilder::SelTF(Text& result) const {
-  result = trueFalseMarks[kTrueMark].Selected()    ? kTrueKey
-           : trueFalseMarks[kFalseMark].Selected() ? kFalseKey
-                                                   : TextView();
+  const OptionButton* mark =
+      layouts[kTrueOrFalse].Selected() ? FirstSelected(trueFalseMarks) : nullptr;
+  return mark == nullptr ? Text() : mark->Caption().substr(0, 1);
 }
 
 Text QuestionBuilder::ChosenType() const {
@@ -43,7 +34,7 @@ Text QuestionBuilder::ChosenType() const {
                                                            : CardType::kTrueFalse));
 }
 
-void QuestionBuilder::SaveCard_Gen() {
+void QuestionBuilder::SaveAsNewCard() {
   if (layouts[kMultipleChoice].Selected()) {
     SaveMultipleChoice(Text(LetterOf(CardType::kMultipleChoice)));
   } else if (layouts[kTrueOrFalse].Selected()) {
@@ -65,23 +56,21 @@ void QuestionBuilder::ChangeCurrentCard(int row, const Text& cardType) {
 
 void QuestionBuilder::WriteCard(int row, const Text& cardType) {
   CardTable& grid = State().deck.cardGrid;
-  Text mark;
-  SelChoice(mark);
   grid.Set(row, kCardType, cardType);
   grid.Set(row, kCardText, question.TextOf());
   grid.Set(row, kRowNumber, DecimalText(row));
   for (const TextBox& line : answers) grid.Set(row, kChoiceA + line.Index(), line.TextOf());
-  grid.Set(row, kAnswer, mark);
+  grid.Set(row, kAnswer, MarkedKey());
   grid.Set(row, kBackText, u"");
   State().deck.cardPresent.Set(row, 1);
 }
 
-void QuestionBuilder::MarkQuestType(const Text& cardType) {
+void QuestionBuilder::MarkLayout(const Text& cardType) {
   layouts[IsType(cardType, CardType::kTrueFalse) ? kTrueOrFalse : kMultipleChoice].SetSelected(
       true);
 }
 
-void QuestionBuilder::MarkCorrAns(const Text& key) {
+void QuestionBuilder::MarkAnswer(const Text& key) {
   const int index = AnswerIndex(key);
   if (IsTrueFalseKey(key)) {
     trueFalseMarks[index].SetSelected(true);
@@ -90,8 +79,8 @@ void QuestionBuilder::MarkCorrAns(const Text& key) {
   }
 }
 
-void QuestionBuilder::CheckAnswerLines(bool& result) {
-  result = TextOnClosedLine() || PlaceholderLeft();
+bool QuestionBuilder::RefusesAnswerLines() {
+  return TextOnClosedLine() || PlaceholderLeft();
 }
 
 bool QuestionBuilder::TextOnClosedLine() {

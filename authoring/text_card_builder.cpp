@@ -51,7 +51,7 @@ void TextCardBuilder::PlaceControls() {
 }
 
 void TextCardBuilder::OnLoad() {
-  ClrFrm();
+  ClearForm();
   if (State().deck.HasCards()) {
     ShowBuilderCard(State().deck.currentCard);
     SetBuilderState(BuilderState::kOld);
@@ -67,7 +67,7 @@ std::vector<std::pair<const TextBox*, int>> TextCardBuilder::Boxes() const {
   return {{&sides[kFrontSide], kCardText}, {&sides[kBackSide], kBackText}};
 }
 
-void TextCardBuilder::ClrFrm() {
+void TextCardBuilder::ClearForm() {
   for (TextBox& box : sides) box.SetText(u"");
 }
 

@@ -23,7 +23,6 @@ class TextCardBuilder : public BuilderWindow {
   ControlArray<TextBox, 2> sides{"Text1"};
   ControlArray<Button, 4> buttons{"Command1"};
 
-  void ClrFrm();
   /// Writes the boxes to the row; the count and the other columns stay.
   void ChangeCurrentCard(int row, const Text& cardType);
   /// Writes the boxes to the current card's row and makes it the last card of the deck.
@@ -38,7 +37,7 @@ class TextCardBuilder : public BuilderWindow {
   Label& NumberLabel() override { return number; }
   TextBox& FirstBox() override { return sides[kFrontSide]; }
   [[nodiscard]] std::vector<std::pair<const TextBox*, int>> Boxes() const override;
-  void ClearForm() override { ClrFrm(); }
+  void ClearForm() override;
   void ShowBuilderCard(int row) override;
   void AskSaveChanged() override;
   void AddCard() override;

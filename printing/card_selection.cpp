@@ -19,7 +19,7 @@ void PrintWindow::ShowSelectedCard() {
   ShowToggleCaption();
   ShowCountForPrint();
   ShowAvailable();
-  print.SetEnabled(PrnButEn());
+  print.SetEnabled(CanPrint());
 }
 
 /// After a key the box shows the card below, and the print button stays as it is.
@@ -27,7 +27,7 @@ void PrintWindow::ShowCardBelow() {
   if (cards.Count() == 0) return;
   ShowBack(static_cast<std::int16_t>(IntegerOf(cards.SelectedItem().text) + 1));
   ShowToggleCaption();
-  selected.SetCaption(u"Number of cards to print: " + DecimalText(CountChecks()));
+  selected.SetCaption(u"Number of cards to print: " + DecimalText(TickedCount()));
 }
 
 void PrintWindow::ToggleTicks() {
@@ -55,10 +55,10 @@ void PrintWindow::SetAllChecks(bool checked) {
 }
 
 bool PrintWindow::AllChecked() const {
-  return CountChecks() == cards.Count();
+  return TickedCount() == cards.Count();
 }
 
-std::int16_t PrintWindow::CountChecks() const {
+std::int16_t PrintWindow::TickedCount() const {
   std::int16_t ticked = 0;
   for (int item = 1; item <= cards.Count(); ++item) {
     if (cards.Item(item).checked) ++ticked;
@@ -66,9 +66,9 @@ std::int16_t PrintWindow::CountChecks() const {
   return ticked;
 }
 
-bool PrintWindow::PrnButEn() const {
+bool PrintWindow::CanPrint() const {
   const bool canPrint = flatSheet.Ticked() || app_.state.printing.canPrintCards;
-  return canPrint && CountChecks() > 0;
+  return canPrint && TickedCount() > 0;
 }
 
 void PrintWindow::ShowBack(std::int16_t row) {
@@ -80,7 +80,7 @@ void PrintWindow::ShowToggleCaption() {
 }
 
 void PrintWindow::ShowCountForPrint() {
-  selected.SetCaption(u"Number of cards selected for print: " + DecimalText(CountChecks()));
+  selected.SetCaption(u"Number of cards selected for print: " + DecimalText(TickedCount()));
 }
 
 void PrintWindow::ShowAvailable() {

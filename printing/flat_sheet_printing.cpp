@@ -13,7 +13,7 @@ void PrintWindow::PrintFlatSheetDialog() {
   Machine& machine = app_.machine;
   try {
     const PrinterChoice choice = ChoosePrinter(machine);
-    PrintCopies(machine, choice.copies, [this] { PrnFlatSheet(); });
+    PrintCopies(machine, choice.copies, [this] { PrintFlatSheets(); });
   } catch (const RunTimeError&) {
     // Without anything to print with, no document has begun.
     SkipErrors([&machine] { machine.printer.Surface().DropDocument(); });
@@ -22,7 +22,7 @@ void PrintWindow::PrintFlatSheetDialog() {
   }
 }
 
-void PrintWindow::PrnFlatSheet() {
+void PrintWindow::PrintFlatSheets() {
   PrintSurface& surface = app_.machine.printer.Surface();
   PrintFlatHeader();
   for (int item = 1; item <= cards.Count(); ++item) {

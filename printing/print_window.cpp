@@ -138,13 +138,13 @@ void PrintWindow::ChooseFlatSheet() {
     flipPrint.SetTicked(false);
     flipPrint.SetEnabled(false);
     ShowPicture(u"FlipDisabled");
-    print.SetEnabled(CountChecks() != 0);
+    print.SetEnabled(TickedCount() != 0);
     if (canPrintCards) flatOnly.SetVisible(false);
   } else if (canPrintCards) {
     flipPrint.SetEnabled(true);
     ShowPicture(u"NonFlip");
     flatOnly.SetVisible(false);
-    print.SetEnabled(CountChecks() != 0);
+    print.SetEnabled(TickedCount() != 0);
   }
   ReadyServer();
 }
@@ -166,7 +166,7 @@ void PrintWindow::Print() {
 
 void PrintWindow::FollowTicks() {
   ShowCountForPrint();
-  print.SetEnabled(PrnButEn());
+  print.SetEnabled(CanPrint());
 }
 
 void OpenPrintWindow(AppContext& app, const Window<PrintWindow>& printCard) {

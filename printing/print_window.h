@@ -48,12 +48,12 @@ class PrintWindow : public Form {
   /// True where every item is ticked.
   [[nodiscard]] bool AllChecked() const;
   /// The number of ticked items.
-  [[nodiscard]] std::int16_t CountChecks() const;
+  [[nodiscard]] std::int16_t TickedCount() const;
   /// Tick and untick every item; for flat sheets the print button follows.
   void SelectAll();
   void DeselectAll();
   /// True where the print button is to be enabled: with a ticked item and a way to print it.
-  [[nodiscard]] bool PrnButEn() const;
+  [[nodiscard]] bool CanPrint() const;
   /// The text of the side "Front" or "Back" of a row; any other side is empty. Raises error 9.
   [[nodiscard]] Text GetCardText(const Text& side, std::int16_t row) const;
   /// Leaves flat sheets as the only way to print.
@@ -73,7 +73,7 @@ class PrintWindow : public Form {
   void PrintFlatSheetDialog();
   /// Writes one whole document. Raises the surface's errors, and error 5 for a run without a
   /// blank that is wider than the page; the document is then not ended.
-  void PrnFlatSheet();
+  void PrintFlatSheets();
 
  protected:
   void OnLoad() override;

@@ -47,17 +47,17 @@ SeparationWindow::SeparationWindow(WindowSystem& windows)
 
 void SeparationWindow::OnLoad() {
   currentStep = 1;
-  ConfigButs();
-  BuildStr();
-  GetImage(currentStep);
+  EnableArrows();
+  FillStepTexts();
+  ShowStep(currentStep);
 }
 
-void SeparationWindow::ConfigButs() {
+void SeparationWindow::EnableArrows() {
   back.SetEnabled(currentStep >= 2);
   forward.SetEnabled(currentStep < kSteps);
 }
 
-void SeparationWindow::BuildStr() {
+void SeparationWindow::FillStepTexts() {
   stepTexts[1] =
       u"1. This is a completed card sheet printed from Tessara 1.0. You will now begin folding and "
       u"separating this sheet into individual cards.";
@@ -74,15 +74,15 @@ void SeparationWindow::BuildStr() {
       u"these strips in half to complete your card set.";
 }
 
-void SeparationWindow::GetImage(std::int16_t step) {
+void SeparationWindow::ShowStep(std::int16_t step) {
   picture.SetPicture(pictures.At(step).picture);
   text.SetCaption(stepTexts[static_cast<std::size_t>(step)]);
 }
 
 void SeparationWindow::GoOn(int steps) {
   currentStep = static_cast<std::int16_t>(currentStep + steps);
-  GetImage(currentStep);
-  ConfigButs();
+  ShowStep(currentStep);
+  EnableArrows();
 }
 
 void ShowSeparationSteps(const Window<SeparationWindow>& instructions) {

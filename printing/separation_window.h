@@ -32,10 +32,10 @@ class SeparationWindow : public Form {
   std::array<Text, kSteps + 1> stepTexts;
 
   /// Enables each arrow where there is a step to go to.
-  void ConfigButs();
-  void BuildStr();
+  void EnableArrows();
+  void FillStepTexts();
   /// Shows picture and text of a step. Raises 35600 for a step that there is none of.
-  void GetImage(std::int16_t step);
+  void ShowStep(std::int16_t step);
 
  protected:
   void OnLoad() override;

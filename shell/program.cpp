@@ -114,7 +114,7 @@ void Program::PlaceEmptyDeckWindow() {
   deck.modeMenu.SetEnabled(false);
   deck.goToCard.SetEnabled(false);
   deck.ConfigModeMenu(true, true, true);
-  deck.ChkModeMenu(kStudyMode);
+  deck.MarkModeInMenu(kStudyMode);
   state_.deck.cardPresent.Set(kInfoRow, 1);
   state_.deck.onFile = false;
 }

@@ -82,7 +82,7 @@ const Picture& ProgramFrame::BackDropPicture() const {
 }
 
 void ProgramFrame::OnUnload(bool& /*cancel*/) {
-  windows_.deck.Instance().ChkSave();
+  windows_.deck.Instance().OfferToSave();
 }
 
 /// The keys for it come easily, beside those that close a window: they take no text away.

@@ -30,9 +30,9 @@ void DeckWindow::DeleteCard() {
   state.deck.changed = true;
   saveDeck.SetEnabled(true);
   if (state.deck.cardCount < 1) {
-    CardDel_Std();
+    FollowCardCount();
   } else {
-    MenuOp(true);
+    EnableDelete(true);
     flip.SetEnabled(true);
     SetGoToMenu();
   }
@@ -41,9 +41,9 @@ void DeckWindow::DeleteCard() {
   KeepFocusInReach();
 }
 
-void DeckWindow::CardDel_Std() {
+void DeckWindow::FollowCardCount() {
   const bool hasCards = State().deck.cardCount >= 1;
-  MenuOp(hasCards);
+  EnableDelete(hasCards);
   flip.SetEnabled(false);
   if (!hasCards) ShowCardBack(false);
   goToCard.SetEnabled(hasCards);
@@ -78,7 +78,7 @@ void DeckWindow::GoToCard(const Text& entered) {
 void DeckWindow::ShowCard(std::int16_t number) {
   State().deck.currentCard = number;
   ShowCardText(number, kCardText);
-  SelectCardOp_Mode(number);
+  ShowCardOfKind(number);
   UpdateMoveButtons();
   card.SetCardTotal(DecimalText(State().deck.cardCount));
   ShowCardNumber();

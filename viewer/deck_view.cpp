@@ -32,7 +32,7 @@ void DeckWindow::OpenStandardView() {
   PlaceInFrame(*this, kAskedHeight, kAskedWidth, App().frame);
   State().deck.kind = kStandardDeck;
   OfferFlip(FlipAction::kShowBack);
-  ChkModeMenu(kStudyMode);
+  MarkModeInMenu(kStudyMode);
   OfferNext({&flip});
 }
 
@@ -41,7 +41,7 @@ void DeckWindow::OpenExtendedView() {
   PlaceInFrame(*this, kAskedHeight, kAskedWidth, App().frame);
   State().deck.kind = kExtendedDeck;
   OfferFlip(FlipAction::kShowAnswer);
-  ChkModeMenu(kStudyMode);
+  MarkModeInMenu(kStudyMode);
   // Without a second card the arrow still works here, but not much longer.
   if (State().deck.cardCount > 1) {
     OfferNext({&arrows[kNextCard]});
@@ -72,7 +72,7 @@ void DeckWindow::AfterEditShow(DeckKind kind) {
   }
   ShowCardNumber();
   card.SetCardTotal(DecimalText(state.deck.cardCount));
-  MenuOp(state.deck.cardCount >= 1);
+  EnableDelete(state.deck.cardCount >= 1);
   if (state.deck.cardCount >= 1 && state.deck.saveOffered) saveDeck.SetEnabled(true);
 }
 

@@ -139,7 +139,7 @@ void DeckWindow::OnLoad() {
     creditPanel.SetTop(choicePanel.BoundsOf().top);
     creditPanel.SetLeft(choicePanel.BoundsOf().left);
     creditPanel.SetVisible(false);
-    MenuOp(false);
+    EnableDelete(false);
   }
   App().frame.CloseSplash();
   saveDeckAs.SetEnabled(state.deck.cardCount >= 1);

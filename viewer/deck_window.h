@@ -53,33 +53,33 @@ class DeckWindow : public DeckLife {
 
   // Study.
   void EnterStudyMode();
-  void StudyModeScroll(int arrow);
-  void SelectCardOp_Mode(std::int16_t row);
-  void StdCardOp_Scroll(std::int16_t row);
-  void ExtCardOp_Scroll(std::int16_t row);
-  void StdCardOp_Flip();
-  void ExtCardOp_Flip();
+  void TurnStudyCard(int arrow);
+  void ShowCardOfKind(std::int16_t row);
+  void ShowTextCard(std::int16_t row);
+  void ShowQuestionCard(std::int16_t row);
+  void FlipTextCard();
+  void FlipQuestionCard();
 
   // Quiz.
   void EnterQuizMode();
-  void QuizModeScroll();
-  void QuizModeScroll_Std();
-  void QuizModeScroll_Ext();
+  void TurnQuizCard();
+  void TurnQuizTextCard();
+  void TurnQuizQuestion();
 
   // Test.
   void EnterTestMode();
-  void TestModeFlip();
+  void OfferCredit();
   /// Adds the credit to the points and goes on to the next card.
   void GiveCredit(int credit);
   void JudgeChoice(int choice);
   void FillChoices(int row);
-  void ClrAnsOptions();
-  void OpDefaultForeColor();
+  void ClearChoices();
+  void ResetChoiceColors();
 
   // The mode menu.
   void SetModeMenu(DeckKind kind);
   void ConfigModeMenu(bool offersStudy, bool offersQuiz, bool offersTest);
-  void ChkModeMenu(CardMode mode);
+  void MarkModeInMenu(CardMode mode);
   void AutoModeMenu() override;
 
   // A deck comes up.
@@ -95,7 +95,7 @@ class DeckWindow : public DeckLife {
   void DeleteCard();
   void AskForCard();
   /// Brings the menus in line with the number of cards.
-  void CardDel_Std();
+  void FollowCardCount();
   void ShowDeckInfo();
 
  protected:

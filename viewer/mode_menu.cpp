@@ -15,7 +15,7 @@ void DeckWindow::ConfigModeMenu(bool offersStudy, bool offersQuiz, bool offersTe
   test.SetVisible(offersTest);
 }
 
-void DeckWindow::ChkModeMenu(CardMode mode) {
+void DeckWindow::MarkModeInMenu(CardMode mode) {
   quiz.SetChecked(mode == kQuizMode);
   study.SetChecked(mode == kStudyMode);
   test.SetChecked(mode == kTestMode);
@@ -23,7 +23,7 @@ void DeckWindow::ChkModeMenu(CardMode mode) {
 
 void DeckWindow::EnterMode(CardMode mode) {
   ProgramState& state = State();
-  ChkModeMenu(mode);
+  MarkModeInMenu(mode);
   state.deck.mode = mode;
   state.deck.currentCard = 1;
   state.deck.testPoints = 0;

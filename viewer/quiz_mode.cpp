@@ -18,21 +18,21 @@ void DeckWindow::EnterQuizMode() {
   OfferNext({&flip});
 }
 
-void DeckWindow::QuizModeScroll() {
+void DeckWindow::TurnQuizCard() {
   if (State().deck.kind == kExtendedDeck) {
-    QuizModeScroll_Ext();
+    TurnQuizQuestion();
   } else if (State().deck.kind == kStandardDeck) {
-    QuizModeScroll_Std();
+    TurnQuizTextCard();
   }
 }
 
-void DeckWindow::QuizModeScroll_Std() {
+void DeckWindow::TurnQuizTextCard() {
   ShowCardBack(false);
   OfferFlip(FlipAction::kShowBack);
   QuizNextCard();
 }
 
-void DeckWindow::QuizModeScroll_Ext() {
+void DeckWindow::TurnQuizQuestion() {
   answerCard.SetVisible(false);
   OfferFlip(FlipAction::kShowAnswer);
   QuizNextCard();

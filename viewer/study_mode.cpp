@@ -7,46 +7,46 @@ namespace tessara {
 
 void DeckWindow::Page(int arrow) {
   if (State().deck.mode == kStudyMode) {
-    StudyModeScroll(arrow);
+    TurnStudyCard(arrow);
   } else if (State().deck.mode == kQuizMode) {
-    QuizModeScroll();
+    TurnQuizCard();
   }
 }
 
 void DeckWindow::FlipCard() {
   if (State().deck.kind == kStandardDeck) {
-    StdCardOp_Flip();
-    TestModeFlip();
+    FlipTextCard();
+    OfferCredit();
     if (State().deck.mode == kQuizMode) {
       NoteEndOfQuiz(u"This quiz is complete, please return to study mode");
     }
   } else if (State().deck.kind == kExtendedDeck) {
-    ExtCardOp_Flip();
+    FlipQuestionCard();
     NoteEndOfQuiz(u"You have completed this quiz, please return to study mode");
   }
 }
 
-void DeckWindow::StudyModeScroll(int arrow) {
+void DeckWindow::TurnStudyCard(int arrow) {
   if (arrow != kPreviousCard && arrow != kNextCard) return;
   const int step = arrow == kPreviousCard ? -1 : 1;
   State().deck.currentCard = static_cast<std::int16_t>(State().deck.currentCard + step);
   ShowCardText(State().deck.currentCard, kCardText);
-  SelectCardOp_Mode(State().deck.currentCard);
+  ShowCardOfKind(State().deck.currentCard);
   UpdateMoveButtons();
   ShowCardNumber();
   // At an end of the deck the arrow just pressed goes off: the other one is the next step.
   OfferNext({&arrows[arrow], &arrows[1 - arrow]});
 }
 
-void DeckWindow::SelectCardOp_Mode(std::int16_t row) {
+void DeckWindow::ShowCardOfKind(std::int16_t row) {
   if (State().deck.kind == kStandardDeck) {
-    StdCardOp_Scroll(row);
+    ShowTextCard(row);
   } else if (State().deck.kind == kExtendedDeck) {
-    ExtCardOp_Scroll(row);
+    ShowQuestionCard(row);
   }
 }
 
-void DeckWindow::StdCardOp_Scroll(std::int16_t row) {
+void DeckWindow::ShowTextCard(std::int16_t row) {
   if (OffersFlip(FlipAction::kShowFront)) {
     ShowCardBack(true);
     ShowCardText(row, kBackText);
@@ -56,7 +56,7 @@ void DeckWindow::StdCardOp_Scroll(std::int16_t row) {
   }
 }
 
-void DeckWindow::ExtCardOp_Scroll(std::int16_t row) {
+void DeckWindow::ShowQuestionCard(std::int16_t row) {
   const bool answerOnShow = OffersFlip(FlipAction::kHideAnswer);
   if (!answerOnShow && !OffersFlip(FlipAction::kShowAnswer)) return;
   if (answerOnShow) answerCard.SetVisible(true);
@@ -64,7 +64,7 @@ void DeckWindow::ExtCardOp_Scroll(std::int16_t row) {
   ShowAnswer(row);
 }
 
-void DeckWindow::StdCardOp_Flip() {
+void DeckWindow::FlipTextCard() {
   if (OffersFlip(FlipAction::kShowBack)) {
     ShowCardBack(true);
     ShowCardText(State().deck.currentCard, kBackText);
@@ -76,7 +76,7 @@ void DeckWindow::StdCardOp_Flip() {
   }
 }
 
-void DeckWindow::ExtCardOp_Flip() {
+void DeckWindow::FlipQuestionCard() {
   ShowAnswer(State().deck.currentCard);
   if (OffersFlip(FlipAction::kHideAnswer)) {
     answerCard.SetVisible(false);

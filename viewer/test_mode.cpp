@@ -18,9 +18,9 @@ constexpr Color kRightChoiceBlue = FixedColor(0, 0, 255);
 
 void DeckWindow::EnterTestMode() {
   EnterMode(kTestMode);
-  OpDefaultForeColor();
+  ResetChoiceColors();
   ShowCardText(1, kCardText);
-  ClrAnsOptions();
+  ClearChoices();
   if (State().deck.kind == kStandardDeck) {
     ConfigureStandardCard(kTestMode);
     creditPanel.SetEnabled(false);
@@ -43,7 +43,7 @@ void DeckWindow::OfferChoices() {
   OfferNext({&choices[0], &choices[1], &choices[2], &choices[3]});
 }
 
-void DeckWindow::OpDefaultForeColor() {
+void DeckWindow::ResetChoiceColors() {
   card.SetSpoken(u"");
   for (OptionButton& option : choices) {
     option.SetForeColor({});  // black, or what a dark desktop has in its place
@@ -51,7 +51,7 @@ void DeckWindow::OpDefaultForeColor() {
   }
 }
 
-void DeckWindow::ClrAnsOptions() {
+void DeckWindow::ClearChoices() {
   for (OptionButton& option : choices) option.SetSelected(false);
 }
 
@@ -69,7 +69,7 @@ void DeckWindow::FillChoices(int row) {
   for (OptionButton& option : choices) option.SetVisible(!option.Caption().empty());
 }
 
-void DeckWindow::TestModeFlip() {
+void DeckWindow::OfferCredit() {
   if (State().deck.mode != kTestMode) return;
   if (card.CardBanner().starts_with(kComplete)) return;
   creditPanel.SetEnabled(true);
@@ -129,7 +129,7 @@ void DeckWindow::JudgeChoice(int choice) {
 }
 
 void DeckWindow::NextQuestionOrScore() {
-  OpDefaultForeColor();
+  ResetChoiceColors();
   if (State().deck.currentCard != State().deck.cardCount || State().deck.cardCount < 1) {
     NextQuestion();
   } else {
@@ -143,7 +143,7 @@ void DeckWindow::NextQuestion() {
   ShowCardText(State().deck.currentCard, kCardText);
   ShowCardNumber();
   FillChoices(State().deck.currentCard);
-  ClrAnsOptions();
+  ClearChoices();
   card.SetCardBanner(u"");
   choicePanel.SetEnabled(true);
   OfferChoices();

@@ -1,10 +1,10 @@
 #include <com/sun/star/uno/Exception.hpp>
+#include <type_traits>
 
 #include "adapters/libreoffice/calc_server.h"
+#include "adapters/libreoffice/loader/office_module.h"
 #include "base/run_time_error.h"
 
-/// What the loading program asks for by its name. Raises error 432 where the server's libraries
-/// are there but can't be used.
 extern "C" __attribute__((visibility("default"))) tessara::OfficeModule* tessara_make_office_module(
     const char* officeProgramFolder) {
   try {
@@ -13,3 +13,5 @@ extern "C" __attribute__((visibility("default"))) tessara::OfficeModule* tessara
     throw tessara::RunTimeError(tessara::ErrorNumber::kAutomationClassNotFound);
   }
 }
+
+static_assert(std::is_same_v<decltype(&tessara_make_office_module), tessara::MakeOfficeModule>);

@@ -26,11 +26,11 @@ struct ByteOrder {
 
 constexpr ByteOrder kByteOrders[] = {{"\xFF\xFE", 1}, {"\xFE\xFF", 0}};
 
-/// The texts of UTF-16 as UTF-8; half a unit at the end goes. Empty for all else.
-std::string FromUtf16(std::string_view file) {
+/// The texts of UTF-16 as UTF-8; half a unit at the end goes. Nothing for all else.
+std::optional<std::string> FromUtf16(std::string_view file) {
   const auto* const order = std::ranges::find_if(
       kByteOrders, [file](const ByteOrder& one) { return file.starts_with(one.mark); });
-  if (order == std::end(kByteOrders)) return {};
+  if (order == std::end(kByteOrders)) return std::nullopt;
   Text text;
   text.reserve(file.size() / 2);
   for (std::size_t at = order->mark.size(); at + 1 < file.size(); at += 2) {
@@ -61,9 +61,7 @@ bool HasLoneBreak(TextView text) {
 }
 
 TextDecoder::TextDecoder(std::string_view file, const CodePage& codePage)
-    : converted_(FromUtf16(file)),
-      contents_(converted_.empty() ? file : converted_),
-      codePage_(codePage) {
+    : converted_(FromUtf16(file)), contents_(converted_ ? *converted_ : file), codePage_(codePage) {
   hasSignature_ = contents_.starts_with(kByteOrderMark);
   if (hasSignature_) contents_.remove_prefix(kByteOrderMark.size());
   isUtf8_ = Utf8Length(contents_) == contents_.size();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -35,7 +36,7 @@ class TextDecoder {
   [[nodiscard]] bool MixesCodePages() const { return hasSignature_ && !isUtf8_; }
 
  private:
-  std::string converted_;  ///< of UTF-16
+  std::optional<std::string> converted_;  ///< of UTF-16
   std::string_view contents_;
   const CodePage& codePage_;
   bool hasSignature_ = false;

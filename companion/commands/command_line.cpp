@@ -119,8 +119,10 @@ class CommandLine {
     command->add_option("OUTPUT", print_.output, "The PDF file; - is standard output")->required();
     command->add_option("--from", print_.from, "Format of the file (" + FormatNames() + ")");
     command->add_option("--cards", print_.cards, "Numbers of the cards: 1-20,25");
-    command->add_flag("--flip", print_.flip, "For sheets that are turned over their top edge");
-    command->add_flag("--listing", print_.listing, "A listing of the cards instead of sheets");
+    CLI::Option* flip =
+        command->add_flag("--flip", print_.flip, "For sheets that are turned over their top edge");
+    command->add_flag("--listing", print_.listing, "A listing of the cards instead of sheets")
+        ->excludes(flip);
     command->add_flag("--force", print_.force, "Replace an output that exists");
   }
 

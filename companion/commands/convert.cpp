@@ -11,6 +11,7 @@
 #include "base/utf8.h"
 #include "companion/cards/complaints.h"
 #include "companion/cards/text_form.h"
+#include "companion/cards/visible_text.h"
 #include "companion/commands/input.h"
 #include "companion/commands/outputs.h"
 #include "companion/commands/reporter.h"
@@ -102,8 +103,9 @@ class Conversions {
       RequireFree(part);
       parts.push_back({part, cards.subspan(at, std::min(most, cards.size() - at))});
     }
-    Reporter::Say(options_.output + ": " + std::to_string(cards.size()) + " cards become " +
-                  parts.front().path + " to " + parts.back().path);
+    const auto shown = [](const std::string& path) { return VisibleText(FromUtf8(path)); };
+    Reporter::Say(shown(options_.output) + ": " + std::to_string(cards.size()) + " cards become " +
+                  shown(parts.front().path) + " to " + shown(parts.back().path));
     return parts;
   }
 

@@ -59,7 +59,7 @@ void PressPrint(PrintWindow& window, const PrintRequest& request) {
   for (const int card : request.cards) {
     if (card >= 1 && card <= window.cards.Count()) window.cards.SetChecked(card, true);
   }
-  window.print.SetEnabled(window.PrnButEn());
+  window.print.SetEnabled(window.CanPrint());
   window.print.Press();
 }
 

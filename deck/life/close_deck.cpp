@@ -6,10 +6,10 @@
 namespace tessara {
 
 void DeckLife::ClearDeck() {
-  ChkSave();
+  OfferToSave();
   NewTessara();
   ClearDeckInfo(State().deck);
-  MenuOp(false);
+  EnableDelete(false);
   State().deck.changed = false;
   State().deck.onFile = false;
   // No deck, no card on show: the first one that is built is card 1.
@@ -20,7 +20,7 @@ void DeckLife::ClearDeck() {
 }
 
 void DeckLife::CloseTessara() {
-  if (State().deck.HasCards()) ChkSave();
+  if (State().deck.HasCards()) OfferToSave();
   State().deck.changed = false;
   State().deck.saveOffered = false;
   Unload();
@@ -35,7 +35,7 @@ void DeckLife::OnUnload(bool& cancel) {
     cancel = true;
     return;
   }
-  ChkSave();
+  OfferToSave();
   if (state.deck.HasCards()) {
     const MessageAnswer reply =
         messages.Show(u"ARE YOU SURE?", kQuestionIcon + kYesNo, u"Close Tessara");

@@ -33,7 +33,7 @@ void DeckLife::ShowTitle(CardMode mode) {
   SetCaption(DeckNameOf(State().deck.filePath) + u"  " + Text(MarkOf(mode)));
 }
 
-void DeckLife::MenuOp(bool enabled) {
+void DeckLife::EnableDelete(bool enabled) {
   deleteCard.SetEnabled(enabled);
 }
 

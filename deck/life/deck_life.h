@@ -69,11 +69,11 @@ class DeckLife : public Form {
   void CloseTessara();
 
   /// Offers to save unsaved changes; the caller goes on whatever the answer.
-  void ChkSave();
+  void OfferToSave();
   /// Empties the deck and the window. Asks nothing.
   void NewTessara();
   /// Enables or disables the delete command.
-  void MenuOp(bool enabled);
+  void EnableDelete(bool enabled);
   /// The first text unless it is empty, else the second.
   [[nodiscard]] static Text SaveThisorThat(const Text& first, const Text& second);
   /// Writes the table to the file, tells the user, sets the caption. Errors on the way skip what

@@ -20,7 +20,7 @@ void DeckLife::OpenDeck() {
   if (!IsDeckFileName(state.deck.filePath, state, messages)) return;
   if (DeckAlreadyOpen(state.deck.filePath, Caption(), messages)) return;
   // The path is the new one by now: a Yes here writes the old deck over the chosen file.
-  ChkSave();
+  OfferToSave();
   OpenChosenDeck();
 }
 
@@ -29,7 +29,7 @@ void DeckLife::OpenDroppedDeck(const Text& path) {
   if (!IsDeckFileName(path, messages)) return;
   if (DeckAlreadyOpen(path, Caption(), messages)) return;
   // A Yes here saves the old deck under its own path, which is still the deck's.
-  ChkSave();
+  OfferToSave();
   State().deck.filePath = path;
   OpenChosenDeck();
 }

@@ -6,7 +6,7 @@
 
 namespace tessara {
 
-void DeckLife::ChkSave() {
+void DeckLife::OfferToSave() {
   ProgramState& state = State();
   MessageBoxes& messages = App().machine.messages;
   if (!state.deck.changed || !state.deck.HasCards()) return;

@@ -108,6 +108,13 @@ def reaches(edges, start, goal):
     return False
 
 
+def unused_rights(includes):
+    used = collections.defaultdict(set)
+    for include in includes:
+        used[room_of(include.source)].add(room_of(include.header))
+    return [f"{room}: has no use for {right}" for room, uses in MAY_INCLUDE.items() for right in sorted(uses - used[room])]
+
+
 def complaints(root):
     governed = [i for i in includes_below(root) if not i.source.startswith(ASSEMBLERS)]
     own = [i for i in governed if not i.system]
@@ -118,9 +125,15 @@ def complaints(root):
     return [c for c in found if c]
 
 
+def complaints_about_program(root):
+    """With those that a part of a program would have too."""
+    own = [i for i in includes_below(root) if not i.system and not i.source.startswith(ASSEMBLERS)]
+    return complaints(root) + unused_rights(own)
+
+
 def main():
     default = pathlib.Path(__file__).resolve().parents[2]
-    found = complaints(pathlib.Path(sys.argv[1]) if len(sys.argv) > 1 else default)
+    found = complaints_about_program(pathlib.Path(sys.argv[1]) if len(sys.argv) > 1 else default)
     print("\n".join(found))
     sys.exit(bool(found))
 

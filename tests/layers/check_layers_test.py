@@ -63,6 +63,15 @@ class CheckLayers(unittest.TestCase):
             with self.subTest(path=path, line=line):
                 self.assertEqual(self.complaints_with(path, line), [])
 
+    def test_a_right_that_is_not_used_is_found(self):
+        with tempfile.TemporaryDirectory() as folder:
+            root = pathlib.Path(folder)
+            self.add_line(root / "base/text.h", "#pragma once")
+            self.add_line(root / "forms/form.h", '#include "base/text.h"')
+            found = check_layers.complaints_about_program(root)
+            self.assertIn("forms: has no use for machine", found)
+            self.assertNotIn("forms: has no use for base", found)
+
     def test_a_wrong_include_is_found(self):
         for path, line, expected in WRONG:
             with self.subTest(path=path, line=line):

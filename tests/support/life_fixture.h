@@ -64,7 +64,7 @@ struct LifeFixture : DeckFixture {
     Run([this] { deck->SaveDeckAs(); });
   }
   void CheckSave() {
-    Run([this] { deck->ChkSave(); });
+    Run([this] { deck->OfferToSave(); });
   }
   void Exit() {
     Run([this] { deck->CloseTessara(); });

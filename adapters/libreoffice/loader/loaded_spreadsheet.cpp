@@ -10,14 +10,10 @@ namespace tessara {
 
 namespace {
 
-constexpr const char* kMakerName = "tessara_make_office_module";
-
 using Clock = std::chrono::steady_clock;
 
 /// Much longer than a server needs to fail by itself.
 constexpr std::chrono::seconds kLongWait{10};
-
-using Maker = OfficeModule* (*)(const char* officeProgramFolder);
 
 [[noreturn]] void ThrowNotFound() {
   throw RunTimeError(ErrorNumber::kAutomationClassNotFound);
@@ -106,7 +102,7 @@ void LoadedSpreadsheet::FinishDestination() {
 OfficeModule& LoadedSpreadsheet::Module() {
   if (module_ == nullptr) {
     const std::string office = RequireOffice();
-    const auto make = file_.Find<Maker>(kMakerName);
+    const auto make = file_.Find<MakeOfficeModule>(kMakeOfficeModule);
     if (make == nullptr) ThrowNotFound();
     module_.reset(make(office.c_str()));
   }

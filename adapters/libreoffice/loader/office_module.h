@@ -27,4 +27,9 @@ class OfficeModule {
   virtual void Dismiss() = 0;
 };
 
+/// The module's one function, by the name that it has in the file. It makes a module; the caller
+/// owns it. Raises error 432 where the server's libraries are there but can't be used.
+using MakeOfficeModule = OfficeModule* (*)(const char* officeProgramFolder);
+inline constexpr const char* kMakeOfficeModule = "tessara_make_office_module";
+
 }  // namespace tessara

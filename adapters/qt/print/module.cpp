@@ -1,5 +1,7 @@
 // What the loadable module offers to the program.
 
+#include <type_traits>
+
 #include "adapters/qt/devices/print_module.h"
 #include "adapters/qt/print/print_dialog.h"
 #include "adapters/qt/print/qt_print_surface.h"
@@ -25,3 +27,5 @@ class QtPrintModule : public PrintModule {
 extern "C" Q_DECL_EXPORT tessara::PrintModule* tessara_make_print_module() {
   return new tessara::QtPrintModule;
 }
+
+static_assert(std::is_same_v<decltype(&tessara_make_print_module), tessara::MakePrintModule>);

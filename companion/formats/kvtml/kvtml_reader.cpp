@@ -9,7 +9,7 @@
 #include "companion/cards/complaints.h"
 #include "companion/cards/text_form.h"
 #include "companion/formats/kvtml/kvtml_format.h"
-#include "companion/formats/tables/tag_lines.h"
+#include "companion/formats/kvtml/tag_lines.h"
 
 namespace tessara {
 

@@ -178,7 +178,7 @@ TEST_CASE("a mark set by the program uses up the guard, one that stands already 
     QuestionBuilder& window = fixture.OpenQuestion();
     if (c.before >= 0) window.marks[c.before].SetSelected(true);
     fixture.state.building.fillingBoxes = true;
-    window.MarkCorrAns(Text(c.key));
+    window.MarkAnswer(Text(c.key));
     CHECK(fixture.state.building.fillingBoxes == c.guardAfter);
     CHECK_FALSE(window.buttons[kAddButton].Enabled());
   }

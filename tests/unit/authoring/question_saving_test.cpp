@@ -186,13 +186,14 @@ TEST_CASE("text on a closed line puts the placeholder on the line before and ref
   CHECK(fixture.Cell(1, kCardType).empty());
 }
 
-TEST_CASE("the mark of the form follows the layout") {
+TEST_CASE("the key of the marked answer follows the layout") {
   struct Case {
     int layout, choice, trueFalse;
-    TextView mark, trueFalseMark;
+    TextView key;
+    bool hasAnswer;  // no line of a multiple choice has a text here
   };
-  const Case cases[] = {{0, 2, 1, u"C", u"F"}, {1, 2, 1, u"F", u"F"}, {1, 2, 0, u"T", u"T"},
-                        {0, -1, 0, u"", u"T"}, {1, 3, -1, u"", u""},  {-1, 3, 1, u"", u"F"}};
+  const Case cases[] = {{0, 2, 1, u"C", false}, {1, 2, 1, u"F", true},  {1, 2, 0, u"T", true},
+                        {0, -1, 0, u"", false}, {1, 3, -1, u"", false}, {-1, 3, 1, u"", false}};
   for (const Case& c : cases) {
     BuilderFixture fixture;
     QuestionBuilder& window = fixture.OpenQuestion();
@@ -200,14 +201,8 @@ TEST_CASE("the mark of the form follows the layout") {
     if (c.trueFalse >= 0) window.trueFalseMarks[c.trueFalse].SetSelected(true);
     window.layouts[kMultipleChoice].SetSelected(false);
     if (c.layout >= 0) window.layouts[c.layout].SetSelected(true);
-    Text mark = u"before";
-    window.SelChoice(mark);
-    CHECK(mark == c.mark);
-    window.SelTF(mark);
-    CHECK(mark == c.trueFalseMark);
-    bool enough = true;
-    window.ChkOptions(enough);
-    CHECK_FALSE((enough && c.layout == -1));
+    CHECK(window.MarkedKey() == c.key);
+    CHECK(window.HasAnswer() == c.hasAnswer);
   }
 }
 
@@ -215,9 +210,7 @@ TEST_CASE("saving without a chosen type writes nothing, yet counts") {
   BuilderFixture fixture;
   QuestionBuilder& window = fixture.OpenQuestion();
   window.layouts[kMultipleChoice].SetSelected(false);
-  window.SaveTrueFalse();
-  CHECK(fixture.state.deck.cardCount == 0);
-  window.SaveCard_Gen();
+  window.SaveAsNewCard();
   CHECK(fixture.state.deck.cardCount == 1);
   CHECK(fixture.Cell(1, kCardType).empty());
 }

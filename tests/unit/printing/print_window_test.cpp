@@ -151,12 +151,12 @@ TEST_CASE("Select All ticks every card and turns into Deselect All") {
     PrintWindow& window = fixture.Open();
     if (flat) window.flatSheet.Press();
     window.toggleAll.Press();
-    CHECK(window.CountChecks() == 3);
+    CHECK(window.TickedCount() == 3);
     CHECK(window.toggleAll.Caption() == u"Deselect All");
     CHECK(window.selected.Caption() == u"Number of cards selected for print: 3");
     CHECK(window.print.Enabled());
     window.toggleAll.Press();
-    CHECK(window.CountChecks() == 0);
+    CHECK(window.TickedCount() == 0);
     CHECK(window.toggleAll.Caption() == u"Select All");
     CHECK(window.selected.Caption() == u"Number of cards selected for print: 0");
     CHECK_FALSE(window.print.Enabled());
@@ -186,7 +186,7 @@ TEST_CASE("the print button is to be enabled with a tick and a way to print") {
     PrintWindow& window = fixture.OpenTicked(c.ticked ? 1 : 0);
     window.flatSheet.SetTicked(c.flat);
     fixture.state.printing.canPrintCards = c.canPrint;
-    CHECK(window.PrnButEn() == c.enabled);
+    CHECK(window.CanPrint() == c.enabled);
   }
 }
 

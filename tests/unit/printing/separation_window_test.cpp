@@ -62,15 +62,15 @@ TEST_CASE("the arrows go from step 1 to 6 and back and stop at the ends") {
 TEST_CASE("step 5 keeps the blank behind its text") {
   Book book;
   SeparationWindow& window = book.Open();
-  window.GetImage(5);
+  window.ShowStep(5);
   CHECK(window.text.Caption() == u"5. Tear the sheet into 4 strips containing 2 cards each. ");
 }
 
 TEST_CASE("a step that there is no picture of raises the image list's error") {
   Book book;
   SeparationWindow& window = book.Open();
-  CHECK_THROWS_AS(window.GetImage(0), RunTimeError);
-  CHECK_THROWS_AS(window.GetImage(7), RunTimeError);
+  CHECK_THROWS_AS(window.ShowStep(0), RunTimeError);
+  CHECK_THROWS_AS(window.ShowStep(7), RunTimeError);
 }
 
 TEST_CASE("the picture and its text lie in the picture box, the text above the picture") {

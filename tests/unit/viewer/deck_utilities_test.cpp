@@ -141,7 +141,7 @@ TEST_CASE("the menus follow the number of cards") {
     DeckFixture fixture;
     fixture.OpenStandardDeck(cards);
     fixture.deck->ShowCardBack(true);
-    fixture.deck->CardDel_Std();
+    fixture.deck->FollowCardCount();
     CHECK(fixture.deck->deleteCard.Enabled() == (cards > 0));
     CHECK(fixture.deck->goToCard.Enabled() == (cards > 0));
     CHECK_FALSE(fixture.deck->flip.Enabled());

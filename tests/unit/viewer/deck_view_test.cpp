@@ -164,7 +164,7 @@ TEST_CASE("each mode entry can be hidden and marked by itself") {
   const std::vector<MenuEntry*> entries = {&deck.study, &deck.quiz, &deck.test};
   for (int mode = 0; mode < 4; ++mode) {
     deck.ConfigModeMenu(mode == 0, mode == 1, mode == 2);
-    deck.ChkModeMenu(static_cast<CardMode>(mode));
+    deck.MarkModeInMenu(static_cast<CardMode>(mode));
     for (int entry = 0; entry < 3; ++entry) {
       CHECK(entries[static_cast<std::size_t>(entry)]->Visible() == (entry == mode));
       CHECK(entries[static_cast<std::size_t>(entry)]->Checked() == (entry == mode));

@@ -91,6 +91,13 @@ TEST_CASE("a table of commas or semicolons becomes cards, and what is not kept i
                    11),
        {"E|a|\xD0\x96"},
        {}},
+      {"UTF-16 without a text", std::string("\xFF\xFE", 2), {}, {}},
+      {"UTF-16 with half a unit",
+       std::string("\xFF\xFE"
+                   "A",
+                   3),
+       {},
+       {}},
       {"questions",
        "question,a,b,c,d,answer\nq,1,2,3,4,b\nr,,,,,t\ns,,,,,F\n",
        {"M|q|1|2|3|4|B", "T|r|||||T", "T|s|||||F"},

@@ -311,7 +311,6 @@ void CheckDamaged(const std::string& bytes) {
     CHECK(error.Number() == ErrorNumber::kSubscriptOutOfRange);
     return;
   }
-  CHECK(state.deck.cardCount >= 0);
   CHECK(state.deck.cardCount <= kMostCards);
   CHECK(state.deck.currentCard == 1);
   DeckDisk disk;

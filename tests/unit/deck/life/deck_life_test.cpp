@@ -130,7 +130,7 @@ TEST_CASE("the first of two texts is taken unless it is empty") {
 TEST_CASE("the delete command is switched on and off") {
   LifeFixture fixture;
   for (const bool on : {true, false}) {
-    fixture.deck->MenuOp(on);
+    fixture.deck->EnableDelete(on);
     CHECK(fixture.deck->deleteCard.Enabled() == on);
   }
 }

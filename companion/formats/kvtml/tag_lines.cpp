@@ -1,4 +1,4 @@
-#include "companion/formats/tables/tag_lines.h"
+#include "companion/formats/kvtml/tag_lines.h"
 
 #include <algorithm>
 
