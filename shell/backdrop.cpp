@@ -4,6 +4,18 @@
 
 namespace tessara {
 
+namespace {
+
+/// They count from 1.
+constexpr int kNoPicture = 0;
+
+}  // namespace
+
+const Picture& BackdropTile(TextView key, const AppFrame& frame) {
+  const ImageList& tiles = frame.BackdropTiles();
+  return (key == kNoBackdrop ? tiles.At(kNoPicture) : tiles.At(key)).picture;
+}
+
 BackdropSurface::BackdropSurface(WindowSystem& system)
     : Form(system, "Frm1", FormKind::kOffScreen, u"") {
   AddControls({{&tile, nullptr, u"", {0, 0, 0, 0}, u"Backdrop tile"}});

@@ -1,11 +1,19 @@
 #pragma once
 
+#include "forms/app_frame.h"
 #include "forms/controls/controls.h"
 #include "forms/form.h"
 #include "forms/window.h"
 #include "machine/desktop.h"
 
 namespace tessara {
+
+/// What the list of backdrops has for none.
+inline constexpr TextView kNoBackdrop = u"<NONE>";
+
+/// The tile of a key. Raises error 35600 for kNoBackdrop, for which no list has a picture, and
+/// error 35601 for an unknown key.
+[[nodiscard]] const Picture& BackdropTile(TextView key, const AppFrame& frame);
 
 /// A hidden surface to paint the backdrop on.
 class BackdropSurface : public Form {

@@ -12,14 +12,6 @@
 
 namespace tessara {
 
-namespace {
-
-/// What the frame asks for where no backdrop is set. The list of card pictures is shorter: the
-/// look-up fails, and with it the start.
-constexpr int kMissingBackDrop = 12;
-
-}  // namespace
-
 ProgramFrame::ProgramFrame(AppContext& app, FileNumber& fileNumber, FrameWindows windows)
     : Form(app.windows, "MDIForm1", FormKind::kFrame, u"TESSARA 1.0"),
       app_(app),
@@ -71,14 +63,10 @@ int ProgramFrame::ScaleHeight() const {
 }
 
 void ProgramFrame::OnLoad() {
-  TileBackdrop(*this, windows_.surface, BackDropPicture(), app_.machine.desktop);
-}
-
-const Picture& ProgramFrame::BackDropPicture() const {
-  const Text& key = app_.state.settings.backdrop;
-  if (key.empty() || key == u"<NONE>")
-    return app_.frame.CardPictures().At(kMissingBackDrop).picture;
-  return app_.frame.BackdropTiles().At(key).picture;
+  // Without one the start ends by an error.
+  const TextView key = app_.state.settings.backdrop;
+  const Picture& tile = BackdropTile(key.empty() ? kNoBackdrop : key, app_.frame);
+  TileBackdrop(*this, windows_.surface, tile, app_.machine.desktop);
 }
 
 void ProgramFrame::OnUnload(bool& /*cancel*/) {

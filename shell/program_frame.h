@@ -69,7 +69,6 @@ class ProgramFrame : public Form {
  private:
   void PlaceMenuEntries();
   void WireMenus();
-  [[nodiscard]] const Picture& BackDropPicture() const;
   /// The entry that a dropped file stands for, if it is on; else null.
   [[nodiscard]] MenuEntry* EntryFor(const Text& path);
   void EmptyTable();

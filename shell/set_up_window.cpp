@@ -4,8 +4,8 @@
 #include "forms/place_in_frame.h"
 #include "machine/message_box.h"
 #include "machine/settings_store.h"
+#include "shell/backdrop.h"
 #include "shell/settings.h"
-#include "viewer/card_skins.h"
 
 namespace tessara {
 
@@ -93,7 +93,7 @@ void SetUpWindow::OnLoad() {
 }
 
 void SetUpWindow::FillBackdropList() {
-  backdrops.AddItem(u"<NONE>");
+  backdrops.AddItem(Text(kNoBackdrop));
   const ImageList& tiles = app_.frame.BackdropTiles();
   for (int index = 1; index <= tiles.Count(); ++index) backdrops.AddItem(tiles.At(index).key);
 }
@@ -122,7 +122,7 @@ void SetUpWindow::TakeShowSplash() {
 }
 
 void SetUpWindow::PreviewBackdrop() {
-  preview.SetPicture(CardPicture(Text(Trimmed(backdrops.TextOf())), kBackdropList, app_.frame));
+  preview.SetPicture(BackdropTile(Trimmed(backdrops.TextOf()), app_.frame));
   preview.SetLeft((previewArea.BoundsOf().width - preview.BoundsOf().width) / 2);
   preview.SetTop((previewArea.BoundsOf().height - preview.BoundsOf().height) / 2);
   MarkChanged();

@@ -9,8 +9,6 @@ namespace tessara {
 
 namespace {
 
-constexpr int kBeyondTheList = 12;
-
 /// A relief that is none is looked at for a known colour only. Null for an unknown colour.
 const CardSkin* AnswerCardSkin(const Settings& settings) {
   for (const CardSkin& skin : kCardSkins) {
@@ -22,17 +20,12 @@ const CardSkin* AnswerCardSkin(const Settings& settings) {
 
 }  // namespace
 
-const Picture& CardPicture(TextView key, int list, const AppFrame& frame) {
-  if (key == u"<NONE>") return frame.CardPictures().At(kBeyondTheList).picture;
-  return (list == kBackdropList ? frame.BackdropTiles() : frame.CardPictures()).At(key).picture;
-}
-
 void DeckWindow::SetUpDeck() {
   const Settings& settings = State().settings;
   cardShadow.SetVisible(NumberOf(settings.largeCard3D) == 1);
   card.SetCardColor(Text(NumberOf(settings.largeCardColor) == 1 ? kYellowCard : kWhiteCard));
   if (const CardSkin* skin = AnswerCardSkin(settings)) {
-    answerCard.SetPicture(CardPicture(skin->key, kWallPaperList, App().frame));
+    answerCard.SetPicture(App().frame.CardPictures().At(skin->key).picture);
   }
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "base/text.h"
-#include "forms/app_frame.h"
 
 namespace tessara {
 
@@ -21,13 +20,5 @@ inline constexpr CardSkin kCardSkins[] = {
     {u"Yellow Flat", "skins/yellow_flat.png", 323, 90, u"1", false},
     {u"Yellow 3D", "skins/yellow_3d.png", 327, 93, u"1", true},
 };
-
-/// Which list of the frame a picture is taken from.
-inline constexpr int kWallPaperList = 0;
-inline constexpr int kBackdropList = 1;
-
-/// The picture of a key. "<NONE>" asks for a picture that no list holds: error 35600. An unknown
-/// key is error 35601.
-[[nodiscard]] const Picture& CardPicture(TextView key, int list, const AppFrame& frame);
 
 }  // namespace tessara

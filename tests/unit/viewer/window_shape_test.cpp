@@ -1,8 +1,6 @@
 #include <doctest/doctest.h>
 
 #include "tests/support/deck_fixture.h"
-#include "tests/support/error_of.h"
-#include "viewer/card_skins.h"
 
 namespace tessara::test {
 
@@ -52,15 +50,6 @@ TEST_CASE("a setting that holds no number ends the program at the load") {
   fixture.windows.Run([&] { fixture.deck.Loaded(); });
   CHECK(fixture.fakes.messages.shown.back().text == u"Run-time error '13':\r\n\r\nType mismatch");
   CHECK(fixture.windows.ExitStatus() == 1);
-}
-
-TEST_CASE("pictures are found by key in either list, and the missing ones are errors") {
-  const TestFrame frame;
-  CHECK(CardPicture(u"Flip", kWallPaperList, frame).file == "print/flip.png");
-  CHECK(CardPicture(u"DESERT", kBackdropList, frame).width == 160);
-  CHECK(ErrorOf([&] { return CardPicture(u"<NONE>", kWallPaperList, frame); }) == 35600);
-  CHECK(ErrorOf([&] { return CardPicture(u"<NONE>", kBackdropList, frame); }) == 35600);
-  CHECK(ErrorOf([&] { return CardPicture(u"PLAID", kBackdropList, frame); }) == 35601);
 }
 
 TEST_CASE("the shapes of a deck type and a mode") {
