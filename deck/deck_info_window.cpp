@@ -2,6 +2,7 @@
 
 #include "deck/card_type.h"
 #include "deck/date_text.h"
+#include "deck/deck_information.h"
 #include "deck/file/field_widths.h"
 #include "deck/file/stored_text.h"
 #include "machine/clock.h"
@@ -69,10 +70,11 @@ void DeckInfoWindow::OnLoad() {
   if (!name.empty()) kind.SetCaption(Text(name));
   cardCount.SetCaption(u"Number of cards: " +
                        InfoValueOrDefault(DecimalText(state.deck.cardCount), u"0"));
-  fields[kTitleField].SetText(InfoValueOrDefault(state.deck.title, u"Enter Title Here"));
-  fields[kAuthorField].SetText(InfoValueOrDefault(state.deck.author, u"Your Name Here"));
+  const DeckInformation unfilled;
+  fields[kTitleField].SetText(InfoValueOrDefault(state.deck.title, unfilled.title));
+  fields[kAuthorField].SetText(InfoValueOrDefault(state.deck.author, unfilled.author));
   fields[kDescriptionField].SetText(
-      InfoValueOrDefault(state.deck.description, u"Deck Description Here"));
+      InfoValueOrDefault(state.deck.description, unfilled.description));
 }
 
 void DeckInfoWindow::StandBesideDeck() {
@@ -121,22 +123,12 @@ Text InfoValueOrDefault(const Text& value, const Text& defaultValue) {
 }
 
 void CollectDeckInfo(ProgramState& state, const DeckInfoWindow& window) {
-  const auto set = [&state](int column, const Text& text) {
-    state.deck.cardGrid.Set(kInfoRow, column, text);
-  };
-  set(kCardType, Text(LetterOf(CardType::kInformation)));
-  set(kCardText, u"");
-  set(kRowNumber, u"0");
-  set(kInfoDate, window.date.Caption());
-  set(kInfoType, window.kind.Caption());
-  set(kInfoTitle, window.fields[kTitleField].TextOf());
-  set(kInfoAuthor, window.fields[kAuthorField].TextOf());
-  set(kAnswer, u"");
-  set(kInfoDescription, window.fields[kDescriptionField].TextOf());
-  state.deck.cardPresent.Set(kInfoRow, 1);
-  state.deck.title = window.fields[kTitleField].TextOf();
-  state.deck.author = window.fields[kAuthorField].TextOf();
-  state.deck.description = window.fields[kDescriptionField].TextOf();
+  StoreDeckInformation({.title = window.fields[kTitleField].TextOf(),
+                        .author = window.fields[kAuthorField].TextOf(),
+                        .description = window.fields[kDescriptionField].TextOf(),
+                        .date = window.date.Caption(),
+                        .typeName = window.kind.Caption()},
+                       state.deck);
 }
 
 }  // namespace tessara

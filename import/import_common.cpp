@@ -1,7 +1,7 @@
 #include "import/import_common.h"
 
-#include "deck/card_type.h"
 #include "deck/date_text.h"
+#include "deck/deck_information.h"
 #include "import/import_error_boxes.h"
 
 namespace tessara {
@@ -52,23 +52,10 @@ void MarkAsImported(const Text& kind, const ImportContext& context) {
 }
 
 void SetImportedDeckInfo(const Text& kind, const Date& today, ProgramState& state) {
-  const Text title = u"Enter Title Here";
-  const Text author = u"Your Name Here";
-  const Text description = u"Deck Description Here";
-  CardTable& grid = state.deck.cardGrid;
-  grid.Set(kInfoRow, kCardType, Text(LetterOf(CardType::kInformation)));
-  grid.Set(kInfoRow, kCardText, u"");
-  grid.Set(kInfoRow, kRowNumber, u"0");
-  grid.Set(kInfoRow, kInfoDate, DateText(today));
-  grid.Set(kInfoRow, kInfoType, kind);
-  grid.Set(kInfoRow, kInfoTitle, title);
-  grid.Set(kInfoRow, kInfoAuthor, author);
-  grid.Set(kInfoRow, kAnswer, u"");
-  grid.Set(kInfoRow, kInfoDescription, description);
-  state.deck.cardPresent.Set(kInfoRow, 1);
-  state.deck.title = title;
-  state.deck.author = author;
-  state.deck.description = description;
+  DeckInformation information;
+  information.date = DateText(today);
+  information.typeName = kind;
+  StoreDeckInformation(information, state.deck);
 }
 
 void AbandonImport(ProgramState& state) {
