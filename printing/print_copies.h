@@ -15,6 +15,9 @@ PrinterChoice ChoosePrinter(Machine& machine);
 /// Runs the pass once for each copy. Before each but the first the user is asked; a No ends it.
 void PrintCopies(Machine& machine, int copies, const std::function<void()>& pass);
 
+/// The title of the box that tells that a job has come to its end.
+inline constexpr TextView kFinishedTitle = u"PRINT";
+
 /// What is told where the error itself says nothing to the user.
 inline constexpr TextView kUnspecifiedError =
     u"An unspecified printing error has occured. Ensure that the printer is ready.";

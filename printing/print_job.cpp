@@ -38,7 +38,7 @@ bool PrintWindow::RunCardJob() {
 
 void PrintWindow::AnnounceEnd() {
   app_.machine.messages.Show(DeckNameOf(app_.state.deck.filePath) + u" has finished printing.",
-                             kInformationIcon, u"PRINT");
+                             kInformationIcon, Text(kFinishedTitle));
 }
 
 void PrintWindow::ReportJobFailure(const RunTimeError& error) {

@@ -42,7 +42,7 @@ enum class Severity {
 class Findings {
  public:
   virtual ~Findings() = default;
-  virtual void Find(const Place& place, Severity severity, const std::string& what) = 0;
+  virtual void Report(const Place& place, Severity severity, const std::string& what) = 0;
 };
 
 }  // namespace tessara

@@ -16,7 +16,7 @@ namespace {
 /// A line on standard output for each finding.
 class FindingsOnOutput : public Findings {
  public:
-  void Find(const Place& place, Severity, const std::string& what) override {
+  void Report(const Place& place, Severity, const std::string& what) override {
     std::printf("%s\n", MessageAt(place, what).c_str());
     any_ = true;
   }

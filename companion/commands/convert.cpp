@@ -37,7 +37,7 @@ class Conversions {
 
   int Run() {
     const FileFormat format = FormatOf(options_.output, options_.to);
-    RequireFree(options_.output);
+    RequireFree(options_.output, options_.force);
     ReadAll();
     if (set_.cards.empty()) throw Refused({&options_.inputs.front()}, "it holds no cards");
     const std::vector<Part> parts = PartsOf(format);
@@ -54,11 +54,6 @@ class Conversions {
 
  private:
   [[nodiscard]] bool IsToStandardOutput() const { return options_.output == kStandardStream; }
-
-  void RequireFree(const std::string& path) const {
-    if (path != kStandardStream && !options_.force && IsThere(path))
-      throw Refused({&path}, "it exists; --force replaces it");
-  }
 
   void ReadAll() {
     std::size_t left = kLargestInput;
@@ -100,7 +95,7 @@ class Conversions {
       const std::string number = "-" + std::to_string(parts.size() + 1);
       fs::path part = path;
       part.replace_filename(path.stem().string() + number + path.extension().string());
-      RequireFree(part);
+      RequireFree(part, options_.force);
       parts.push_back({part, cards.subspan(at, std::min(most, cards.size() - at))});
     }
     const auto shown = [](const std::string& path) { return VisibleText(FromUtf8(path)); };

@@ -84,6 +84,11 @@ class StandardOutput : public Output {
 
 }  // namespace
 
+void RequireFree(const std::string& path, bool replaces) {
+  if (path != kStandardStream && !replaces && IsThere(path))
+    throw Refused({&path}, "it exists; --force replaces it");
+}
+
 ByteSink& Outputs::Add(const std::string& path) {
   if (path == kStandardStream) {
     outputs_.push_back(std::make_unique<StandardOutput>());

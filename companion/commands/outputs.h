@@ -16,6 +16,10 @@ class Output : public ByteSink {
   virtual void Appear() = 0;
 };
 
+/// Raises Refused where a file of the path is there, unless it is to be replaced. Standard output
+/// never is.
+void RequireFree(const std::string& path, bool replaces);
+
 /// The files of a command, or standard output: all of them are complete before the first appears.
 class Outputs {
  public:

@@ -28,7 +28,7 @@ class PrintRun {
       : options_(options), conversion_{codePage, reporter_} {}
 
   int Run() {
-    RequireFree();
+    RequireFree(options_.output, options_.force);
     const fs::path program = ExecutableFolder() / kPrintProgram;
     if (!IsThere(program)) throw Refused({}, "printing needs the package tessara");
     WriteInput();
@@ -42,12 +42,6 @@ class PrintRun {
   }
 
  private:
-  void RequireFree() const {
-    const bool taken = options_.output != kStandardStream && IsThere(options_.output);
-    if (taken && !options_.force)
-      throw Refused({&options_.output}, "it exists; --force replaces it");
-  }
-
   [[nodiscard]] std::string Deck() const { return (scratch_->Path() / "deck.tsr").string(); }
   [[nodiscard]] std::string Pdf() const { return (scratch_->Path() / "cards.pdf").string(); }
 

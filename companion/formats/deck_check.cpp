@@ -30,7 +30,8 @@ class DeckCheck {
         break;
       }
       if (cards_ == kMostCards) {
-        Find(place_, Severity::kLoss, "a deck holds 200 cards: this and what follows is not read");
+        Report(place_, Severity::kLoss,
+               "a deck holds 200 cards: this and what follows is not read");
         return;
       }
       TakeRecord(*record);
@@ -39,8 +40,8 @@ class DeckCheck {
   }
 
  private:
-  void Find(std::size_t card, Severity severity, const std::string& what) {
-    findings_.Find({&source_.name, card}, severity, what);
+  void Report(std::size_t card, Severity severity, const std::string& what) {
+    findings_.Report({&source_.name, card}, severity, what);
   }
 
   void TakeRecord(const DeckRecord& record) {
@@ -49,46 +50,46 @@ class DeckCheck {
     // A record without a row of its own is named by its place in the file.
     const auto card = static_cast<std::size_t>(record.number > 0 ? record.number : 0);
     if (record.number < 0 || record.number >= kRows) {
-      Find(place_ - 1, Severity::kError,
-           "its number " + std::to_string(record.number) + " is no row of the table");
+      Report(place_ - 1, Severity::kError,
+             "its number " + std::to_string(record.number) + " is no row of the table");
       return;
     }
     if (!rows_.insert(record.number).second)
-      Find(card, Severity::kLoss, "a record of the same number stands before it");
+      Report(card, Severity::kLoss, "a record of the same number stands before it");
     if (information) return CheckInformation(record, card);
     if (record.number == kInfoRow)
-      Find(place_ - 1, Severity::kLoss, "its number is that of the information");
+      Report(place_ - 1, Severity::kLoss, "its number is that of the information");
     CheckCard(record, card == 0 ? place_ - 1 : card);
   }
 
   void CheckInformation(const DeckRecord& record, std::size_t card) {
     hasInformation_ = hasInformation_ || card == 0;
-    if (card != 0) Find(card, Severity::kLoss, "it is information in a card's place");
+    if (card != 0) Report(card, Severity::kLoss, "it is information in a card's place");
     CheckFilled(record, card, {"date", "deck type", "title", "author"}, "text", "description");
   }
 
   void CheckCard(const DeckRecord& record, std::size_t card) {
     const auto kind = DeckKindOf(record.cardType);
     if (!kind) {
-      Find(card, Severity::kRemark, "its type is unknown");
+      Report(card, Severity::kRemark, "its type is unknown");
     } else if (!kind_) {
       kind_ = kind;
     } else if (kind != kind_) {
-      Find(card, Severity::kRemark, "it is of another kind than the first card");
+      Report(card, Severity::kRemark, "it is of another kind than the first card");
     }
     if (kind == kExtendedDeck) CheckAnswer(record, card);
     const bool question = kind == kExtendedDeck;
     CheckFilled(record, card, kChoiceNames, question ? "question" : "front",
                 question ? "long text" : "back");
-    if (card == 1 && record.text.empty()) Find(card, Severity::kError, kTakenForEmpty);
+    if (card == 1 && record.text.empty()) Report(card, Severity::kError, kTakenForEmpty);
   }
 
   void CheckAnswer(const DeckRecord& record, std::size_t card) {
     const bool trueFalse = IsType(record.cardType, CardType::kTrueFalse);
     if (record.answer.empty()) {
-      Find(card, Severity::kRemark, "it has no answer");
+      Report(card, Severity::kRemark, "it has no answer");
     } else if (!(trueFalse ? IsTrueFalseKey(record.answer) : IsAnswerOf(record))) {
-      Find(card, Severity::kRemark, "its answer is none of its choices");
+      Report(card, Severity::kRemark, "its answer is none of its choices");
     }
   }
 
@@ -108,14 +109,14 @@ class DeckCheck {
 
   void CheckWidth(const Text& text, std::size_t width, const char* name, std::size_t card) {
     if (FillsField(text, width, codePage_))
-      Find(card, Severity::kRemark,
-           std::string("its ") + name + " fills the field: perhaps it was cut");
+      Report(card, Severity::kRemark,
+             std::string("its ") + name + " fills the field: perhaps it was cut");
   }
 
   void CheckEnd() {
-    if (!ended_) Find(0, Severity::kLoss, "it ends without the record of the end");
-    if (!hasInformation_) Find(0, Severity::kRemark, "it has no information");
-    if (cards_ == 0) Find(0, Severity::kError, "it holds no cards");
+    if (!ended_) Report(0, Severity::kLoss, "it ends without the record of the end");
+    if (!hasInformation_) Report(0, Severity::kRemark, "it has no information");
+    if (cards_ == 0) Report(0, Severity::kError, "it holds no cards");
     CheckHoles();
   }
 
@@ -124,8 +125,8 @@ class DeckCheck {
     for (const int row : rows_) {
       if (row == kInfoRow) continue;
       if (row > expected)
-        Find(static_cast<std::size_t>(row), Severity::kRemark,
-             "the numbers before it have a hole: what follows is not saved again");
+        Report(static_cast<std::size_t>(row), Severity::kRemark,
+               "the numbers before it have a hole: what follows is not saved again");
       expected = row + 1;
     }
   }

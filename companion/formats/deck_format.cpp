@@ -30,7 +30,7 @@ class LossesOfLoading : public Findings {
  public:
   explicit LossesOfLoading(Losses& losses) : losses_(losses) {}
 
-  void Find(const Place& place, Severity severity, const std::string& what) override {
+  void Report(const Place& place, Severity severity, const std::string& what) override {
     if (severity == Severity::kLoss) losses_.Tell(place, what);
   }
 

@@ -23,11 +23,12 @@
 #include "adapters/qt/devices/print_module.h"
 #include "adapters/qt/devices/qt_desktop.h"
 #include "adapters/qt/devices/qt_settings_store.h"
-#include "base/skip_errors.h"
 #include "base/utf8.h"
 #include "companion/print_job/answers.h"
 #include "companion/print_job/silent_renderer.h"
 #include "machine/machine.h"
+#include "printing/print_copies.h"
+#include "printing/spreadsheet_job.h"
 #include "shell/program.h"
 
 namespace tessara {
@@ -49,10 +50,6 @@ PrintRequest RequestOf(int argc, char** argv) {
   return request;
 }
 
-bool CanPrintCards(const Machine& machine) {
-  return SkipErrors([&] { machine.spreadsheet.Probe(ProgramFile(machine, kTemplateName)); });
-}
-
 void PressPrint(PrintWindow& window, const PrintRequest& request) {
   window.flatSheet.SetTicked(request.way == "listing");
   window.flipPrint.SetTicked(request.way == "flip");
@@ -72,7 +69,7 @@ bool Print(Machine& machine, const AnsweredBoxes& boxes, const PrintRequest& req
   Program program(machine);
   SilentRenderer renderer;
   program.Windows().SetRenderer(renderer);
-  program.State().printing.canPrintCards = CanPrintCards(machine);
+  program.State().printing.canPrintCards = SpreadsheetJob(machine).TestSpreadsheetServer();
   if (request.way != "listing" && !program.State().printing.canPrintCards) {
     Tell(u"cards are printed by LibreOffice Calc, which is not there");
     return false;
@@ -82,7 +79,7 @@ bool Print(Machine& machine, const AnsweredBoxes& boxes, const PrintRequest& req
     program.DeckWindowOf().Loaded();
     PressPrint(program.PrintWindowOf().Loaded(), request);
   });
-  const bool printed = boxes.LastTitle() == u"PRINT";
+  const bool printed = boxes.LastTitle() == kFinishedTitle;
   if (!printed) Tell(boxes.LastText());
   return printed;
 }

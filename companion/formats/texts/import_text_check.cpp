@@ -1,8 +1,8 @@
 
 #include <memory>
 
-#include "companion/formats/source_file.h"
 #include "companion/formats/texts/import_text_format.h"
+#include "companion/formats/texts/opened_text.h"
 #include "import/cards_reading.h"
 
 namespace tessara {
@@ -76,7 +76,7 @@ class FindingsListener : public ImportListener {
     const EventWords words =
         IsUnfinishedBefore(finding) ? kUnfinishedBefore : WordsOf(finding.event);
     const auto card = static_cast<std::size_t>(finding.card > 0 ? finding.card : 0);
-    findings_.Find({&source_.name, finding.line, card}, words.severity, words.words);
+    findings_.Report({&source_.name, finding.line, card}, words.severity, words.words);
   }
   [[nodiscard]] bool GoesOn() const override { return true; }
   [[nodiscard]] bool HasCards() const { return cards_ > 0; }
@@ -97,19 +97,16 @@ class FindingsListener : public ImportListener {
 void CheckImportText(const Source& source, const CodePage& codePage, Findings& findings) {
   const auto reader = ReaderOf(source, codePage);
   if (reader == nullptr) {
-    findings.Find({&source.name, 1}, Severity::kError, "the first line is neither STD nor EXT");
+    findings.Report({&source.name, 1}, Severity::kError, "the first line is neither STD nor EXT");
     return;
   }
-  OneFile files(source.bytes);
-  FileNumber number(files);
-  number.OpenInput(u"text");
-  LineReader lines(number, codePage);
+  OpenedText text(source, codePage);
   const auto state = std::make_unique<ProgramState>();
   FindingsListener listener(source, findings);
-  CardsReading reading(lines, *state, listener);
+  CardsReading reading(text.Lines(), *state, listener);
   // All that it would return has been told.
   static_cast<void>(reader(reading));
-  if (!listener.HasCards()) findings.Find({&source.name}, Severity::kError, "it holds no cards");
+  if (!listener.HasCards()) findings.Report({&source.name}, Severity::kError, "it holds no cards");
 }
 
 }  // namespace tessara

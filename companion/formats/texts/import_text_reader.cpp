@@ -3,8 +3,8 @@
 #include <memory>
 
 #include "companion/cards/complaints.h"
-#include "companion/formats/source_file.h"
 #include "companion/formats/texts/import_text_format.h"
+#include "companion/formats/texts/opened_text.h"
 #include "deck/file/deck_file.h"
 #include "import/extended_import.h"
 #include "import/line_kinds.h"
@@ -19,7 +19,7 @@ class FindingsAsLosses : public Findings {
  public:
   explicit FindingsAsLosses(Losses& losses) : losses_(losses) {}
 
-  void Find(const Place& place, Severity severity, const std::string& what) override {
+  void Report(const Place& place, Severity severity, const std::string& what) override {
     if (severity == Severity::kRemark) return;
     losses_.Tell(place, what);
     refused_ = refused_ || severity == Severity::kError;
@@ -55,10 +55,8 @@ void TakeType(DeckRecord& record) {
 }  // namespace
 
 CardsReader ReaderOf(const Source& source, const CodePage& codePage) {
-  OneFile files(source.bytes);
-  FileNumber number(files);
-  number.OpenInput(u"text");
-  LineReader lines(number, codePage);
+  OpenedText text(source, codePage);
+  LineReader& lines = text.Lines();
   const Text format = lines.AtEnd() ? Text() : lines.ReadLine();
   if (IsWord(format, kExtendedWord)) return ReadExtendedCards;
   return IsWord(format, kStandardWord) ? ReadStandardCards : nullptr;
@@ -69,13 +67,10 @@ CardSet ReadImportText(const Source& source, const Conversion& conversion) {
   CheckImportText(source, conversion.codePage, findings);
   if (findings.AreRefused()) throw Refused({&source.name}, "the program does not import it");
   const CardsReader reader = ReaderOf(source, conversion.codePage);
-  OneFile files(source.bytes);
-  FileNumber number(files);
-  number.OpenInput(u"text");
-  LineReader lines(number, conversion.codePage);
+  OpenedText text(source, conversion.codePage);
   const auto state = std::make_unique<ProgramState>();
   LinesOfCards places;
-  CardsReading reading(lines, *state, places);
+  CardsReading reading(text.Lines(), *state, places);
   static_cast<void>(reader(reading));
   CardSet set;
   set.kind = reader == ReadExtendedCards ? kExtendedDeck : kStandardDeck;

@@ -8,7 +8,7 @@ namespace tessara::test {
 /// Keeps what it is told: "file:line: card N: what".
 class ToldFindings : public Findings {
  public:
-  void Find(const Place& place, Severity, const std::string& what) override {
+  void Report(const Place& place, Severity, const std::string& what) override {
     told.push_back(MessageAt(place, what));
   }
   Lines told;
