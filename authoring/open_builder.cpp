@@ -8,10 +8,9 @@ void OpenBuilder(AppContext& app, Window<DeckWindow> deck, Window<TextCardBuilde
                  Window<QuestionBuilder> questionBuilder) {
   app.state.building.fillingBoxes = true;
   if (app.state.deck.kind == kExtendedDeck) {
-    PlaceInFrame(questionBuilder.Slot(), QuestionBuilder::kHeight, QuestionBuilder::kWidth,
-                 app.frame);
+    PlaceInFrame(questionBuilder.Slot(), QuestionBuilder::kHeight, QuestionBuilder::kWidth);
   } else if (app.state.deck.kind == kStandardDeck) {
-    PlaceInFrame(textBuilder.Slot(), TextCardBuilder::kHeight, TextCardBuilder::kWidth, app.frame);
+    PlaceInFrame(textBuilder.Slot(), TextCardBuilder::kHeight, TextCardBuilder::kWidth);
   }
   deck->Hide();
 }

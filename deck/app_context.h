@@ -1,8 +1,8 @@
 #pragma once
 
+#include "deck/app_frame.h"
 #include "deck/life/unsaved_deck.h"
 #include "deck/program_state.h"
-#include "forms/app_frame.h"
 #include "forms/window_system.h"
 #include "machine/machine.h"
 

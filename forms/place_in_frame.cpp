@@ -3,6 +3,8 @@
 #include <functional>
 
 #include "base/run_time_error.h"
+#include "forms/renderer.h"
+#include "forms/window_system.h"
 
 namespace tessara {
 
@@ -21,17 +23,18 @@ void Step(Form& form, const std::function<void()>& step) {
 
 }  // namespace
 
-void PlaceInFrame(FormSlot& form, int height, int width, const AppFrame& frame) {
-  PlaceInFrame(form.Instance(), height, width, frame);
+void PlaceInFrame(FormSlot& form, int height, int width) {
+  PlaceInFrame(form.Instance(), height, width);
 }
 
-void PlaceInFrame(Form& form, int height, int width, const AppFrame& frame) {
+void PlaceInFrame(Form& form, int height, int width) {
   try {
     form.EnsureLoaded();
+    Renderer& renderer = form.System().RendererOf();
     Step(form, [&] { form.SetHeight(height); });
     Step(form, [&] { form.SetWidth(width); });
-    Step(form, [&] { form.SetTop((frame.ScaleHeight() - form.Height()) / 2); });
-    Step(form, [&] { form.SetLeft((frame.ScaleWidth() - form.Width()) / 2); });
+    Step(form, [&] { form.SetTop((renderer.FrameScaleHeight() - form.Height()) / 2); });
+    Step(form, [&] { form.SetLeft((renderer.FrameScaleWidth() - form.Width()) / 2); });
     Step(form, [&] { form.Show(); });
   } catch (const RunTimeError&) {
     // A window that can't be placed stays as it is; what it was to show it still can.

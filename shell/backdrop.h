@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/app_frame.h"
+#include "deck/app_frame.h"
 #include "forms/controls/controls.h"
 #include "forms/form.h"
 #include "forms/window.h"

@@ -162,7 +162,7 @@ void ProgramFrame::OnDropFile(const Text& path) {
 }
 
 void ProgramFrame::ShowSetUp() {
-  PlaceInFrame(windows_.setUp.Slot(), SetUpWindow::kHeight, SetUpWindow::kWidth, app_.frame);
+  PlaceInFrame(windows_.setUp.Slot(), SetUpWindow::kHeight, SetUpWindow::kWidth);
 }
 
 void ProgramFrame::ImportDeck() {

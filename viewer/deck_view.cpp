@@ -29,7 +29,7 @@ void DeckWindow::ShowNewCard(DeckKind kind) {
 
 void DeckWindow::OpenStandardView() {
   ShowNewCard(kStandardDeck);
-  PlaceInFrame(*this, kAskedHeight, kAskedWidth, App().frame);
+  PlaceInFrame(*this, kAskedHeight, kAskedWidth);
   State().deck.kind = kStandardDeck;
   OfferFlip(FlipAction::kShowBack);
   MarkModeInMenu(kStudyMode);
@@ -38,7 +38,7 @@ void DeckWindow::OpenStandardView() {
 
 void DeckWindow::OpenExtendedView() {
   ShowNewCard(kExtendedDeck);
-  PlaceInFrame(*this, kAskedHeight, kAskedWidth, App().frame);
+  PlaceInFrame(*this, kAskedHeight, kAskedWidth);
   State().deck.kind = kExtendedDeck;
   OfferFlip(FlipAction::kShowAnswer);
   MarkModeInMenu(kStudyMode);

@@ -194,7 +194,7 @@ bool DeckWindow::OnKey(WindowKey key) {
 }
 
 void DeckWindow::ShowDeckInfo() {
-  PlaceInFrame(Info().Slot(), DeckInfoWindow::kHeight, DeckInfoWindow::kWidth, App().frame);
+  PlaceInFrame(Info().Slot(), DeckInfoWindow::kHeight, DeckInfoWindow::kWidth);
   SetEnabled(false);
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "forms/app_frame.h"
+#include "deck/app_frame.h"
 
 namespace tessara::test {
 

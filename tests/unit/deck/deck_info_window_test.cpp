@@ -265,9 +265,9 @@ TEST_CASE("beside a deck that is not on show the window stands nowhere in partic
 
 TEST_CASE("the menu's command brings the window up in the middle of the frame") {
   InfoFixture fixture;
-  fixture.frame.width = 30000;
+  fixture.renderer.frameScaleWidth = 30000;
   fixture.OpenInfo();
-  CHECK(fixture.info->Left() == (fixture.frame.ScaleWidth() - 6270) / 2);
+  CHECK(fixture.info->Left() == (30000 - 6270) / 2);
 }
 
 TEST_CASE("Escape closes the window as its button does") {

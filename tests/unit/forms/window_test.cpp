@@ -196,7 +196,7 @@ TEST_CASE("a minimised or maximised child can't be moved or sized") {
 
 TEST_CASE("placing in the frame sets the size, centres and shows") {
   RulesFixture fixture;
-  PlaceInFrame(fixture.firstSlot, 4000, 6000, fixture.frame);
+  PlaceInFrame(fixture.firstSlot, 4000, 6000);
   CHECK(fixture.first->Height() == 4000);
   CHECK(fixture.first->Width() == 6000);
   CHECK(fixture.first->Top() == (9000 - 4000) / 2);
@@ -208,7 +208,7 @@ TEST_CASE("placing brings a minimised or maximised window back to normal") {
   for (const WindowState state : {WindowState::kMinimised, WindowState::kMaximised}) {
     RulesFixture fixture;
     fixture.first->SetState(state);
-    PlaceInFrame(fixture.firstSlot, 4000, 6000, fixture.frame);
+    PlaceInFrame(fixture.firstSlot, 4000, 6000);
     CHECK(fixture.first->State() == WindowState::kNormal);
     CHECK(fixture.first->Height() == 4000);
   }
