@@ -47,7 +47,7 @@ double Median(Times times) {
 }
 
 void Print(const char* name, double first, const Times& times, const Times& floor) {
-  std::printf("%s %.2f %.2f %.2f %.2f\n", name, first, Median(times),
+  std::printf("%s %.3f %.3f %.3f %.3f\n", name, first, Median(times),
               *std::max_element(times.begin(), times.end()), Median(floor));
   std::fflush(stdout);
 }
