@@ -10,7 +10,7 @@ namespace tessara::fuzz {
 namespace {
 
 class NoFindings : public Findings {
-  void Find(const Place&, Severity, const std::string&) override {}
+  void Report(const Place&, Severity, const std::string&) override {}
 };
 
 }  // namespace
