@@ -36,7 +36,8 @@ class SafetyCopies {
   virtual void KeepUnsaved(const Text& fileName, std::string_view deck) noexcept = 0;
   /// The open deck is saved or given up: what is kept of it goes.
   virtual void DropUnsaved() noexcept = 0;
-  /// The program goes on with another deck: what is kept stays until another start finds it.
+  /// The program goes on with another deck, or with this one without cards that are kept: what is
+  /// kept stays until another start finds it.
   virtual void LeaveUnsaved() noexcept = 0;
 
   /// The unsaved decks of programs that have ended. From now on they are copies like any other.

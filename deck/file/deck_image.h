@@ -13,7 +13,7 @@ namespace tessara {
 
 /// The table as the bytes of a deck file that holds all of its cards: what a save would write, but
 /// that those that it leaves out follow, numbered on, so that whoever opens the file meets each of
-/// them. Only rows that have changed are encoded anew.
+/// them, up to the 200 that a load takes. Only rows that have changed are encoded anew.
 class DeckImage {
  public:
   DeckImage(const ProgramState& state, const CodePage& codePage)

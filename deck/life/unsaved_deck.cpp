@@ -64,16 +64,21 @@ std::vector<UnsavedDeck::LooseCard> UnsavedDeck::LooseCards() const {
   const Deck& deck = state_.deck;
   std::vector<LooseCard> cards;
   for (const int row : CardRows(deck)) {
-    if (deck.cardPresent.At(row) == 0)
-      cards.push_back({row, deck.Cell(row, kCardText), deck.Cell(row, kBackText)});
+    const bool present = deck.cardPresent.At(row) != 0;
+    if (present && row <= deck.cardCount) continue;
+    cards.push_back({row, deck.Cell(row, kCardText), deck.Cell(row, kBackText), present});
   }
   return cards;
 }
 
+/// Not where the user has changed its texts, or has deleted it where it was a card of the deck.
 bool UnsavedDeck::IsWrittenOver(const LooseCard& card) const {
   const Deck& deck = state_.deck;
-  return deck.cardPresent.At(card.row) != 0 && (deck.Cell(card.row, kCardText) != card.front ||
-                                                deck.Cell(card.row, kBackText) != card.back);
+  const Text& front = deck.Cell(card.row, kCardText);
+  const Text& back = deck.Cell(card.row, kBackText);
+  if (front == card.front && back == card.back) return false;
+  if (!card.present && front.empty() && back.empty()) return true;
+  return deck.cardPresent.At(card.row) != 0 && card.row <= deck.cardCount;
 }
 
 /// What is kept is the last place that has them.

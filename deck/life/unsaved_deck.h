@@ -23,8 +23,8 @@ class UnsavedDeck {
 
   /// The deck is in its file.
   void Saved();
-  /// It may not be there as it is: a step of the save has failed, or cards stand behind a gap, at
-  /// which a save ends. Tells the user where it is kept.
+  /// It may not be there as it is: a step of the save has failed, or cards stand where a
+  /// save has ended. Tells the user where it is kept.
   void NotSaved(const Text& path);
   /// The user has answered that the changes are not to be saved.
   void GivenUp();
@@ -36,11 +36,13 @@ class UnsavedDeck {
   void Follow(Table table);
 
  private:
-  /// A card in a row that nothing has made present: the next one that is added comes there.
+  /// A card that is not among those that the deck counts, for nothing has made its row present or
+  /// the count ends before it: the next one that is added can come there.
   struct LooseCard {
     int row;
     Text front;
     Text back;
+    bool present;
   };
 
   void KeepIfChanged();

@@ -1,6 +1,7 @@
 #include "adapters/qt/text/pixel_scale.h"
 
 #include <QApplication>
+#include <QScreen>
 #include <doctest/doctest.h>
 
 using namespace tessara;
@@ -20,6 +21,17 @@ TEST_CASE("The factor is 1 up to a font of 10 points and grows with the font bey
   CHECK(ScaleFor(13).Factor() == 1);
   CHECK(ScaleFor(20).Factor() == doctest::Approx(1.5));
   CHECK(ScaleFor(40).Factor() == doctest::Approx(3));
+}
+
+TEST_CASE("A font told in points is measured in whole pixels") {
+  const double density = QApplication::primaryScreen()->logicalDotsPerInchY();
+  const auto factorAt = [density](double pixels) {
+    QFont font = QApplication::font();
+    font.setPointSizeF(pixels * 72 / density);
+    return PixelScale(font).Factor();
+  };
+  CHECK(factorAt(13.4) == 1);
+  CHECK(factorAt(14.67) == doctest::Approx(1.125));
 }
 
 TEST_CASE("Places and sizes of neighbours meet at every factor") {

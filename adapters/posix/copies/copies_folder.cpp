@@ -58,6 +58,12 @@ void MakeRoom(const std::vector<Copy>& copies, const std::string& fileName, std:
   }
 }
 
+std::uint64_t NumberBehind(const std::vector<Copy>& copies) {
+  const auto counts = [](const Copy& copy) { return copy.named.number < kHighestCopyNumber; };
+  const auto last = std::find_if(copies.rbegin(), copies.rend(), counts);
+  return last == copies.rend() ? 1 : last->named.number + 1;
+}
+
 }  // namespace
 
 void CopiesFolder::Prepare() const {
@@ -77,8 +83,7 @@ std::vector<std::string> CopiesFolder::Names() const {
 std::string CopiesFolder::NameOfNext(const std::string& fileName, std::uintmax_t size,
                                      Moment moment) const {
   const std::vector<Copy> copies = CopiesIn(*this);
-  const std::uint64_t last = copies.empty() ? 0 : copies.back().named.number;
-  const std::uint64_t number = std::min(last + 1, kHighestCopyNumber);
+  const std::uint64_t number = NumberBehind(copies);
   std::string name = CopyName(fileName, moment, number);
   // As it will be read: a long name has been shortened.
   MakeRoom(copies, ReadCopyName(name)->fileName, size);

@@ -16,7 +16,7 @@ struct NamedCopy {
   std::uint64_t number = 0;  ///< the higher, the later it was made; 0 in names without one
 };
 
-/// Nobody makes as many; but files can be given any name.
+/// Nobody makes as many; but files can be given any name. One of this number is not counted on.
 inline constexpr std::uint64_t kHighestCopyNumber = 999'999'999'999;
 
 /// Name of the copy of a file: its number behind the moment in local time at which it was made,

@@ -22,9 +22,10 @@ constexpr double kLargestUnscaledFont = 10 * kPixelsPerInch / kPointsPerInch;
 constexpr double kControlFontPixels = 12;
 
 /// As the font tells it: finding the font itself takes longer, and a start need not wait for it.
-double PixelSizeOf(const QFont& font) {
+int PixelSizeOf(const QFont& font) {
   if (font.pixelSize() > 0) return font.pixelSize();
-  return font.pointSizeF() * QApplication::primaryScreen()->logicalDotsPerInchY() / kPointsPerInch;
+  const double density = QApplication::primaryScreen()->logicalDotsPerInchY();
+  return qRound(font.pointSizeF() * density / kPointsPerInch);
 }
 
 /// The forms' sans-serif face stands for the desktop's own; another one keeps its name.

@@ -389,6 +389,34 @@ TEST_CASE(
   CHECK(fixture.Kept().find("new") != std::string::npos);
 }
 
+TEST_CASE("a text in a row without a card is left to the next start when a deletion is refused") {
+  UnsavedProgram fixture;
+  fixture.Open(kPath, 3);
+  fixture.Run([&] {
+    fixture.state.deck.cardGrid.Set(4, kCardText, u"changed in a row without a card");
+    fixture.state.deck.changed = true;
+  });
+  fixture.Answer(kNo);
+  fixture.Run([&] { fixture.deck->DeleteCard(); });
+  REQUIRE(fixture.state.deck.Cell(4, kCardText).empty());
+  REQUIRE(fixture.copies.leftUnsaved.size() == 1);
+  CHECK(fixture.copies.leftUnsaved[0].second.find("without a card") != std::string::npos);
+}
+
+TEST_CASE("a card behind the count is left to the next start when a new card takes its row") {
+  UnsavedProgram fixture;
+  fixture.Open(kPath, 3);
+  fixture.Run([&] {
+    fixture.state.deck.cardCount = 2;
+    fixture.state.deck.changed = true;
+    fixture.state.deck.cardGrid.Set(2, kBackText, u"saved as an older one");
+  });
+  CHECK(fixture.copies.leftUnsaved.empty());
+  fixture.Build(u"new");
+  REQUIRE(fixture.copies.leftUnsaved.size() == 1);
+  CHECK(fixture.copies.leftUnsaved[0].second.find("front 3") != std::string::npos);
+}
+
 TEST_CASE("in a kept deck, opened, each card is reached, also those that a save left out") {
   UnsavedProgram fixture;
   fixture.Open(kPath, 3);
