@@ -55,7 +55,7 @@ void QuestionBuilder::SyncAnswerLines() {
   }
 }
 
-void QuestionBuilder::FollowAnswerLine(int line) {
+void QuestionBuilder::OpenOrCloseNextLine(int line) {
   const bool enable = HasText(answers[line]);
   if (!enable) marks[line].SetSelected(false);
   if (line < kLastLine && HasText(answers[line + 1])) return;
@@ -101,7 +101,7 @@ bool QuestionBuilder::HasAnswer() const {
 
 void QuestionBuilder::FollowAnswer(int line) {
   if (!State().building.fillingBoxes) CardChange();
-  FollowAnswerLine(line);
+  OpenOrCloseNextLine(line);
   if (State().building.fillingBoxes) return;
   // The mark alone decides here, whatever the question holds.
   buttons[kAddButton].SetEnabled(AnySelected(marks));

@@ -40,7 +40,7 @@ class QuestionBuilder : public BuilderWindow {
   void ChoiceForm();
   void CardChange();
   /// A line with text opens the next one and its own mark; an empty one closes them.
-  void FollowAnswerLine(int line);
+  void OpenOrCloseNextLine(int line);
   /// True where an answer of the layout is marked, and a multiple choice has a text for one.
   [[nodiscard]] bool HasAnswer() const;
 

@@ -83,15 +83,15 @@ bool UnsavedDeck::IsWrittenOver(const LooseCard& card) const {
 
 /// What is kept is the last place that has them.
 void UnsavedDeck::LeaveCardsWrittenOver() {
-  const bool left = std::any_of(kept_.begin(), kept_.end(),
+  const bool left = std::any_of(looseCards_.begin(), looseCards_.end(),
                                 [this](const LooseCard& card) { return IsWrittenOver(card); });
   if (left) copies_.LeaveUnsaved();
-  kept_ = LooseCards();
+  looseCards_ = LooseCards();
 }
 
 void UnsavedDeck::Saved() {
   copies_.DropUnsaved();
-  kept_.clear();
+  looseCards_.clear();
   unsaved_ = false;
   seen_ = image_.Changes();
 }
@@ -100,7 +100,7 @@ void UnsavedDeck::NotSaved(const Text& path) {
   const Text fileName = FileNameOfDeck(path);
   const Text kept = copies_.KeepNotSaved(fileName, image_.Bytes());
   if (kept.empty()) return;
-  kept_.clear();
+  looseCards_.clear();
   unsaved_ = false;
   seen_ = image_.Changes();
   desktop_.Notify(u"A deck may not have been saved",
@@ -115,7 +115,7 @@ void UnsavedDeck::GivenUp() {
 
 void UnsavedDeck::Leave() {
   if (unsaved_) copies_.LeaveUnsaved();
-  kept_.clear();
+  looseCards_.clear();
   following_ = false;
   unsaved_ = false;
   givenUp_ = false;

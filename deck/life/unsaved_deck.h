@@ -54,8 +54,8 @@ class UnsavedDeck {
   SafetyCopies& copies_;
   Desktop& desktop_;
   DeckImage image_;
-  std::vector<LooseCard> kept_;  ///< those among what is kept
-  std::uint64_t seen_ = 0;       ///< changes of the table that have been looked at
+  std::vector<LooseCard> looseCards_;  ///< among what is kept
+  std::uint64_t seen_ = 0;             ///< changes of the table that have been looked at
   bool following_ = true;
   bool unsaved_ = false;  ///< cards have changed since the deck was loaded, saved or given up
   bool givenUp_ = false;  ///< in this event

@@ -115,8 +115,11 @@ def unused_rights(includes):
     return [f"{room}: has no use for {right}" for room, uses in MAY_INCLUDE.items() for right in sorted(uses - used[room])]
 
 
-def complaints(root):
-    governed = [i for i in includes_below(root) if not i.source.startswith(ASSEMBLERS)]
+def governed_includes(root):
+    return [i for i in includes_below(root) if not i.source.startswith(ASSEMBLERS)]
+
+
+def complaints(root, governed):
     own = [i for i in governed if not i.system]
     found = [complaint_about_library(i) for i in governed if i.system]
     found += [complaint_about_room(root, i) for i in own]
@@ -127,8 +130,8 @@ def complaints(root):
 
 def complaints_about_program(root):
     """With those that a part of a program would have too."""
-    own = [i for i in includes_below(root) if not i.system and not i.source.startswith(ASSEMBLERS)]
-    return complaints(root) + unused_rights(own)
+    governed = governed_includes(root)
+    return complaints(root, governed) + unused_rights([i for i in governed if not i.system])
 
 
 def main():

@@ -36,6 +36,14 @@ struct UnsavedProgram : LifeProgram {
     Choose(path);
     Run([this] { deck->OpenDeck(); });
   }
+  /// As a change in a builder leaves it, behind three cards.
+  void OpenWithTextInRowWithoutCard() {
+    Open(kPath, 3);
+    Run([this] {
+      state.deck.cardGrid.Set(4, kCardText, u"changed in a row without a card");
+      state.deck.changed = true;
+    });
+  }
   void Close() {
     Run([this] { deck->Unload(); });
   }
@@ -360,11 +368,7 @@ TEST_CASE("a save that ends at a gap before other cards keeps the whole deck") {
 
 TEST_CASE("a text that a save leaves out, for nothing has made its row present, is kept") {
   UnsavedProgram fixture;
-  fixture.Open(kPath, 3);
-  fixture.Run([&] {
-    fixture.state.deck.cardGrid.Set(4, kCardText, u"changed in a row without a card");
-    fixture.state.deck.changed = true;
-  });
+  fixture.OpenWithTextInRowWithoutCard();
   CHECK(fixture.Kept().find("without a card") != std::string::npos);
   fixture.Run([&] { fixture.deck->SaveDeck(); });
   CHECK(fixture.File(kPath).size() == kRecordSize * 5);
@@ -376,11 +380,7 @@ TEST_CASE("a text that a save leaves out, for nothing has made its row present, 
 TEST_CASE(
     "a text in a row without a card is left to the next start when a new card takes the row") {
   UnsavedProgram fixture;
-  fixture.Open(kPath, 3);
-  fixture.Run([&] {
-    fixture.state.deck.cardGrid.Set(4, kCardText, u"changed in a row without a card");
-    fixture.state.deck.changed = true;
-  });
+  fixture.OpenWithTextInRowWithoutCard();
   fixture.Run([&] { fixture.state.deck.cardGrid.Set(4, kBackText, u"and changed again"); });
   CHECK(fixture.copies.leftUnsaved.empty());
   fixture.Build(u"new");
@@ -391,11 +391,7 @@ TEST_CASE(
 
 TEST_CASE("a text in a row without a card is left to the next start when a deletion is refused") {
   UnsavedProgram fixture;
-  fixture.Open(kPath, 3);
-  fixture.Run([&] {
-    fixture.state.deck.cardGrid.Set(4, kCardText, u"changed in a row without a card");
-    fixture.state.deck.changed = true;
-  });
+  fixture.OpenWithTextInRowWithoutCard();
   fixture.Answer(kNo);
   fixture.Run([&] { fixture.deck->DeleteCard(); });
   REQUIRE(fixture.state.deck.Cell(4, kCardText).empty());
